@@ -1,0 +1,41 @@
+#pragma once
+
+#include "ConfigurationTreeExport.h"
+
+#include <QtCore/QString>
+
+/// The property keys and the names of the data types of configuration-tree nodes. Every getter returns the
+/// same object on each call.
+class CONFIGURATIONTREE_EXPORT ConfigurationAndProcessDataDefinitions
+{
+public:
+    ConfigurationAndProcessDataDefinitions() = delete;
+
+    /// The node's value.
+    static const QString& getKeyDataPropertyValue();
+    /// The unit type of the value.
+    static const QString& getKeyDataPropertyUnitType();
+    /// The node's data type. Where a document leaves it out, it follows from the value.
+    static const QString& getKeyDataPropertyType();
+    /// The place of a unit among the units of its type; 0 is the base unit.
+    static const QString& getKeyDataPropertyDisplayPosition();
+    /// The measurement-range attributes of a value.
+    static const QString& getKeyDataPropertyMeasurementRangeAttributes();
+    /// Whether the node refuses every write; a boolean.
+    static const QString& getKeyDataPropertyReadOnly();
+
+    /// A node without a value.
+    static const QString& getKeyDataTypeTreeNode();
+    /// A text chosen out of several.
+    static const QString& getKeyDataTypeSelection();
+    /// A number, held as `double`.
+    static const QString& getKeyDataTypeNumber();
+    /// A text.
+    static const QString& getKeyDataTypeText();
+    /// A truth value.
+    static const QString& getKeyDataTypeBoolean();
+    /// A list of values, or a list of rows of them.
+    static const QString& getKeyDataTypeArray();
+    /// A text per language, or one text for every language.
+    static const QString& getKeyDataTypeTranslateableText();
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ConfigurationAndProcessDataBase.h"
+#include "ConfigurationTreeExport.h"
+
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+
+/// Shorthands for the values of configuration-tree nodes. Nothing is logged.
+class CONFIGURATIONTREE_EXPORT ConfigurationAndProcessDataTools
+{
+public:
+    ConfigurationAndProcessDataTools() = delete;
+
+    /// @return the value of the child @p key of @p node; an invalid variant when the node is null, or has no
+    /// such child, or the child has no value.
+    static QVariant extractConfigValue(const QString& key, const BaseClassSharedPointer& node);
+
+    /// Writes the value of the child @p key of @p node.
+    ///
+    /// @return the status of the write: 0 changed, 1 equal already, 2 refused; 2 also when the node is null
+    /// or has no such child.
+    static int setConfigValueWithStatus(const QString& key, const BaseClassSharedPointer& node,
+                                        const QVariant& value);
+
+    /// @return whether @p value is of an integer or floating type. A boolean, a character of text and a
+    /// string are no numbers.
+    static bool isVariantNumber(const QVariant& value);
+
+    /// @return the no-input marker: a `double` that is a quiet NaN.
+    static QVariant getNoInputValueIndicator();
+
+    /// @return whether @p value carries the no-input marker: any NaN of a floating type.
+    static bool isNoInputValueIndicatorSet(const QVariant& value);
+};

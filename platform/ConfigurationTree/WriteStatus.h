@@ -1,0 +1,10 @@
+#pragma once
+
+/// The status of a write to a node.
+namespace WriteStatus {
+
+constexpr int changed = 0;
+constexpr int equalAlready = 1;
+constexpr int refused = 2;
+
+} // namespace WriteStatus

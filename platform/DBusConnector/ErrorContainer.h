@@ -1,0 +1,23 @@
+#pragma once
+
+#include "DBusConnectorExport.h"
+
+#include <QtCore/QString>
+
+/// The error of a call on the bus: its D-Bus name ("org.freedesktop.DBus.Error.NoReply") and a text for the
+/// log. A default one holds no error. A plain value.
+class DBUSCONNECTOR_EXPORT ErrorContainer
+{
+public:
+    ErrorContainer();
+    ErrorContainer(const QString& name, const QString& message);
+
+    /// Whether an error is held, that is: whether it has a name.
+    bool isError() const;
+    QString getName() const;
+    QString getMessage() const;
+
+private:
+    QString m_name;
+    QString m_message;
+};

@@ -1,0 +1,5 @@
+#include "UnitManipulatorBase.h"
+
+UnitManipulatorBase::UnitManipulatorBase() = default;
+
+UnitManipulatorBase::~UnitManipulatorBase() = default;

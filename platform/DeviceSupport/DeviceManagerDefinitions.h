@@ -1,0 +1,17 @@
+#pragma once
+
+#include "DeviceSupportExport.h"
+
+#include <QtCore/QString>
+
+/// Names of the device-manager module. Every getter returns the same object on each call.
+class DEVICESUPPORT_EXPORT DeviceManagerDefinitions
+{
+public:
+    DeviceManagerDefinitions() = delete;
+
+    /// The module's name; its bus name is the prefix of PropertyManagerConst, ".", and this.
+    static const QString& getModuleName();
+    /// The name of the object that serves the unit-switch document; its path is "/" and this.
+    static const QString& getObjectNameUnitManagerConfiguration();
+};

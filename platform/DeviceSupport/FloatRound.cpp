@@ -1,0 +1,26 @@
+#include "FloatRound.h"
+
+#include <array>
+#include <cmath>
+
+namespace {
+
+// Each of them is exactly representable as a double.
+constexpr std::array<double, 18> powersOfTen = {1e0, 1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,
+                                                1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17};
+
+// From here on every double is a whole number.
+constexpr double wholeNumbers = 4503599627370496.0;
+
+} // namespace
+
+double FloatRound::roundValue(double value, unsigned int decimalPlaces)
+{
+    if (decimalPlaces >= powersOfTen.size())
+        return value;
+    const double scale = powersOfTen[decimalPlaces];
+    // Written so that a NaN comes out of it as well.
+    if (!(std::abs(value) < wholeNumbers / scale))
+        return value;
+    return std::round(value * scale) / scale;
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "DeviceSupportExport.h"
+
+#include <QtCore/QVariant>
+
+/// @return the 32-bit FNV-1a hash of the UTF-8 form of @p text; the same number on every machine and in every
+/// run. A variant that does not convert to a string counts as an empty text.
+DEVICESUPPORT_EXPORT unsigned int hashFromString(const QVariant& text);

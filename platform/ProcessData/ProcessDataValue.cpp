@@ -1,0 +1,121 @@
+#include "ProcessDataValue.h"
+
+#include "ConfigurationAndProcessDataDefinitions.h"
+#include "ConfigurationAndProcessDataTools.h"
+
+#include <mutex>
+
+namespace {
+
+using Guard = std::lock_guard<const ProcessDataValue>;
+
+// What a write to a node answers.
+constexpr int statusChanged = 0;
+constexpr int statusEqualAlready = 1;
+constexpr int statusRefused = 2;
+
+bool isValueKey(const QString& propertyKey)
+{
+    return propertyKey == ConfigurationAndProcessDataDefinitions::getKeyDataPropertyValue();
+}
+
+} // namespace
+
+ProcessDataValue::ProcessDataValue(const QString& unitType)
+    : m_properties{{ConfigurationAndProcessDataDefinitions::getKeyDataPropertyType(),
+                    ConfigurationAndProcessDataDefinitions::getKeyDataTypeNumber()}}
+{
+    if (!unitType.isEmpty())
+        m_properties.insert(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyUnitType(), unitType);
+}
+
+ProcessDataValue::~ProcessDataValue() = default;
+
+void ProcessDataValue::lock() const
+{
+    m_mutex.lock();
+}
+
+void ProcessDataValue::unlock() const
+{
+    m_mutex.unlock();
+}
+
+ProcessValue ProcessDataValue::getValue(bool lastGood) const
+{
+    const Guard guard(*this);
+    ProcessValue value;
+    getValueNoLock(value, lastGood);
+    return value;
+}
+
+void ProcessDataValue::getValueNoLock(ProcessValue& value, bool lastGood) const
+{
+    value = m_value;
+    if (lastGood)
+        value.setValue(m_lastGood);
+}
+
+bool ProcessDataValue::setValue(const ProcessValue& value)
+{
+    const Guard guard(*this);
+    return setValueNoLock(value);
+}
+
+bool ProcessDataValue::setValueNoLock(const ProcessValue& value)
+{
+    const bool changed = m_value != value;
+    m_value = value;
+    if (value.getErrorType() == ProcessDataDefinitions::ErrorTypeNone)
+        m_lastGood = value.getValue();
+    return changed;
+}
+
+BaseClassSharedPointer ProcessDataValue::getChild(const QString& /*key*/) const
+{
+    return {};
+}
+
+QVariant ProcessDataValue::getProperty(const QString& propertyKey) const
+{
+    const Guard guard(*this);
+    return isValueKey(propertyKey) ? m_value.getValue() : m_properties.value(propertyKey);
+}
+
+bool ProcessDataValue::hasProperty(const QString& propertyKey) const
+{
+    const Guard guard(*this);
+    return isValueKey(propertyKey) ? m_value.getValue().isValid() : m_properties.contains(propertyKey);
+}
+
+int ProcessDataValue::changeProperty(const QString& propertyKey, const QVariant& value)
+{
+    const Guard guard(*this);
+    return hasProperty(propertyKey) ? setProperty(propertyKey, value) : statusRefused;
+}
+
+int ProcessDataValue::setProperty(const QString& propertyKey, const QVariant& value)
+{
+    const Guard guard(*this);
+    if (m_properties.value(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyReadOnly()).toBool())
+        return statusRefused;
+    if (isValueKey(propertyKey))
+        return setNumber(value);
+    if (!value.isValid())
+        return statusRefused;
+
+    const QVariant old = m_properties.value(propertyKey);
+    if (old.userType() == value.userType() && old == value)
+        return statusEqualAlready;
+
+    m_properties.insert(propertyKey, value);
+    return statusChanged;
+}
+
+int ProcessDataValue::setNumber(const QVariant& number)
+{
+    if (!ConfigurationAndProcessDataTools::isVariantNumber(number))
+        return statusRefused;
+    return setValueNoLock(ProcessValue(number, ProcessDataDefinitions::ErrorTypeNone)) ? statusChanged
+                                                                                       : statusEqualAlready;
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "StateMachineExport.h"
+
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+
+/// What a state machine delivers to its current state: a name and data of any type. A plain value.
+class STATEMACHINE_EXPORT StateMachineEvent
+{
+public:
+    /// An event without a name and without data.
+    StateMachineEvent();
+    explicit StateMachineEvent(const QString& name, const QVariant& data = QVariant());
+
+    QString getName() const;
+    void setName(const QString& name);
+
+    /// The data as it was set; invalid when there is none.
+    QVariant getData() const;
+    void setData(const QVariant& data);
+
+private:
+    QString m_name;
+    QVariant m_data;
+};

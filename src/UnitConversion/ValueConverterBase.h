@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QVariant>
+#include <QtCore/QVector>
+
+#include "UnitManagerExport.h"
+
+/// Converts a number between one unit and the base unit of its unit type.
+///
+/// Converters are made by the factory from a unit's configuration node, are not changed afterwards and may be
+/// read by several threads at a time.
+class UNITMANAGER_EXPORT ValueConverterBase
+{
+public:
+    /// One row of a conversion table.
+    struct ConversionTableEntry
+    {
+        double x = 0.0;
+        double y = 0.0;
+    };
+
+    /// Rows in input order, with the rows of the largest and the smallest x (the first such row on ties).
+    struct ConversionTable
+    {
+        QVector<ConversionTableEntry> entries;
+        ConversionTableEntry maxEntry;
+        ConversionTableEntry minEntry;
+    };
+
+    ValueConverterBase() = default;
+    virtual ~ValueConverterBase();
+
+    /// @param x value in the base unit
+    /// @return the value in the converter's unit.
+    virtual double convertValue(double x) const = 0;
+
+    /// @param x value in the converter's unit
+    /// @return the value in the base unit.
+    virtual double invertValue(double x) const = 0;
+
+    /// Number of decimal places with which values of the unit are shown; 0 unless configured.
+    unsigned int getDecimalPlaces() const
+    {
+        return decimalPlaces;
+    }
+
+    /// Appends the rows of @p data to @p table. Rows of two columns are (x, y); of any other row the first
+    /// value is y, and x is 0.
+    ///
+    /// @return false, with the table untouched, when there is no row.
+    bool loadTable(const QList<QVariant>& data, ConversionTable& table);
+
+protected:
+    unsigned int decimalPlaces = 0;
+};

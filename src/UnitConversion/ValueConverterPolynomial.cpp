@@ -1,0 +1,68 @@
+#include "UnitConversion/ValueConverterPolynomial.h"
+
+#include <cmath>
+
+#include "Array2dDataTypeWrapper.h"
+#include "ConfigurationAndProcessDataTools.h"
+#include "UnitConversion/ConverterConfiguration.h"
+
+namespace {
+
+void prependColumn(const QList<QVariant>& column, QVector<double>& coefficients, int& degree)
+{
+    for (const QVariant& value : column) {
+        ++degree;
+        coefficients.prepend(value.toDouble());
+    }
+    --degree;
+}
+
+} // namespace
+
+ValueConverterPolynomial::ValueConverterPolynomial(const BaseClassSharedPointer& node)
+{
+    const QList<QVariant> forward = ConverterConfiguration::readList(QStringLiteral("Polynomial"), node);
+    const QList<QVariant> inverse =
+        ConverterConfiguration::readList(QStringLiteral("InversePolynomial"), node);
+    const QVariant places =
+        ConfigurationAndProcessDataTools::extractConfigValue(QStringLiteral("DecimalPlaces"), node);
+    if (places.canConvert(QVariant::UInt))
+        decimalPlaces = places.toUInt();
+    resetPolynom(forward, inverse);
+}
+
+ValueConverterPolynomial::~ValueConverterPolynomial() = default;
+
+bool ValueConverterPolynomial::resetPolynom(const QList<QVariant>& coefficients,
+                                            const QList<QVariant>& inverseCoefficients)
+{
+    Array2dDataTypeWrapper array(coefficients, {});
+    prependColumn(array.getColumnValues(0), polynomial, polynomialDegree);
+
+    if (inverseCoefficients.isEmpty()) {
+        inversePolynomial.clear();
+        inversePolynomialDegree = 0;
+        return true;
+    }
+    array.reset(inverseCoefficients, {});
+    prependColumn(array.getColumnValues(0), inversePolynomial, inversePolynomialDegree);
+    return true;
+}
+
+double ValueConverterPolynomial::evaluatePolynom(double x, QVector<double> coefficients) const
+{
+    double result = 0.0;
+    for (const double coefficient : qAsConst(coefficients))
+        result = std::fma(x, result, coefficient);
+    return result;
+}
+
+double ValueConverterPolynomial::convertValue(double x) const
+{
+    return evaluatePolynom(x, polynomial);
+}
+
+double ValueConverterPolynomial::invertValue(double x) const
+{
+    return evaluatePolynom(x, inversePolynomial);
+}

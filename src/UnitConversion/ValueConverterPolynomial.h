@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QVariant>
+#include <QtCore/QVector>
+
+#include "ConfigurationAndProcessDataBase.h"
+#include "UnitConversion/ValueConverterBase.h"
+#include "UnitManagerExport.h"
+
+/// Converts by two polynomials, configured independently of each other: one from the base unit to the unit,
+/// one back.
+class UNITMANAGER_EXPORT ValueConverterPolynomial : public ValueConverterBase
+{
+public:
+    /// Reads "Polynomial", "InversePolynomial" (one-column arrays, constant term first) and "DecimalPlaces"
+    /// from a unit's node. Missing or wrongly typed values are not reported; a converter without coefficients
+    /// gives 0.0.
+    explicit ValueConverterPolynomial(const BaseClassSharedPointer& node);
+    ~ValueConverterPolynomial() override;
+
+    /// Puts the coefficients, constant term first, in front of those already held. An empty inverse list
+    /// removes the inverse coefficients.
+    ///
+    /// @return true.
+    bool resetPolynom(const QList<QVariant>& coefficients, const QList<QVariant>& inverseCoefficients);
+
+    /// @param coefficients highest power first
+    /// @return the polynomial's value at @p x by Horner's scheme with fused multiply-add; 0.0 without
+    /// coefficients.
+    double evaluatePolynom(double x, QVector<double> coefficients) const;
+
+    double convertValue(double x) const override;
+    double invertValue(double x) const override;
+
+protected:
+    QVector<double> polynomial; ///< highest power first
+    int polynomialDegree = 0;
+    QVector<double> inversePolynomial; ///< highest power first
+    int inversePolynomialDegree = 0;
+};

@@ -1,0 +1,159 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QVariant>
+
+#include "ConfigurationAndProcessDataBase.h"
+#include "UnitManagerCore.h"
+#include "UnitManagerExport.h"
+
+class Array2dDataTypeWrapper;
+
+/// The entry point: loads the unit and default-unit documents, converts values between a unit and the base
+/// unit of its unit type, and knows units, decimal places and labels.
+///
+/// Values are stored in base units and shown in the requested unit. Everywhere an empty `unit` means the unit
+/// type's default unit, and a fixed unit (unit type, "/", unit) given as unit type means that nothing is
+/// converted. The plain conversions round to the unit's decimal places; node, array and raw operations never
+/// round. A value that carries the no-input marker is never converted.
+///
+/// @code
+/// UnitManager units;
+/// if (!units.initByJsonFile("units.json", "default-units.json"))
+///     return 1;
+/// const QString& pressure = UnitManagerDefinitions::getUnitTypeUrlPressure();
+/// units.fromBaseUnit(1.01325, pressure, "HectoPascal"); // 1013.3, for one decimal place
+/// @endcode
+///
+/// Copies are cheap and share converters and labels. One thread loads and reads at a time; const operations
+/// may run concurrently with each other while nothing is loaded. Nothing throws; failures are results, and
+/// warnings say why.
+class UNITMANAGER_EXPORT UnitManager
+{
+public:
+    /// Empty and invalid.
+    UnitManager();
+    virtual ~UnitManager();
+
+    /// Loads both documents from their texts; both are loaded whatever the other's result.
+    ///
+    /// @return whether both were loaded. An empty default-unit text is allowed and means no default units.
+    bool initByJsonString(const QString& conversionJson, const QString& defaultUnitJson);
+    /// The same from files.
+    bool initByJsonFile(const QString& conversionPath, const QString& defaultUnitPath);
+    /// Loads the unit document and drops all default units.
+    bool initByJsonFile(const QString& conversionPath);
+
+    /// Replaces units and labels. They are gone also when this fails: false, with a warning for a text that
+    /// does not parse.
+    bool updateUnitConversionByJsonString(const QString& json);
+    /// The same from a file; false for an empty path.
+    bool updateUnitConversionByJsonFile(const QString& path);
+    /// Replaces the default units. They are gone also when this fails; an empty text drops them and gives
+    /// true.
+    bool updateDefaultUnitsByJsonString(const QString& json);
+    /// The same from a file; an empty path drops them and gives true.
+    bool updateDefaultUnitsByJsonFile(const QString& path);
+
+    /// The unit types with their prefix, in no particular order.
+    QStringList getListofUnitTypes() const;
+    /// The units of a type, in no particular order; empty for an unknown one. Nothing is logged.
+    QStringList getListofUnits(const QString& unitType) const;
+    /// The default unit's name; empty for an unknown type, with a warning unless it is the unit-less type.
+    QString getDefaultUnit(const QString& unitType) const;
+    /// The base unit as a fixed unit; empty, with a warning, for an unknown unit type.
+    QString getBaseUnit(const QString& unitType) const;
+    /// Whether @p unitType has exactly one "/" more than the unit-type prefix. Nothing else is looked at.
+    bool isFixedUnitType(const QString& unitType) const;
+    /// Splits a fixed unit at its last "/"; false, with both outputs untouched and a warning, when it is
+    /// none.
+    bool extractUnitTypeAndUnit(const QString& fixedUnit, QString& unitType, QString& unit) const;
+    /// The label of a unit; empty, with a warning, for an unknown unit type or unit.
+    ///
+    /// @param language language of the text; a missing one falls back to another
+    QString getUnitText(const QString& unitType, const QString& language, const QString& unit) const;
+    /// The label, in all languages, of a fixed unit or of a unit type's base unit; invalid when there is
+    /// none.
+    QVariant getUnitTextJsonMap(const QString& key) const;
+    /// Whether units and labels are loaded; default units take no part.
+    bool isValid() const;
+    operator bool() const;
+    /// Identifier of the text that labels a value without unit.
+    QString getNoUnitLabelTextId() const;
+
+    /// Rounds to a number of digits behind the decimal point.
+    ///
+    /// @return a double; 0.0, with a warning, for a value that is no number. Never invalid.
+    QVariant roundDouble(const QVariant& value, unsigned int decimalPlaces) const;
+
+    /// Converts from the base unit to @p unit and rounds to that unit's decimal places.
+    ///
+    /// @return a double; @p value as it is where unit and decimal places are not known; 0.0 for a value that
+    /// is no number
+    ///         but whose unit is known. Warnings say why.
+    QVariant fromBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const;
+    /// Converts from @p unit to the base unit and rounds the result to the decimal places of @p unit, not of
+    /// the base unit: a value entered in a coarse unit is stored coarsely. Results as for fromBaseUnit().
+    QVariant toBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const;
+    /// fromBaseUnit() without rounding; @p value as it is, with a warning, when it cannot be converted.
+    QVariant fromBaseUnitRaw(const QVariant& value, const QString& unitType, const QString& unit) const;
+    /// toBaseUnit() without rounding; @p value as it is, with a warning, when it cannot be converted.
+    QVariant toBaseUnitRaw(const QVariant& value, const QString& unitType, const QString& unit) const;
+    /// fromBaseUnitRaw(), but invalid for an invalid value.
+    QVariant getValue(const QVariant& value, const QString& unitType, const QString& unit) const;
+
+    /// Reads the value of the child @p key of @p node, converted from the base unit to @p unit when it is a
+    /// number.
+    ///
+    /// @return invalid for a null node, a missing child or a child without value. (A null literal as @p node
+    /// is
+    ///         ambiguous with the overload above: pass a BaseClassSharedPointer.)
+    QVariant getValue(const QString& key, const BaseClassSharedPointer& node, const QString& unit) const;
+    /// Writes a value to the child @p key of @p node, converted from @p unit to the base unit. The no-input
+    /// marker is written as it is.
+    ///
+    /// @return the node's status: 0 changed, 1 written without change, 2 failure. 2, with nothing written,
+    /// for a null node,
+    ///         a missing child and a value that cannot be converted.
+    int setValueStatus(const QString& key, const BaseClassSharedPointer& node, const QVariant& value,
+                       const QString& unit) const;
+    /// Whether setValueStatus() wrote the value.
+    bool setValue(const QString& key, const BaseClassSharedPointer& node, const QVariant& value,
+                  const QString& unit) const;
+    /// The label of a unit of the unit type that the child @p key of @p node names; empty for a null node or
+    /// missing child.
+    QString getUnitText(const QString& key, const BaseClassSharedPointer& node, const QString& language,
+                        const QString& unit) const;
+
+    /// The unit labels of @p columnCount columns from @p firstColumn on, empty for a column without unit
+    /// type. Empty list when the range does not lie within the array.
+    QStringList getUnitText(const Array2dDataTypeWrapper& array, const QString& language,
+                            unsigned int firstColumn, unsigned int columnCount, const QString& unit) const;
+    /// The unit label of one column; empty when there is none.
+    QString getUnitText(const Array2dDataTypeWrapper& array, const QString& language, unsigned int column,
+                        const QString& unit) const;
+    /// The cells of a range of one row, each converted from its column's base unit to @p unit. Empty list
+    /// when the range does not lie within the array.
+    QList<QVariant> getValueArray(const Array2dDataTypeWrapper& array, unsigned int row,
+                                  unsigned int firstColumn, unsigned int columnCount,
+                                  const QString& unit) const;
+    /// Writes @p values to a range of one row, each converted from @p unit to its column's base unit.
+    ///
+    /// @param values at least @p columnCount values; fewer is a programming error
+    /// @return false, with the array untouched, when the range does not lie within it or a value cannot be
+    /// converted; else
+    ///         what the array's write reports.
+    bool setValueArray(Array2dDataTypeWrapper& array, unsigned int row, unsigned int firstColumn,
+                       unsigned int columnCount, const QList<QVariant>& values, const QString& unit) const;
+
+protected:
+    /// What this manager knows, for derived managers.
+    const UnitManagerCore& unitManagerCore() const;
+
+private:
+    QVariant roundToUnit(const QVariant& value, const QString& unitType, const QString& unit) const;
+
+    UnitManagerCore core;
+};

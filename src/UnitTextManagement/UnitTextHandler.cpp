@@ -1,0 +1,198 @@
+#include "UnitTextManagement/UnitTextHandler.h"
+
+#include <QtCore/QFileInfo>
+
+#include "ConfigurationAndProcessDataDefinitions.h"
+#include "ConfigurationAndProcessDataParser.h"
+#include "ConfigurationAndProcessDataTools.h"
+#include "ConfigurationDataAndProcessDescriptionAccess.h"
+#include "Diagnostics.h"
+#include "FixedUnit.h"
+#include "PropertyManagerConst.h"
+#include "TranslateableTextHelper.h"
+#include "UnitManagerDefinitions.h"
+
+namespace {
+
+const char* const sourceName = "UnitTextManagement/UnitTextHandler";
+
+bool isNoUnitType(const QString& unitType)
+{
+    return unitType ==
+           PropertyManagerConst::getUnitTypeNamePrefix() + UnitManagerDefinitions::getUnitTypeNoUnit();
+}
+
+void warnUnknownUnitType(const LogContext& context, const QString& unitType)
+{
+    context.warning() << "Unknown unit type given" << unitType;
+}
+
+void warnUnknownUnit(const LogContext& context, const QString& unit, const QString& unitType)
+{
+    context.warning() << "Unknown unit given" << unit << "for unittype" << unitType;
+}
+
+/// Whether the unit stands at display position 0.
+bool isBaseUnit(const ConfigurationAndProcessDataBase& node, const LogContext& context)
+{
+    const QVariant position =
+        node.getProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyDisplayPosition());
+    if (position.canConvert(QVariant::Int))
+        return position.toInt() == 0;
+    context.warning() << "Cannot convert displayPosition to int:" << position << "!";
+    return false;
+}
+
+} // namespace
+
+UnitTextHandler::UnitTextHandler() = default;
+
+UnitTextHandler::UnitTextHandler(const QString& json)
+{
+    initByJsonString(json);
+}
+
+UnitTextHandler::~UnitTextHandler() = default;
+
+bool UnitTextHandler::initByJsonString(const QString& json)
+{
+    reset();
+    if (json.isEmpty())
+        return false;
+    const BaseClassSharedPointer root = ConfigurationAndProcessDataParser().parseFromJson(
+        json, PropertyManagerConst::getConfigFileExtension());
+    if (!root)
+        return false;
+
+    const LogContext context{sourceName, __LINE__, Q_FUNC_INFO};
+    const QHash<QString, BaseClassSharedPointer>& children = root->getChildMap();
+    for (auto child = children.begin(); child != children.end(); ++child)
+        addUnitType(PropertyManagerConst::getUnitTypeNamePrefix() + child.key(), child.value(), context);
+    return isValid();
+}
+
+void UnitTextHandler::addUnitType(const QString& unitType, const BaseClassSharedPointer& node,
+                                  const LogContext& context)
+{
+    if (node)
+        addUnits(unitType, node->getChildMap(), context);
+    if (!baseUnitLabels.contains(unitType))
+        context.warning() << "No Base unit label given for" << unitType;
+}
+
+void UnitTextHandler::addUnits(const QString& unitType, const QHash<QString, BaseClassSharedPointer>& units,
+                               const LogContext& context)
+{
+    const QVariant treeNodeType(ConfigurationAndProcessDataDefinitions::getKeyDataTypeTreeNode());
+    QHash<QString, QVariant> texts;
+    for (auto unit = units.begin(); unit != units.end(); ++unit) {
+        const BaseClassSharedPointer& node = unit.value();
+        if (!node || node->getProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyType()) !=
+                         treeNodeType)
+            continue;
+        const QVariant text = ConfigurationAndProcessDataTools::extractConfigValue(
+            UnitManagerDefinitions::getUnitLabelUrl(), node);
+        if (text.isValid())
+            texts.insert(unit.key(), text);
+        if (isBaseUnit(*node, context))
+            baseUnitLabels.insert(unitType, unit.key());
+    }
+    if (!texts.isEmpty())
+        unitTexts.insert(unitType, texts);
+}
+
+bool UnitTextHandler::initByJsonFile(const QString& path)
+{
+    return initByJsonString(ConfigurationDataAndProcessDescriptionAccess().getConfiguration(QFileInfo(path)));
+}
+
+QString UnitTextHandler::getUnitText(const QString& unitType, const QString& language,
+                                     const QString& unit) const
+{
+    if (isNoUnitType(unitType))
+        return {};
+    const bool isFixed = FixedUnit::isFixedUnit(unitType);
+    const QString plainType = isFixed ? FixedUnit::unitTypeOf(unitType) : unitType;
+    const QString plainUnit = isFixed ? FixedUnit::unitOf(unitType) : unit;
+
+    const auto texts = unitTexts.constFind(plainType);
+    if (texts == unitTexts.constEnd()) {
+        warnUnknownUnitType({sourceName, __LINE__, Q_FUNC_INFO}, unitType);
+        return {};
+    }
+    auto text = texts->constFind(plainUnit);
+    if (text == texts->constEnd()) {
+        if (!plainUnit.isEmpty()) {
+            warnUnknownUnit({sourceName, __LINE__, Q_FUNC_INFO}, unit, unitType);
+            return {};
+        }
+        text = texts->constFind(baseUnitLabels.value(plainType));
+    }
+    if (text == texts->constEnd() || !text->isValid())
+        return {};
+    TranslateableTextHelper helper(language);
+    helper.setTranslateableTextObject(*text);
+    return helper.getText(language);
+}
+
+QString UnitTextHandler::getUnitText(const QSharedPointer<ConfigurationAndProcessDataBase>& node,
+                                     const QString& language, const QString& unit) const
+{
+    if (!node)
+        return {};
+    const QVariant unitType =
+        node->getProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyUnitType());
+    return unitType.canConvert(QVariant::String) ? getUnitText(unitType.toString(), language, unit)
+                                                 : QString();
+}
+
+QString UnitTextHandler::getUnitText(const QString& key,
+                                     const QSharedPointer<ConfigurationAndProcessDataBase>& node,
+                                     const QString& language, const QString& unit) const
+{
+    return node ? getUnitText(node->getChild(key), language, unit) : QString();
+}
+
+QVariant UnitTextHandler::getUnitTextJsonMap(const QString& unitType) const
+{
+    if (isNoUnitType(unitType)) {
+        TranslateableTextHelper helper{QString()};
+        helper.setText(QString(), helper.getLastFallbackLanguage());
+        return helper.getTranslateableTextObject();
+    }
+    const bool isFixed = FixedUnit::isFixedUnit(unitType);
+    const QString plainType = isFixed ? FixedUnit::unitTypeOf(unitType) : unitType;
+    const QString unit = isFixed ? FixedUnit::unitOf(unitType) : QString();
+
+    const auto texts = unitTexts.constFind(plainType);
+    if (texts == unitTexts.constEnd()) {
+        warnUnknownUnitType({sourceName, __LINE__, Q_FUNC_INFO}, unitType);
+        return {};
+    }
+    if (unit.isEmpty())
+        return texts->value(baseUnitLabels.value(plainType));
+    if (!texts->contains(unit))
+        warnUnknownUnit({sourceName, __LINE__, Q_FUNC_INFO}, unit, unitType);
+    return texts->value(unit);
+}
+
+bool UnitTextHandler::isFixedUnitType(const QString& unitType) const
+{
+    return FixedUnit::isFixedUnit(unitType);
+}
+
+void UnitTextHandler::reset()
+{
+    unitTexts.clear();
+    baseUnitLabels.clear();
+}
+
+bool UnitTextHandler::isValid() const
+{
+    return !unitTexts.isEmpty();
+}
+
+UnitTextHandler::operator bool() const
+{
+    return isValid();
+}
