@@ -1,0 +1,290 @@
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <type_traits>
+
+#include "LogCapture.h"
+#include "MessageText.h"
+#include "UnitConversion/DefaultUnitHandler.h"
+#include "UnitManagerDefinitions.h"
+
+namespace {
+
+static_assert(std::has_virtual_destructor_v<DefaultUnitHandler>);
+static_assert(std::is_copy_constructible_v<DefaultUnitHandler> &&
+              std::is_copy_assignable_v<DefaultUnitHandler>);
+static_assert(std::is_convertible_v<const DefaultUnitHandler&, bool>);
+
+const QString sourceName = QStringLiteral("UnitConversion/DefaultUnitHandler");
+const QString pressure = QStringLiteral("UnitManager/UnitType/Pressure");
+const QString document = QStringLiteral(R"({"Pressure": {"@type": "Selection", "@value": "HectoPascal"}})");
+
+QString invalidDocument()
+{
+    return warningText(sourceName, anyLine, "bool DefaultUnitHandler::initByJsonString(const QString&)",
+                       "DefaultUnit file is not valid");
+}
+
+QString noDefault(const QString& unitType)
+{
+    return warningText(sourceName, anyLine,
+                       "QString DefaultUnitHandler::getDefaultUnit(const QString&) const",
+                       QStringLiteral(R"(Cannot find default unit for unitType "%1" !)").arg(unitType));
+}
+
+/// The messages of the class under test; reading a file may add the platform's own.
+QStringList takeOwnMessages(LogCapture& log)
+{
+    QList<LoggedMessage> own;
+    for (const LoggedMessage& message : log.take()) {
+        if (message.file == sourceName)
+            own.append(message);
+    }
+    return messageTexts(own, LineNumbers::Any);
+}
+
+} // namespace
+
+class DefaultUnitHandlerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void startsEmpty();
+    void documentResult_data();
+    void documentResult();
+    void everyLoadDropsTheOldTable_data();
+    void everyLoadDropsTheOldTable();
+    void readsFile_data();
+    void readsFile();
+    void answersTheLastPartOfTheValue_data();
+    void answersTheLastPartOfTheValue();
+    void unknownTypeWarns_data();
+    void unknownTypeWarns();
+    void noUnitTypeIsSilent();
+    void queriesAddNoEntry();
+    void resetEmpties();
+    void copiesAreIndependent();
+};
+
+void DefaultUnitHandlerTest::startsEmpty()
+{
+    LogCapture log;
+    const DefaultUnitHandler handler;
+    const bool usable = handler;
+    QVERIFY(!usable);
+    QVERIFY(!handler.isValid());
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void DefaultUnitHandlerTest::documentResult_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<bool>("result");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    QTest::newRow("empty text") << "" << false << none;
+    QTest::newRow("null text") << QString() << false << none;
+    QTest::newRow("text that does not parse") << "{" << false << QStringList(invalidDocument());
+    QTest::newRow("list") << "[]" << false << QStringList(invalidDocument());
+    QTest::newRow("blank") << " " << false << QStringList(invalidDocument());
+    QTest::newRow("empty object") << "{}" << false << none;
+    QTest::newRow("selection") << document << true << none;
+    QTest::newRow("null child") << R"({"A": null})" << false << none;
+    QTest::newRow("text node") << R"({"A": "Bar"})" << false << none;
+    QTest::newRow("tree node") << R"({"A": {}})" << false << none;
+    QTest::newRow("other types")
+        << R"({"A": {"@type": "Text", "@value": "Bar"}, "B": {"@type": "selection", "@value": "Bar"}})"
+        << false << none;
+    QTest::newRow("selection without value") << R"({"A": {"@type": "Selection"}})" << false << none;
+    QTest::newRow("selection of a list")
+        << R"({"A": {"@type": "Selection", "@value": ["Bar"]}})" << false << none;
+    QTest::newRow("selection of an object")
+        << R"({"A": {"@type": "Selection", "@value": {"en": "Bar"}}})" << false << none;
+    QTest::newRow("selection of an empty text")
+        << R"({"A": {"@type": "Selection", "@value": ""}})" << true << none;
+    QTest::newRow("selection of a number") << R"({"A": {"@type": "Selection", "@value": 5}})" << true << none;
+    QTest::newRow("one selection among others")
+        << R"({"A": null, "B": "Bar", "C": {"@type": "Selection"}, "D": {"@type": "Selection", "@value": "Bar"}})"
+        << true << none;
+}
+
+void DefaultUnitHandlerTest::documentResult()
+{
+    QFETCH(QString, json);
+    QFETCH(bool, result);
+    LogCapture log;
+    DefaultUnitHandler handler;
+    QCOMPARE(handler.initByJsonString(json), result);
+    const bool usable = handler;
+    QCOMPARE(usable, result);
+    QCOMPARE(handler.isValid(), result);
+    QTEST(messageTexts(log.take(), LineNumbers::Any), "messages");
+}
+
+void DefaultUnitHandlerTest::everyLoadDropsTheOldTable_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<bool>("result");
+
+    QTest::newRow("empty text") << "" << false;
+    QTest::newRow("text that does not parse") << "{" << false;
+    QTest::newRow("document without selection") << R"({"Pressure": "Bar"})" << false;
+    QTest::newRow("other document") << R"({"Time": {"@type": "Selection", "@value": "Seconds"}})" << true;
+}
+
+void DefaultUnitHandlerTest::everyLoadDropsTheOldTable()
+{
+    QFETCH(QString, json);
+    QFETCH(bool, result);
+    LogCapture log;
+    DefaultUnitHandler handler;
+    QVERIFY(handler.initByJsonString(document));
+    QCOMPARE(handler.initByJsonString(json), result);
+    QCOMPARE(handler.isValid(), result);
+    log.take();
+    QCOMPARE(handler.getDefaultUnit(pressure), QString());
+    QCOMPARE(messageTexts(log.take(), LineNumbers::Any), QStringList(noDefault(pressure)));
+}
+
+void DefaultUnitHandlerTest::readsFile_data()
+{
+    QTest::addColumn<bool>("exists");
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<QStringList>("messages");
+
+    QTest::newRow("no file") << false << "" << QStringList();
+    QTest::newRow("empty file") << true << "" << QStringList();
+    QTest::newRow("document") << true << document << QStringList();
+    QTest::newRow("file that does not parse") << true << "{" << QStringList(invalidDocument());
+}
+
+void DefaultUnitHandlerTest::readsFile()
+{
+    QFETCH(bool, exists);
+    QFETCH(QString, content);
+    const QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    QFile file(folder.filePath(QStringLiteral("default-units.json")));
+    if (exists) {
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.write(content.toUtf8()) >= 0);
+        file.close();
+    }
+    LogCapture log;
+    DefaultUnitHandler handler;
+    QVERIFY(handler.initByJsonString(R"({"Old": {"@type": "Selection", "@value": "Unit"}})"));
+    QCOMPARE(handler.initByJsonFile(file.fileName()), content == document);
+    QCOMPARE(handler.isValid(), content == document);
+    QTEST(takeOwnMessages(log), "messages");
+}
+
+void DefaultUnitHandlerTest::answersTheLastPartOfTheValue_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("unit name") << R"("Bar")"
+                               << "Bar";
+    QTest::newRow("fixed unit") << '"' + UnitManagerDefinitions::getUnitUrlPressureBar() + '"' << "Bar";
+    QTest::newRow("two parts") << R"("a/b")"
+                               << "b";
+    QTest::newRow("slash at the end") << R"("a/b/")"
+                                      << "";
+    QTest::newRow("slash in front") << R"("/b")"
+                                    << "b";
+    QTest::newRow("two slashes") << R"("a//b")"
+                                 << "b";
+    QTest::newRow("slash alone") << R"("/")"
+                                 << "";
+    QTest::newRow("empty text") << R"("")"
+                                << "";
+    QTest::newRow("backslash") << R"("a\\b")"
+                               << "a\\b";
+    QTest::newRow("number") << "5"
+                            << "5";
+    QTest::newRow("boolean") << "true"
+                             << "true";
+}
+
+void DefaultUnitHandlerTest::answersTheLastPartOfTheValue()
+{
+    QFETCH(QString, value);
+    LogCapture log;
+    DefaultUnitHandler handler;
+    QVERIFY(handler.initByJsonString(R"({"Pressure": {"@type": "Selection", "@value": )" + value + "}}"));
+    QTEST(handler.getDefaultUnit(pressure), "expected");
+    // The stored value stays whole: a second answer is the same.
+    QTEST(handler.getDefaultUnit(pressure), "expected");
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void DefaultUnitHandlerTest::unknownTypeWarns_data()
+{
+    QTest::addColumn<QString>("unitType");
+
+    QTest::newRow("unknown type") << "UnitManager/UnitType/Nope";
+    QTest::newRow("plain key") << "Pressure";
+    QTest::newRow("other spelling") << "UnitManager/UnitType/pressure";
+    QTest::newRow("fixed unit") << pressure + "/Bar";
+    QTest::newRow("no unit without prefix") << "NoUnit";
+    QTest::newRow("no unit with a slash behind") << "UnitManager/UnitType/NoUnit/";
+    QTest::newRow("empty text") << "";
+}
+
+void DefaultUnitHandlerTest::unknownTypeWarns()
+{
+    QFETCH(QString, unitType);
+    LogCapture log;
+    DefaultUnitHandler handler;
+    QVERIFY(handler.initByJsonString(document));
+    QCOMPARE(handler.getDefaultUnit(unitType), QString());
+    QCOMPARE(messageTexts(log.take(), LineNumbers::Any), QStringList(noDefault(unitType)));
+}
+
+void DefaultUnitHandlerTest::noUnitTypeIsSilent()
+{
+    LogCapture log;
+    DefaultUnitHandler handler;
+    QCOMPARE(handler.getDefaultUnit(UnitManagerDefinitions::getUnitTypeUrlNoUnit()), QString());
+    QVERIFY(handler.initByJsonString(document));
+    QCOMPARE(handler.getDefaultUnit(UnitManagerDefinitions::getUnitTypeUrlNoUnit()), QString());
+    QVERIFY(handler.initByJsonString(R"({"NoUnit": {"@type": "Selection", "@value": "a/b"}})"));
+    QCOMPARE(handler.getDefaultUnit(UnitManagerDefinitions::getUnitTypeUrlNoUnit()), QStringLiteral("b"));
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void DefaultUnitHandlerTest::queriesAddNoEntry()
+{
+    LogCapture log;
+    const DefaultUnitHandler handler;
+    QCOMPARE(handler.getDefaultUnit(pressure), QString());
+    QVERIFY(!handler.isValid());
+    QCOMPARE(handler.getDefaultUnit(pressure), QString());
+    QCOMPARE(messageTexts(log.take(), LineNumbers::Any),
+             QStringList({noDefault(pressure), noDefault(pressure)}));
+}
+
+void DefaultUnitHandlerTest::resetEmpties()
+{
+    LogCapture log;
+    DefaultUnitHandler handler;
+    QVERIFY(handler.initByJsonString(document));
+    handler.reset();
+    QVERIFY(!handler.isValid());
+    QCOMPARE(handler.getDefaultUnit(pressure), QString());
+    QCOMPARE(messageTexts(log.take(), LineNumbers::Any), QStringList(noDefault(pressure)));
+}
+
+void DefaultUnitHandlerTest::copiesAreIndependent()
+{
+    DefaultUnitHandler original;
+    QVERIFY(original.initByJsonString(document));
+    const DefaultUnitHandler copy = original;
+    original.reset();
+    QCOMPARE(copy.getDefaultUnit(pressure), QStringLiteral("HectoPascal"));
+}
+
+QTEST_GUILESS_MAIN(DefaultUnitHandlerTest)
+#include "DefaultUnitHandlerTest.moc"

@@ -1,0 +1,11 @@
+#include "FactoryProbe.h"
+
+extern "C" Q_DECL_EXPORT const void* converterFactoryOfPlugin()
+{
+    return &ValueConverterFactory::instance();
+}
+
+extern "C" Q_DECL_EXPORT const void* probeFactoryOfPlugin()
+{
+    return &ProbeFactory::instance();
+}

@@ -1,0 +1,397 @@
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <type_traits>
+
+#include "ExactText.h"
+#include "LogCapture.h"
+#include "MessageText.h"
+#include "UnitConversion/UnitConversionLookUp.h"
+
+namespace {
+
+using LookUp = UnitConversionLookUp;
+
+static_assert(std::has_virtual_destructor_v<LookUp>);
+static_assert(std::is_copy_constructible_v<LookUp> && std::is_copy_assignable_v<LookUp>);
+static_assert(std::is_convertible_v<const LookUp&, bool>);
+
+const QString sourceName = QStringLiteral("UnitConversion/UnitConversionLookUp");
+const QString pressure = QStringLiteral("UnitManager/UnitType/Pressure");
+const QString unread = QStringLiteral("UnitManager/UnitType/Unread");
+
+/// "Unread" is a unit type without node.
+const QString document = QStringLiteral(R"({
+    "Pressure": {
+        "Bar": {"@displayPosition": 0, "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]], "DecimalPlaces": 3},
+        "HectoPascal": {"@displayPosition": 1, "Polynomial": [[0], [1000]], "InversePolynomial": [[0], [0.001]],
+                        "DecimalPlaces": 1}
+    },
+    "Plain": {"Only": {"Polynomial": [[0], [1]]}},
+    "NoUnit": {"NoUnit": {}},
+    "Bare": {},
+    "Value": 5,
+    "Unread": null
+})");
+
+QStringList sorted(QStringList list)
+{
+    list.sort();
+    return list;
+}
+
+QString noConversion(int line, const QString& function, const QString& unitType)
+{
+    return warningText(sourceName, line, function,
+                       QStringLiteral(R"(No conversion function given for unitType  "%1")").arg(unitType));
+}
+
+/// The messages of the class under test; reading a file may add the platform's own.
+QStringList takeOwnMessages(LogCapture& log)
+{
+    QList<LoggedMessage> own;
+    for (const LoggedMessage& message : log.take()) {
+        if (message.file == sourceName)
+            own.append(message);
+    }
+    return messageTexts(own);
+}
+
+} // namespace
+
+class UnitConversionLookUpTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void startsEmpty();
+    void readsDocument();
+    void documentResult_data();
+    void documentResult();
+    void failedLoadLosesTheCatalogue_data();
+    void failedLoadLosesTheCatalogue();
+    void unparsableTextIsLoggedWhole_data();
+    void unparsableTextIsLoggedWhole();
+    void laterDocumentReplacesTheEarlier();
+    void readsFile_data();
+    void readsFile();
+    void listsUnits_data();
+    void listsUnits();
+    void answersForKnownTypes();
+    void baseUnits_data();
+    void baseUnits();
+    void failsForUnknownTypes_data();
+    void failsForUnknownTypes();
+    void queriesAddNoType();
+    void unknownUnitNamesThePlainKey();
+    void copiesAreIndependent();
+};
+
+void UnitConversionLookUpTest::startsEmpty()
+{
+    LogCapture log;
+    const LookUp lookUp;
+    const bool usable = lookUp;
+    QVERIFY(!usable);
+    QVERIFY(!lookUp.isValid());
+    QCOMPARE(lookUp.getListofUnitTypes(), QList<QString>());
+    QVERIFY(!LookUp(QString()).isValid());
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitConversionLookUpTest::readsDocument()
+{
+    LogCapture log;
+    LookUp lookUp(document);
+    const bool usable = lookUp;
+    QVERIFY(usable);
+    QVERIFY(lookUp.isValid());
+    QCOMPARE(sorted(lookUp.getListofUnitTypes()),
+             QStringList({"UnitManager/UnitType/Bare", "UnitManager/UnitType/NoUnit",
+                          "UnitManager/UnitType/Plain", pressure, unread, "UnitManager/UnitType/Value"}));
+    lookUp.reset();
+    QVERIFY(!lookUp.isValid());
+    QCOMPARE(lookUp.getListofUnitTypes(), QList<QString>());
+    QCOMPARE(lookUp.getListofUnits(pressure), QList<QString>());
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitConversionLookUpTest::documentResult_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<bool>("result");
+
+    QTest::newRow("empty text") << "" << false;
+    QTest::newRow("null text") << QString() << false;
+    QTest::newRow("empty object") << "{}" << false;
+    QTest::newRow("properties only") << R"({"@type": "TreeNode", "@version": 1})" << false;
+    QTest::newRow("unit type without units") << R"({"A": {}})" << true;
+    QTest::newRow("unit type without usable units")
+        << R"({"A": {"B": {"DecimalPlaces": 1}, "C": 2}})" << true;
+    QTest::newRow("unit type that is a value") << R"({"A": 1})" << true;
+    QTest::newRow("unit type without node") << R"({"A": null})" << true;
+    QTest::newRow("whole document") << document << true;
+}
+
+void UnitConversionLookUpTest::documentResult()
+{
+    QFETCH(QString, json);
+    QFETCH(bool, result);
+    LogCapture log;
+    LookUp lookUp;
+    QCOMPARE(lookUp.initByJsonString(json), result);
+    QCOMPARE(lookUp.isValid(), result);
+    QCOMPARE(LookUp(json).isValid(), result);
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitConversionLookUpTest::failedLoadLosesTheCatalogue_data()
+{
+    QTest::addColumn<QString>("json");
+
+    QTest::newRow("empty text") << "";
+    QTest::newRow("empty object") << "{}";
+    QTest::newRow("text that does not parse") << "{";
+    QTest::newRow("list") << "[]";
+}
+
+void UnitConversionLookUpTest::failedLoadLosesTheCatalogue()
+{
+    QFETCH(QString, json);
+    LogCapture log;
+    LookUp lookUp(document);
+    QVERIFY(!lookUp.initByJsonString(json));
+    QVERIFY(!lookUp.isValid());
+    QCOMPARE(lookUp.getListofUnitTypes(), QList<QString>());
+    QCOMPARE(lookUp.getListofUnits(pressure), QList<QString>());
+}
+
+void UnitConversionLookUpTest::unparsableTextIsLoggedWhole_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<QString>("logged");
+
+    QTest::newRow("one bracket") << "{"
+                                 << R"("{")";
+    QTest::newRow("blank") << " "
+                           << R"(" ")";
+    QTest::newRow("list") << "[1]"
+                          << R"("[1]")";
+    QTest::newRow("quotes, backslash, line end and tabulator") << "{\"a\": \"b\\c\"\n\t"
+                                                               << R"("{\"a\": \"b\\c\"\n\t")";
+    QTest::newRow("long text") << QString(5000, '{') << '"' + QString(5000, '{') + '"';
+}
+
+void UnitConversionLookUpTest::unparsableTextIsLoggedWhole()
+{
+    QFETCH(QString, json);
+    QFETCH(QString, logged);
+    LogCapture log;
+    QVERIFY(!LookUp().initByJsonString(json));
+    QCOMPARE(
+        messageTexts(log.take()),
+        QStringList(warningText(sourceName, 75, "bool UnitConversionLookUp::initByJsonString(const QString&)",
+                                "Conversion configuration invalid " + logged)));
+}
+
+void UnitConversionLookUpTest::laterDocumentReplacesTheEarlier()
+{
+    LookUp lookUp(document);
+    QVERIFY(lookUp.initByJsonString(R"({"Time": {"Seconds": {"Polynomial": [[0], [1]]}}})"));
+    QCOMPARE(lookUp.getListofUnitTypes(), QList<QString>{"UnitManager/UnitType/Time"});
+    QVERIFY(lookUp.initByJsonString(document));
+    QCOMPARE(lookUp.getListofUnitTypes().size(), 6);
+    QCOMPARE(sorted(lookUp.getListofUnits(pressure)), QStringList({"Bar", "HectoPascal"}));
+}
+
+void UnitConversionLookUpTest::readsFile_data()
+{
+    QTest::addColumn<bool>("exists");
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<QStringList>("messages");
+
+    QTest::newRow("no file") << false << "" << QStringList();
+    QTest::newRow("empty file") << true << "" << QStringList();
+    QTest::newRow("document") << true << document << QStringList();
+    QTest::newRow("file that does not parse")
+        << true << "{"
+        << QStringList(warningText(sourceName, 75,
+                                   "bool UnitConversionLookUp::initByJsonString(const QString&)",
+                                   "Conversion configuration invalid \"{\""));
+}
+
+void UnitConversionLookUpTest::readsFile()
+{
+    QFETCH(bool, exists);
+    QFETCH(QString, content);
+    const QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    QFile file(folder.filePath(QStringLiteral("units.json")));
+    if (exists) {
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.write(content.toUtf8()) >= 0);
+        file.close();
+    }
+    LogCapture log;
+    LookUp lookUp(R"({"Old": {}})");
+    QCOMPARE(lookUp.initByJsonFile(file.fileName()), content == document);
+    QCOMPARE(lookUp.getListofUnitTypes().size(), content == document ? 6 : 0);
+    QTEST(takeOwnMessages(log), "messages");
+}
+
+void UnitConversionLookUpTest::listsUnits_data()
+{
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QStringList>("units");
+
+    QTest::newRow("known type") << pressure << QStringList({"Bar", "HectoPascal"});
+    QTest::newRow("type without unit") << "UnitManager/UnitType/NoUnit" << QStringList();
+    QTest::newRow("type without units") << "UnitManager/UnitType/Bare" << QStringList();
+    QTest::newRow("type that is a value") << "UnitManager/UnitType/Value" << QStringList();
+    QTest::newRow("type without node") << unread << QStringList();
+    QTest::newRow("unknown type") << "UnitManager/UnitType/Nope" << QStringList();
+    QTest::newRow("plain key") << "Pressure" << QStringList();
+    QTest::newRow("fixed unit") << pressure + "/Bar" << QStringList();
+    QTest::newRow("empty text") << "" << QStringList();
+}
+
+void UnitConversionLookUpTest::listsUnits()
+{
+    QFETCH(QString, unitType);
+    LogCapture log;
+    QTEST(sorted(LookUp(document).getListofUnits(unitType)), "units");
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitConversionLookUpTest::answersForKnownTypes()
+{
+    LogCapture log;
+    const LookUp lookUp(document);
+    QVariant value(3);
+    QVERIFY(lookUp.toBaseUnit(value, pressure, QStringLiteral("HectoPascal")));
+    QCOMPARE(exactText(value), exactText(QVariant(3 * 0.001)));
+    value = 3;
+    QVERIFY(lookUp.fromBaseUnit(value, pressure, QStringLiteral("HectoPascal")));
+    QCOMPARE(exactText(value), exactText(QVariant(3000.0)));
+
+    unsigned int places = 77;
+    QVERIFY(lookUp.getDecimalPlacesForUnit(pressure, QStringLiteral("HectoPascal"), places));
+    QCOMPARE(places, 1U);
+    places = 77;
+    QVERIFY(!lookUp.getDecimalPlacesForUnit(pressure, QStringLiteral("Nope"), places));
+    QVERIFY(!lookUp.getDecimalPlacesForUnit(pressure, QStringLiteral("NoUnit"), places));
+    QCOMPARE(places, 77U);
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitConversionLookUpTest::baseUnits_data()
+{
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("known type") << pressure << pressure + "/Bar";
+    QTest::newRow("no unit at position 0") << "UnitManager/UnitType/Plain"
+                                           << "UnitManager/UnitType/Plain/";
+    QTest::newRow("type without units") << "UnitManager/UnitType/Bare"
+                                        << "UnitManager/UnitType/Bare/";
+    QTest::newRow("type without unit") << "UnitManager/UnitType/NoUnit"
+                                       << "UnitManager/UnitType/NoUnit/NoUnit";
+}
+
+void UnitConversionLookUpTest::baseUnits()
+{
+    QFETCH(QString, unitType);
+    LogCapture log;
+    QTEST(LookUp(document).getBaseUnit(unitType), "expected");
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitConversionLookUpTest::failsForUnknownTypes_data()
+{
+    QTest::addColumn<QString>("unitType");
+
+    QTest::newRow("unknown type") << "UnitManager/UnitType/Nope";
+    QTest::newRow("plain key") << "Pressure";
+    QTest::newRow("other spelling") << "UnitManager/UnitType/pressure";
+    QTest::newRow("fixed unit") << pressure + "/Bar";
+    QTest::newRow("type without node") << unread;
+    QTest::newRow("no unit without prefix") << "NoUnit";
+    QTest::newRow("prefix alone") << "UnitManager/UnitType/";
+    QTest::newRow("empty text") << "";
+}
+
+void UnitConversionLookUpTest::failsForUnknownTypes()
+{
+    QFETCH(QString, unitType);
+    const LookUp lookUp(document);
+    QVERIFY(lookUp.isValid());
+    LogCapture log;
+    // Not even a conversion that changes nothing succeeds without its unit type.
+    for (const char* unit : {"Bar", "NoUnit", ""}) {
+        QVariant value(3);
+        unsigned int places = 77;
+        QVERIFY(!lookUp.toBaseUnit(value, unitType, unit));
+        QVERIFY(!lookUp.fromBaseUnit(value, unitType, unit));
+        QVERIFY(!lookUp.getDecimalPlacesForUnit(unitType, unit, places));
+        QCOMPARE(lookUp.getBaseUnit(unitType), QString());
+        QCOMPARE(exactText(value), exactText(QVariant(3)));
+        QCOMPARE(places, 77U);
+        QCOMPARE(
+            messageTexts(log.take()),
+            QStringList(
+                {noConversion(
+                     137,
+                     "bool UnitConversionLookUp::toBaseUnit(QVariant&, const QString&, const QString&) const",
+                     unitType),
+                 noConversion(152,
+                              "bool UnitConversionLookUp::fromBaseUnit(QVariant&, const QString&, const "
+                              "QString&) const",
+                              unitType),
+                 noConversion(174,
+                              "bool UnitConversionLookUp::getDecimalPlacesForUnit(const QString&, const "
+                              "QString&, unsigned int&) const",
+                              unitType),
+                 warningText(sourceName, 122,
+                             "QString UnitConversionLookUp::getBaseUnit(const QString&) const",
+                             QStringLiteral(R"(No base unit given for unitType  "%1")").arg(unitType))}));
+    }
+}
+
+void UnitConversionLookUpTest::queriesAddNoType()
+{
+    LogCapture log;
+    const LookUp lookUp;
+    QVariant value(3);
+    unsigned int places = 77;
+    QVERIFY(!lookUp.toBaseUnit(value, pressure, QString()));
+    QVERIFY(!lookUp.fromBaseUnit(value, pressure, QString()));
+    QVERIFY(!lookUp.getDecimalPlacesForUnit(pressure, QString(), places));
+    QVERIFY(lookUp.getBaseUnit(pressure).isEmpty());
+    QVERIFY(lookUp.getListofUnits(pressure).isEmpty());
+    QVERIFY(!lookUp.isValid());
+    QCOMPARE(lookUp.getListofUnitTypes(), QList<QString>());
+}
+
+void UnitConversionLookUpTest::unknownUnitNamesThePlainKey()
+{
+    LogCapture log;
+    QVariant value(3);
+    QVERIFY(!LookUp(document).toBaseUnit(value, pressure, QStringLiteral("Nope")));
+    QCOMPARE(messageTexts(log.take()),
+             QStringList(warningText(
+                 "UnitConversion/UnitConversionUnitTypeHandler", 132,
+                 "bool UnitConversionUnitTypeHandler::toBaseUnit(QVariant&, const QString&) const",
+                 R"(Unknown unit "Nope" given for unitType "Pressure")")));
+}
+
+void UnitConversionLookUpTest::copiesAreIndependent()
+{
+    LookUp original(document);
+    const LookUp copy = original;
+    original.reset();
+    QVERIFY(copy.isValid());
+    QCOMPARE(copy.getBaseUnit(pressure), pressure + QStringLiteral("/Bar"));
+}
+
+QTEST_GUILESS_MAIN(UnitConversionLookUpTest)
+#include "UnitConversionLookUpTest.moc"

@@ -1,0 +1,165 @@
+#include <QtTest/QtTest>
+
+#include <limits>
+
+#include "LogCapture.h"
+#include "RecordingNode.h"
+#include "TableText.h"
+#include "UnitConversion/ValueConverterArbitraryTable.h"
+#include "VirtualSlot.h"
+
+namespace {
+
+using Table = ValueConverterBase::ConversionTable;
+
+static_assert(std::is_base_of_v<ValueConverterBase, ValueConverterArbitraryTable>);
+static_assert(
+    std::is_same_v<decltype(&ValueConverterArbitraryTable::resetTable),
+                   bool (ValueConverterArbitraryTable::*)(const QList<QVariant>&, const QList<QVariant>&)>);
+
+/// Shows what the converter holds.
+class Converter : public ValueConverterArbitraryTable
+{
+public:
+    explicit Converter(const QString& json) : ValueConverterArbitraryTable(nodeFromJson(json)) {}
+
+    QStringList state() const
+    {
+        return tableTexts(table) + tableTexts(inverseTable);
+    }
+};
+
+QStringList state(const Table& table, const Table& inverseTable)
+{
+    return tableTexts(table) + tableTexts(inverseTable);
+}
+
+QVariant row(double x, double y)
+{
+    return QVariantList{x, y};
+}
+
+const char* const bothTables = R"({"Table": [[0, 0], [10, 100]], "InverseTable": [[100, 10], [0, 0]]})";
+
+const Table noRows;
+const Table forward{{{0, 0}, {10, 100}}, {10, 100}, {0, 0}};
+const Table inverse{{{100, 10}, {0, 0}}, {100, 10}, {0, 0}};
+
+} // namespace
+
+class ValueConverterArbitraryTableTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsConfiguration_data();
+    void readsConfiguration();
+    void asksForItsTablesInOrderAndNothingElse();
+    void returnsTheArgument_data();
+    void returnsTheArgument();
+    void resetWithoutForwardRowsKeepsTheInverse();
+    void resetAppendsRows();
+    void resetWithoutInverseRemovesItsRowsOnly();
+    void keepsTheSlotsOfTheBase();
+};
+
+void ValueConverterArbitraryTableTest::readsConfiguration_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<QStringList>("expected");
+
+    QTest::newRow("nothing configured") << "{}" << state(noRows, noRows);
+    QTest::newRow("both tables") << bothTables << state(forward, inverse);
+    QTest::newRow("forward table only") << R"({"Table": [[0, 0], [10, 100]]})" << state(forward, noRows);
+    QTest::newRow("inverse table only")
+        << R"({"InverseTable": [[100, 10], [0, 0]]})" << state(noRows, noRows);
+    QTest::newRow("forward table is a text")
+        << R"({"Table": "x", "InverseTable": [[100, 10], [0, 0]]})" << state(noRows, noRows);
+    QTest::newRow("inverse table is a number")
+        << R"({"Table": [[0, 0], [10, 100]], "InverseTable": 3})" << state(forward, noRows);
+    QTest::newRow("one column") << R"({"Table": [[4], [5]]})"
+                                << state({{{0, 4}, {0, 5}}, {0, 4}, {0, 4}}, noRows);
+    QTest::newRow("limits and distances are not its own")
+        << R"({"Table": [[0, 0], [10, 100]], "DistanceBaseTable": 2, "OrdinateMin": -1, "OrdinateMax": 9})"
+        << state(forward, noRows);
+}
+
+void ValueConverterArbitraryTableTest::readsConfiguration()
+{
+    QFETCH(QString, json);
+    LogCapture log;
+    QTEST(Converter(json).state(), "expected");
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void ValueConverterArbitraryTableTest::asksForItsTablesInOrderAndNothingElse()
+{
+    const auto calls = RecordingNode::Calls::create();
+    const auto node = recordingNodeFromJson(R"({"Table": [[0, 0]], "DecimalPlaces": 3, "OrdinateMin": 1})",
+                                            QStringLiteral("unit"), calls);
+    const ValueConverterArbitraryTable converter(node);
+    QCOMPARE(takeCallsOf(QStringLiteral("unit"), calls),
+             QStringList({"unit.getChild(Table)", "unit.getChild(InverseTable)"}));
+}
+
+void ValueConverterArbitraryTableTest::returnsTheArgument_data()
+{
+    using Limits = std::numeric_limits<double>;
+    QTest::addColumn<double>("x");
+
+    QTest::newRow("zero") << 0.0;
+    QTest::newRow("negative zero") << -0.0;
+    QTest::newRow("between two points") << 5.0;
+    QTest::newRow("below the first point") << -100.0;
+    QTest::newRow("beyond the last point") << 1000.0;
+    QTest::newRow("largest number") << Limits::max();
+    QTest::newRow("smallest number") << -Limits::denorm_min();
+    QTest::newRow("no number") << Limits::quiet_NaN();
+    QTest::newRow("infinity") << Limits::infinity();
+    QTest::newRow("negative infinity") << -Limits::infinity();
+}
+
+void ValueConverterArbitraryTableTest::returnsTheArgument()
+{
+    QFETCH(double, x);
+    for (const char* json : {"{}", bothTables, R"({"Table": [[0, 0], [10, 100]], "DecimalPlaces": 3})"}) {
+        const Converter converter(json);
+        QCOMPARE(exactText(converter.convertValue(x)), exactText(x));
+        QCOMPARE(exactText(converter.invertValue(x)), exactText(x));
+        QCOMPARE(converter.getDecimalPlaces(), 0U);
+    }
+}
+
+void ValueConverterArbitraryTableTest::resetWithoutForwardRowsKeepsTheInverse()
+{
+    Converter converter(bothTables);
+    QVERIFY(!converter.resetTable({}, {row(7, 7)}));
+    QCOMPARE(converter.state(), state(forward, inverse));
+    QVERIFY(!converter.resetTable({}, {}));
+    QCOMPARE(converter.state(), state(forward, inverse));
+}
+
+void ValueConverterArbitraryTableTest::resetAppendsRows()
+{
+    Converter converter(bothTables);
+    QVERIFY(converter.resetTable({row(1, 2)}, {row(3, 4)}));
+    QCOMPARE(converter.state(), state({{{0, 0}, {10, 100}, {1, 2}}, {1, 2}, {1, 2}},
+                                      {{{100, 10}, {0, 0}, {3, 4}}, {3, 4}, {3, 4}}));
+}
+
+void ValueConverterArbitraryTableTest::resetWithoutInverseRemovesItsRowsOnly()
+{
+    Converter converter(bothTables);
+    QVERIFY(converter.resetTable({row(1, 2)}, {}));
+    QCOMPARE(converter.state(),
+             state({{{0, 0}, {10, 100}, {1, 2}}, {1, 2}, {1, 2}}, {{}, {100, 10}, {0, 0}}));
+}
+
+void ValueConverterArbitraryTableTest::keepsTheSlotsOfTheBase()
+{
+    QCOMPARE(virtualSlot(&ValueConverterArbitraryTable::convertValue), std::size_t(2));
+    QCOMPARE(virtualSlot(&ValueConverterArbitraryTable::invertValue), std::size_t(3));
+}
+
+QTEST_GUILESS_MAIN(ValueConverterArbitraryTableTest)
+#include "ValueConverterArbitraryTableTest.moc"

@@ -1,0 +1,152 @@
+#include <QtTest/QtTest>
+
+#include <limits>
+#include <type_traits>
+
+#include "LogCapture.h"
+#include "TableText.h"
+#include "UnitConversion/ValueConverterBase.h"
+#include "VirtualSlot.h"
+
+namespace {
+
+using Table = ValueConverterBase::ConversionTable;
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+static_assert(std::is_abstract_v<ValueConverterBase> && std::has_virtual_destructor_v<ValueConverterBase>);
+static_assert(std::is_copy_constructible_v<Table> && !std::is_polymorphic_v<Table>);
+static_assert(std::is_same_v<decltype(&ValueConverterBase::loadTable),
+                             bool (ValueConverterBase::*)(const QList<QVariant>&, Table&)>);
+
+class Converter : public ValueConverterBase
+{
+public:
+    double convertValue(double x) const override
+    {
+        return x;
+    }
+    double invertValue(double x) const override
+    {
+        return x;
+    }
+    /// Would be called through the base if the base's function were virtual.
+    unsigned int getDecimalPlaces() const
+    {
+        return 99;
+    }
+};
+
+QVariant row(const QVariantList& values)
+{
+    return values;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(ValueConverterBase::ConversionTable)
+
+class ValueConverterBaseTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void virtualFunctionsStandBehindTheDestructor();
+    void decimalPlacesStartAtZeroAndAreNotVirtual();
+    void loadsTable_data();
+    void loadsTable();
+    void appendsAndStartsTheLimitsAnew();
+    void leavesTheTableAloneWithoutRows();
+};
+
+void ValueConverterBaseTest::virtualFunctionsStandBehindTheDestructor()
+{
+    QCOMPARE(virtualSlot(&ValueConverterBase::convertValue), std::size_t(2));
+    QCOMPARE(virtualSlot(&ValueConverterBase::invertValue), std::size_t(3));
+}
+
+void ValueConverterBaseTest::decimalPlacesStartAtZeroAndAreNotVirtual()
+{
+    const Converter converter;
+    const ValueConverterBase& base = converter;
+    QCOMPARE(base.getDecimalPlaces(), 0U);
+    QCOMPARE(converter.getDecimalPlaces(), 99U);
+}
+
+void ValueConverterBaseTest::loadsTable_data()
+{
+    QTest::addColumn<QVariantList>("data");
+    QTest::addColumn<Table>("expected");
+
+    QTest::newRow("one point") << QVariantList{row({7, 8})} << Table{{{7, 8}}, {7, 8}, {7, 8}};
+    QTest::newRow("the first of equal largest x stays")
+        << QVariantList{row({1, 10}), row({3, 30}), row({3, 31}), row({0, 0})}
+        << Table{{{1, 10}, {3, 30}, {3, 31}, {0, 0}}, {3, 30}, {0, 0}};
+    QTest::newRow("the first of equal smallest x stays")
+        << QVariantList{row({2, 5}), row({0, 1}), row({0, 2})}
+        << Table{{{2, 5}, {0, 1}, {0, 2}}, {2, 5}, {0, 1}};
+    QTest::newRow("a zero does not replace a zero of the other sign")
+        << QVariantList{row({-0.0, 1}), row({0.0, 2})} << Table{{{-0.0, 1}, {0.0, 2}}, {-0.0, 1}, {-0.0, 1}};
+    QTest::newRow("negative x") << QVariantList{row({-1, 1}), row({-5, 2}), row({-3, 3})}
+                                << Table{{{-1, 1}, {-5, 2}, {-3, 3}}, {-1, 1}, {-5, 2}};
+    QTest::newRow("infinite x") << QVariantList{row({0, 3}), row({infinity, 1}), row({-infinity, 2})}
+                                << Table{{{0, 3}, {infinity, 1}, {-infinity, 2}},
+                                         {infinity, 1},
+                                         {-infinity, 2}};
+    QTest::newRow("x that is no number, first, is never replaced")
+        << QVariantList{row({notANumber, 1}), row({4, 2})}
+        << Table{{{notANumber, 1}, {4, 2}}, {notANumber, 1}, {notANumber, 1}};
+    QTest::newRow("x that is no number, later, never replaces")
+        << QVariantList{row({4, 2}), row({notANumber, 1})}
+        << Table{{{4, 2}, {notANumber, 1}}, {4, 2}, {4, 2}};
+    QTest::newRow("one column") << QVariantList{row({4}), row({5})}
+                                << Table{{{0, 4}, {0, 5}}, {0, 4}, {0, 4}};
+    QTest::newRow("bare numbers are one column")
+        << QVariantList{4, 5} << Table{{{0, 4}, {0, 5}}, {0, 4}, {0, 4}};
+    QTest::newRow("three columns") << QVariantList{row({1, 2, 3}), row({4, 5, 6})}
+                                   << Table{{{0, 1}, {0, 4}}, {0, 1}, {0, 1}};
+    QTest::newRow("rows without columns")
+        << QVariantList{row({}), row({})} << Table{{{0, 0}, {0, 0}}, {0, 0}, {0, 0}};
+    QTest::newRow("the second value of a short row is missing")
+        << QVariantList{row({1, 2}), row({3})} << Table{{{1, 2}, {3, 0}}, {3, 0}, {1, 2}};
+    QTest::newRow("a longer row behind makes two columns")
+        << QVariantList{row({1}), row({2, 3})} << Table{{{1, 0}, {2, 3}}, {2, 3}, {1, 0}};
+    QTest::newRow("a longer row behind makes three columns")
+        << QVariantList{row({1, 2}), row({3, 4, 5})} << Table{{{0, 1}, {0, 3}}, {0, 1}, {0, 1}};
+    QTest::newRow("texts") << QVariantList{row({"1", "2.5"}), row({"x", true})}
+                           << Table{{{1, 2.5}, {0, 1}}, {1, 2.5}, {0, 1}};
+}
+
+void ValueConverterBaseTest::loadsTable()
+{
+    QFETCH(QVariantList, data);
+    QFETCH(Table, expected);
+    LogCapture log;
+    Table table;
+    QVERIFY(Converter().loadTable(data, table));
+    QCOMPARE(tableTexts(table), tableTexts(expected));
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void ValueConverterBaseTest::appendsAndStartsTheLimitsAnew()
+{
+    Table table;
+    Converter converter;
+    QVERIFY(converter.loadTable({row({-100, 1}), row({100, 2})}, table));
+    QVERIFY(converter.loadTable({row({5, 3}), row({6, 4})}, table));
+    QCOMPARE(tableTexts(table), tableTexts({{{-100, 1}, {100, 2}, {5, 3}, {6, 4}}, {6, 4}, {5, 3}}));
+}
+
+void ValueConverterBaseTest::leavesTheTableAloneWithoutRows()
+{
+    LogCapture log;
+    const Table before{{{1, 2}}, {3, 4}, {5, 6}};
+    Table table = before;
+    QVERIFY(!Converter().loadTable({}, table));
+    QCOMPARE(tableTexts(table), tableTexts(before));
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(ValueConverterBaseTest)
+#include "ValueConverterBaseTest.moc"

@@ -1,0 +1,242 @@
+#include <QtTest/QtTest>
+
+#include <limits>
+
+#include "LogCapture.h"
+#include "RecordingNode.h"
+#include "TableText.h"
+#include "UnitConversion/ValueConverterEquidistantTable.h"
+#include "VirtualSlot.h"
+
+namespace {
+
+using List = QList<QVariant>;
+using Base = ValueConverterEquidistantTable;
+
+// The largest ordinate alone comes by value.
+constexpr bool (Base::*resetWithLimits)(const List&, const double&, const double&, double, const List&,
+                                        const double&, const double&, const double&) = &Base::resetTable;
+constexpr bool (Base::*resetWithoutLimits)(const List&, const double&, const List&,
+                                           const double&) = &Base::resetTable;
+static_assert(std::is_base_of_v<ValueConverterBase, Base>);
+
+/// Shows what the converter holds.
+class Converter : public ValueConverterEquidistantTable
+{
+public:
+    explicit Converter(const QString& json) : ValueConverterEquidistantTable(nodeFromJson(json)) {}
+
+    QStringList state() const
+    {
+        return QStringList(tableTexts(table))
+               << exactText(distance) << tableTexts(inverseTable) << exactText(inverseDistance);
+    }
+};
+
+using Table = ValueConverterBase::ConversionTable;
+
+QStringList state(const Table& table, double distance, const Table& inverseTable, double inverseDistance)
+{
+    return QStringList(tableTexts(table))
+           << exactText(distance) << tableTexts(inverseTable) << exactText(inverseDistance);
+}
+
+const char* const withoutLimits = R"({"Table": [[4], [5]], "DistanceBaseTable": 0.5,
+    "InverseTable": [[6], [7]], "DistanceBaseInverseTable": 0.25})";
+const char* const withLimits = R"({"Table": [[4], [5]], "DistanceBaseTable": 0.5,
+    "InverseTable": [[6], [7]], "DistanceBaseInverseTable": 0.25, "OrdinateMin": -1, "OrdinateMax": 9,
+    "OrdinateMinInversion": -2, "OrdinateMaxInversion": 8})";
+
+const Table noRows;
+const Table forward{{{0, 4}, {0, 5}}, {0, 4}, {0, 4}};
+const Table inverse{{{0, 6}, {0, 7}}, {0, 6}, {0, 6}};
+const Table limitedForward{{{0, 4}, {0, 5}}, {-1, 4}, {9, 4}};
+const Table limitedInverse{{{0, 6}, {0, 7}}, {-2, 6}, {8, 6}};
+
+} // namespace
+
+class ValueConverterEquidistantTableTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsConfiguration_data();
+    void readsConfiguration();
+    void asksForLimitsBehindTheMinimumOnly_data();
+    void asksForLimitsBehindTheMinimumOnly();
+    void returnsTheArgument_data();
+    void returnsTheArgument();
+    void resetWithoutForwardRowsKeepsTheInverse();
+    void resetWithLimitsButWithoutForwardRowsCrossesNothing();
+    void resetAppendsForwardRows();
+    void resetWithoutInverseRemovesItsRowsOnly();
+    void resetWithLimitsCrossesBothTables();
+    void keepsTheSlotsOfTheBase();
+};
+
+void ValueConverterEquidistantTableTest::readsConfiguration_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<QStringList>("expected");
+
+    QTest::newRow("nothing configured") << "{}" << state(noRows, 0, noRows, 0);
+    QTest::newRow("both tables") << withoutLimits << state(forward, 0.5, inverse, 0.25);
+    QTest::newRow("limits are stored crossed")
+        << withLimits << state(limitedForward, 0.5, limitedInverse, 0.25);
+    QTest::newRow("forward table only")
+        << R"({"Table": [4, 5], "DistanceBaseTable": 0.5})" << state(forward, 0.5, noRows, 0);
+    QTest::newRow("the inverse distance goes with the inverse table")
+        << R"({"Table": [4, 5], "DistanceBaseTable": 0.5, "DistanceBaseInverseTable": 3})"
+        << state(forward, 0.5, noRows, 0);
+    QTest::newRow("inverse table only")
+        << R"({"InverseTable": [6, 7], "DistanceBaseTable": 0.5, "DistanceBaseInverseTable": 0.25})"
+        << state(noRows, 0, noRows, 0);
+    QTest::newRow("limits without forward table")
+        << R"({"InverseTable": [6, 7], "DistanceBaseTable": 0.5, "OrdinateMin": -1, "OrdinateMax": 9,
+               "OrdinateMinInversion": -2, "OrdinateMaxInversion": 8})"
+        << state(noRows, 0, noRows, 0);
+    QTest::newRow("largest ordinate without smallest")
+        << R"({"Table": [4, 5], "OrdinateMax": 9, "OrdinateMinInversion": -2, "OrdinateMaxInversion": 8})"
+        << state(forward, 0, noRows, 0);
+    QTest::newRow("limits of an inverse table that is not there")
+        << R"({"Table": [4, 5], "OrdinateMin": -1, "OrdinateMax": 9, "OrdinateMinInversion": -2,
+               "OrdinateMaxInversion": 8})"
+        << state(limitedForward, 0, {{}, {-2, 0}, {8, 0}}, 0);
+    QTest::newRow("smallest ordinate alone") << R"({"Table": [4, 5], "OrdinateMin": -1})"
+                                             << state({{{0, 4}, {0, 5}}, {-1, 4}, {0, 4}}, 0, noRows, 0);
+    QTest::newRow("any text counts as smallest ordinate")
+        << R"({"Table": [4, 5], "OrdinateMin": "abc", "OrdinateMax": "9"})"
+        << state({{{0, 4}, {0, 5}}, {0, 4}, {9, 4}}, 0, noRows, 0);
+    QTest::newRow("a list is no smallest ordinate")
+        << R"({"Table": [4, 5], "OrdinateMin": [-1], "OrdinateMax": 9})" << state(forward, 0, noRows, 0);
+    QTest::newRow("a null node is no smallest ordinate")
+        << R"({"Table": [4, 5], "OrdinateMin": null, "OrdinateMax": 9})" << state(forward, 0, noRows, 0);
+    QTest::newRow("numbers in texts")
+        << R"({"Table": ["4", "5"], "DistanceBaseTable": "0.5", "InverseTable": ["6", "7"],
+               "DistanceBaseInverseTable": "0.25"})"
+        << state(forward, 0.5, inverse, 0.25);
+    QTest::newRow("values of other types")
+        << R"({"Table": "x", "DistanceBaseTable": [1], "InverseTable": 3, "DistanceBaseInverseTable": [1]})"
+        << state(noRows, 0, noRows, 0);
+    QTest::newRow("a distance that is a list")
+        << R"({"Table": [4, 5], "DistanceBaseTable": [0.5]})" << state(forward, 0, noRows, 0);
+    QTest::newRow("two columns") << R"({"Table": [[1, 4], [2, 5]], "InverseTable": [[3, 6], [1, 7]]})"
+                                 << state({{{1, 4}, {2, 5}}, {2, 5}, {1, 4}}, 0,
+                                          {{{3, 6}, {1, 7}}, {3, 6}, {1, 7}}, 0);
+}
+
+void ValueConverterEquidistantTableTest::readsConfiguration()
+{
+    QFETCH(QString, json);
+    LogCapture log;
+    QTEST(Converter(json).state(), "expected");
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void ValueConverterEquidistantTableTest::asksForLimitsBehindTheMinimumOnly_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<bool>("limitsRead");
+
+    QTest::newRow("nothing configured") << "{}" << false;
+    QTest::newRow("no smallest ordinate")
+        << R"({"Table": [4], "OrdinateMax": 9, "DecimalPlaces": 3})" << false;
+    QTest::newRow("smallest ordinate is a list") << R"({"OrdinateMin": [1], "OrdinateMax": 9})" << false;
+    QTest::newRow("smallest ordinate") << R"({"OrdinateMin": 1, "DecimalPlaces": 3})" << true;
+    QTest::newRow("smallest ordinate is a text") << R"({"OrdinateMin": "abc"})" << true;
+}
+
+void ValueConverterEquidistantTableTest::asksForLimitsBehindTheMinimumOnly()
+{
+    QFETCH(QString, json);
+    QFETCH(bool, limitsRead);
+    QStringList expected{"unit.getChild(Table)", "unit.getChild(InverseTable)",
+                         "unit.getChild(DistanceBaseTable)", "unit.getChild(DistanceBaseInverseTable)",
+                         "unit.getChild(OrdinateMin)"};
+    if (limitsRead)
+        expected << "unit.getChild(OrdinateMax)"
+                 << "unit.getChild(OrdinateMinInversion)"
+                 << "unit.getChild(OrdinateMaxInversion)";
+
+    const auto calls = RecordingNode::Calls::create();
+    const auto node = recordingNodeFromJson(json, QStringLiteral("unit"), calls);
+    const ValueConverterEquidistantTable converter(node);
+    QCOMPARE(takeCallsOf(QStringLiteral("unit"), calls), expected);
+}
+
+void ValueConverterEquidistantTableTest::returnsTheArgument_data()
+{
+    using Limits = std::numeric_limits<double>;
+    QTest::addColumn<double>("x");
+
+    QTest::newRow("zero") << 0.0;
+    QTest::newRow("negative zero") << -0.0;
+    QTest::newRow("between two rows") << 4.5;
+    QTest::newRow("below the smallest ordinate") << -100.0;
+    QTest::newRow("above the largest ordinate") << 100.0;
+    QTest::newRow("largest number") << Limits::max();
+    QTest::newRow("smallest number") << -Limits::denorm_min();
+    QTest::newRow("no number") << Limits::quiet_NaN();
+    QTest::newRow("infinity") << Limits::infinity();
+    QTest::newRow("negative infinity") << -Limits::infinity();
+}
+
+void ValueConverterEquidistantTableTest::returnsTheArgument()
+{
+    QFETCH(double, x);
+    for (const char* json : {"{}", withoutLimits, withLimits, R"({"Table": [4], "DecimalPlaces": 3})"}) {
+        const Converter converter(json);
+        QCOMPARE(exactText(converter.convertValue(x)), exactText(x));
+        QCOMPARE(exactText(converter.invertValue(x)), exactText(x));
+        QCOMPARE(converter.getDecimalPlaces(), 0U);
+    }
+}
+
+void ValueConverterEquidistantTableTest::resetWithoutForwardRowsKeepsTheInverse()
+{
+    Converter converter(withoutLimits);
+    QVERIFY(!(converter.*resetWithoutLimits)({}, 2, {100}, 3));
+    QCOMPARE(converter.state(), state(forward, 0, inverse, 0));
+    QVERIFY(!converter.resetTable({}, 2, {}, 3));
+    QCOMPARE(converter.state(), state(forward, 0, inverse, 0));
+}
+
+void ValueConverterEquidistantTableTest::resetWithLimitsButWithoutForwardRowsCrossesNothing()
+{
+    Converter converter(withoutLimits);
+    QVERIFY(!(converter.*resetWithLimits)({}, 2, -10, 10, {100}, 3, -20, 20));
+    QCOMPARE(converter.state(), state(forward, 0, inverse, 0));
+}
+
+void ValueConverterEquidistantTableTest::resetAppendsForwardRows()
+{
+    Converter converter(withoutLimits);
+    QVERIFY(converter.resetTable({14, 15}, 2, {16}, 3));
+    QCOMPARE(converter.state(), state({{{0, 4}, {0, 5}, {0, 14}, {0, 15}}, {0, 14}, {0, 14}}, 2,
+                                      {{{0, 6}, {0, 7}, {0, 16}}, {0, 16}, {0, 16}}, 3));
+}
+
+void ValueConverterEquidistantTableTest::resetWithoutInverseRemovesItsRowsOnly()
+{
+    Converter converter(withLimits);
+    QVERIFY(converter.resetTable({14}, 2, {}, 3));
+    QCOMPARE(converter.state(),
+             state({{{0, 4}, {0, 5}, {0, 14}}, {0, 14}, {0, 14}}, 2, {{}, {-2, 6}, {8, 6}}, 0));
+}
+
+void ValueConverterEquidistantTableTest::resetWithLimitsCrossesBothTables()
+{
+    Converter converter(withoutLimits);
+    QVERIFY(converter.resetTable({14}, 2, -10, 10, {}, 3, -20, 20));
+    QCOMPARE(converter.state(),
+             state({{{0, 4}, {0, 5}, {0, 14}}, {-10, 14}, {10, 14}}, 2, {{}, {-20, 6}, {20, 6}}, 0));
+}
+
+void ValueConverterEquidistantTableTest::keepsTheSlotsOfTheBase()
+{
+    QCOMPARE(virtualSlot(&ValueConverterEquidistantTable::convertValue), std::size_t(2));
+    QCOMPARE(virtualSlot(&ValueConverterEquidistantTable::invertValue), std::size_t(3));
+}
+
+QTEST_GUILESS_MAIN(ValueConverterEquidistantTableTest)
+#include "ValueConverterEquidistantTableTest.moc"

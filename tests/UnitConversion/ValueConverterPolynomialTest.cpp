@@ -1,0 +1,288 @@
+#include <QtTest/QtTest>
+
+#include <limits>
+#include <type_traits>
+
+#include "ExactText.h"
+#include "LogCapture.h"
+#include "RecordingNode.h"
+#include "UnitConversion/ValueConverterPolynomial.h"
+#include "VirtualSlot.h"
+
+namespace {
+
+using Coefficients = QVector<double>;
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+static_assert(std::is_base_of_v<ValueConverterBase, ValueConverterPolynomial>);
+static_assert(std::is_same_v<decltype(&ValueConverterPolynomial::evaluatePolynom),
+                             double (ValueConverterPolynomial::*)(double, QVector<double>) const>);
+static_assert(
+    std::is_same_v<decltype(&ValueConverterPolynomial::resetPolynom),
+                   bool (ValueConverterPolynomial::*)(const QList<QVariant>&, const QList<QVariant>&)>);
+
+/// Shows what the converter holds.
+class Converter : public ValueConverterPolynomial
+{
+public:
+    using ValueConverterPolynomial::inversePolynomial;
+    using ValueConverterPolynomial::inversePolynomialDegree;
+    using ValueConverterPolynomial::polynomial;
+    using ValueConverterPolynomial::polynomialDegree;
+
+    explicit Converter(const QString& json) : ValueConverterPolynomial(nodeFromJson(json)) {}
+
+    QStringList state() const
+    {
+        return QStringList(exactTexts(polynomial))
+               << QStringLiteral("degree %1").arg(polynomialDegree) << exactTexts(inversePolynomial)
+               << QStringLiteral("inverse degree %1").arg(inversePolynomialDegree);
+    }
+};
+
+QStringList state(const Coefficients& polynomial, int degree, const Coefficients& inverse, int inverseDegree)
+{
+    return QStringList(exactTexts(polynomial))
+           << QStringLiteral("degree %1").arg(degree) << exactTexts(inverse)
+           << QStringLiteral("inverse degree %1").arg(inverseDegree);
+}
+
+QVariantList column(const Coefficients& coefficients)
+{
+    QVariantList rows;
+    for (const double coefficient : coefficients)
+        rows.append(QVariant(QVariantList{coefficient}));
+    return rows;
+}
+
+} // namespace
+
+class ValueConverterPolynomialTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsCoefficients_data();
+    void readsCoefficients();
+    void readsDecimalPlaces_data();
+    void readsDecimalPlaces();
+    void asksForItsKeysInOrderAndNothingElse();
+    void doesNotKeepItsNode();
+    void converts_data();
+    void converts();
+    void evaluatesHighestPowerFirst_data();
+    void evaluatesHighestPowerFirst();
+    void secondResetAppendsAndClearsTheInverse();
+    void secondResetAppendsTheInverse();
+    void inverseIsClearedForAnEmptyListOnly();
+    void keepsTheSlotsOfTheBase();
+};
+
+void ValueConverterPolynomialTest::readsCoefficients_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<QStringList>("expected");
+
+    const QStringList nothing = state({}, -1, {}, 0);
+    QTest::newRow("nothing configured") << "{}" << nothing;
+    QTest::newRow("both, constant term first")
+        << R"({"Polynomial": [[5], [2]], "InversePolynomial": [[-2.5], [0.5], [3]]})"
+        << state({2, 5}, 1, {3, 0.5, -2.5}, 2);
+    QTest::newRow("forward only") << R"({"Polynomial": [[7]]})" << state({7}, 0, {}, 0);
+    QTest::newRow("inverse only") << R"({"InversePolynomial": [[7]]})" << state({}, -1, {7}, 0);
+    QTest::newRow("bare numbers") << R"({"Polynomial": [5, 2], "InversePolynomial": [1, 4]})"
+                                  << state({2, 5}, 1, {4, 1}, 1);
+    QTest::newRow("only the first column counts")
+        << R"({"Polynomial": [[5, 50], [2, 20]], "InversePolynomial": [[1, 10]]})"
+        << state({2, 5}, 1, {1}, 0);
+    QTest::newRow("empty lists") << R"({"Polynomial": [], "InversePolynomial": []})" << nothing;
+    QTest::newRow("rows without columns")
+        << R"({"Polynomial": [[]], "InversePolynomial": [[]]})" << state({}, -1, {}, -1);
+    QTest::newRow("texts instead of lists") << R"({"Polynomial": "x", "InversePolynomial": "1"})" << nothing;
+    QTest::newRow("numbers instead of lists") << R"({"Polynomial": 5, "InversePolynomial": 2})" << nothing;
+    QTest::newRow("tree nodes instead of lists")
+        << R"({"Polynomial": {}, "InversePolynomial": {}})" << nothing;
+    QTest::newRow("objects instead of lists")
+        << R"({"Polynomial": {"@value": {"a": 1}}, "InversePolynomial": {"@value": {}}})" << nothing;
+    QTest::newRow("null nodes") << R"({"Polynomial": null, "InversePolynomial": null})" << nothing;
+    QTest::newRow("coefficients that are texts")
+        << R"({"Polynomial": [["2"], ["x"], [true]]})" << state({1, 0, 2}, 2, {}, 0);
+    QTest::newRow("leading zeros are kept")
+        << R"({"Polynomial": [[1], [0], [0]]})" << state({0, 0, 1}, 2, {}, 0);
+}
+
+void ValueConverterPolynomialTest::readsCoefficients()
+{
+    QFETCH(QString, json);
+    LogCapture log;
+    const Converter converter(json);
+    QTEST(converter.state(), "expected");
+    QCOMPARE(converter.getDecimalPlaces(), 0U);
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void ValueConverterPolynomialTest::readsDecimalPlaces_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<unsigned int>("expected");
+
+    QTest::newRow("missing") << "{}" << 0U;
+    QTest::newRow("null node") << R"({"DecimalPlaces": null})" << 0U;
+    QTest::newRow("without value") << R"({"DecimalPlaces": {}})" << 0U;
+    QTest::newRow("number") << R"({"DecimalPlaces": 2})" << 2U;
+    QTest::newRow("fraction is rounded up") << R"({"DecimalPlaces": 2.7})" << 3U;
+    QTest::newRow("fraction is rounded down") << R"({"DecimalPlaces": 2.4})" << 2U;
+    QTest::newRow("number in a text") << R"({"DecimalPlaces": "2"})" << 2U;
+    QTest::newRow("fraction in a text") << R"({"DecimalPlaces": "2.7"})" << 0U;
+    QTest::newRow("another text") << R"({"DecimalPlaces": "abc"})" << 0U;
+    QTest::newRow("true") << R"({"DecimalPlaces": true})" << 1U;
+    QTest::newRow("false") << R"({"DecimalPlaces": false})" << 0U;
+    QTest::newRow("negative number wraps") << R"({"DecimalPlaces": -1})" << 4294967295U;
+    QTest::newRow("list") << R"({"DecimalPlaces": [3]})" << 0U;
+    QTest::newRow("object") << R"({"DecimalPlaces": {"@value": {"a": 3}}})" << 0U;
+}
+
+void ValueConverterPolynomialTest::readsDecimalPlaces()
+{
+    QFETCH(QString, json);
+    LogCapture log;
+    QTEST(Converter(json).getDecimalPlaces(), "expected");
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void ValueConverterPolynomialTest::asksForItsKeysInOrderAndNothingElse()
+{
+    const auto calls = RecordingNode::Calls::create();
+    const auto node = recordingNodeFromJson(
+        R"({"Polynomial": [[1]], "InversePolynomial": [[1]], "DecimalPlaces": 1, "Table": [[1]], "@type": "Unit"})",
+        QStringLiteral("unit"), calls);
+    const ValueConverterPolynomial converter(node);
+    QCOMPARE(takeCallsOf(QStringLiteral("unit"), calls),
+             QStringList({"unit.getChild(Polynomial)", "unit.getChild(InversePolynomial)",
+                          "unit.getChild(DecimalPlaces)"}));
+    QCOMPARE(exactText(converter.convertValue(1)), exactText(1));
+    QCOMPARE(*calls, QStringList());
+}
+
+void ValueConverterPolynomialTest::doesNotKeepItsNode()
+{
+    BaseClassSharedPointer node = nodeFromJson(QStringLiteral(R"({"Polynomial": [[4]]})"));
+    const QWeakPointer<ConfigurationAndProcessDataBase> watched = node;
+    const ValueConverterPolynomial converter(node);
+    node.clear();
+    QVERIFY(watched.isNull());
+    QCOMPARE(exactText(converter.convertValue(9)), exactText(4));
+}
+
+void ValueConverterPolynomialTest::converts_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("converted");
+    QTest::addColumn<double>("inverted");
+
+    const QString none = QStringLiteral("{}");
+    const QString linear = QStringLiteral(R"({"Polynomial": [[5], [2]]})");
+    const QString constant = QStringLiteral(R"({"Polynomial": [[7]], "InversePolynomial": [[-7]]})");
+    const QString bothWays =
+        QStringLiteral(R"({"Polynomial": [[0], [1000]], "InversePolynomial": [[0], [0.001]]})");
+    const QString cubic = QStringLiteral(R"({"Polynomial": [[1], [2], [3], [4]]})");
+    const double largest = std::numeric_limits<double>::max();
+    const double smallest = std::numeric_limits<double>::denorm_min();
+
+    QTest::newRow("without coefficients") << none << 3.0 << 0.0 << 0.0;
+    QTest::newRow("without coefficients, no number") << none << notANumber << 0.0 << 0.0;
+    QTest::newRow("without coefficients, infinity") << none << -infinity << 0.0 << 0.0;
+    QTest::newRow("text instead of coefficients") << R"({"Polynomial": "x"})" << 3.0 << 0.0 << 0.0;
+    QTest::newRow("linear without inverse") << linear << 3.0 << 11.0 << 0.0;
+    QTest::newRow("linear at a negative number") << linear << -4.0 << -3.0 << 0.0;
+    QTest::newRow("constant at zero") << constant << 0.0 << 7.0 << -7.0;
+    QTest::newRow("constant at a negative number") << constant << -1e30 << 7.0 << -7.0;
+    QTest::newRow("constant at the largest number") << constant << largest << 7.0 << -7.0;
+    QTest::newRow("constant at the smallest number") << constant << smallest << 7.0 << -7.0;
+    QTest::newRow("forward and inverse are independent") << bothWays << 2.0 << 2000.0 << 0.002;
+    QTest::newRow("linear at infinity") << linear << infinity << notANumber << 0.0;
+    QTest::newRow("overflow") << bothWays << largest << infinity << largest * 0.001;
+    QTest::newRow("cubic") << cubic << 2.0 << 49.0 << 0.0;
+    QTest::newRow("cubic at a negative number") << cubic << -1.0 << -2.0 << 0.0;
+    QTest::newRow("multiplied and added in one rounding")
+        << R"({"Polynomial": [[-1], [0.1]]})" << 10.0 << 5.5511151231257827e-17 << 0.0;
+    QTest::newRow("inverse multiplied and added in one rounding")
+        << R"({"InversePolynomial": [[-1], [0.1]]})" << 10.0 << 0.0 << 5.5511151231257827e-17;
+}
+
+void ValueConverterPolynomialTest::converts()
+{
+    QFETCH(QString, json);
+    QFETCH(double, x);
+    QFETCH(double, converted);
+    QFETCH(double, inverted);
+    LogCapture log;
+    const Converter converter(json);
+    QCOMPARE(exactText(converter.convertValue(x)), exactText(converted));
+    QCOMPARE(exactText(converter.invertValue(x)), exactText(inverted));
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void ValueConverterPolynomialTest::evaluatesHighestPowerFirst_data()
+{
+    QTest::addColumn<double>("x");
+    QTest::addColumn<Coefficients>("coefficients");
+    QTest::addColumn<double>("expected");
+
+    QTest::newRow("no coefficients") << 3.0 << Coefficients() << 0.0;
+    QTest::newRow("constant") << 3.0 << Coefficients{-7} << -7.0;
+    QTest::newRow("linear") << 3.0 << Coefficients{2, 5} << 11.0;
+    QTest::newRow("quadratic") << -2.0 << Coefficients{1, 0, 0.5} << 4.5;
+    QTest::newRow("one rounding per step") << 10.0 << Coefficients{0.1, -1} << 5.5511151231257827e-17;
+}
+
+void ValueConverterPolynomialTest::evaluatesHighestPowerFirst()
+{
+    QFETCH(double, x);
+    QFETCH(Coefficients, coefficients);
+    QFETCH(double, expected);
+    const Converter converter(QStringLiteral(R"({"Polynomial": [[100]]})"));
+    QCOMPARE(exactText(converter.evaluatePolynom(x, coefficients)), exactText(expected));
+}
+
+void ValueConverterPolynomialTest::secondResetAppendsAndClearsTheInverse()
+{
+    Converter converter(QStringLiteral(R"({"Polynomial": [[1], [2]], "InversePolynomial": [[8], [9]]})"));
+    QVERIFY(converter.resetPolynom(column({3, 4}), {}));
+    QCOMPARE(converter.state(), state({4, 3, 2, 1}, 2, {}, 0));
+    QCOMPARE(exactText(converter.convertValue(2)), exactText(49));
+    QCOMPARE(exactText(converter.invertValue(2)), exactText(0));
+}
+
+void ValueConverterPolynomialTest::secondResetAppendsTheInverse()
+{
+    Converter converter(QStringLiteral(R"({"Polynomial": [[1]], "InversePolynomial": [[8], [9]]})"));
+    QVERIFY(converter.resetPolynom({}, column({6, 5})));
+    QCOMPARE(converter.state(), state({1}, -1, {5, 6, 9, 8}, 2));
+    QVERIFY(converter.resetPolynom({}, {}));
+    QCOMPARE(converter.state(), state({1}, -2, {}, 0));
+}
+
+void ValueConverterPolynomialTest::inverseIsClearedForAnEmptyListOnly()
+{
+    Converter converter(QStringLiteral("{}"));
+    QVERIFY(converter.resetPolynom(column({1}), column({2})));
+    // The inverse list given counts, not the coefficients held; a row without columns is a row.
+    QVERIFY(converter.resetPolynom({}, {QVariant(QVariantList())}));
+    QCOMPARE(converter.inversePolynomial, Coefficients({2}));
+    QVERIFY(converter.resetPolynom({}, {}));
+    QCOMPARE(converter.inversePolynomial, Coefficients());
+    QCOMPARE(converter.inversePolynomialDegree, 0);
+}
+
+void ValueConverterPolynomialTest::keepsTheSlotsOfTheBase()
+{
+    QCOMPARE(virtualSlot(&ValueConverterPolynomial::convertValue), std::size_t(2));
+    QCOMPARE(virtualSlot(&ValueConverterPolynomial::invertValue), std::size_t(3));
+}
+
+QTEST_GUILESS_MAIN(ValueConverterPolynomialTest)
+#include "ValueConverterPolynomialTest.moc"

@@ -1,0 +1,216 @@
+#include "Described.h"
+
+#include "LogCapture.h"
+
+namespace {
+
+/// Whether the lines of messages from this source are fixed numbers.
+bool hasFixedLines(const QString& file)
+{
+    return file == QLatin1String("UnitConversion/UnitConversionLookUp") ||
+           file == QLatin1String("UnitConversion/UnitConversionUnitTypeHandler");
+}
+
+QString levelName(QtMsgType level)
+{
+    if (level == QtWarningMsg)
+        return QStringLiteral("warning");
+    return QStringLiteral("level %1").arg(static_cast<int>(level));
+}
+
+QString placeOf(const LoggedMessage& message)
+{
+    if (!hasFixedLines(message.file) && message.line > 0)
+        return message.file;
+    return message.file + QLatin1Char(':') + QString::number(message.line);
+}
+
+QString asLine(const QString& level, const QString& category, const QString& place, const QString& function,
+               const QString& text)
+{
+    return QStringList{level, category, place, function, text}.join(QStringLiteral(" | "));
+}
+
+QString warning(const char* place, const char* function, const QString& text)
+{
+    return asLine(QStringLiteral("warning"), QStringLiteral("default"), QLatin1String(place),
+                  QLatin1String(function), text);
+}
+
+QString quoted(const QString& text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+QString lookUpWarning(const char* place, const char* function, const char* text, const QString& unitType)
+{
+    // The text's own last blank and the stream's.
+    return warning(place, function, QLatin1String(text) + QStringLiteral("  ") + quoted(unitType));
+}
+
+const char* handlerFunction(Expected::Conversion conversion)
+{
+    return conversion == Expected::Conversion::ToBase
+               ? "bool UnitConversionUnitTypeHandler::toBaseUnit(QVariant&, const QString&) const"
+               : "bool UnitConversionUnitTypeHandler::fromBaseUnit(QVariant&, const QString&) const";
+}
+
+QString unknownUnitText(const QString& unit, const QString& unitType)
+{
+    return QStringLiteral("Unknown unit given ") + quoted(unit) + QStringLiteral(" for unittype ") +
+           quoted(unitType);
+}
+
+} // namespace
+
+QString described(const QVariant& value)
+{
+    if (!value.isValid())
+        return QStringLiteral("invalid");
+    const bool isFloating = value.userType() == QMetaType::Double || value.userType() == QMetaType::Float;
+    const QString text = isFloating ? QString::number(value.toDouble(), 'g', 17) : value.toString();
+    return QLatin1String(value.typeName()) + QLatin1Char(' ') + text;
+}
+
+QStringList described(const QList<QVariant>& values)
+{
+    QStringList texts;
+    for (const QVariant& value : values)
+        texts.append(described(value));
+    return texts;
+}
+
+QStringList describedMessages(LogCapture& log)
+{
+    QStringList lines;
+    for (const LoggedMessage& message : log.take())
+        lines.append(asLine(levelName(message.type), message.category, placeOf(message), message.function,
+                            message.text));
+    return lines;
+}
+
+QString Expected::noDefaultUnit(const QString& unitType)
+{
+    return warning("UnitConversion/DefaultUnitHandler",
+                   "QString DefaultUnitHandler::getDefaultUnit(const QString&) const",
+                   QStringLiteral("Cannot find default unit for unitType ") + quoted(unitType) +
+                       QStringLiteral(" !"));
+}
+
+QString Expected::noConversion(Conversion conversion, const QString& unitType)
+{
+    const char* const text = "No conversion function given for unitType";
+    if (conversion == Conversion::ToBase)
+        return lookUpWarning(
+            "UnitConversion/UnitConversionLookUp:137",
+            "bool UnitConversionLookUp::toBaseUnit(QVariant&, const QString&, const QString&) const", text,
+            unitType);
+    return lookUpWarning(
+        "UnitConversion/UnitConversionLookUp:152",
+        "bool UnitConversionLookUp::fromBaseUnit(QVariant&, const QString&, const QString&) const", text,
+        unitType);
+}
+
+QString Expected::noConversionForDecimalPlaces(const QString& unitType)
+{
+    return lookUpWarning("UnitConversion/UnitConversionLookUp:174",
+                         "bool UnitConversionLookUp::getDecimalPlacesForUnit(const QString&, const QString&, "
+                         "unsigned int&) const",
+                         "No conversion function given for unitType", unitType);
+}
+
+QString Expected::noBaseUnit(const QString& unitType)
+{
+    return lookUpWarning("UnitConversion/UnitConversionLookUp:122",
+                         "QString UnitConversionLookUp::getBaseUnit(const QString&) const",
+                         "No base unit given for unitType", unitType);
+}
+
+QString Expected::invalidType(Conversion conversion, const QString& typeName)
+{
+    return warning(conversion == Conversion::ToBase ? "UnitConversion/UnitConversionUnitTypeHandler:114"
+                                                    : "UnitConversion/UnitConversionUnitTypeHandler:162",
+                   handlerFunction(conversion),
+                   QStringLiteral("Invalid type given for conversion ") + typeName);
+}
+
+QString Expected::unknownUnit(Conversion conversion, const QString& unit, const QString& unitTypeKey)
+{
+    return warning(conversion == Conversion::ToBase ? "UnitConversion/UnitConversionUnitTypeHandler:132"
+                                                    : "UnitConversion/UnitConversionUnitTypeHandler:180",
+                   handlerFunction(conversion),
+                   QStringLiteral("Unknown unit ") + quoted(unit) + QStringLiteral(" given for unitType ") +
+                       quoted(unitTypeKey));
+}
+
+QStringList Expected::notConverted(Conversion conversion, const QString& typeName, const QString& unit,
+                                   const QString& unitTypeKey)
+{
+    return {invalidType(conversion, typeName), unknownUnit(conversion, unit, unitTypeKey)};
+}
+
+QString Expected::notRounded(const QString& streamedValue)
+{
+    return warning("UnitManager", "QVariant UnitManager::roundDouble(const QVariant&, unsigned int) const",
+                   QStringLiteral("Error on converting value to double ") + streamedValue +
+                       QStringLiteral(" !"));
+}
+
+QString Expected::noFixedUnit(const QString& text)
+{
+    return warning("UnitManagerCore",
+                   "bool UnitManagerCore::extractUnitTypeAndUnit(const QString&, QString&, QString&) const",
+                   QStringLiteral("Unable to get unit type for unit: ") + quoted(text) +
+                       QStringLiteral(" !"));
+}
+
+QString Expected::unknownTextType(const QString& unitType)
+{
+    return warning(
+        "UnitTextManagement/UnitTextHandler",
+        "QString UnitTextHandler::getUnitText(const QString&, const QString&, const QString&) const",
+        QStringLiteral("Unknown unit type given ") + quoted(unitType));
+}
+
+QString Expected::unknownTextUnit(const QString& unit, const QString& unitType)
+{
+    return warning(
+        "UnitTextManagement/UnitTextHandler",
+        "QString UnitTextHandler::getUnitText(const QString&, const QString&, const QString&) const",
+        unknownUnitText(unit, unitType));
+}
+
+QString Expected::unknownTextMapType(const QString& unitType)
+{
+    return warning("UnitTextManagement/UnitTextHandler",
+                   "QVariant UnitTextHandler::getUnitTextJsonMap(const QString&) const",
+                   QStringLiteral("Unknown unit type given ") + quoted(unitType));
+}
+
+QString Expected::unknownTextMapUnit(const QString& unit, const QString& unitType)
+{
+    return warning("UnitTextManagement/UnitTextHandler",
+                   "QVariant UnitTextHandler::getUnitTextJsonMap(const QString&) const",
+                   unknownUnitText(unit, unitType));
+}
+
+QString Expected::noBaseUnitLabel(const QString& unitType)
+{
+    return warning("UnitTextManagement/UnitTextHandler",
+                   "bool UnitTextHandler::initByJsonString(const QString&)",
+                   QStringLiteral("No Base unit label given for ") + quoted(unitType));
+}
+
+QString Expected::invalidUnitDocument(const QString& streamedDocument)
+{
+    return warning("UnitConversion/UnitConversionLookUp:75",
+                   "bool UnitConversionLookUp::initByJsonString(const QString&)",
+                   QStringLiteral("Conversion configuration invalid ") + quoted(streamedDocument));
+}
+
+QString Expected::invalidDefaultUnitDocument()
+{
+    return warning("UnitConversion/DefaultUnitHandler",
+                   "bool DefaultUnitHandler::initByJsonString(const QString&)",
+                   QStringLiteral("DefaultUnit file is not valid"));
+}

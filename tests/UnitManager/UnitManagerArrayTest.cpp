@@ -1,0 +1,356 @@
+#include "UnitManager.h"
+
+#include <QtTest/QtTest>
+
+#include <limits>
+
+#include "Described.h"
+#include "LogCapture.h"
+#include "RecordingArray.h"
+#include "TestDocuments.h"
+
+using Dimensions = QVector<unsigned int>;
+
+class UnitManagerArrayTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void ranges_data();
+    void ranges();
+    void shortUnitTypeListIsRefusedUnasked();
+    void getValueArray_data();
+    void getValueArray();
+    void setValueArray_data();
+    void setValueArray();
+    void setValueArrayMayGetMoreValues();
+    void emptyRangeWritesTheRowBack_data();
+    void emptyRangeWritesTheRowBack();
+    void refusedWriteIsHandedOn();
+    void getUnitText_data();
+    void getUnitText();
+    void getUnitTextOfOneColumn_data();
+    void getUnitTextOfOneColumn();
+
+private:
+    UnitManager m_manager;
+};
+
+namespace {
+
+namespace T = TestUnitType;
+
+using Expected::Conversion;
+
+const double marker = std::numeric_limits<double>::quiet_NaN();
+const unsigned int last = std::numeric_limits<unsigned int>::max();
+
+/// Unit types of the five columns: pressure, none, temperature, a fixed unit, an unknown one.
+QList<QVariant> columnUnitTypes()
+{
+    return {T::pressure, QString(), T::temperature, T::pressure + "/Bar", T::unknown};
+}
+
+QList<QVariant> rows()
+{
+    return {QVariantList{1.5, 2.5, 300.15, 3.5, 4}, QVariantList{marker, "abc", marker, "def", marker}};
+}
+
+Array2dDataTypeWrapper fiveColumns()
+{
+    return {rows(), columnUnitTypes()};
+}
+
+} // namespace
+
+void UnitManagerArrayTest::initTestCase()
+{
+    QVERIFY(m_manager.initByJsonString(TestDocuments::units(), TestDocuments::defaultUnits()));
+}
+
+void UnitManagerArrayTest::ranges_data()
+{
+    QTest::addColumn<Dimensions>("dimensions");
+    QTest::addColumn<unsigned int>("row");
+    QTest::addColumn<unsigned int>("firstColumn");
+    QTest::addColumn<unsigned int>("columnCount");
+    QTest::addColumn<int>("texts");
+    QTest::addColumn<int>("values");
+    QTest::addColumn<bool>("writes");
+
+    // Two rows and two columns, each with a unit type.
+    const Dimensions real = {2, 2};
+    QTest::newRow("all columns") << real << 1U << 0U << 2U << 2 << 2 << true;
+    QTest::newRow("last column") << real << 1U << 1U << 1U << 1 << 1 << true;
+    QTest::newRow("no column") << real << 1U << 1U << 0U << 0 << 0 << true;
+    QTest::newRow("no column behind the last") << real << 1U << 2U << 0U << 0 << 0 << true;
+    QTest::newRow("no column beyond that") << real << 1U << 3U << 0U << 0 << 0 << false;
+    QTest::newRow("no column from the largest number on") << real << 1U << last << 0U << 0 << 0 << false;
+    QTest::newRow("too many columns") << real << 1U << 0U << 3U << 0 << 0 << false;
+    QTest::newRow("column behind the last") << real << 1U << 2U << 1U << 0 << 0 << false;
+    QTest::newRow("largest number of columns") << real << 1U << 0U << last << 0 << 0 << false;
+    QTest::newRow("end wraps around to 0") << real << 1U << last << 1U << 0 << 0 << true;
+    QTest::newRow("end wraps around to 1") << real << 1U << last << 2U << 0 << 0 << true;
+    QTest::newRow("end wraps around below the first column") << real << 1U << 2U << last << 0 << 0 << true;
+    QTest::newRow("end wraps around beyond the columns") << real << 1U << last << 4U << 0 << 0 << false;
+    QTest::newRow("row behind the last") << real << 2U << 0U << 2U << 2 << 0 << false;
+    QTest::newRow("largest row") << real << last << 0U << 2U << 2 << 0 << false;
+    QTest::newRow("row behind the last, no column") << real << 2U << 0U << 0U << 0 << 0 << false;
+    QTest::newRow("row behind the last, wrapped around") << real << 2U << last << 1U << 0 << 0 << false;
+    QTest::newRow("no rows") << Dimensions{0, 2} << 0U << 0U << 2U << 2 << 0 << false;
+    QTest::newRow("no dimensions") << Dimensions{} << 0U << 0U << 2U << 0 << 0 << false;
+    QTest::newRow("one dimension") << Dimensions{2} << 0U << 0U << 2U << 0 << 0 << false;
+    QTest::newRow("three dimensions") << Dimensions{2, 2, 2} << 0U << 0U << 2U << 0 << 0 << false;
+    QTest::newRow("one dimension, no column") << Dimensions{2} << 0U << 0U << 0U << 0 << 0 << false;
+    QTest::newRow("fewer columns than unit types") << Dimensions{2, 1} << 0U << 0U << 2U << 0 << 0 << false;
+    QTest::newRow("fewer columns than unit types, first one")
+        << Dimensions{2, 1} << 0U << 0U << 1U << 1 << 1 << true;
+    QTest::newRow("more columns than unit types") << Dimensions{2, 9} << 0U << 0U << 3U << 0 << 0 << false;
+    QTest::newRow("more columns than unit types, existing ones")
+        << Dimensions{2, 9} << 0U << 0U << 2U << 2 << 2 << true;
+}
+
+void UnitManagerArrayTest::ranges()
+{
+    QFETCH(Dimensions, dimensions);
+    QFETCH(unsigned int, row);
+    QFETCH(unsigned int, firstColumn);
+    QFETCH(unsigned int, columnCount);
+    const QList<QVariant> data = {QVariantList{1.0, 2.0}, QVariantList{3.0, 4.0}};
+    const QList<QVariant> given = {10.0, 20.0};
+    const QString bar = QStringLiteral("Bar");
+    RecordingArray array(data, {T::pressure, T::pressure}, dimensions);
+    LogCapture log;
+
+    QTEST(m_manager.getUnitText(array, QStringLiteral("de"), firstColumn, columnCount, bar).size(), "texts");
+    QTEST(m_manager.getValueArray(array, row, firstColumn, columnCount, bar).size(), "values");
+    QCOMPARE(array.getData(), data);
+    QTEST(m_manager.setValueArray(array, row, firstColumn, columnCount, given, bar), "writes");
+    QCOMPARE(describedMessages(log), QStringList());
+
+    QFETCH(int, values);
+    QList<QVariant> expected = row < 2 ? data.at(static_cast<int>(row)).toList() : QList<QVariant>();
+    for (int index = 0; index < values; ++index)
+        expected[static_cast<int>(firstColumn) + index] = given.at(index);
+    QCOMPARE(array.getRowValues(row), expected);
+    const int otherRow = row == 0 ? 1 : 0;
+    QCOMPARE(array.getData().at(otherRow), data.at(otherRow));
+}
+
+void UnitManagerArrayTest::shortUnitTypeListIsRefusedUnasked()
+{
+    RecordingArray array({QVariant(QVariantList{1.0, 2.0})}, {T::pressure, T::pressure}, {1, 9});
+    const QString bar = QStringLiteral("Bar");
+
+    QCOMPARE(m_manager.getUnitText(array, QStringLiteral("de"), 0, 3, bar), QStringList());
+    QCOMPARE(m_manager.getValueArray(array, 0, 0, 3, bar), QList<QVariant>());
+    QVERIFY(!m_manager.setValueArray(array, 0, 0, 3, {1.0, 2.0, 3.0}, bar));
+    QCOMPARE(array.dimensionQuestions(), 0);
+}
+
+void UnitManagerArrayTest::getValueArray_data()
+{
+    QTest::addColumn<unsigned int>("row");
+    QTest::addColumn<unsigned int>("firstColumn");
+    QTest::addColumn<unsigned int>("columnCount");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QStringList>("values");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    QTest::newRow("unit") << 0U << 0U << 1U << "HectoPascal" << QStringList{"double 1500"} << none;
+    QTest::newRow("default units of the columns")
+        << 0U << 0U << 3U << "" << QStringList{"double 1500", "double 2.5", described(300.15 - 273.15)}
+        << none;
+    QTest::newRow("columns from the middle")
+        << 0U << 1U << 3U << "Celsius" << QStringList{"double 2.5", described(300.15 - 273.15), "double 3.5"}
+        << none;
+    QTest::newRow("unit of another column")
+        << 0U << 0U << 3U << "HectoPascal" << QStringList{"double 1500", "double 2.5", described(300.15)}
+        << QStringList{Expected::unknownUnit(Conversion::FromBase, "HectoPascal", "AbsoluteTemperature")};
+    QTest::newRow("unknown unit type")
+        << 0U << 3U << 2U << "Bar" << QStringList{"double 3.5", "int 4"}
+        << QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)};
+    QTest::newRow("markers, also with unknown units, and texts")
+        << 1U << 0U << 5U << "Nope"
+        << QStringList{"double nan", "QString abc", "double nan", "QString def", "double nan"} << none;
+}
+
+void UnitManagerArrayTest::getValueArray()
+{
+    QFETCH(unsigned int, row);
+    QFETCH(unsigned int, firstColumn);
+    QFETCH(unsigned int, columnCount);
+    QFETCH(QString, unit);
+    const Array2dDataTypeWrapper array = fiveColumns();
+    LogCapture log;
+
+    QTEST(described(m_manager.getValueArray(array, row, firstColumn, columnCount, unit)), "values");
+    QTEST(describedMessages(log), "messages");
+}
+
+void UnitManagerArrayTest::setValueArray_data()
+{
+    QTest::addColumn<unsigned int>("firstColumn");
+    QTest::addColumn<QVariantList>("values");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<bool>("writes");
+    QTest::addColumn<QStringList>("stored");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    const QStringList old = {"double 1.5", "double 2.5", described(300.15), "double 3.5", "int 4"};
+    const QString hPa = QStringLiteral("HectoPascal");
+    QTest::newRow("unit, not rounded")
+        << 0U << QVariantList{1234.56} << hPa << true
+        << QStringList{described(1234.56 * 0.001), old[1], old[2], old[3], old[4]} << none;
+    QTest::newRow("default units of the columns")
+        << 0U << QVariantList{2000, 7, 0} << "" << true
+        << QStringList{"double 2", "int 7", described(273.15), old[3], old[4]} << none;
+    QTest::newRow("columns from the middle, fixed unit as it is")
+        << 1U << QVariantList{"text", 0.0, 5} << "Celsius" << true
+        << QStringList{old[0], "QString text", described(273.15), "int 5", old[4]} << none;
+    QTest::newRow("markers are written also with unknown units")
+        << 0U << QVariantList{marker, marker, marker, marker, marker} << "Nope" << true
+        << QStringList{"double nan", "double nan", "double nan", "double nan", "double nan"} << none;
+    QTest::newRow("failure in the last column")
+        << 3U << QVariantList{5, 6} << "Bar" << false << old
+        << QStringList{Expected::noConversion(Conversion::ToBase, T::unknown)};
+    QTest::newRow("failure in the first column")
+        << 2U << QVariantList{7, 5} << hPa << false << old
+        << QStringList{Expected::unknownUnit(Conversion::ToBase, hPa, "AbsoluteTemperature")};
+    QTest::newRow("every failure is reported")
+        << 0U << QVariantList{"abc", 7, 8, 9, 10} << "Bar" << false << old
+        << Expected::notConverted(Conversion::ToBase, "QString", "Bar", "Pressure") +
+               QStringList{Expected::unknownUnit(Conversion::ToBase, "Bar", "AbsoluteTemperature"),
+                           Expected::noConversion(Conversion::ToBase, T::unknown)};
+}
+
+void UnitManagerArrayTest::setValueArray()
+{
+    QFETCH(unsigned int, firstColumn);
+    QFETCH(QVariantList, values);
+    QFETCH(QString, unit);
+    Array2dDataTypeWrapper array = fiveColumns();
+    LogCapture log;
+
+    QTEST(m_manager.setValueArray(array, 0, firstColumn, static_cast<unsigned int>(values.size()), values,
+                                  unit),
+          "writes");
+    QTEST(described(array.getRowValues(0)), "stored");
+    QCOMPARE(described(array.getRowValues(1)), described(fiveColumns().getRowValues(1)));
+    QTEST(describedMessages(log), "messages");
+}
+
+void UnitManagerArrayTest::setValueArrayMayGetMoreValues()
+{
+    Array2dDataTypeWrapper array = fiveColumns();
+
+    QVERIFY(m_manager.setValueArray(array, 0, 1, 1, {7.5, 8.5, 9.5}, QString()));
+    QCOMPARE(described(array.getRowValues(0)),
+             (QStringList{"double 1.5", "double 7.5", described(300.15), "double 3.5", "int 4"}));
+}
+
+void UnitManagerArrayTest::emptyRangeWritesTheRowBack_data()
+{
+    QTest::addColumn<unsigned int>("firstColumn");
+    QTest::addColumn<unsigned int>("columnCount");
+
+    QTest::newRow("no column") << 0U << 0U;
+    QTest::newRow("no column behind the last") << 2U << 0U;
+    QTest::newRow("end wraps around") << last << 1U;
+}
+
+void UnitManagerArrayTest::emptyRangeWritesTheRowBack()
+{
+    QFETCH(unsigned int, firstColumn);
+    QFETCH(unsigned int, columnCount);
+    // The first row lacks its second cell: written back, it is stored with an invalid one.
+    const QList<QVariant> data = {QVariantList{1.0}, QVariantList{2.0, 3.0}};
+    Array2dDataTypeWrapper array(data, {T::pressure, T::pressure});
+
+    QVERIFY(m_manager.setValueArray(array, 0, firstColumn, columnCount, {}, QString()));
+    QCOMPARE(array.getData(), (QList<QVariant>{QVariantList{1.0, QVariant()}, data.at(1)}));
+}
+
+void UnitManagerArrayTest::refusedWriteIsHandedOn()
+{
+    // The array says that it has a second row, but takes none.
+    const QList<QVariant> data = {QVariant(QVariantList{1.0, 2.0})};
+    RecordingArray array(data, {T::pressure, T::pressure}, {2, 2});
+
+    QVERIFY(m_manager.setValueArray(array, 0, 0, 0, {}, QString()));
+    QVERIFY(!m_manager.setValueArray(array, 1, 0, 0, {}, QString()));
+    QCOMPARE(array.getData(), data);
+}
+
+void UnitManagerArrayTest::getUnitText_data()
+{
+    QTest::addColumn<unsigned int>("firstColumn");
+    QTest::addColumn<unsigned int>("columnCount");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<QStringList>("messages");
+
+    const QString fixedBar = T::pressure + QStringLiteral("/Bar");
+    QTest::newRow("unit") << 0U << 2U << "Bar" << QStringList{"Bar", ""} << QStringList();
+    QTest::newRow("default units of the columns")
+        << 0U << 3U << "" << QStringList{"Hektopascal", "", "deg C"} << QStringList();
+    QTest::newRow("fixed unit without unit")
+        << 2U << 2U << "" << QStringList{"deg C", "Bar"} << QStringList{Expected::noDefaultUnit(fixedBar)};
+    QTest::newRow("unit of another column") << 0U << 5U << "Bar" << QStringList{"Bar", "", "", "Bar", ""}
+                                            << QStringList{Expected::unknownTextUnit("Bar", T::temperature),
+                                                           Expected::unknownTextType(T::unknown)};
+}
+
+void UnitManagerArrayTest::getUnitText()
+{
+    QFETCH(unsigned int, firstColumn);
+    QFETCH(unsigned int, columnCount);
+    QFETCH(QString, unit);
+    const Array2dDataTypeWrapper array = fiveColumns();
+    LogCapture log;
+
+    QTEST(m_manager.getUnitText(array, QStringLiteral("de"), firstColumn, columnCount, unit), "texts");
+    QTEST(describedMessages(log), "messages");
+}
+
+void UnitManagerArrayTest::getUnitTextOfOneColumn_data()
+{
+    QTest::addColumn<unsigned int>("column");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    QTest::newRow("unit") << 0U << "Bar"
+                          << "Bar" << none;
+    QTest::newRow("default unit") << 0U << ""
+                                  << "Hektopascal" << none;
+    QTest::newRow("no unit type") << 1U << ""
+                                  << "" << none;
+    QTest::newRow("fixed unit") << 3U << "Celsius"
+                                << "Bar" << none;
+    QTest::newRow("unknown unit") << 0U << "Nope"
+                                  << "" << QStringList{Expected::unknownTextUnit("Nope", T::pressure)};
+    QTest::newRow("column behind the last") << 5U << "Bar"
+                                            << "" << none;
+    QTest::newRow("end wraps around") << last << "Bar"
+                                      << "" << none;
+}
+
+void UnitManagerArrayTest::getUnitTextOfOneColumn()
+{
+    QFETCH(unsigned int, column);
+    QFETCH(QString, unit);
+    const Array2dDataTypeWrapper array = fiveColumns();
+    LogCapture log;
+
+    QTEST(m_manager.getUnitText(array, QStringLiteral("de"), column, unit), "text");
+    QTEST(describedMessages(log), "messages");
+}
+
+QTEST_GUILESS_MAIN(UnitManagerArrayTest)
+
+#include "UnitManagerArrayTest.moc"

@@ -1,0 +1,329 @@
+#include "UnitManager.h"
+
+#include <QtTest/QtTest>
+
+#include <limits>
+
+#include "Described.h"
+#include "LogCapture.h"
+#include "TestDocuments.h"
+
+class UnitManagerConversionTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void roundDouble_data();
+    void roundDouble();
+    void fromBaseUnit_data();
+    void fromBaseUnit();
+    void toBaseUnit_data();
+    void toBaseUnit();
+    void rawFormsDoNotRound_data();
+    void rawFormsDoNotRound();
+    void getValue_data();
+    void getValue();
+
+private:
+    UnitManager m_manager;
+};
+
+namespace {
+
+namespace T = TestUnitType;
+
+using Expected::Conversion;
+using Expected::noConversion;
+using Expected::noConversionForDecimalPlaces;
+using Expected::noDefaultUnit;
+using Expected::notConverted;
+using Expected::notRounded;
+
+const double marker = std::numeric_limits<double>::quiet_NaN();
+const double infinity = std::numeric_limits<double>::infinity();
+
+const QString streamedAbc = QStringLiteral("QVariant(QString, \"abc\")");
+
+void addColumns()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QStringList>("messages");
+}
+
+/// The rows that are the same in both directions: with a base unit of three places, or without conversion.
+void addRowsOfBothDirections(Conversion conversion)
+{
+    const QStringList none;
+    const QString fixedBar = T::pressure + QStringLiteral("/Bar");
+
+    QTest::newRow("base unit") << QVariant(1.23456) << T::pressure << "Bar" << described(1.235) << none;
+    QTest::newRow("negative half") << QVariant(-0.0005) << T::pressure << "Bar" << described(-0.001) << none;
+    QTest::newRow("whole number becomes a double") << QVariant(3) << T::pressure << "Bar"
+                                                   << "double 3" << none;
+    QTest::newRow("huge number has nothing to round")
+        << QVariant(1e20) << T::pressure << "Bar" << described(1e20) << none;
+    QTest::newRow("table unit has no places") << QVariant(1.5) << T::ratio << "Counts"
+                                              << "double 2" << none;
+    QTest::newRow("fixed unit is rounded only")
+        << QVariant(1.23456) << fixedBar << "" << described(1.235) << none;
+    QTest::newRow("fixed unit beats the unit")
+        << QVariant(1234.56789) << fixedBar << "HectoPascal" << described(1234.568) << none;
+    QTest::newRow("whole number in a fixed unit") << QVariant(3) << fixedBar << ""
+                                                  << "double 3" << none;
+    QTest::newRow("text in a fixed unit") << QVariant("abc") << fixedBar << ""
+                                          << "double 0" << QStringList{notRounded(streamedAbc)};
+    QTest::newRow("unknown fixed unit") << QVariant(1.23456) << T::pressure + "/Nope"
+                                        << "Bar" << described(1.23456) << none;
+    QTest::newRow("fixed unit of an unknown type")
+        << QVariant(1.23456) << "x/y/z/w"
+        << "" << described(1.23456) << QStringList{noConversionForDecimalPlaces("x/y/z")};
+    QTest::newRow("no unit") << QVariant(1.23456) << T::pressure << "NoUnit" << described(1.23456) << none;
+    QTest::newRow("unknown unit") << QVariant(1.23456) << T::pressure << "Nope" << described(1.23456)
+                                  << QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")};
+    QTest::newRow("unknown unit type")
+        << QVariant(1.23456) << T::unknown << "Bar" << described(1.23456)
+        << QStringList{noConversion(conversion, T::unknown), noConversionForDecimalPlaces(T::unknown)};
+    QTest::newRow("unknown unit type without unit")
+        << QVariant(7) << T::unknown << ""
+        << "int 7"
+        << QStringList{noDefaultUnit(T::unknown), noConversion(conversion, T::unknown),
+                       noDefaultUnit(T::unknown), noConversionForDecimalPlaces(T::unknown)};
+    QTest::newRow("no default unit") << QVariant(7) << T::ratio << ""
+                                     << "int 7"
+                                     << QStringList{noDefaultUnit(T::ratio), noDefaultUnit(T::ratio)};
+    QTest::newRow("unit without unit type") << QVariant(7) << ""
+                                            << "Bar"
+                                            << "int 7" << QStringList{noConversionForDecimalPlaces("")};
+    QTest::newRow("neither unit type nor unit")
+        << QVariant(7) << ""
+        << ""
+        << "int 7" << QStringList{noDefaultUnit(""), noConversionForDecimalPlaces("")};
+    QTest::newRow("text that is no number")
+        << QVariant("abc") << T::pressure << "Bar"
+        << "double 0"
+        << notConverted(conversion, "QString", "Bar", "Pressure") + QStringList{notRounded(streamedAbc)};
+    QTest::newRow("text that is a number is rounded all the same")
+        << QVariant("1.23456") << T::pressure << "Bar" << described(1.235)
+        << notConverted(conversion, "QString", "Bar", "Pressure");
+    QTest::newRow("truth value") << QVariant(true) << T::pressure << "Bar"
+                                 << "double 1" << notConverted(conversion, "bool", "Bar", "Pressure");
+    QTest::newRow("invalid value") << QVariant() << T::pressure << "Bar"
+                                   << "double 0"
+                                   << notConverted(conversion, "", "Bar", "Pressure") +
+                                          QStringList{notRounded("QVariant(Invalid)")};
+    QTest::newRow("invalid value with an unknown unit")
+        << QVariant() << T::pressure << "Nope"
+        << "invalid" << QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")};
+    QTest::newRow("marker") << QVariant(marker) << T::pressure << "HectoPascal"
+                            << "double nan" << none;
+}
+
+} // namespace
+
+void UnitManagerConversionTest::initTestCase()
+{
+    QVERIFY(m_manager.initByJsonString(TestDocuments::units(), TestDocuments::defaultUnits()));
+}
+
+void UnitManagerConversionTest::roundDouble_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<unsigned int>("places");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    QTest::newRow("half") << QVariant(1.25) << 1U << described(1.3) << none;
+    QTest::newRow("negative half") << QVariant(-1.25) << 1U << described(-1.3) << none;
+    QTest::newRow("no places") << QVariant(2.5) << 0U << "double 3" << none;
+    QTest::newRow("whole number becomes a double") << QVariant(3) << 2U << "double 3" << none;
+    QTest::newRow("unsigned number becomes a double")
+        << QVariant(4294967295U) << 0U << "double 4294967295" << none;
+    QTest::newRow("long number becomes a double")
+        << QVariant(-4294967296LL) << 1U << "double -4294967296" << none;
+    QTest::newRow("single-precision number becomes a double") << QVariant(2.5F) << 0U << "double 3" << none;
+    QTest::newRow("truth value becomes a double") << QVariant(true) << 0U << "double 1" << none;
+    QTest::newRow("text that is a number") << QVariant("1.25") << 1U << described(1.3) << none;
+    QTest::newRow("marker") << QVariant(marker) << 1U << "double nan" << none;
+    QTest::newRow("infinity") << QVariant(-infinity) << 1U << "double -inf" << none;
+    QTest::newRow("largest number of places") << QVariant(0.1) << 4294967295U << described(0.1) << none;
+    QTest::newRow("text that is no number")
+        << QVariant("abc") << 1U << "double 0" << QStringList{notRounded(streamedAbc)};
+    QTest::newRow("empty text") << QVariant("") << 1U << "double 0"
+                                << QStringList{notRounded("QVariant(QString, \"\")")};
+    QTest::newRow("text with a decimal comma")
+        << QVariant("1,5") << 1U << "double 0" << QStringList{notRounded("QVariant(QString, \"1,5\")")};
+    QTest::newRow("list") << QVariant(QVariantList{1}) << 1U << "double 0"
+                          << QStringList{notRounded("QVariant(QVariantList, (QVariant(int, 1)))")};
+    QTest::newRow("invalid value") << QVariant() << 1U << "double 0"
+                                   << QStringList{notRounded("QVariant(Invalid)")};
+}
+
+void UnitManagerConversionTest::roundDouble()
+{
+    QFETCH(QVariant, value);
+    QFETCH(unsigned int, places);
+    LogCapture log;
+
+    QTEST(described(UnitManager().roundDouble(value, places)), "result");
+    QTEST(describedMessages(log), "messages");
+}
+
+void UnitManagerConversionTest::fromBaseUnit_data()
+{
+    addColumns();
+    const QStringList none;
+    QTest::newRow("unit") << QVariant(1.23456) << T::pressure << "HectoPascal" << described(1234.6) << none;
+    QTest::newRow("empty unit is the default unit")
+        << QVariant(1.23456) << T::pressure << "" << described(1234.6) << none;
+    QTest::newRow("default unit written as a fixed unit")
+        << QVariant(300.0) << T::temperature << "" << described(26.9) << none;
+    QTest::newRow("polynomial without places") << QVariant(1.23456) << T::pressure << "MilliBar"
+                                               << "double 1235" << none;
+    addRowsOfBothDirections(Conversion::FromBase);
+}
+
+void UnitManagerConversionTest::fromBaseUnit()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, unitType);
+    QFETCH(QString, unit);
+    LogCapture log;
+
+    QTEST(described(m_manager.fromBaseUnit(value, unitType, unit)), "result");
+    QTEST(describedMessages(log), "messages");
+}
+
+void UnitManagerConversionTest::toBaseUnit_data()
+{
+    addColumns();
+    const QStringList none;
+    QTest::newRow("rounded to the places of the given unit")
+        << QVariant(1234.56) << T::pressure << "HectoPascal" << described(1.2) << none;
+    QTest::newRow("nothing left at the places of the given unit")
+        << QVariant(1.234) << T::pressure << "HectoPascal"
+        << "double 0" << none;
+    QTest::newRow("base unit has more places")
+        << QVariant(1.234) << T::temperature << "Celsius" << described(274.4) << none;
+    QTest::newRow("empty unit is the default unit")
+        << QVariant(1234.56) << T::pressure << "" << described(1.2) << none;
+    QTest::newRow("polynomial without places") << QVariant(1634.56) << T::pressure << "MilliBar"
+                                               << "double 2" << none;
+    addRowsOfBothDirections(Conversion::ToBase);
+}
+
+void UnitManagerConversionTest::toBaseUnit()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, unitType);
+    QFETCH(QString, unit);
+    const QString given = described(value);
+    LogCapture log;
+
+    QTEST(described(m_manager.toBaseUnit(value, unitType, unit)), "result");
+    QCOMPARE(described(value), given);
+    QTEST(describedMessages(log), "messages");
+}
+
+void UnitManagerConversionTest::rawFormsDoNotRound_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QString>("fromBase");
+    QTest::addColumn<QString>("toBase");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    QTest::newRow("unit") << QVariant(1.23456) << T::pressure << "HectoPascal" << described(1.23456 * 1000.0)
+                          << described(1.23456 * 0.001) << none;
+    QTest::newRow("empty unit is the default unit") << QVariant(2) << T::pressure << ""
+                                                    << "double 2000" << described(2 * 0.001) << none;
+    QTest::newRow("table unit") << QVariant(1.5) << T::ratio << "Counts"
+                                << "double 1.5"
+                                << "double 1.5" << none;
+    QTest::newRow("fixed unit") << QVariant(1.23456) << T::pressure + "/Bar"
+                                << "" << described(1.23456) << described(1.23456) << none;
+    QTest::newRow("whole number in a fixed unit") << QVariant(3) << T::pressure + "/Bar"
+                                                  << ""
+                                                  << "int 3"
+                                                  << "int 3" << none;
+    QTest::newRow("unit without unit type") << QVariant(3) << ""
+                                            << "Bar"
+                                            << "int 3"
+                                            << "int 3" << none;
+    QTest::newRow("no default unit") << QVariant(7) << T::ratio << ""
+                                     << "int 7"
+                                     << "int 7"
+                                     << QStringList{noDefaultUnit(T::ratio), noDefaultUnit(T::ratio)};
+    QTest::newRow("text") << QVariant("abc") << T::pressure << "Bar"
+                          << "QString abc"
+                          << "QString abc"
+                          << notConverted(Conversion::FromBase, "QString", "Bar", "Pressure") +
+                                 notConverted(Conversion::ToBase, "QString", "Bar", "Pressure");
+    QTest::newRow("invalid value") << QVariant() << T::pressure << "Bar"
+                                   << "invalid"
+                                   << "invalid"
+                                   << notConverted(Conversion::FromBase, "", "Bar", "Pressure") +
+                                          notConverted(Conversion::ToBase, "", "Bar", "Pressure");
+    QTest::newRow("marker") << QVariant(marker) << T::pressure << "HectoPascal"
+                            << "double nan"
+                            << "double nan" << none;
+}
+
+void UnitManagerConversionTest::rawFormsDoNotRound()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, unitType);
+    QFETCH(QString, unit);
+    const QString given = described(value);
+    LogCapture log;
+
+    QTEST(described(m_manager.fromBaseUnitRaw(value, unitType, unit)), "fromBase");
+    QTEST(described(m_manager.toBaseUnitRaw(value, unitType, unit)), "toBase");
+    QCOMPARE(described(value), given);
+    QTEST(describedMessages(log), "messages");
+}
+
+void UnitManagerConversionTest::getValue_data()
+{
+    addColumns();
+    const QStringList none;
+    QTest::newRow("unit") << QVariant(1.23456) << T::pressure << "HectoPascal" << described(1.23456 * 1000.0)
+                          << none;
+    QTest::newRow("empty unit is the default unit") << QVariant(2) << T::pressure << ""
+                                                    << "double 2000" << none;
+    QTest::newRow("fixed unit") << QVariant(1.23456) << T::pressure + "/Bar"
+                                << "" << described(1.23456) << none;
+    QTest::newRow("marker") << QVariant(marker) << T::pressure << "HectoPascal"
+                            << "double nan" << none;
+    QTest::newRow("invalid value") << QVariant() << T::pressure << "Bar"
+                                   << "invalid" << none;
+    QTest::newRow("invalid value of an unknown type") << QVariant() << T::unknown << ""
+                                                      << "invalid" << none;
+    QTest::newRow("text") << QVariant("abc") << T::pressure << "Bar"
+                          << "QString abc"
+                          << notConverted(Conversion::FromBase, "QString", "Bar", "Pressure");
+    QTest::newRow("unknown unit type")
+        << QVariant(7) << T::unknown << "Bar"
+        << "int 7" << QStringList{noConversion(Conversion::FromBase, T::unknown)};
+}
+
+void UnitManagerConversionTest::getValue()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, unitType);
+    QFETCH(QString, unit);
+    LogCapture log;
+
+    QTEST(described(m_manager.getValue(value, unitType, unit)), "result");
+    QTEST(describedMessages(log), "messages");
+}
+
+QTEST_GUILESS_MAIN(UnitManagerConversionTest)
+
+#include "UnitManagerConversionTest.moc"

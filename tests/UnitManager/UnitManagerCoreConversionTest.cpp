@@ -1,0 +1,322 @@
+#include "UnitManagerCore.h"
+
+#include <QtTest/QtTest>
+
+#include <cmath>
+#include <limits>
+
+#include "Described.h"
+#include "LogCapture.h"
+#include "RecordingNode.h"
+#include "TestDocuments.h"
+
+class UnitManagerCoreConversionTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void toBaseUnit_data();
+    void toBaseUnit();
+    void fromBaseUnit_data();
+    void fromBaseUnit();
+    void emptyCoreConvertsFixedUnitsOnly();
+    void nodeToBaseUnit_data();
+    void nodeToBaseUnit();
+    void nodeFromBaseUnit_data();
+    void nodeFromBaseUnit();
+    void defaultUnitIsAskedAtEachUse();
+    void documentsMayGiveUnitLessTypes();
+
+private:
+    UnitManagerCore m_core;
+};
+
+namespace {
+
+namespace T = TestUnitType;
+
+using Expected::Conversion;
+using Expected::notConverted;
+
+const double marker = std::numeric_limits<double>::quiet_NaN();
+const float floatMarker = std::numeric_limits<float>::quiet_NaN();
+
+void addConversionColumns()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<bool>("succeeds");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QStringList>("messages");
+}
+
+/// The rows that are the same in both directions: whatever is not converted.
+void addUnconvertedRows(Conversion conversion)
+{
+    const QStringList none;
+    const QString fixedBar = T::pressure + QStringLiteral("/Bar");
+
+    QTest::newRow("fixed unit") << QVariant(1.5) << fixedBar << "" << true << "double 1.5" << none;
+    QTest::newRow("fixed unit beats the unit")
+        << QVariant(1.5) << fixedBar << "HectoPascal" << true << "double 1.5" << none;
+    QTest::newRow("fixed unit takes any value")
+        << QVariant("abc") << fixedBar << "" << true << "QString abc" << none;
+    QTest::newRow("unknown fixed unit") << QVariant(3) << "x/y/z/w"
+                                        << "Bar" << true << "int 3" << none;
+    QTest::newRow("no unit") << QVariant("abc") << T::pressure << "NoUnit" << true << "QString abc" << none;
+    QTest::newRow("no default unit") << QVariant(7) << T::ratio << "" << true << "int 7"
+                                     << QStringList{Expected::noDefaultUnit(T::ratio)};
+    QTest::newRow("text without default unit") << QVariant("abc") << T::ratio << "" << true << "QString abc"
+                                               << QStringList{Expected::noDefaultUnit(T::ratio)};
+    QTest::newRow("unknown unit") << QVariant(3) << T::pressure << "Nope" << false << "int 3"
+                                  << QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")};
+    QTest::newRow("unit in other case") << QVariant(3) << T::pressure << "bar" << false << "int 3"
+                                        << QStringList{Expected::unknownUnit(conversion, "bar", "Pressure")};
+    QTest::newRow("text with an unknown unit")
+        << QVariant("abc") << T::pressure << "Nope" << false << "QString abc"
+        << QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")};
+    QTest::newRow("text") << QVariant("1.5") << T::pressure << "Bar" << false << "QString 1.5"
+                          << notConverted(conversion, "QString", "Bar", "Pressure");
+    QTest::newRow("text in the default unit")
+        << QVariant("1.5") << T::pressure << "" << false << "QString 1.5"
+        << notConverted(conversion, "QString", "HectoPascal", "Pressure");
+    QTest::newRow("truth value") << QVariant(true) << T::pressure << "Bar" << false << "bool true"
+                                 << notConverted(conversion, "bool", "Bar", "Pressure");
+    QTest::newRow("invalid value") << QVariant() << T::pressure << "Bar" << false << "invalid"
+                                   << notConverted(conversion, "", "Bar", "Pressure");
+    QTest::newRow("marker") << QVariant(marker) << T::pressure << "HectoPascal" << true << "double nan"
+                            << none;
+    QTest::newRow("single-precision marker")
+        << QVariant(floatMarker) << T::pressure << "HectoPascal" << true << "float nan" << none;
+    QTest::newRow("marker in the default unit")
+        << QVariant(marker) << T::pressure << "" << true << "double nan" << none;
+    QTest::newRow("marker with an unknown unit")
+        << QVariant(marker) << T::pressure << "Nope" << false << "double nan"
+        << QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")};
+    QTest::newRow("unknown unit type") << QVariant(3) << T::unknown << "Bar" << false << "int 3"
+                                       << QStringList{Expected::noConversion(conversion, T::unknown)};
+    QTest::newRow("unknown unit type without unit")
+        << QVariant(3) << T::unknown << "" << false << "int 3"
+        << QStringList{Expected::noDefaultUnit(T::unknown), Expected::noConversion(conversion, T::unknown)};
+    QTest::newRow("unit type without prefix")
+        << QVariant(3) << "Pressure"
+        << "Bar" << false << "int 3" << QStringList{Expected::noConversion(conversion, "Pressure")};
+    QTest::newRow("four slashes") << QVariant(3) << fixedBar + "/x"
+                                  << "Bar" << false << "int 3"
+                                  << QStringList{Expected::noConversion(conversion, fixedBar + "/x")};
+    QTest::newRow("unit-less type that the document has not")
+        << QVariant(3) << T::noUnit << "" << false << "int 3"
+        << QStringList{Expected::noConversion(conversion, T::noUnit)};
+}
+
+} // namespace
+
+void UnitManagerCoreConversionTest::initTestCase()
+{
+    QVERIFY(m_core.updateUnitConversionByJsonString(TestDocuments::units()));
+    QVERIFY(m_core.updateDefaultUnitsByJsonString(TestDocuments::defaultUnits()));
+}
+
+void UnitManagerCoreConversionTest::toBaseUnit_data()
+{
+    addConversionColumns();
+    const QStringList none;
+    QTest::newRow("unit") << QVariant(1500.0) << T::pressure << "HectoPascal" << true << "double 1.5" << none;
+    QTest::newRow("empty unit is the default unit")
+        << QVariant(1500.0) << T::pressure << "" << true << "double 1.5" << none;
+    QTest::newRow("default unit written as a fixed unit")
+        << QVariant(-273.15) << T::temperature << "" << true << "double 0" << none;
+    QTest::newRow("whole number becomes a double")
+        << QVariant(3) << T::pressure << "Bar" << true << "double 3" << none;
+    QTest::newRow("whole number in the default unit")
+        << QVariant(2000U) << T::pressure << "" << true << "double 2" << none;
+    QTest::newRow("no rounding") << QVariant(1234.5678) << T::pressure << "Bar" << true
+                                 << described(1234.5678) << none;
+    QTest::newRow("table unit") << QVariant(1.5) << T::ratio << "Counts" << true << "double 1.5" << none;
+    QTest::newRow("neither unit type nor unit") << QVariant("abc") << ""
+                                                << "" << true << "QString abc" << none;
+    QTest::newRow("unit without unit type") << QVariant(3) << ""
+                                            << "Bar" << false << "int 3" << none;
+    QTest::newRow("no unit without unit type") << QVariant(3) << ""
+                                               << "NoUnit" << false << "int 3" << none;
+    addUnconvertedRows(Conversion::ToBase);
+}
+
+void UnitManagerCoreConversionTest::toBaseUnit()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, unitType);
+    QFETCH(QString, unit);
+    LogCapture log;
+
+    QTEST(m_core.toBaseUnit(value, unitType, unit), "succeeds");
+    QTEST(described(value), "result");
+    QTEST(describedMessages(log), "messages");
+}
+
+void UnitManagerCoreConversionTest::fromBaseUnit_data()
+{
+    addConversionColumns();
+    const QStringList none;
+    QTest::newRow("unit") << QVariant(1.5) << T::pressure << "HectoPascal" << true << "double 1500" << none;
+    QTest::newRow("empty unit is the default unit")
+        << QVariant(1.5) << T::pressure << "" << true << "double 1500" << none;
+    QTest::newRow("default unit written as a fixed unit")
+        << QVariant(273.15) << T::temperature << "" << true << "double 0" << none;
+    QTest::newRow("whole number becomes a double")
+        << QVariant(3) << T::pressure << "Bar" << true << "double 3" << none;
+    QTest::newRow("no rounding") << QVariant(1234.5678) << T::pressure << "Bar" << true
+                                 << described(1234.5678) << none;
+    QTest::newRow("table unit") << QVariant(1.5) << T::ratio << "Counts" << true << "double 1.5" << none;
+    QTest::newRow("neither unit type nor unit") << QVariant("abc") << ""
+                                                << "" << true << "QString abc" << none;
+    QTest::newRow("unit without unit type") << QVariant(3) << ""
+                                            << "Bar" << true << "int 3" << none;
+    addUnconvertedRows(Conversion::FromBase);
+}
+
+void UnitManagerCoreConversionTest::fromBaseUnit()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, unitType);
+    QFETCH(QString, unit);
+    const QString given = described(value);
+    LogCapture log;
+
+    QTEST(described(m_core.fromBaseUnit(value, unitType, unit)), "result");
+    QCOMPARE(described(value), given);
+    QTEST(describedMessages(log), "messages");
+}
+
+void UnitManagerCoreConversionTest::emptyCoreConvertsFixedUnitsOnly()
+{
+    const UnitManagerCore core;
+    QVariant value(3);
+    LogCapture log;
+
+    QVERIFY(core.toBaseUnit(value, T::pressure + "/Bar", QString()));
+    QVERIFY(core.toBaseUnit(value, QString(), QString()));
+    QVERIFY(!core.toBaseUnit(value, QString(), QStringLiteral("Bar")));
+    QCOMPARE(described(core.fromBaseUnit(value, T::pressure + "/Bar", QString())), QStringLiteral("int 3"));
+    QCOMPARE(describedMessages(log), QStringList());
+
+    QVERIFY(!core.toBaseUnit(value, T::pressure, QStringLiteral("Bar")));
+    QCOMPARE(described(value), QStringLiteral("int 3"));
+    QCOMPARE(describedMessages(log), QStringList{Expected::noConversion(Conversion::ToBase, T::pressure)});
+}
+
+void UnitManagerCoreConversionTest::nodeToBaseUnit_data()
+{
+    QTest::addColumn<QVariant>("unitType");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<bool>("succeeds");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    QTest::newRow("unit") << QVariant(T::pressure) << "HectoPascal" << true << "double 2" << none;
+    QTest::newRow("default unit") << QVariant(T::pressure) << "" << true << "double 2" << none;
+    QTest::newRow("fixed unit") << QVariant(T::pressure + "/Bar") << "HectoPascal" << true << "int 2000"
+                                << none;
+    QTest::newRow("no unit type, no unit") << QVariant() << "" << true << "int 2000" << none;
+    QTest::newRow("no unit type, a unit") << QVariant() << "Bar" << false << "int 2000" << none;
+    QTest::newRow("unit type that is no text, no unit")
+        << QVariant(QVariantList{1}) << "" << true << "int 2000" << none;
+    QTest::newRow("unit type that is no text, a unit")
+        << QVariant(QVariantList{1}) << "Bar" << false << "int 2000" << none;
+    QTest::newRow("unknown unit") << QVariant(T::pressure) << "Nope" << false << "int 2000"
+                                  << QStringList{
+                                         Expected::unknownUnit(Conversion::ToBase, "Nope", "Pressure")};
+    QTest::newRow("unknown unit type") << QVariant(T::unknown) << "Bar" << false << "int 2000"
+                                       << QStringList{Expected::noConversion(Conversion::ToBase, T::unknown)};
+}
+
+void UnitManagerCoreConversionTest::nodeToBaseUnit()
+{
+    QFETCH(QVariant, unitType);
+    QFETCH(QString, unit);
+    const auto node = RecordingNode::number(1.5, unitType);
+    QVariant value(2000);
+    LogCapture log;
+
+    QTEST(m_core.toBaseUnit(node, value, unit), "succeeds");
+    QTEST(described(value), "result");
+    QTEST(describedMessages(log), "messages");
+    QCOMPARE(described(node->value()), QStringLiteral("double 1.5"));
+}
+
+void UnitManagerCoreConversionTest::nodeFromBaseUnit_data()
+{
+    QTest::addColumn<QVariant>("unitType");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    QTest::newRow("unit") << QVariant(T::pressure) << "HectoPascal"
+                          << "double 2000" << none;
+    QTest::newRow("default unit") << QVariant(T::pressure) << ""
+                                  << "double 2000" << none;
+    QTest::newRow("fixed unit") << QVariant(T::pressure + "/Bar") << "HectoPascal"
+                                << "int 2" << none;
+    QTest::newRow("no unit type") << QVariant() << "Bar"
+                                  << "int 2" << none;
+    QTest::newRow("unit type that is no text") << QVariant(QVariantList{1}) << "Bar"
+                                               << "int 2" << none;
+    QTest::newRow("unknown unit") << QVariant(T::pressure) << "Nope"
+                                  << "int 2"
+                                  << QStringList{
+                                         Expected::unknownUnit(Conversion::FromBase, "Nope", "Pressure")};
+    QTest::newRow("unknown unit type")
+        << QVariant(T::unknown) << "Bar"
+        << "int 2" << QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)};
+}
+
+void UnitManagerCoreConversionTest::nodeFromBaseUnit()
+{
+    QFETCH(QVariant, unitType);
+    QFETCH(QString, unit);
+    const auto node = RecordingNode::number(1.5, unitType);
+    LogCapture log;
+
+    QTEST(described(m_core.fromBaseUnit(node, QVariant(2), unit)), "result");
+    QTEST(describedMessages(log), "messages");
+}
+
+void UnitManagerCoreConversionTest::defaultUnitIsAskedAtEachUse()
+{
+    UnitManagerCore core = m_core;
+    QVERIFY(core.updateDefaultUnitsByJsonString(
+        QStringLiteral(R"({ "Pressure": { "@type": "Selection", "@value": "Bar" } })")));
+    QCOMPARE(described(core.fromBaseUnit(1.5, T::pressure, QString())), QStringLiteral("double 1.5"));
+    QCOMPARE(described(m_core.fromBaseUnit(1.5, T::pressure, QString())), QStringLiteral("double 1500"));
+
+    QVERIFY(core.updateDefaultUnitsByJsonString(QString()));
+    LogCapture log;
+    QCOMPARE(described(core.fromBaseUnit(7, T::pressure, QString())), QStringLiteral("int 7"));
+    QCOMPARE(described(core.fromBaseUnit(7, T::pressure, QString())), QStringLiteral("int 7"));
+    QCOMPARE(describedMessages(log),
+             (QStringList{Expected::noDefaultUnit(T::pressure), Expected::noDefaultUnit(T::pressure)}));
+}
+
+void UnitManagerCoreConversionTest::documentsMayGiveUnitLessTypes()
+{
+    UnitManagerCore core;
+    LogCapture log;
+    QVERIFY(!core.updateUnitConversionByJsonString(QStringLiteral(R"({ "NoUnit": { "NoUnit": {} } })")));
+    QCOMPARE(log.takeTexts(),
+             (QStringList{QStringLiteral("Cannot convert displayPosition to int: QVariant(Invalid) !"),
+                          QStringLiteral("No Base unit label given for \"UnitManager/UnitType/NoUnit\"")}));
+
+    QVariant value(QStringLiteral("abc"));
+    QVERIFY(core.toBaseUnit(value, T::noUnit, QString()));
+    QCOMPARE(described(value), QStringLiteral("QString abc"));
+    QCOMPARE(core.getBaseUnit(T::noUnit), T::noUnit + "/NoUnit");
+    QCOMPARE(describedMessages(log), QStringList());
+}
+
+QTEST_GUILESS_MAIN(UnitManagerCoreConversionTest)
+
+#include "UnitManagerCoreConversionTest.moc"

@@ -1,0 +1,309 @@
+#include "UnitManagerCore.h"
+
+#include <QtTest/QtTest>
+
+#include <type_traits>
+
+#include "Described.h"
+#include "LogCapture.h"
+#include "RecordingNode.h"
+#include "TestDocuments.h"
+
+static_assert(std::has_virtual_destructor_v<UnitManagerCore>);
+static_assert(std::is_copy_constructible_v<UnitManagerCore> && std::is_copy_assignable_v<UnitManagerCore>);
+static_assert(std::is_convertible_v<UnitManagerCore, bool>);
+static_assert(std::is_convertible_v<UnitConversionLookUp, bool>);
+static_assert(std::is_convertible_v<DefaultUnitHandler, bool>);
+static_assert(std::is_convertible_v<UnitTextHandler, bool>);
+static_assert(sizeof(UnitManagerCore) == sizeof(void*) + sizeof(UnitConversionLookUp) +
+                                             sizeof(DefaultUnitHandler) + sizeof(UnitTextHandler),
+              "three members by value");
+
+/// Fixed units, unit types of nodes, decimal places and the catalogue.
+/// Loading, conversions and labels have tests of their own.
+class UnitManagerCoreTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void fixedUnitsAreCountedBySlashes_data();
+    void fixedUnitsAreCountedBySlashes();
+    void fixedUnitsAreSplitAtTheLastSlash_data();
+    void fixedUnitsAreSplitAtTheLastSlash();
+    void otherTextsAreNotSplit_data();
+    void otherTextsAreNotSplit();
+    void splittingMayOverwriteItsInput();
+    void unitTypeOfNode_data();
+    void unitTypeOfNode();
+    void unitTypeOfNullNode();
+    void unitTypeOfChild();
+    void decimalPlaces_data();
+    void decimalPlaces();
+    void catalogueQuestions();
+
+private:
+    UnitManagerCore m_core;
+};
+
+namespace {
+
+namespace T = TestUnitType;
+
+} // namespace
+
+void UnitManagerCoreTest::init()
+{
+    m_core = UnitManagerCore();
+    QVERIFY(m_core.updateUnitConversionByJsonString(TestDocuments::units()));
+    QVERIFY(m_core.updateDefaultUnitsByJsonString(TestDocuments::defaultUnits()));
+}
+
+void UnitManagerCoreTest::fixedUnitsAreCountedBySlashes_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isFixed");
+
+    QTest::newRow("unit identifier") << T::pressure + "/Bar" << true;
+    QTest::newRow("unit type") << T::pressure << false;
+    QTest::newRow("two slashes of other text") << "a/b/c" << false;
+    QTest::newRow("three slashes of other text") << "x/y/z/w" << true;
+    QTest::newRow("four slashes") << T::pressure + "/Bar/x" << false;
+    QTest::newRow("last part empty") << "a/b/c/" << true;
+    QTest::newRow("last two parts empty") << "a/b//" << true;
+    QTest::newRow("all parts empty") << "///" << true;
+    QTest::newRow("first part empty") << "/a/b/c" << true;
+    QTest::newRow("prefix alone") << "UnitManager/UnitType/" << false;
+    QTest::newRow("backslashes do not count") << "a\\b\\c\\d" << false;
+    QTest::newRow("division slashes do not count") << QStringLiteral("a\u2215b\u2215c\u2215d") << false;
+    QTest::newRow("empty") << "" << false;
+}
+
+void UnitManagerCoreTest::fixedUnitsAreCountedBySlashes()
+{
+    QFETCH(QString, text);
+
+    QTEST(m_core.isFixedUnitType(text), "isFixed");
+    QTEST(UnitManagerCore().isFixedUnitType(text), "isFixed");
+}
+
+void UnitManagerCoreTest::fixedUnitsAreSplitAtTheLastSlash_data()
+{
+    QTest::addColumn<QString>("fixedUnit");
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QString>("unit");
+
+    QTest::newRow("unit identifier") << T::pressure + "/Bar" << T::pressure << "Bar";
+    QTest::newRow("other text") << "x/y/z/w"
+                                << "x/y/z"
+                                << "w";
+    QTest::newRow("last part empty") << "a/b/c/"
+                                     << "a/b/c"
+                                     << "";
+    QTest::newRow("last two parts empty") << "a/b//"
+                                          << "a/b/"
+                                          << "";
+    QTest::newRow("inner parts empty") << "a///b"
+                                       << "a//"
+                                       << "b";
+    QTest::newRow("all parts empty") << "///"
+                                     << "//"
+                                     << "";
+}
+
+void UnitManagerCoreTest::fixedUnitsAreSplitAtTheLastSlash()
+{
+    QFETCH(QString, fixedUnit);
+    QString unitType = QStringLiteral("old type");
+    QString unit = QStringLiteral("old unit");
+    LogCapture log;
+
+    QVERIFY(m_core.extractUnitTypeAndUnit(fixedUnit, unitType, unit));
+    QTEST(unitType, "unitType");
+    QTEST(unit, "unit");
+    QCOMPARE(describedMessages(log), QStringList());
+}
+
+void UnitManagerCoreTest::otherTextsAreNotSplit_data()
+{
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("unit type") << T::pressure;
+    QTest::newRow("four slashes") << T::pressure + "/Bar/x";
+    QTest::newRow("unit name") << "Bar";
+    QTest::newRow("empty") << "";
+}
+
+void UnitManagerCoreTest::otherTextsAreNotSplit()
+{
+    QFETCH(QString, text);
+    QString unitType = QStringLiteral("old type");
+    QString unit = QStringLiteral("old unit");
+    LogCapture log;
+
+    QVERIFY(!m_core.extractUnitTypeAndUnit(text, unitType, unit));
+    QCOMPARE(unitType, QStringLiteral("old type"));
+    QCOMPARE(unit, QStringLiteral("old unit"));
+    QCOMPARE(describedMessages(log), QStringList{Expected::noFixedUnit(text)});
+}
+
+void UnitManagerCoreTest::splittingMayOverwriteItsInput()
+{
+    QString intoType = T::pressure + QStringLiteral("/Bar");
+    QString unit;
+    QVERIFY(m_core.extractUnitTypeAndUnit(intoType, intoType, unit));
+    QCOMPARE(intoType, T::pressure);
+    QCOMPARE(unit, QStringLiteral("Bar"));
+
+    QString intoUnit = T::pressure + QStringLiteral("/Bar");
+    QString unitType;
+    QVERIFY(m_core.extractUnitTypeAndUnit(intoUnit, unitType, intoUnit));
+    QCOMPARE(unitType, T::pressure);
+    QCOMPARE(intoUnit, QStringLiteral("Bar"));
+}
+
+void UnitManagerCoreTest::unitTypeOfNode_data()
+{
+    QTest::addColumn<QVariant>("property");
+    QTest::addColumn<bool>("found");
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QStringList>("calls");
+
+    const QStringList asked{QStringLiteral("hasProperty @unitType")};
+    const QStringList read = asked + QStringList{QStringLiteral("getProperty @unitType")};
+
+    QTest::newRow("text") << QVariant(T::pressure) << true << T::pressure << read;
+    QTest::newRow("fixed unit stays whole")
+        << QVariant(T::pressure + "/Bar") << true << T::pressure + "/Bar" << read;
+    QTest::newRow("empty text") << QVariant(QString("")) << true << "" << read;
+    QTest::newRow("number converts to a text") << QVariant(5) << true << "5" << read;
+    QTest::newRow("list does not convert") << QVariant(QVariantList{1}) << false << "old type" << read;
+    QTest::newRow("map does not convert")
+        << QVariant(QVariantMap{{"en", "bar"}}) << false << "old type" << read;
+    QTest::newRow("no property") << QVariant() << false << "old type" << asked;
+}
+
+void UnitManagerCoreTest::unitTypeOfNode()
+{
+    QFETCH(QVariant, property);
+    QFETCH(QString, unitType);
+    const auto node = RecordingNode::number(1.5, property);
+    QString foundType = QStringLiteral("old type");
+    QString unit = QStringLiteral("old unit");
+    LogCapture log;
+
+    QTEST(m_core.getUnitProperties(node, foundType, unit), "found");
+    QCOMPARE(foundType, unitType);
+    QCOMPARE(unit, QStringLiteral("old unit"));
+    QTEST(node->calls(), "calls");
+    QCOMPARE(describedMessages(log), QStringList());
+}
+
+void UnitManagerCoreTest::unitTypeOfNullNode()
+{
+    QString unitType = QStringLiteral("old type");
+    QString unit = QStringLiteral("old unit");
+    LogCapture log;
+
+    QVERIFY(!m_core.getUnitProperties(BaseClassSharedPointer(), unitType, unit));
+    QVERIFY(!m_core.getUnitProperties(BaseClassSharedPointer(), QStringLiteral("Value"), unitType, unit));
+    QCOMPARE(unitType, QStringLiteral("old type"));
+    QCOMPARE(unit, QStringLiteral("old unit"));
+    QCOMPARE(describedMessages(log), QStringList());
+}
+
+void UnitManagerCoreTest::unitTypeOfChild()
+{
+    const auto child = RecordingNode::number(1.5, T::pressure);
+    const auto parent = RecordingNode::parentOf(child);
+    QString unitType = QStringLiteral("old type");
+    QString unit = QStringLiteral("old unit");
+
+    QVERIFY(!m_core.getUnitProperties(parent, QStringLiteral("Missing"), unitType, unit));
+    QCOMPARE(unitType, QStringLiteral("old type"));
+    QVERIFY(m_core.getUnitProperties(parent, QStringLiteral("Value"), unitType, unit));
+    QCOMPARE(unitType, T::pressure);
+    QCOMPARE(unit, QStringLiteral("old unit"));
+    QCOMPARE(parent->calls(),
+             (QStringList{QStringLiteral("getChild Missing"), QStringLiteral("getChild Value")}));
+}
+
+void UnitManagerCoreTest::decimalPlaces_data()
+{
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<bool>("found");
+    QTest::addColumn<unsigned int>("places");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    QTest::newRow("unit") << T::pressure << "Bar" << true << 3U << none;
+    QTest::newRow("empty unit is the default unit") << T::pressure << "" << true << 1U << none;
+    QTest::newRow("default unit written as a fixed unit") << T::temperature << "" << true << 1U << none;
+    QTest::newRow("fixed unit") << T::pressure + "/Bar"
+                                << "" << true << 3U << none;
+    QTest::newRow("fixed unit beats the unit") << T::pressure + "/Bar"
+                                               << "HectoPascal" << true << 3U << none;
+    QTest::newRow("polynomial without places") << T::pressure << "MilliBar" << true << 0U << none;
+    QTest::newRow("table unit") << T::ratio << "Counts" << true << 0U << none;
+    QTest::newRow("unknown unit") << T::pressure << "Nope" << false << 77U << none;
+    QTest::newRow("unit in other case") << T::pressure << "bar" << false << 77U << none;
+    QTest::newRow("unknown fixed unit") << T::pressure + "/Nope"
+                                        << "Bar" << false << 77U << none;
+    QTest::newRow("fixed unit with empty last part") << T::pressure + "/"
+                                                     << "Bar" << false << 77U << none;
+    QTest::newRow("no unit") << T::pressure << "NoUnit" << false << 77U << none;
+    QTest::newRow("no default unit") << T::ratio << "" << false << 77U
+                                     << QStringList{Expected::noDefaultUnit(T::ratio)};
+    QTest::newRow("unknown unit type") << T::unknown << "Bar" << false << 77U
+                                       << QStringList{Expected::noConversionForDecimalPlaces(T::unknown)};
+    QTest::newRow("fixed unit of an unknown type")
+        << T::unknown + "/Bar"
+        << "" << false << 77U << QStringList{Expected::noConversionForDecimalPlaces(T::unknown)};
+    QTest::newRow("unit type without prefix")
+        << "Pressure"
+        << "Bar" << false << 77U << QStringList{Expected::noConversionForDecimalPlaces("Pressure")};
+    QTest::newRow("no unit type") << ""
+                                  << "" << false << 77U
+                                  << QStringList{Expected::noDefaultUnit(""),
+                                                 Expected::noConversionForDecimalPlaces("")};
+}
+
+void UnitManagerCoreTest::decimalPlaces()
+{
+    QFETCH(QString, unitType);
+    QFETCH(QString, unit);
+    unsigned int places = 77;
+    LogCapture log;
+
+    QTEST(m_core.getDecimalPlacesForUnit(unitType, unit, places), "found");
+    QTEST(places, "places");
+    QTEST(describedMessages(log), "messages");
+}
+
+void UnitManagerCoreTest::catalogueQuestions()
+{
+    QStringList unitTypes = m_core.getListofUnitTypes();
+    unitTypes.sort();
+    QCOMPARE(unitTypes, (QStringList{T::temperature, T::pressure, T::ratio}));
+    QStringList units = m_core.getListofUnits(T::pressure);
+    units.sort();
+    QCOMPARE(units, (QStringList{"Bar", "HectoPascal", "MilliBar"}));
+
+    LogCapture log;
+    QCOMPARE(m_core.getListofUnits(T::unknown), QStringList());
+    QCOMPARE(m_core.getListofUnits(QStringLiteral("Pressure")), QStringList());
+    QCOMPARE(m_core.getBaseUnit(T::pressure), T::pressure + "/Bar");
+    QCOMPARE(m_core.getDefaultUnit(T::temperature), QStringLiteral("Celsius"));
+    QCOMPARE(m_core.getDefaultUnit(T::noUnit), QString());
+    QCOMPARE(describedMessages(log), QStringList());
+
+    QCOMPARE(m_core.getBaseUnit(QStringLiteral("NoUnit")), QString());
+    QCOMPARE(m_core.getDefaultUnit(T::ratio), QString());
+    QCOMPARE(describedMessages(log),
+             (QStringList{Expected::noBaseUnit("NoUnit"), Expected::noDefaultUnit(T::ratio)}));
+}
+
+QTEST_GUILESS_MAIN(UnitManagerCoreTest)
+
+#include "UnitManagerCoreTest.moc"

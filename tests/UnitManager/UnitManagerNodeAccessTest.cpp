@@ -1,0 +1,342 @@
+#include "UnitManager.h"
+
+#include <QtTest/QtTest>
+
+#include <limits>
+
+#include "ConfigurationAndProcessDataParser.h"
+#include "Described.h"
+#include "LogCapture.h"
+#include "PropertyManagerConst.h"
+#include "RecordingNode.h"
+#include "TestDocuments.h"
+
+class UnitManagerNodeAccessTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void getValue_data();
+    void getValue();
+    void getValueAsksForTheUnitTypeOfNumbersOnly_data();
+    void getValueAsksForTheUnitTypeOfNumbersOnly();
+    void setValue_data();
+    void setValue();
+    void writeStatusIsHandedOn_data();
+    void writeStatusIsHandedOn();
+    void nothingWithoutChild_data();
+    void nothingWithoutChild();
+    void getUnitText_data();
+    void getUnitText();
+    void parsedNodes();
+
+private:
+    UnitManager m_manager;
+};
+
+Q_DECLARE_METATYPE(QSharedPointer<RecordingNode>)
+
+namespace {
+
+namespace T = TestUnitType;
+
+using Expected::Conversion;
+using Expected::notConverted;
+using Node = QSharedPointer<RecordingNode>;
+
+const double marker = std::numeric_limits<double>::quiet_NaN();
+
+const QString key = QStringLiteral("Value");
+const QStringList asked{QStringLiteral("hasProperty @unitType")};
+const QStringList read = asked + QStringList{QStringLiteral("getProperty @unitType")};
+const QString written = QStringLiteral("setProperty @value");
+
+} // namespace
+
+void UnitManagerNodeAccessTest::initTestCase()
+{
+    QVERIFY(m_manager.initByJsonString(TestDocuments::units(), TestDocuments::defaultUnits()));
+}
+
+void UnitManagerNodeAccessTest::getValue_data()
+{
+    QTest::addColumn<Node>("node");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QStringList>("messages");
+
+    const auto number = &RecordingNode::number;
+    const QString fixedBar = T::pressure + QStringLiteral("/Bar");
+    const QStringList none;
+    QTest::newRow("unit, not rounded")
+        << number(1.23456, T::pressure) << "HectoPascal" << described(1.23456 * 1000.0) << none;
+    QTest::newRow("default unit") << number(2.0, T::pressure) << ""
+                                  << "double 2000" << none;
+    QTest::newRow("whole number") << number(2, T::pressure) << "HectoPascal"
+                                  << "double 2000" << none;
+    QTest::newRow("fixed unit") << number(1.23456, fixedBar) << "HectoPascal" << described(1.23456) << none;
+    QTest::newRow("number without unit type") << number(2, QVariant()) << "Bar"
+                                              << "int 2" << none;
+    QTest::newRow("unit type that is no text") << number(2, QVariantList{1}) << "Bar"
+                                               << "int 2" << none;
+    QTest::newRow("marker") << number(marker, T::pressure) << "HectoPascal"
+                            << "double nan" << none;
+    QTest::newRow("marker with an unknown unit") << number(marker, T::pressure) << "Nope"
+                                                 << "double nan" << none;
+    QTest::newRow("no value") << number(QVariant(), T::pressure) << "HectoPascal"
+                              << "invalid" << none;
+    QTest::newRow("text") << RecordingNode::text("abc", T::pressure) << "HectoPascal"
+                          << "QString abc" << none;
+    QTest::newRow("number in a text node") << RecordingNode::text(2, T::pressure) << "HectoPascal"
+                                           << "int 2" << none;
+    QTest::newRow("text in a number node") << number("abc", T::pressure) << "HectoPascal"
+                                           << "QString abc" << none;
+    QTest::newRow("unknown unit") << number(2, T::pressure) << "Nope"
+                                  << "int 2"
+                                  << QStringList{
+                                         Expected::unknownUnit(Conversion::FromBase, "Nope", "Pressure")};
+    QTest::newRow("unknown unit type")
+        << number(2, T::unknown) << "Bar"
+        << "int 2" << QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)};
+}
+
+void UnitManagerNodeAccessTest::getValue()
+{
+    QFETCH(Node, node);
+    QFETCH(QString, unit);
+    const QString stored = described(node->value());
+    const Node parent = RecordingNode::parentOf(node);
+    LogCapture log;
+
+    QTEST(described(m_manager.getValue(key, parent, unit)), "result");
+    QTEST(describedMessages(log), "messages");
+    QCOMPARE(parent->calls(), QStringList{QStringLiteral("getChild Value")});
+    QCOMPARE(node->calls().value(0), QStringLiteral("getProperty @value"));
+    QCOMPARE(node->calls().filter(QStringLiteral("setProperty")), QStringList());
+    QCOMPARE(node->calls().filter(QStringLiteral("changeProperty")), QStringList());
+    QCOMPARE(described(node->value()), stored);
+}
+
+void UnitManagerNodeAccessTest::getValueAsksForTheUnitTypeOfNumbersOnly_data()
+{
+    QTest::addColumn<Node>("node");
+    QTest::addColumn<QStringList>("unitTypeCalls");
+
+    const QStringList none;
+    QTest::newRow("number") << RecordingNode::number(2, T::pressure) << read;
+    QTest::newRow("number without unit type") << RecordingNode::number(2) << asked;
+    QTest::newRow("marker") << RecordingNode::number(marker, T::pressure) << none;
+    QTest::newRow("no value") << RecordingNode::number(QVariant(), T::pressure) << none;
+    QTest::newRow("text") << RecordingNode::text("abc", T::pressure) << none;
+}
+
+void UnitManagerNodeAccessTest::getValueAsksForTheUnitTypeOfNumbersOnly()
+{
+    QFETCH(Node, node);
+
+    m_manager.getValue(key, RecordingNode::parentOf(node), QString());
+
+    QTEST(node->calls().filter(QStringLiteral("@unitType")), "unitTypeCalls");
+}
+
+void UnitManagerNodeAccessTest::setValue_data()
+{
+    QTest::addColumn<Node>("node");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QStringList>("calls");
+    QTest::addColumn<QStringList>("messages");
+
+    const auto number = [](const QVariant& unitType) {
+        return RecordingNode::number(1.5, unitType);
+    };
+    const QString fixedBar = T::pressure + QStringLiteral("/Bar");
+    const QStringList none;
+    const QStringList readAndWritten = read + QStringList{written};
+    QTest::newRow("unit, not rounded") << number(T::pressure) << QVariant(1234.56) << "HectoPascal" << 0
+                                       << described(1234.56 * 0.001) << readAndWritten << none;
+    QTest::newRow("default unit") << number(T::pressure) << QVariant(2000) << "" << 0 << "double 2"
+                                  << readAndWritten << none;
+    QTest::newRow("fixed unit") << number(fixedBar) << QVariant(3) << "HectoPascal" << 0 << "int 3"
+                                << readAndWritten << none;
+    QTest::newRow("text in a fixed unit")
+        << number(fixedBar) << QVariant("abc") << "" << 0 << "QString abc" << readAndWritten << none;
+    QTest::newRow("no unit type, no unit") << number(QVariant()) << QVariant("abc") << "" << 0
+                                           << "QString abc" << asked + QStringList{written} << none;
+    QTest::newRow("no unit type, a unit")
+        << number(QVariant()) << QVariant(3) << "Bar" << 2 << "double 1.5" << asked << none;
+    QTest::newRow("unit type that is no text")
+        << number(QVariantList{1}) << QVariant(3) << "" << 0 << "int 3" << readAndWritten << none;
+    QTest::newRow("text") << number(T::pressure) << QVariant("abc") << "Bar" << 2 << "double 1.5" << read
+                          << notConverted(Conversion::ToBase, "QString", "Bar", "Pressure");
+    QTest::newRow("text into a text node with unit type")
+        << RecordingNode::text("old", T::pressure) << QVariant("abc") << "Bar" << 2 << "QString old" << read
+        << notConverted(Conversion::ToBase, "QString", "Bar", "Pressure");
+    QTest::newRow("number into a text node is converted")
+        << RecordingNode::text("old", T::pressure) << QVariant(2000) << "HectoPascal" << 0 << "double 2"
+        << readAndWritten << none;
+    QTest::newRow("unknown unit") << number(T::pressure) << QVariant(3) << "Nope" << 2 << "double 1.5" << read
+                                  << QStringList{
+                                         Expected::unknownUnit(Conversion::ToBase, "Nope", "Pressure")};
+    QTest::newRow("unknown unit type")
+        << number(T::unknown) << QVariant(3) << "Bar" << 2 << "double 1.5" << read
+        << QStringList{Expected::noConversion(Conversion::ToBase, T::unknown)};
+    QTest::newRow("no default unit") << number(T::ratio) << QVariant(3) << "" << 0 << "int 3"
+                                     << readAndWritten << QStringList{Expected::noDefaultUnit(T::ratio)};
+    QTest::newRow("invalid value") << number(T::pressure) << QVariant() << "Bar" << 2 << "double 1.5" << read
+                                   << notConverted(Conversion::ToBase, "", "Bar", "Pressure");
+    QTest::newRow("marker") << number(T::pressure) << QVariant(marker) << "Bar" << 0 << "double nan"
+                            << QStringList{written} << none;
+    QTest::newRow("marker with an unknown unit") << number(T::pressure) << QVariant(marker) << "Nope" << 0
+                                                 << "double nan" << QStringList{written} << none;
+    QTest::newRow("marker without unit type, with a unit")
+        << number(QVariant()) << QVariant(marker) << "Bar" << 0 << "double nan" << QStringList{written}
+        << none;
+}
+
+void UnitManagerNodeAccessTest::setValue()
+{
+    QFETCH(Node, node);
+    QFETCH(QVariant, value);
+    QFETCH(QString, unit);
+    const QString given = described(value);
+    const Node parent = RecordingNode::parentOf(node);
+    LogCapture log;
+
+    QTEST(m_manager.setValueStatus(key, parent, value, unit), "status");
+    QTEST(described(node->value()), "stored");
+    QTEST(node->calls(), "calls");
+    QTEST(describedMessages(log), "messages");
+    QCOMPARE(parent->calls(), QStringList{QStringLiteral("getChild Value")});
+    QCOMPARE(described(value), given);
+}
+
+void UnitManagerNodeAccessTest::writeStatusIsHandedOn_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::addColumn<bool>("isWritten");
+
+    QTest::newRow("changed") << 0 << true;
+    QTest::newRow("equal already") << 1 << true;
+    QTest::newRow("refused") << 2 << false;
+    QTest::newRow("beyond the known ones") << 3 << false;
+}
+
+void UnitManagerNodeAccessTest::writeStatusIsHandedOn()
+{
+    QFETCH(int, status);
+    const Node child = RecordingNode::number(1.5, T::pressure);
+    const Node parent = RecordingNode::parentOf(child);
+    child->setWriteStatus(status);
+
+    QCOMPARE(m_manager.setValueStatus(key, parent, 3, QStringLiteral("Bar")), status);
+    QCOMPARE(m_manager.setValueStatus(key, parent, marker, QStringLiteral("Bar")), status);
+    QTEST(m_manager.setValue(key, parent, 3, QStringLiteral("Bar")), "isWritten");
+}
+
+void UnitManagerNodeAccessTest::nothingWithoutChild_data()
+{
+    QTest::addColumn<Node>("node");
+    QTest::addColumn<QString>("childKey");
+
+    QTest::newRow("null node") << Node() << key;
+    QTest::newRow("no such child") << RecordingNode::parentOf(RecordingNode::number(1.5, T::pressure))
+                                   << "Missing";
+    QTest::newRow("null child") << RecordingNode::parentOf(Node()) << key;
+}
+
+void UnitManagerNodeAccessTest::nothingWithoutChild()
+{
+    QFETCH(Node, node);
+    QFETCH(QString, childKey);
+    LogCapture log;
+
+    QCOMPARE(described(m_manager.getValue(childKey, node, QString())), QStringLiteral("invalid"));
+    QCOMPARE(m_manager.setValueStatus(childKey, node, 3, QString()), 2);
+    QCOMPARE(m_manager.setValueStatus(childKey, node, marker, QString()), 2);
+    QVERIFY(!m_manager.setValue(childKey, node, 3, QString()));
+    QCOMPARE(m_manager.getUnitText(childKey, node, QStringLiteral("de"), QStringLiteral("Bar")), QString());
+    QCOMPARE(describedMessages(log), QStringList());
+}
+
+void UnitManagerNodeAccessTest::getUnitText_data()
+{
+    QTest::addColumn<Node>("node");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("messages");
+
+    const auto number = [](const QVariant& unitType) {
+        return RecordingNode::number(1.5, unitType);
+    };
+    const QString fixedBar = T::pressure + QStringLiteral("/Bar");
+    const QStringList none;
+    QTest::newRow("unit") << number(T::pressure) << "Bar"
+                          << "Bar" << none;
+    QTest::newRow("default unit") << number(T::pressure) << ""
+                                  << "Hektopascal" << none;
+    QTest::newRow("fixed unit") << number(fixedBar) << "HectoPascal"
+                                << "Bar" << none;
+    QTest::newRow("fixed unit without unit") << number(fixedBar) << ""
+                                             << "Bar" << QStringList{Expected::noDefaultUnit(fixedBar)};
+    QTest::newRow("unit-less type") << number(T::noUnit) << ""
+                                    << "" << none;
+    QTest::newRow("text node") << RecordingNode::text("abc", T::pressure) << "Bar"
+                               << "Bar" << none;
+    QTest::newRow("no unit type") << number(QVariant()) << "Bar"
+                                  << "" << QStringList{Expected::unknownTextType("")};
+    QTest::newRow("no unit type, no unit")
+        << number(QVariant()) << ""
+        << "" << QStringList{Expected::noDefaultUnit(""), Expected::unknownTextType("")};
+}
+
+void UnitManagerNodeAccessTest::getUnitText()
+{
+    QFETCH(Node, node);
+    QFETCH(QString, unit);
+    const Node parent = RecordingNode::parentOf(node);
+    LogCapture log;
+
+    QTEST(m_manager.getUnitText(key, parent, QStringLiteral("de"), unit), "text");
+    QTEST(describedMessages(log), "messages");
+    QCOMPARE(parent->calls(), QStringList{QStringLiteral("getChild Value")});
+}
+
+void UnitManagerNodeAccessTest::parsedNodes()
+{
+    const BaseClassSharedPointer root =
+        ConfigurationAndProcessDataParser().parseFromJson(QStringLiteral(R"json({
+            "Pressure": { "@value": 1.5, "@unitType": "UnitManager/UnitType/Pressure" },
+            "Empty": { "@type": "Number", "@value": null, "@unitType": "UnitManager/UnitType/Pressure" },
+            "Name": { "@value": "pump", "@unitType": "UnitManager/UnitType/Pressure" },
+            "Locked": { "@value": 1.5, "@unitType": "UnitManager/UnitType/Pressure", "@readOnly": true }
+        })json"),
+                                                          PropertyManagerConst::getConfigFileExtension());
+    QVERIFY(root);
+    const QString hectoPascal = QStringLiteral("HectoPascal");
+    const QString pressure = QStringLiteral("Pressure");
+    LogCapture log;
+
+    QCOMPARE(described(m_manager.getValue(pressure, root, hectoPascal)), QStringLiteral("double 1500"));
+    QCOMPARE(described(m_manager.getValue(QStringLiteral("Empty"), root, hectoPascal)),
+             QStringLiteral("double nan"));
+    QCOMPARE(described(m_manager.getValue(QStringLiteral("Name"), root, hectoPascal)),
+             QStringLiteral("QString pump"));
+
+    QCOMPARE(m_manager.setValueStatus(pressure, root, 2000, hectoPascal), 0);
+    QCOMPARE(m_manager.setValueStatus(pressure, root, 2000, hectoPascal), 1);
+    QCOMPARE(m_manager.setValueStatus(QStringLiteral("Locked"), root, 2000, hectoPascal), 2);
+    QVERIFY(m_manager.setValue(pressure, root, 2000, hectoPascal));
+    QCOMPARE(described(m_manager.getValue(pressure, root, QStringLiteral("Bar"))),
+             QStringLiteral("double 2"));
+    QCOMPARE(m_manager.setValueStatus(pressure, root, marker, hectoPascal), 0);
+    QCOMPARE(described(m_manager.getValue(pressure, root, hectoPascal)), QStringLiteral("double nan"));
+    QCOMPARE(describedMessages(log), QStringList());
+}
+
+QTEST_GUILESS_MAIN(UnitManagerNodeAccessTest)
+
+#include "UnitManagerNodeAccessTest.moc"

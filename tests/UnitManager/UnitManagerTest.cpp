@@ -1,0 +1,304 @@
+#include "UnitManager.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <type_traits>
+
+#include "Described.h"
+#include "LogCapture.h"
+#include "TestDocuments.h"
+
+static_assert(std::has_virtual_destructor_v<UnitManager>);
+static_assert(std::is_copy_constructible_v<UnitManager> && std::is_copy_assignable_v<UnitManager>);
+static_assert(std::is_convertible_v<UnitManager, bool>);
+static_assert(sizeof(UnitManager) == sizeof(void*) + sizeof(UnitManagerCore), "one member by value");
+
+/// Loading, what is handed on to the core, and copies. Conversions, node and array access have tests of their
+/// own.
+class UnitManagerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void newManagerIsEmpty();
+    void bothTextsAreLoaded_data();
+    void bothTextsAreLoaded();
+    void bothFilesAreLoaded_data();
+    void bothFilesAreLoaded();
+    void oneFileResetsDefaultUnits_data();
+    void oneFileResetsDefaultUnits();
+    void singleDocumentsAreReplaced();
+    void catalogueQuestionsAreHandedOn();
+    void labelsAreHandedOn();
+    void fixedUnitsAreHandedOn();
+    void noUnitLabel();
+    void copiesAreIndependent();
+    void copyOutlivesItsOriginal();
+
+private:
+    QString write(const QString& name, const QString& text) const;
+
+    QTemporaryDir m_folder;
+    QString m_unitPath;
+    QString m_defaultUnitPath;
+};
+
+namespace {
+
+namespace T = TestUnitType;
+
+UnitManager loadedManager()
+{
+    UnitManager manager;
+    manager.initByJsonString(TestDocuments::units(), TestDocuments::defaultUnits());
+    return manager;
+}
+
+/// A manager that holds another configuration than the one to be loaded.
+UnitManager managerWithOldContent()
+{
+    UnitManager manager;
+    manager.initByJsonString(TestDocuments::voltage(),
+                             QStringLiteral(R"({ "Voltage": { "@type": "Selection", "@value": "Volt" } })"));
+    return manager;
+}
+
+} // namespace
+
+void UnitManagerTest::initTestCase()
+{
+    m_unitPath = write(QStringLiteral("units.json"), TestDocuments::units());
+    m_defaultUnitPath = write(QStringLiteral("default-units.json"), TestDocuments::defaultUnits());
+    QVERIFY(!m_unitPath.isEmpty());
+    QVERIFY(!m_defaultUnitPath.isEmpty());
+    QVERIFY(loadedManager().isValid());
+    QVERIFY(managerWithOldContent().isValid());
+}
+
+QString UnitManagerTest::write(const QString& name, const QString& text) const
+{
+    QFile file(m_folder.filePath(name));
+    const QByteArray bytes = text.toUtf8();
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        return {};
+    return file.fileName();
+}
+
+void UnitManagerTest::newManagerIsEmpty()
+{
+    const UnitManager manager;
+    const bool usable = manager;
+    LogCapture log;
+
+    QVERIFY(!manager.isValid());
+    QVERIFY(!usable);
+    QCOMPARE(manager.getListofUnitTypes(), QStringList());
+    QCOMPARE(describedMessages(log), QStringList());
+}
+
+void UnitManagerTest::bothTextsAreLoaded_data()
+{
+    QTest::addColumn<QString>("units");
+    QTest::addColumn<QString>("defaultUnits");
+    QTest::addColumn<bool>("loads");
+    QTest::addColumn<bool>("isValid");
+    QTest::addColumn<QString>("defaultUnit");
+
+    QTest::newRow("both good") << TestDocuments::units() << TestDocuments::defaultUnits() << true << true
+                               << "HectoPascal";
+    QTest::newRow("units bad") << "{" << TestDocuments::defaultUnits() << false << false << "HectoPascal";
+    QTest::newRow("units empty") << "" << TestDocuments::defaultUnits() << false << false << "HectoPascal";
+    QTest::newRow("default units bad") << TestDocuments::units() << "{" << false << true << "";
+    QTest::newRow("default units empty") << TestDocuments::units() << "" << true << true << "";
+    QTest::newRow("both bad") << "{"
+                              << "{" << false << false << "";
+    QTest::newRow("both empty") << ""
+                                << "" << false << false << "";
+}
+
+void UnitManagerTest::bothTextsAreLoaded()
+{
+    QFETCH(QString, units);
+    QFETCH(QString, defaultUnits);
+    UnitManager manager = managerWithOldContent();
+    const LogCapture quiet;
+
+    QTEST(manager.initByJsonString(units, defaultUnits), "loads");
+    QTEST(manager.isValid(), "isValid");
+    QTEST(manager.getDefaultUnit(T::pressure), "defaultUnit");
+    QCOMPARE(manager.getDefaultUnit(T::voltage), QString());
+    QCOMPARE(manager.getListofUnits(T::voltage), QStringList());
+}
+
+void UnitManagerTest::bothFilesAreLoaded_data()
+{
+    QTest::addColumn<QString>("unitPath");
+    QTest::addColumn<QString>("defaultUnitPath");
+    QTest::addColumn<bool>("loads");
+    QTest::addColumn<bool>("isValid");
+    QTest::addColumn<QString>("defaultUnit");
+
+    const QString missing = m_folder.filePath(QStringLiteral("missing.json"));
+    QTest::newRow("both there") << m_unitPath << m_defaultUnitPath << true << true << "HectoPascal";
+    QTest::newRow("units missing") << missing << m_defaultUnitPath << false << false << "HectoPascal";
+    QTest::newRow("no unit path") << "" << m_defaultUnitPath << false << false << "HectoPascal";
+    QTest::newRow("default units missing") << m_unitPath << missing << false << true << "";
+    QTest::newRow("no default-unit path") << m_unitPath << "" << true << true << "";
+    QTest::newRow("files swapped") << m_defaultUnitPath << m_unitPath << false << false << "";
+}
+
+void UnitManagerTest::bothFilesAreLoaded()
+{
+    QFETCH(QString, unitPath);
+    QFETCH(QString, defaultUnitPath);
+    UnitManager manager = managerWithOldContent();
+    const LogCapture quiet;
+
+    QTEST(manager.initByJsonFile(unitPath, defaultUnitPath), "loads");
+    QTEST(manager.isValid(), "isValid");
+    QTEST(manager.getDefaultUnit(T::pressure), "defaultUnit");
+    QCOMPARE(manager.getDefaultUnit(T::voltage), QString());
+    QCOMPARE(manager.getListofUnits(T::voltage), QStringList());
+}
+
+void UnitManagerTest::oneFileResetsDefaultUnits_data()
+{
+    QTest::addColumn<QString>("unitPath");
+    QTest::addColumn<bool>("loads");
+
+    QTest::newRow("there") << m_unitPath << true;
+    QTest::newRow("missing") << m_folder.filePath(QStringLiteral("missing.json")) << false;
+    QTest::newRow("no path") << "" << false;
+}
+
+void UnitManagerTest::oneFileResetsDefaultUnits()
+{
+    QFETCH(QString, unitPath);
+    UnitManager manager = managerWithOldContent();
+    LogCapture log;
+
+    QTEST(manager.initByJsonFile(unitPath), "loads");
+    QTEST(manager.isValid(), "loads");
+    log.take();
+    QCOMPARE(manager.getDefaultUnit(T::voltage), QString());
+    QCOMPARE(describedMessages(log), QStringList{Expected::noDefaultUnit(T::voltage)});
+}
+
+void UnitManagerTest::singleDocumentsAreReplaced()
+{
+    UnitManager manager = managerWithOldContent();
+    const LogCapture quiet;
+
+    QVERIFY(manager.updateUnitConversionByJsonString(TestDocuments::units()));
+    QCOMPARE(manager.getDefaultUnit(T::voltage), QStringLiteral("Volt"));
+    QVERIFY(manager.updateDefaultUnitsByJsonString(TestDocuments::defaultUnits()));
+    QCOMPARE(manager.getDefaultUnit(T::voltage), QString());
+    QCOMPARE(manager.getDefaultUnit(T::pressure), QStringLiteral("HectoPascal"));
+    QVERIFY(manager.updateDefaultUnitsByJsonString(QString()));
+    QVERIFY(manager.isValid());
+    QVERIFY(manager.updateDefaultUnitsByJsonFile(m_defaultUnitPath));
+    QCOMPARE(manager.getDefaultUnit(T::pressure), QStringLiteral("HectoPascal"));
+    QVERIFY(!manager.updateUnitConversionByJsonString(QString()));
+    QVERIFY(!manager.isValid());
+    QVERIFY(manager.updateUnitConversionByJsonFile(m_unitPath));
+    QVERIFY(manager.isValid());
+}
+
+void UnitManagerTest::catalogueQuestionsAreHandedOn()
+{
+    const UnitManager manager = loadedManager();
+    LogCapture log;
+
+    QStringList unitTypes = manager.getListofUnitTypes();
+    unitTypes.sort();
+    QCOMPARE(unitTypes, (QStringList{T::temperature, T::pressure, T::ratio}));
+    QStringList units = manager.getListofUnits(T::ratio);
+    units.sort();
+    QCOMPARE(units, (QStringList{QStringLiteral("Counts"), QStringLiteral("Percentage")}));
+    QCOMPARE(manager.getListofUnits(T::unknown), QStringList());
+    QCOMPARE(manager.getBaseUnit(T::ratio), T::ratio + "/Percentage");
+    QCOMPARE(manager.getDefaultUnit(T::noUnit), QString());
+    QCOMPARE(describedMessages(log), QStringList());
+
+    QCOMPARE(manager.getBaseUnit(T::unknown), QString());
+    QCOMPARE(manager.getDefaultUnit(T::unknown), QString());
+    QCOMPARE(describedMessages(log),
+             (QStringList{Expected::noBaseUnit(T::unknown), Expected::noDefaultUnit(T::unknown)}));
+}
+
+void UnitManagerTest::labelsAreHandedOn()
+{
+    const UnitManager manager = loadedManager();
+    const QString german = QStringLiteral("de");
+    LogCapture log;
+
+    QCOMPARE(manager.getUnitText(T::pressure, german, QString()), QStringLiteral("Hektopascal"));
+    QCOMPARE(manager.getUnitText(T::noUnit, german, QString()), QString());
+    QCOMPARE(manager.getUnitTextJsonMap(T::pressure + "/MilliBar"), QVariant(QVariantMap{{"en", "mbar"}}));
+    QCOMPARE(describedMessages(log), QStringList());
+
+    QCOMPARE(manager.getUnitText(T::pressure + "/Bar", german, QString()), QStringLiteral("Bar"));
+    QCOMPARE(manager.getUnitText(T::pressure, german, QStringLiteral("Nope")), QString());
+    QCOMPARE(describedMessages(log), (QStringList{Expected::noDefaultUnit(T::pressure + "/Bar"),
+                                                  Expected::unknownTextUnit("Nope", T::pressure)}));
+}
+
+void UnitManagerTest::fixedUnitsAreHandedOn()
+{
+    const UnitManager manager;
+    QString unitType;
+    QString unit;
+    LogCapture log;
+
+    QVERIFY(manager.isFixedUnitType(QStringLiteral("///")));
+    QVERIFY(!manager.isFixedUnitType(T::pressure));
+    QVERIFY(!manager.extractUnitTypeAndUnit(T::pressure, unitType, unit));
+    QCOMPARE(describedMessages(log), QStringList{Expected::noFixedUnit(T::pressure)});
+    QVERIFY(manager.extractUnitTypeAndUnit(T::pressure + "/Bar", unitType, unit));
+    QCOMPARE(unitType, T::pressure);
+    QCOMPARE(unit, QStringLiteral("Bar"));
+}
+
+void UnitManagerTest::noUnitLabel()
+{
+    QCOMPARE(UnitManager().getNoUnitLabelTextId(), T::noUnit);
+}
+
+void UnitManagerTest::copiesAreIndependent()
+{
+    UnitManager original = loadedManager();
+    UnitManager copy = original;
+    UnitManager assigned;
+    assigned = original;
+
+    QVERIFY(!copy.updateUnitConversionByJsonString(QString()));
+    QVERIFY(copy.updateDefaultUnitsByJsonString(QString()));
+    QVERIFY(original.updateUnitConversionByJsonString(TestDocuments::voltage()));
+
+    LogCapture log;
+    QVERIFY(!copy.isValid());
+    QCOMPARE(original.getListofUnitTypes(), QStringList{T::voltage});
+    QCOMPARE(original.getDefaultUnit(T::pressure), QStringLiteral("HectoPascal"));
+    QCOMPARE(described(assigned.fromBaseUnit(1.5, T::pressure, QString())), QStringLiteral("double 1500"));
+    QCOMPARE(assigned.getUnitText(T::pressure, QStringLiteral("de"), QString()),
+             QStringLiteral("Hektopascal"));
+    QCOMPARE(describedMessages(log), QStringList());
+}
+
+void UnitManagerTest::copyOutlivesItsOriginal()
+{
+    auto original = std::make_unique<UnitManager>(loadedManager());
+    const UnitManager copy = *original;
+    original.reset();
+
+    QVERIFY(copy.isValid());
+    QCOMPARE(described(copy.toBaseUnit(1500, T::pressure, QStringLiteral("HectoPascal"))),
+             QStringLiteral("double 1.5"));
+}
+
+QTEST_GUILESS_MAIN(UnitManagerTest)
+
+#include "UnitManagerTest.moc"

@@ -1,0 +1,264 @@
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include "LogCapture.h"
+#include "MessageText.h"
+#include "UnitTextManagement/UnitTextHandler.h"
+
+namespace {
+
+const QString sourceName = QStringLiteral("UnitTextManagement/UnitTextHandler");
+const QString unitType = QStringLiteral("UnitManager/UnitType/A");
+
+QString loadingWarning(const QString& text)
+{
+    return warningText(sourceName, anyLine, "bool UnitTextHandler::initByJsonString(const QString&)", text);
+}
+
+QString noBaseUnit()
+{
+    return loadingWarning(R"(No Base unit label given for "UnitManager/UnitType/A")");
+}
+
+QString noPosition(const QString& streamed)
+{
+    return loadingWarning(QStringLiteral("Cannot convert displayPosition to int: %1 !").arg(streamed));
+}
+
+/// A document with the one unit type "A".
+QString documentOf(const QString& units)
+{
+    return QStringLiteral(R"({"A": )") + units + '}';
+}
+
+/// A document with the one unit "U" at the display position given.
+QString documentAt(const QString& position)
+{
+    return documentOf(QStringLiteral(R"({"U": {"@displayPosition": %1, "UnitLabel": "u"}})").arg(position));
+}
+
+/// The messages of the class under test; reading a file may add the platform's own.
+QStringList takeOwnMessages(LogCapture& log)
+{
+    QList<LoggedMessage> own;
+    for (const LoggedMessage& message : log.take()) {
+        if (message.file == sourceName)
+            own.append(message);
+    }
+    return messageTexts(own, LineNumbers::Any);
+}
+
+} // namespace
+
+/// Loading of labels; the look-ups stand in UnitTextHandlerTest.
+class UnitTextHandlerLoadingTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void documentResult_data();
+    void documentResult();
+    void positionZeroIsTheBaseUnit_data();
+    void positionZeroIsTheBaseUnit();
+    void everyUnitWithoutPositionWarns();
+    void everyTypeWithoutBaseUnitWarns();
+    void everyLoadDropsTheOldLabels_data();
+    void everyLoadDropsTheOldLabels();
+    void baseUnitsOfAnEarlierDocumentAreForgotten();
+    void readsFile_data();
+    void readsFile();
+};
+
+void UnitTextHandlerLoadingTest::documentResult_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<bool>("result");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    const QStringList noBase(noBaseUnit());
+    QTest::newRow("empty text") << "" << false << none;
+    QTest::newRow("null text") << QString() << false << none;
+    QTest::newRow("text that does not parse") << "{" << false << none;
+    QTest::newRow("list") << "[]" << false << none;
+    QTest::newRow("empty object") << "{}" << false << none;
+    QTest::newRow("type without units") << documentOf("{}") << false << noBase;
+    QTest::newRow("type without node") << documentOf("null") << false << noBase;
+    QTest::newRow("type that is a value") << documentOf("5") << false << noBase;
+    QTest::newRow("base unit with label") << documentAt("0") << true << none;
+    QTest::newRow("base unit without label")
+        << documentOf(R"({"U": {"@displayPosition": 0}})") << false << none;
+    QTest::newRow("other unit with label") << documentAt("1") << true << noBase;
+    QTest::newRow("null unit") << documentOf(R"({"U": null})") << false << noBase;
+    QTest::newRow("unit that is a value") << documentOf(R"({"U": 5})") << false << noBase;
+    QTest::newRow("unit of another type")
+        << documentOf(R"({"U": {"@type": "Number", "@displayPosition": 0, "UnitLabel": "u"}})") << false
+        << noBase;
+    QTest::newRow("label for each language")
+        << documentOf(R"({"U": {"@displayPosition": 0, "UnitLabel": {"@value": {"en": "u"}}}})") << true
+        << none;
+    QTest::newRow("null label") << documentOf(R"({"U": {"@displayPosition": 0, "UnitLabel": null}})") << false
+                                << none;
+    QTest::newRow("label without value")
+        << documentOf(R"({"U": {"@displayPosition": 0, "UnitLabel": {}}})") << false << none;
+    QTest::newRow("empty label") << documentOf(R"({"U": {"@displayPosition": 0, "UnitLabel": ""}})") << true
+                                 << none;
+    QTest::newRow("label in another spelling")
+        << documentOf(R"({"U": {"@displayPosition": 0, "unitLabel": "u"}})") << false << none;
+    QTest::newRow("keys that the conversions pass over")
+        << documentOf(R"({"Text": {"@displayPosition": 0, "UnitLabel": "t"},
+                          "NoUnit": {"@displayPosition": 1, "UnitLabel": "n"}})")
+        << true << none;
+}
+
+void UnitTextHandlerLoadingTest::documentResult()
+{
+    QFETCH(QString, json);
+    QFETCH(bool, result);
+    QFETCH(QStringList, messages);
+    LogCapture log;
+    UnitTextHandler handler;
+    QCOMPARE(handler.initByJsonString(json), result);
+    QCOMPARE(handler.isValid(), result);
+    QCOMPARE(messageTexts(log.take(), LineNumbers::Any), messages);
+
+    const UnitTextHandler constructed(json);
+    const bool usable = constructed;
+    QCOMPARE(usable, result);
+    QCOMPARE(messageTexts(log.take(), LineNumbers::Any), messages);
+}
+
+void UnitTextHandlerLoadingTest::positionZeroIsTheBaseUnit_data()
+{
+    QTest::addColumn<QString>("position");
+    QTest::addColumn<bool>("isBase");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    const QStringList noBase(noBaseUnit());
+    QTest::newRow("zero") << "0" << true << none;
+    QTest::newRow("one") << "1" << false << noBase;
+    QTest::newRow("negative") << "-1" << false << noBase;
+    QTest::newRow("rounded down to zero") << "0.4" << true << none;
+    QTest::newRow("rounded up to one") << "0.6" << false << noBase;
+    QTest::newRow("zero in a text") << R"("0")" << true << none;
+    QTest::newRow("any text") << R"("abc")" << true << none;
+    QTest::newRow("empty text") << R"("")" << true << none;
+    QTest::newRow("one in a text") << R"("1")" << false << noBase;
+    QTest::newRow("false") << "false" << true << none;
+    QTest::newRow("true") << "true" << false << noBase;
+    QTest::newRow("list") << "[0]" << false
+                          << QStringList(
+                                 {noPosition("QVariant(QVariantList, (QVariant(double, 0)))"), noBaseUnit()});
+    QTest::newRow("object") << R"({"a": 0})" << false
+                            << QStringList(
+                                   {noPosition(R"(QVariant(QVariantMap, QMap(("a", QVariant(double, 0)))))"),
+                                    noBaseUnit()});
+}
+
+void UnitTextHandlerLoadingTest::positionZeroIsTheBaseUnit()
+{
+    QFETCH(QString, position);
+    QFETCH(bool, isBase);
+    LogCapture log;
+    UnitTextHandler handler;
+    QVERIFY(handler.initByJsonString(documentAt(position)));
+    QTEST(messageTexts(log.take(), LineNumbers::Any), "messages");
+    QCOMPARE(handler.getUnitText(unitType, "en", QString()), isBase ? QStringLiteral("u") : QString());
+    QCOMPARE(handler.getUnitText(unitType, "en", "U"), QStringLiteral("u"));
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitTextHandlerLoadingTest::everyUnitWithoutPositionWarns()
+{
+    LogCapture log;
+    UnitTextHandler handler;
+    QVERIFY(handler.initByJsonString(
+        documentOf(R"({"U": {"UnitLabel": "u"}, "V": {"UnitLabel": "v"}, "W": {}, "X": 1, "Y": null})")));
+    const QString missing = noPosition("QVariant(Invalid)");
+    QCOMPARE(messageTexts(log.take(), LineNumbers::Any),
+             QStringList({missing, missing, missing, noBaseUnit()}));
+}
+
+void UnitTextHandlerLoadingTest::everyTypeWithoutBaseUnitWarns()
+{
+    LogCapture log;
+    UnitTextHandler handler;
+    QVERIFY(handler.initByJsonString(R"({"A": {}, "B": {"U": {"@displayPosition": 2, "UnitLabel": "u"}},
+                                         "NoUnit": {}, "D": {"V": {"@displayPosition": 0, "UnitLabel": "v"}}})"));
+    QStringList messages = messageTexts(log.take(), LineNumbers::Any);
+    messages.sort();
+    QCOMPARE(
+        messages,
+        QStringList({noBaseUnit(), loadingWarning(R"(No Base unit label given for "UnitManager/UnitType/B")"),
+                     loadingWarning(R"(No Base unit label given for "UnitManager/UnitType/NoUnit")")}));
+}
+
+void UnitTextHandlerLoadingTest::everyLoadDropsTheOldLabels_data()
+{
+    QTest::addColumn<QString>("json");
+
+    QTest::newRow("empty text") << "";
+    QTest::newRow("text that does not parse") << "{";
+    QTest::newRow("empty object") << "{}";
+    QTest::newRow("document without labels") << R"({"B": {"U": {"@displayPosition": 0}}})";
+}
+
+void UnitTextHandlerLoadingTest::everyLoadDropsTheOldLabels()
+{
+    QFETCH(QString, json);
+    LogCapture log;
+    UnitTextHandler handler(documentAt("0"));
+    QVERIFY(handler.isValid());
+    QVERIFY(!handler.initByJsonString(json));
+    QVERIFY(!handler.isValid());
+    QCOMPARE(handler.getUnitText(unitType, "en", "U"), QString());
+    QCOMPARE(log.takeTexts(), QStringList(R"(Unknown unit type given "UnitManager/UnitType/A")"));
+}
+
+void UnitTextHandlerLoadingTest::baseUnitsOfAnEarlierDocumentAreForgotten()
+{
+    LogCapture log;
+    UnitTextHandler handler(documentAt("0"));
+    QVERIFY(handler.initByJsonString(documentAt("1")));
+    QCOMPARE(handler.getUnitText(unitType, "en", QString()), QString());
+    QCOMPARE(messageTexts(log.take(), LineNumbers::Any), QStringList(noBaseUnit()));
+}
+
+void UnitTextHandlerLoadingTest::readsFile_data()
+{
+    QTest::addColumn<bool>("exists");
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<bool>("result");
+    QTest::addColumn<QStringList>("messages");
+
+    QTest::newRow("no file") << false << "" << false << QStringList();
+    QTest::newRow("empty file") << true << "" << false << QStringList();
+    QTest::newRow("file that does not parse") << true << "{" << false << QStringList();
+    QTest::newRow("document") << true << documentAt("0") << true << QStringList();
+    QTest::newRow("document without base unit")
+        << true << documentAt("1") << true << QStringList(noBaseUnit());
+}
+
+void UnitTextHandlerLoadingTest::readsFile()
+{
+    QFETCH(bool, exists);
+    QFETCH(QString, content);
+    const QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    QFile file(folder.filePath(QStringLiteral("units.json")));
+    if (exists) {
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.write(content.toUtf8()) >= 0);
+        file.close();
+    }
+    LogCapture log;
+    UnitTextHandler handler(R"({"B": {"U": {"@displayPosition": 0, "UnitLabel": "u"}}})");
+    QVERIFY(handler.isValid());
+    QTEST(handler.initByJsonFile(file.fileName()), "result");
+    QTEST(handler.isValid(), "result");
+    QTEST(takeOwnMessages(log), "messages");
+}
+
+QTEST_GUILESS_MAIN(UnitTextHandlerLoadingTest)
+#include "UnitTextHandlerLoadingTest.moc"

@@ -1,0 +1,293 @@
+#include <QtTest/QtTest>
+
+#include "ExactText.h"
+#include "LogCapture.h"
+#include "ShippedCatalogue.h"
+#include "UnitManagerDefinitions.h"
+
+namespace {
+
+const QStringList& languages()
+{
+    static const QStringList list{QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("fr")};
+    return list;
+}
+
+QStringList sorted(QStringList list)
+{
+    list.sort();
+    return list;
+}
+
+} // namespace
+
+/// The shipped documents as an application meets them.
+class CatalogueTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void loadsWithoutMessage();
+    void unitTypesAreThose_data();
+    void unitTypesAreThose();
+    void listsNoOtherUnitType();
+    void identifierNamesShippedUnit_data();
+    void identifierNamesShippedUnit();
+    void everyUnitHasALabelInEveryLanguage();
+    void labelReads_data();
+    void labelReads();
+    void missingLanguageFallsBack();
+    void standardConditionsAreShownAs_data();
+    void standardConditionsAreShownAs();
+    void valueWithoutUnitPassesSilently();
+
+private:
+    ShippedCatalogue m_catalogue;
+};
+
+void CatalogueTest::loadsWithoutMessage()
+{
+    LogCapture log;
+    const ShippedCatalogue catalogue;
+    QVERIFY(catalogue.isLoaded());
+    QVERIFY(catalogue.manager().isValid());
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void CatalogueTest::unitTypesAreThose_data()
+{
+    QTest::addColumn<int>("units");
+    QTest::addColumn<QString>("baseUnit");
+    QTest::addColumn<QString>("defaultUnit");
+
+    QTest::newRow("Pressure") << 14 << "Bar"
+                              << "HectoPascal";
+    QTest::newRow("Ratio") << 4 << "Percentage"
+                           << "Percentage";
+    QTest::newRow("MixingRatio") << 3 << "GramPerKiloGram"
+                                 << "GramPerKiloGram";
+    QTest::newRow("RelativeHumidity") << 1 << "RelHumidity"
+                                      << "RelHumidity";
+    QTest::newRow("AbsoluteHumidity") << 4 << "GramPerCubicMeter"
+                                      << "GramPerCubicMeter";
+    QTest::newRow("AbsoluteTemperature") << 4 << "DegreeCelsius"
+                                         << "DegreeCelsius";
+    QTest::newRow("Resistance") << 4 << "Ohm"
+                                << "Ohm";
+    QTest::newRow("Voltage") << 4 << "Volt"
+                             << "Volt";
+    QTest::newRow("Time") << 5 << "Seconds"
+                          << "Seconds";
+    QTest::newRow("SpecificEnthalpy") << 4 << "KiloJoulePerKiloGram"
+                                      << "KiloJoulePerKiloGram";
+    QTest::newRow("NoUnit") << 0 << "NoUnit"
+                            << "";
+}
+
+void CatalogueTest::unitTypesAreThose()
+{
+    QFETCH(int, units);
+    QFETCH(QString, baseUnit);
+    QFETCH(QString, defaultUnit);
+    const QString unitType = ShippedCatalogue::unitTypeName(QString::fromLatin1(QTest::currentDataTag()));
+    LogCapture log;
+    QCOMPARE(m_catalogue.manager().getListofUnits(unitType).size(), units);
+    QCOMPARE(m_catalogue.manager().getBaseUnit(unitType), unitType + QLatin1Char('/') + baseUnit);
+    QCOMPARE(m_catalogue.manager().getDefaultUnit(unitType), defaultUnit);
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void CatalogueTest::listsNoOtherUnitType()
+{
+    QStringList expected{
+        UnitManagerDefinitions::getUnitTypeUrlPressure(),
+        UnitManagerDefinitions::getUnitTypeUrlRatio(),
+        UnitManagerDefinitions::getUnitTypeUrlMixingRatio(),
+        UnitManagerDefinitions::getUnitTypeUrlRelativeHumidity(),
+        UnitManagerDefinitions::getUnitTypeUrlAbsoluteHumidity(),
+        UnitManagerDefinitions::getUnitTypeUrlAbsoluteTemperature(),
+        UnitManagerDefinitions::getUnitTypeUrlResistance(),
+        UnitManagerDefinitions::getUnitTypeUrlVoltage(),
+        UnitManagerDefinitions::getUnitTypeUrlTime(),
+        UnitManagerDefinitions::getUnitTypeUrlSpecificEnthalpy(),
+        UnitManagerDefinitions::getUnitTypeUrlNoUnit(),
+    };
+    QCOMPARE(sorted(m_catalogue.manager().getListofUnitTypes()), sorted(expected));
+}
+
+void CatalogueTest::identifierNamesShippedUnit_data()
+{
+    QTest::addColumn<QString>("identifier");
+    QTest::newRow("bar") << UnitManagerDefinitions::getUnitUrlPressureBar();
+    QTest::newRow("hectopascal") << UnitManagerDefinitions::getUnitUrlPressureHectoPascal();
+    QTest::newRow("millibar") << UnitManagerDefinitions::getUnitUrlPressureMilliBar();
+    QTest::newRow("percentage") << UnitManagerDefinitions::getUnitUrlRatioPercentage();
+    QTest::newRow("parts per million") << UnitManagerDefinitions::getUnitUrlRatioPartsPerMillion();
+    QTest::newRow("gram per kilogram") << UnitManagerDefinitions::getUnitUrlMixingRatioGramPerKiloGram();
+    QTest::newRow("relative humidity") << UnitManagerDefinitions::getUnitUrlRelativeHumidityRelHumidity();
+    QTest::newRow("gram per cubic metre")
+        << UnitManagerDefinitions::getUnitUrlAbsoluteHumidityGramPerCubicMeter();
+    QTest::newRow("seconds") << UnitManagerDefinitions::getUnitUrlTimeSeconds();
+    QTest::newRow("kilojoule per kilogram")
+        << UnitManagerDefinitions::getUnitUrlSpecificEnthalpyKiloJoulePerKiloGram();
+}
+
+void CatalogueTest::identifierNamesShippedUnit()
+{
+    QFETCH(QString, identifier);
+    QString unitType;
+    QString unit;
+    QVERIFY(m_catalogue.manager().extractUnitTypeAndUnit(identifier, unitType, unit));
+    QVERIFY(m_catalogue.manager().getListofUnits(unitType).contains(unit));
+}
+
+void CatalogueTest::everyUnitHasALabelInEveryLanguage()
+{
+    int units = 0;
+    LogCapture log;
+    for (const QString& unitType : m_catalogue.manager().getListofUnitTypes()) {
+        for (const QString& unit : m_catalogue.manager().getListofUnits(unitType)) {
+            for (const QString& language : languages())
+                QVERIFY2(!m_catalogue.manager().getUnitText(unitType, language, unit).isEmpty(),
+                         qPrintable(unit + language));
+            ++units;
+        }
+    }
+    QCOMPARE(units, 47);
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void CatalogueTest::labelReads_data()
+{
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("label");
+
+    QTest::newRow("bar") << "Pressure"
+                         << "Bar"
+                         << "en"
+                         << "bar";
+    QTest::newRow("hectopascal") << "Pressure"
+                                 << "HectoPascal"
+                                 << "de"
+                                 << "hPa";
+    QTest::newRow("default unit") << "Pressure"
+                                  << ""
+                                  << "en"
+                                  << "hPa";
+    QTest::newRow("water column") << "Pressure"
+                                  << "InchOfWater"
+                                  << "en" << u8"inH\u2082O";
+    QTest::newRow("degree sign") << "AbsoluteTemperature"
+                                 << "DegreeCelsius"
+                                 << "fr" << u8"\u00b0C";
+    QTest::newRow("kelvin without degree sign") << "AbsoluteTemperature"
+                                                << "Kelvin"
+                                                << "en"
+                                                << "K";
+    QTest::newRow("cubic metre") << "AbsoluteHumidity"
+                                 << "GramPerCubicMeter"
+                                 << "en" << u8"g/m\u00b3";
+    QTest::newRow("micro sign") << "Voltage"
+                                << "MicroVolt"
+                                << "de" << u8"\u00b5V";
+    QTest::newRow("Greek omega") << "Resistance"
+                                 << "KiloOhm"
+                                 << "fr" << u8"k\u03a9";
+    QTest::newRow("relative humidity in English") << "RelativeHumidity"
+                                                  << "RelHumidity"
+                                                  << "en"
+                                                  << "%RH";
+    QTest::newRow("relative humidity in German") << "RelativeHumidity"
+                                                 << "RelHumidity"
+                                                 << "de"
+                                                 << "% r.F.";
+    QTest::newRow("relative humidity in French") << "RelativeHumidity"
+                                                 << "RelHumidity"
+                                                 << "fr"
+                                                 << "% HR";
+    QTest::newRow("fraction in German") << "Ratio"
+                                        << "Fraction"
+                                        << "de"
+                                        << "Anteil";
+    QTest::newRow("day in French") << "Time"
+                                   << "Days"
+                                   << "fr"
+                                   << "j";
+    QTest::newRow("day in German") << "Time"
+                                   << "Days"
+                                   << "de"
+                                   << "d";
+}
+
+void CatalogueTest::labelReads()
+{
+    QFETCH(QString, unitType);
+    QFETCH(QString, unit);
+    QFETCH(QString, language);
+    QFETCH(QString, label);
+    QCOMPARE(m_catalogue.manager().getUnitText(ShippedCatalogue::unitTypeName(unitType), language, unit),
+             label);
+}
+
+void CatalogueTest::missingLanguageFallsBack()
+{
+    const QString& relativeHumidity = UnitManagerDefinitions::getUnitTypeUrlRelativeHumidity();
+    const UnitManager& manager = m_catalogue.manager();
+    QCOMPARE(manager.getUnitText(relativeHumidity, QStringLiteral("de_AT"), QString()),
+             QStringLiteral("% r.F."));
+    QCOMPARE(manager.getUnitText(relativeHumidity, QStringLiteral("ja"), QString()), QStringLiteral("%RH"));
+}
+
+void CatalogueTest::standardConditionsAreShownAs_data()
+{
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<double>("baseValue");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<double>("shown");
+
+    QTest::newRow("bar") << "Pressure" << 1.01325 << "Bar" << 1.013;
+    QTest::newRow("default unit") << "Pressure" << 1.01325 << "" << 1013.3;
+    QTest::newRow("pascal") << "Pressure" << 1.01325 << "Pascal" << 101325.0;
+    QTest::newRow("pound-force per square inch")
+        << "Pressure" << 1.01325 << "PoundForcePerSquareInch" << 14.70;
+    QTest::newRow("inch of mercury") << "Pressure" << 1.01325 << "InchOfMercury" << 29.92;
+    QTest::newRow("torr") << "Pressure" << 1.01325 << "Torr" << 760.0;
+    QTest::newRow("degree Celsius") << "AbsoluteTemperature" << 20.04 << "DegreeCelsius" << 20.0;
+    QTest::newRow("degree Fahrenheit") << "AbsoluteTemperature" << 20.04 << "DegreeFahrenheit" << 68.1;
+    QTest::newRow("parts per million") << "Ratio" << 0.04213 << "PartsPerMillion" << 421.3;
+    QTest::newRow("grain per pound") << "MixingRatio" << 7.26 << "GrainPerPound" << 50.8;
+}
+
+void CatalogueTest::standardConditionsAreShownAs()
+{
+    QFETCH(QString, unitType);
+    QFETCH(double, baseValue);
+    QFETCH(QString, unit);
+    QFETCH(double, shown);
+    const QVariant value =
+        m_catalogue.manager().fromBaseUnit(baseValue, ShippedCatalogue::unitTypeName(unitType), unit);
+    QCOMPARE(exactText(value), exactText(QVariant(shown)));
+}
+
+void CatalogueTest::valueWithoutUnitPassesSilently()
+{
+    const QString& noUnit = UnitManagerDefinitions::getUnitTypeUrlNoUnit();
+    const QString fixed = noUnit + QLatin1Char('/') + UnitManagerDefinitions::getUnitTypeNoUnit();
+    const UnitManager& manager = m_catalogue.manager();
+    const QVariant value(42);
+    LogCapture log;
+    for (const QString& unit : {QString(), UnitManagerDefinitions::getUnitTypeNoUnit()}) {
+        QCOMPARE(manager.toBaseUnit(value, noUnit, unit), value);
+        QCOMPARE(manager.fromBaseUnit(value, noUnit, unit), value);
+        QCOMPARE(manager.getUnitText(noUnit, QStringLiteral("de"), unit), QString());
+        QCOMPARE(manager.getUnitText(fixed, QStringLiteral("de"), QStringLiteral("NoUnit")), QString());
+    }
+    QCOMPARE(manager.fromBaseUnit(value, fixed, QString()), value);
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(CatalogueTest)
+
+#include "CatalogueTest.moc"

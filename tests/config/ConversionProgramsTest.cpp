@@ -1,0 +1,270 @@
+#include <QtCore/QFile>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QMap>
+#include <QtCore/QSharedPointer>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <algorithm>
+#include <cmath>
+
+#include "GnuUnits.h"
+#include "LogCapture.h"
+#include "ShippedCatalogue.h"
+#include "Udunits.h"
+
+namespace {
+
+using Program = QSharedPointer<ConversionProgram>;
+using PairCounts = QMap<QString, int>;
+
+QStringList sorted(QStringList list)
+{
+    list.sort();
+    return list;
+}
+
+/// Relative to the result. An affine conversion adds and subtracts numbers of the size of its shift, the
+/// distance between absolute zero and the ice point: where the result is smaller than the shift, the shift is
+/// the scale.
+double tolerance(double result, double zeroShift)
+{
+    constexpr double relativeTolerance = 1e-12;
+    return relativeTolerance * std::max(std::abs(result), zeroShift);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Program)
+Q_DECLARE_METATYPE(PairCounts)
+
+/// Every unit is converted to every other of its type, and two programs that know nothing of the shipped
+/// documents convert the same values. data/conversion-programs.json holds their names for the units and the
+/// values.
+class ConversionProgramsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void everyUnitHasNamesAtThePrograms_data();
+    void everyUnitHasNamesAtThePrograms();
+    void programAgreesWithEveryPair_data();
+    void programAgreesWithEveryPair();
+    void wrongResultIsNoticed_data();
+    void wrongResultIsNoticed();
+    void unknownUnitIsAnError_data();
+    void unknownUnitIsAnError();
+    void missingProgramIsAnError_data();
+    void missingProgramIsAnError();
+
+private:
+    /// What a program is asked, the tolerance of each conversion, and the pairs of units they come from.
+    struct Questions
+    {
+        QVector<Conversion> conversions;
+        QVector<double> tolerances;
+        PairCounts pairs;
+    };
+
+    static void addPrograms();
+    Questions questions(const QString& key, const ConversionProgram& program) const;
+    void addPair(const QString& type, const QString& from, const QString& to, const QString& key,
+                 const ConversionProgram& program, Questions* questions) const;
+
+    ShippedCatalogue m_catalogue;
+    QJsonArray m_values;
+    QJsonObject m_unitTypes;
+};
+
+void ConversionProgramsTest::initTestCase()
+{
+    QVERIFY(m_catalogue.isLoaded());
+    QFile file(QStringLiteral(UNITMANAGER_TEST_DATA "/conversion-programs.json"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonObject data = QJsonDocument::fromJson(file.readAll()).object();
+    m_values = data[QStringLiteral("values")].toArray();
+    m_unitTypes = data[QStringLiteral("unitTypes")].toObject();
+    QCOMPARE(m_values.size(), 12);
+    QCOMPARE(m_unitTypes.size(), 10);
+}
+
+void ConversionProgramsTest::everyUnitHasNamesAtThePrograms_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QStringList>("unknownUnits");
+
+    QTest::newRow("GNU Units") << "gnuUnits" << QStringList();
+    // Its torr is another name of the conventional millimetre of mercury; ours is the 760th part of the
+    // standard atmosphere, smaller by 1.4e-7. GNU Units covers it.
+    QTest::newRow("UDUNITS") << "udunits" << QStringList{QStringLiteral("Pressure/Torr")};
+}
+
+void ConversionProgramsTest::everyUnitHasNamesAtThePrograms()
+{
+    QFETCH(QString, key);
+    QFETCH(QStringList, unknownUnits);
+    QStringList withoutName;
+    QStringList types{ShippedCatalogue::unitTypeName(QStringLiteral("NoUnit"))};
+    for (const QString& type : m_unitTypes.keys()) {
+        types.append(ShippedCatalogue::unitTypeName(type));
+        const QJsonObject units = m_unitTypes[type].toObject();
+        for (const QString& unit : m_catalogue.manager().getListofUnits(types.last()))
+            if (units[unit][key].toString().isEmpty())
+                withoutName.append(type + QLatin1Char('/') + unit);
+        QCOMPARE(units.size(), m_catalogue.manager().getListofUnits(types.last()).size());
+    }
+    QCOMPARE(withoutName, unknownUnits);
+    QCOMPARE(sorted(types), sorted(m_catalogue.manager().getListofUnitTypes()));
+}
+
+void ConversionProgramsTest::programAgreesWithEveryPair_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<Program>("program");
+    QTest::addColumn<PairCounts>("expectedPairs");
+    QTest::addColumn<int>("expectedConversions");
+
+    // The n units of a type make n * (n - 1) pairs; the only unit of relative humidity makes none.
+    PairCounts pairs{{"AbsoluteHumidity", 12},
+                     {"AbsoluteTemperature", 12},
+                     {"MixingRatio", 6},
+                     {"Pressure", 14 * 13},
+                     {"Ratio", 12},
+                     {"Resistance", 12},
+                     {"SpecificEnthalpy", 12},
+                     {"Time", 20},
+                     {"Voltage", 12}};
+    // 12 values for each of the linear pairs, 9 for each pair of temperatures.
+    QTest::newRow("GNU Units") << "gnuUnits" << Program(new GnuUnits) << pairs << 268 * 12 + 12 * 9;
+    // One unit of pressure less, and the value 1e-30 is too small.
+    pairs[QStringLiteral("Pressure")] = 13 * 12;
+    QTest::newRow("UDUNITS") << "udunits" << Program(new Udunits) << pairs << 242 * 11 + 12 * 9;
+}
+
+void ConversionProgramsTest::programAgreesWithEveryPair()
+{
+    QFETCH(QString, key);
+    QFETCH(Program, program);
+    QFETCH(PairCounts, expectedPairs);
+    QFETCH(int, expectedConversions);
+    LogCapture log;
+    const Questions asked = questions(key, *program);
+    QCOMPARE(log.takeTexts(), QStringList());
+    QCOMPARE(asked.pairs, expectedPairs);
+    QCOMPARE(asked.conversions.size(), expectedConversions);
+
+    QString error;
+    const QVector<double> deviations = program->deviations(asked.conversions, &error);
+    QVERIFY2(error.isEmpty(), qPrintable(error));
+    QCOMPARE(deviations.size(), expectedConversions);
+    for (int i = 0; i < deviations.size(); ++i) {
+        const Conversion& conversion = asked.conversions.at(i);
+        QVERIFY2(std::abs(deviations.at(i)) <= asked.tolerances.at(i),
+                 qPrintable(QStringLiteral("%1 %2 is not %3 %4: off by %5")
+                                .arg(conversion.value)
+                                .arg(conversion.from)
+                                .arg(conversion.result, 0, 'g', 17)
+                                .arg(conversion.to)
+                                .arg(deviations.at(i))));
+    }
+}
+
+void ConversionProgramsTest::addPrograms()
+{
+    QTest::addColumn<Program>("program");
+    QTest::newRow("GNU Units") << Program(new GnuUnits);
+    QTest::newRow("UDUNITS") << Program(new Udunits);
+}
+
+void ConversionProgramsTest::wrongResultIsNoticed_data()
+{
+    addPrograms();
+}
+
+void ConversionProgramsTest::wrongResultIsNoticed()
+{
+    QFETCH(Program, program);
+    const QString bar = QStringLiteral("bar");
+    const QString hectoPascal = QStringLiteral("hPa");
+    QString error;
+    const QVector<double> deviations =
+        program->deviations({{bar, hectoPascal, 1.5, 1500.0}, {bar, hectoPascal, 1.5, 1500.125}}, &error);
+    QVERIFY2(error.isEmpty(), qPrintable(error));
+    QCOMPARE(deviations, (QVector<double>{0.0, -0.125}));
+}
+
+void ConversionProgramsTest::unknownUnitIsAnError_data()
+{
+    addPrograms();
+}
+
+void ConversionProgramsTest::unknownUnitIsAnError()
+{
+    QFETCH(Program, program);
+    const QString bar = QStringLiteral("bar");
+    QString error;
+    QVERIFY(program->deviations({{bar, QStringLiteral("nosuchunit"), 1.0, 1.0}}, &error).isEmpty());
+    QVERIFY(!error.isEmpty());
+}
+
+void ConversionProgramsTest::missingProgramIsAnError_data()
+{
+    addPrograms();
+}
+
+void ConversionProgramsTest::missingProgramIsAnError()
+{
+    QFETCH(Program, program);
+    const QByteArray path = qgetenv("PATH");
+    const QTemporaryDir empty;
+    qputenv("PATH", QFile::encodeName(empty.path()));
+    const QString bar = QStringLiteral("bar");
+    QString error;
+    const QVector<double> deviations = program->deviations({{bar, bar, 1.0, 1.0}}, &error);
+    qputenv("PATH", path);
+    QVERIFY(deviations.isEmpty());
+    QVERIFY(!error.isEmpty());
+}
+
+ConversionProgramsTest::Questions ConversionProgramsTest::questions(const QString& key,
+                                                                    const ConversionProgram& program) const
+{
+    Questions result;
+    for (const QString& type : m_unitTypes.keys()) {
+        const QStringList units = m_unitTypes[type].toObject().keys();
+        for (const QString& from : units)
+            for (const QString& to : units)
+                if (from != to)
+                    addPair(type, from, to, key, program, &result);
+    }
+    return result;
+}
+
+void ConversionProgramsTest::addPair(const QString& type, const QString& from, const QString& to,
+                                     const QString& key, const ConversionProgram& program,
+                                     Questions* questions) const
+{
+    const QJsonObject source = m_unitTypes[type][from].toObject();
+    const QJsonObject target = m_unitTypes[type][to].toObject();
+    if (!source.contains(key) || !target.contains(key))
+        return;
+    ++questions->pairs[type];
+    const double zeroShift = target[QStringLiteral("zeroShift")].toDouble(0.0);
+    const QJsonArray values = source[QStringLiteral("values")].toArray(m_values);
+    for (const QJsonValue& value : values) {
+        const QVariant result = m_catalogue.convert(value.toDouble(), type, from, to);
+        const Conversion conversion{source[key].toString(), target[key].toString(), value.toDouble(),
+                                    result.toDouble()};
+        if (!program.isAnswerable(conversion))
+            continue;
+        questions->conversions.append(conversion);
+        questions->tolerances.append(tolerance(conversion.result, zeroShift));
+    }
+}
+
+QTEST_GUILESS_MAIN(ConversionProgramsTest)
+
+#include "ConversionProgramsTest.moc"

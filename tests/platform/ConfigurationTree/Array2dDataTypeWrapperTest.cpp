@@ -1,0 +1,307 @@
+#include <QtTest/QtTest>
+
+#include <limits>
+#include <type_traits>
+
+#include "Array2dDataTypeWrapper.h"
+#include "NodeText.h"
+
+using Indices = QVector<unsigned int>;
+
+static_assert(std::has_virtual_destructor_v<Array2dDataTypeWrapper>);
+static_assert(std::is_copy_constructible_v<Array2dDataTypeWrapper>);
+
+namespace {
+
+const unsigned int highest = std::numeric_limits<unsigned int>::max();
+
+/// The data of a JSON array.
+QVariantList list(const QString& json)
+{
+    const BaseClassSharedPointer root = parse(QStringLiteral("{\"@value\": %1}").arg(json));
+    return root ? root->getProperty(QStringLiteral("@value")).toList() : QVariantList();
+}
+
+const QString threeByTwo = QStringLiteral(R"([[1, "x"], [2, "y"], [3, "z"]])");
+
+} // namespace
+
+class Array2dDataTypeWrapperTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void listIsSeenAsRowsAndColumns_data();
+    void listIsSeenAsRowsAndColumns();
+    void columnUnitTypesStandOnePerColumn_data();
+    void columnUnitTypesStandOnePerColumn();
+    void partOfARowIsRead_data();
+    void partOfARowIsRead();
+    void whatIsOutsideIsEmpty();
+    void rowIsReplaced_data();
+    void rowIsReplaced();
+    void partOfARowIsReplaced_data();
+    void partOfARowIsReplaced();
+    void resetTurnsToOtherData();
+    void copyIsIndependent();
+    void dimensionsCanBeOverridden();
+};
+
+void Array2dDataTypeWrapperTest::listIsSeenAsRowsAndColumns_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<Indices>("dimensions");
+    QTest::addColumn<QString>("rows");
+    QTest::addColumn<QString>("columns");
+
+    QTest::newRow("empty list") << "[]" << Indices{0, 0} << ""
+                                << "";
+    QTest::newRow("one column") << "[[0], [100]]" << Indices{2, 1} << "[0] [100]"
+                                << "[0, 100]";
+    QTest::newRow("one column without rows of its own") << "[0, 100]" << Indices{2, 1} << "[0] [100]"
+                                                        << "[0, 100]";
+    QTest::newRow("one column, both forms") << "[0, [100]]" << Indices{2, 1} << "[0] [100]"
+                                            << "[0, 100]";
+    QTest::newRow("one cell") << "[[7]]" << Indices{1, 1} << "[7]"
+                              << "[7]";
+    QTest::newRow("one row") << "[[1, 2, 3]]" << Indices{1, 3} << "[1, 2, 3]"
+                             << "[1] [2] [3]";
+    QTest::newRow("two columns") << "[[0, 10], [1, 20]]" << Indices{2, 2} << "[0, 10] [1, 20]"
+                                 << "[0, 1] [10, 20]";
+    QTest::newRow("short row") << "[[1], [2, 3]]" << Indices{2, 2} << "[1, invalid] [2, 3]"
+                               << "[1, 2] [invalid, 3]";
+    QTest::newRow("single value beside a longer row")
+        << "[[2, 3], 1]" << Indices{2, 2} << "[2, 3] [1, invalid]"
+        << "[2, 1] [3, invalid]";
+    QTest::newRow("empty row") << "[[], [1]]" << Indices{2, 1} << "[invalid] [1]"
+                               << "[invalid, 1]";
+    QTest::newRow("only empty rows") << "[[], []]" << Indices{2, 0} << "[] []"
+                                     << "";
+    QTest::newRow("null as a row") << "[null]" << Indices{1, 1} << "[invalid]"
+                                   << "[invalid]";
+    QTest::newRow("text and map as rows") << R"(["ab", {"a": 1}])" << Indices{2, 1} << R"(["ab"] [<a:1>])"
+                                          << R"(["ab", <a:1>])";
+    QTest::newRow("third dimension as a cell") << "[[[1, 2]]]" << Indices{1, 1} << "[[1, 2]]"
+                                               << "[[1, 2]]";
+}
+
+void Array2dDataTypeWrapperTest::listIsSeenAsRowsAndColumns()
+{
+    QFETCH(QString, json);
+    QFETCH(Indices, dimensions);
+    const Array2dDataTypeWrapper array(list(json), {});
+
+    QStringList rows;
+    for (unsigned int row = 0; row < dimensions.at(0); ++row)
+        rows.append(valueText(array.getRowValues(row)));
+    QStringList columns;
+    for (unsigned int column = 0; column < dimensions.at(1); ++column)
+        columns.append(valueText(array.getColumnValues(column)));
+
+    QCOMPARE(array.getDimensions(), dimensions);
+    QCOMPARE(array.getArrayType(), dimensions);
+    QTEST(rows.join(' '), "rows");
+    QTEST(columns.join(' '), "columns");
+    QCOMPARE(valueText(array.getData()), valueText(list(json)));
+}
+
+void Array2dDataTypeWrapperTest::columnUnitTypesStandOnePerColumn_data()
+{
+    QTest::addColumn<QVariantList>("given");
+    QTest::addColumn<QStringList>("unitTypes");
+
+    QTest::newRow("none") << QVariantList() << QStringList{"", ""};
+    QTest::newRow("each column") << QVariantList{"P", "Q"} << QStringList{"P", "Q"};
+    QTest::newRow("second column only") << QVariantList{"", "Q"} << QStringList{"", "Q"};
+    QTest::newRow("fewer than columns") << QVariantList{"P"} << QStringList{"P", ""};
+    QTest::newRow("more than columns") << QVariantList{"P", "Q", "R"} << QStringList{"P", "Q"};
+    QTest::newRow("invalid variant for none") << QVariantList{QVariant(), "Q"} << QStringList{"", "Q"};
+}
+
+void Array2dDataTypeWrapperTest::columnUnitTypesStandOnePerColumn()
+{
+    QFETCH(QVariantList, given);
+    const Array2dDataTypeWrapper array(list(threeByTwo), given);
+
+    QTEST(array.getColumnUnitTypes(), "unitTypes");
+}
+
+void Array2dDataTypeWrapperTest::partOfARowIsRead_data()
+{
+    QTest::addColumn<unsigned int>("row");
+    QTest::addColumn<unsigned int>("firstColumn");
+    QTest::addColumn<unsigned int>("columnCount");
+    QTest::addColumn<QString>("values");
+
+    QTest::newRow("whole row") << 1U << 0U << 2U << "[2, \"y\"]";
+    QTest::newRow("first cell") << 1U << 0U << 1U << "[2]";
+    QTest::newRow("last cell") << 2U << 1U << 1U << "[\"z\"]";
+    QTest::newRow("no cell") << 1U << 0U << 0U << "[]";
+    QTest::newRow("no cell behind the last") << 1U << 2U << 0U << "[]";
+    QTest::newRow("one cell too many") << 1U << 0U << 3U << "[]";
+    QTest::newRow("one cell behind the last") << 1U << 2U << 1U << "[]";
+    QTest::newRow("row behind the last") << 3U << 0U << 1U << "[]";
+    QTest::newRow("highest row") << highest << 0U << 1U << "[]";
+    QTest::newRow("end overflows to 0") << 1U << highest << 1U << "[]";
+    QTest::newRow("end overflows to 1") << 1U << 2U << highest << "[]";
+}
+
+void Array2dDataTypeWrapperTest::partOfARowIsRead()
+{
+    QFETCH(unsigned int, row);
+    QFETCH(unsigned int, firstColumn);
+    QFETCH(unsigned int, columnCount);
+    const Array2dDataTypeWrapper array(list(threeByTwo), {});
+
+    QTEST(valueText(array.getRowValues(row, firstColumn, columnCount)), "values");
+}
+
+void Array2dDataTypeWrapperTest::whatIsOutsideIsEmpty()
+{
+    const Array2dDataTypeWrapper array(list(threeByTwo), {});
+    QCOMPARE(array.getRowValues(3), QVariantList());
+    QCOMPARE(array.getRowValues(highest), QVariantList());
+    QCOMPARE(array.getColumnValues(2), QVariantList());
+    QCOMPARE(array.getColumnValues(highest), QVariantList());
+
+    const Array2dDataTypeWrapper empty({}, {});
+    QCOMPARE(empty.getRowValues(0), QVariantList());
+    QCOMPARE(empty.getColumnValues(0), QVariantList());
+    QCOMPARE(empty.getColumnUnitTypes(), QStringList());
+}
+
+void Array2dDataTypeWrapperTest::rowIsReplaced_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<QString>("values");
+    QTest::addColumn<unsigned int>("row");
+    QTest::addColumn<bool>("isWritten");
+    QTest::addColumn<QString>("after");
+
+    QTest::newRow("row in the middle") << "[[1, 2], [3, 4]]"
+                                       << "[5, 6]" << 1U << true << "[[1, 2], [5, 6]]";
+    QTest::newRow("equal row") << "[[1, 2], [3, 4]]"
+                               << "[3, 4]" << 1U << true << "[[1, 2], [3, 4]]";
+    QTest::newRow("short row becomes whole") << "[[1], [3, 4]]"
+                                             << "[5, 6]" << 0U << true << "[[5, 6], [3, 4]]";
+    QTest::newRow("single value becomes whole") << "[1, [3, 4]]"
+                                                << "[5, 6]" << 0U << true << "[[5, 6], [3, 4]]";
+    QTest::newRow("one column keeps its form") << "[1, 2]"
+                                               << "[5]" << 0U << true << "[5, 2]";
+    QTest::newRow("one column of rows keeps its form") << "[[1], [2]]"
+                                                       << "[5]" << 0U << true << "[[5], [2]]";
+    QTest::newRow("list of no cells") << "[[], []]"
+                                      << "[]" << 0U << true << "[[], []]";
+    QTest::newRow("too few values") << "[[1, 2]]"
+                                    << "[5]" << 0U << false << "[[1, 2]]";
+    QTest::newRow("too many values") << "[[1, 2]]"
+                                     << "[5, 6, 7]" << 0U << false << "[[1, 2]]";
+    QTest::newRow("no values") << "[[1, 2]]"
+                               << "[]" << 0U << false << "[[1, 2]]";
+    QTest::newRow("row behind the last") << "[[1, 2]]"
+                                         << "[5, 6]" << 1U << false << "[[1, 2]]";
+    QTest::newRow("highest row") << "[[1, 2]]"
+                                 << "[5, 6]" << highest << false << "[[1, 2]]";
+    QTest::newRow("empty table") << "[]"
+                                 << "[]" << 0U << false << "[]";
+}
+
+void Array2dDataTypeWrapperTest::rowIsReplaced()
+{
+    QFETCH(QString, json);
+    QFETCH(QString, values);
+    QFETCH(unsigned int, row);
+    Array2dDataTypeWrapper array(list(json), {});
+
+    QTEST(array.setRowValues(list(values), row), "isWritten");
+    QTEST(valueText(array.getData()), "after");
+}
+
+void Array2dDataTypeWrapperTest::partOfARowIsReplaced_data()
+{
+    QTest::addColumn<QString>("json");
+    QTest::addColumn<QString>("values");
+    QTest::addColumn<unsigned int>("row");
+    QTest::addColumn<unsigned int>("firstColumn");
+    QTest::addColumn<unsigned int>("columnCount");
+    QTest::addColumn<bool>("isWritten");
+    QTest::addColumn<QString>("after");
+
+    const QString before = QStringLiteral("[[1, 2, 3]]");
+    QTest::newRow("cell in the middle") << before << "[7]" << 0U << 1U << 1U << true << "[[1, 7, 3]]";
+    QTest::newRow("last cells") << before << "[7, 8]" << 0U << 1U << 2U << true << "[[1, 7, 8]]";
+    QTest::newRow("all cells") << before << "[7, 8, 9]" << 0U << 0U << 3U << true << "[[7, 8, 9]]";
+    QTest::newRow("more values than cells") << before << "[7, 8]" << 0U << 0U << 1U << true << "[[7, 2, 3]]";
+    QTest::newRow("no cell") << before << "[7]" << 0U << 1U << 0U << true << before;
+    QTest::newRow("no cell behind the last") << before << "[]" << 0U << 3U << 0U << true << before;
+    QTest::newRow("no cell of a plain list") << "[1, 2]"
+                                             << "[]" << 0U << 0U << 0U << true << "[1, 2]";
+    QTest::newRow("cell of a plain list") << "[1, 2]"
+                                          << "[7]" << 1U << 0U << 1U << true << "[1, 7]";
+    QTest::newRow("cell that the short row has not") << "[[1], [2, 3]]"
+                                                     << "[7]" << 0U << 1U << 1U << true << "[[1, 7], [2, 3]]";
+    QTest::newRow("too few values") << before << "[7]" << 0U << 0U << 2U << false << before;
+    QTest::newRow("one cell behind the last") << before << "[7]" << 0U << 3U << 1U << false << before;
+    QTest::newRow("one cell too many") << before << "[7, 8]" << 0U << 2U << 2U << false << before;
+    QTest::newRow("row behind the last") << before << "[7]" << 1U << 0U << 1U << false << before;
+    QTest::newRow("end overflows to 0") << before << "[7]" << 0U << highest << 1U << false << before;
+    QTest::newRow("end overflows to 2") << before << "[7, 8, 9]" << 0U << 3U << highest << false << before;
+}
+
+void Array2dDataTypeWrapperTest::partOfARowIsReplaced()
+{
+    QFETCH(QString, json);
+    QFETCH(QString, values);
+    QFETCH(unsigned int, row);
+    QFETCH(unsigned int, firstColumn);
+    QFETCH(unsigned int, columnCount);
+    Array2dDataTypeWrapper array(list(json), {});
+
+    QTEST(array.setRowValues(list(values), row, firstColumn, columnCount), "isWritten");
+    QTEST(valueText(array.getData()), "after");
+}
+
+void Array2dDataTypeWrapperTest::resetTurnsToOtherData()
+{
+    Array2dDataTypeWrapper array(list(threeByTwo), {"P", "Q"});
+
+    array.reset(list(QStringLiteral("[4]")), {"R"});
+
+    QCOMPARE(array.getDimensions(), (Indices{1, 1}));
+    QCOMPARE(array.getColumnUnitTypes(), QStringList{"R"});
+    QCOMPARE(valueText(array.getColumnValues(0)), QStringLiteral("[4]"));
+}
+
+void Array2dDataTypeWrapperTest::copyIsIndependent()
+{
+    const QVariantList data = list(threeByTwo);
+    Array2dDataTypeWrapper array(data, {});
+    const Array2dDataTypeWrapper copy(array);
+
+    QVERIFY(array.setRowValues({7, 8}, 0));
+
+    QCOMPARE(valueText(copy.getRowValues(0)), QStringLiteral("[1, \"x\"]"));
+    QCOMPARE(valueText(data), valueText(list(threeByTwo)));
+}
+
+void Array2dDataTypeWrapperTest::dimensionsCanBeOverridden()
+{
+    class OneDimension : public Array2dDataTypeWrapper
+    {
+    public:
+        using Array2dDataTypeWrapper::Array2dDataTypeWrapper;
+        Indices getDimensions() const override
+        {
+            return {5};
+        }
+    };
+    const OneDimension array(list(threeByTwo), {});
+    const Array2dDataTypeWrapper& base = array;
+
+    QCOMPARE(base.getDimensions(), Indices{5});
+    QCOMPARE(base.getArrayType(), (Indices{3, 2}));
+}
+
+QTEST_GUILESS_MAIN(Array2dDataTypeWrapperTest)
+
+#include "Array2dDataTypeWrapperTest.moc"

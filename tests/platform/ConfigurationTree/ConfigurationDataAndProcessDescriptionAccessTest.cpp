@@ -1,0 +1,242 @@
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "ConfigurationDataAndProcessDescriptionAccess.h"
+#include "LogCapture.h"
+#include "MessageText.h"
+
+namespace {
+
+const QByteArray byteOrderMark = "\xef\xbb\xbf";
+
+QString readText(const QString& path)
+{
+    return ConfigurationDataAndProcessDescriptionAccess().getConfiguration(QFileInfo(path));
+}
+
+/// Gives up the privilege of reading every file, if the test has it, as long as it lives.
+class OrdinaryUser
+{
+public:
+    OrdinaryUser() : m_isPrivileged(geteuid() == 0 && seteuid(65534) == 0) {}
+    ~OrdinaryUser()
+    {
+        if (m_isPrivileged && seteuid(0) != 0)
+            qFatal("The user cannot be restored");
+    }
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+
+private:
+    bool m_isPrivileged;
+};
+
+} // namespace
+
+class ConfigurationDataAndProcessDescriptionAccessTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void textIsThatOfTheFile_data();
+    void textIsThatOfTheFile();
+    void invalidUtf8IsReported_data();
+    void invalidUtf8IsReported();
+    void missingFileIsReported_data();
+    void missingFileIsReported();
+    void emptyPathIsReported();
+    void whatIsNoRegularFileIsReported();
+    void fileWithoutPermissionIsReported();
+    void failingReadIsReported();
+    void largestFileIsRead();
+    void largerFileIsReported();
+    void staleFileInformationIsNotUsed();
+    void linkIsFollowed();
+
+private:
+    QString writeFile(const QByteArray& bytes);
+    void expectWarning(const QString& path, const QString& reason);
+
+    QScopedPointer<QTemporaryDir> m_directory;
+};
+
+void ConfigurationDataAndProcessDescriptionAccessTest::init()
+{
+    m_directory.reset(new QTemporaryDir);
+    QVERIFY(m_directory->isValid());
+}
+
+QString ConfigurationDataAndProcessDescriptionAccessTest::writeFile(const QByteArray& bytes)
+{
+    QFile file(m_directory->filePath(QStringLiteral("units.json")));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("The test file cannot be written");
+    return file.fileName();
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::expectWarning(const QString& path,
+                                                                     const QString& reason)
+{
+    LogCapture log;
+
+    QCOMPARE(readText(path), QString());
+
+    QCOMPARE(messageTexts(log.take(), LineNumbers::Any),
+             QStringList(warningText(
+                 QStringLiteral("ConfigurationTree/ConfigurationDataAndProcessDescriptionAccess"), anyLine,
+                 QStringLiteral("QString ConfigurationDataAndProcessDescriptionAccess::getConfiguration("
+                                "const QFileInfo&) const"),
+                 QStringLiteral("Cannot read configuration file \"%1\" : %2").arg(path, reason))));
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::textIsThatOfTheFile_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("document") << QByteArray("{\"a\": 1}\n") << "{\"a\": 1}\n";
+    QTest::newRow("empty file") << QByteArray() << "";
+    QTest::newRow("byte order mark alone") << byteOrderMark << "";
+    QTest::newRow("byte order mark at the start") << byteOrderMark + "{}"
+                                                  << "{}";
+    QTest::newRow("byte order mark inside")
+        << "{" + byteOrderMark + "}" << QString("{%1}").arg(QChar(0xfeff));
+    QTest::newRow("line ends of another system") << QByteArray("{\r\n}") << "{\r\n}";
+    QTest::newRow("two bytes") << QByteArray("\xc2\xb0"
+                                             "C")
+                               << QString("%1C").arg(QChar(0xb0));
+    QTest::newRow("four bytes") << QByteArray("\xf0\x9f\x8c\xa1") << QString::fromUcs4(U"\U0001f321");
+    QTest::newRow("replacement character itself") << QByteArray("\xef\xbf\xbd") << QString(QChar(0xfffd));
+    QTest::newRow("null characters") << QByteArray("a\0b", 3) << QString("a%1b").arg(QChar(0));
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::textIsThatOfTheFile()
+{
+    QFETCH(QByteArray, bytes);
+    const QString path = writeFile(bytes);
+    LogCapture log;
+
+    QTEST(readText(path), "text");
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::invalidUtf8IsReported_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+
+    QTest::newRow("latin-1") << QByteArray("{\"a\": \"\xb0"
+                                           "C\"}");
+    QTest::newRow("sequence cut off by the end") << QByteArray("{}\xc2");
+    QTest::newRow("three of four bytes") << QByteArray("\xf0\x9f\x8c");
+    QTest::newRow("sequence cut off by a letter") << QByteArray("\xe2\x82"
+                                                                "C");
+    QTest::newRow("continuation byte alone") << QByteArray("\x80");
+    QTest::newRow("overlong form") << QByteArray("\xc0\xaf");
+    QTest::newRow("half of a surrogate pair") << QByteArray("\xed\xa0\xbc");
+    QTest::newRow("surrogate pair") << QByteArray("\xed\xa0\xbc\xed\xbc\xa1");
+    QTest::newRow("beyond the last code point") << QByteArray("\xf4\x90\x80\x80");
+    QTest::newRow("UTF-16") << QByteArray("\xff\xfe{\0}\0", 6);
+    QTest::newRow("last byte of many") << QByteArray(100000, 'x') + "\xff";
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::invalidUtf8IsReported()
+{
+    QFETCH(QByteArray, bytes);
+
+    expectWarning(writeFile(bytes), QStringLiteral("it is not valid UTF-8"));
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::missingFileIsReported_data()
+{
+    QTest::addColumn<QString>("path");
+
+    QTest::newRow("no such file") << m_directory->filePath("missing.json");
+    QTest::newRow("no such directory") << m_directory->filePath("missing/units.json");
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::missingFileIsReported()
+{
+    QFETCH(QString, path);
+
+    expectWarning(path, QStringLiteral("it does not exist"));
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::emptyPathIsReported()
+{
+    expectWarning(QString(), QStringLiteral("it has no name"));
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::whatIsNoRegularFileIsReported()
+{
+    const QString pipe = m_directory->filePath(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+
+    const QString reason = QStringLiteral("it is not a regular file");
+    expectWarning(pipe, reason);
+    expectWarning(m_directory->path(), reason);
+    expectWarning(QStringLiteral("/dev/zero"), reason);
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::fileWithoutPermissionIsReported()
+{
+    const QString path = writeFile("{}");
+    QVERIFY(QFile::setPermissions(path, QFileDevice::Permissions()));
+    QCOMPARE(chmod(qPrintable(m_directory->path()), 0755), 0);
+    const OrdinaryUser user;
+
+    expectWarning(path, QStringLiteral("Permission denied"));
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::failingReadIsReported()
+{
+    // Nothing is mapped at the first address, so the first read of this file fails.
+    expectWarning(QStringLiteral("/proc/self/mem"), QStringLiteral("Input/output error"));
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::largestFileIsRead()
+{
+    const QString path = writeFile("{}");
+    const qint64 size = ConfigurationDataAndProcessDescriptionAccess::getMaximumFileSize();
+    QCOMPARE(size, qint64(67108864));
+    QVERIFY(QFile::resize(path, size));
+    LogCapture log;
+
+    const QString text = readText(path);
+
+    QCOMPARE(log.takeTexts(), QStringList());
+    QCOMPARE(text.size(), static_cast<int>(size));
+    QVERIFY(text.startsWith(QStringLiteral("{}")));
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::largerFileIsReported()
+{
+    const QString path = writeFile("{}");
+    QVERIFY(QFile::resize(path, ConfigurationDataAndProcessDescriptionAccess::getMaximumFileSize() + 1));
+
+    expectWarning(path, QStringLiteral("it is larger than 67108864 bytes"));
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::staleFileInformationIsNotUsed()
+{
+    const QFileInfo info(m_directory->filePath(QStringLiteral("units.json")));
+    QVERIFY(!info.exists());
+    writeFile("{}");
+
+    QCOMPARE(ConfigurationDataAndProcessDescriptionAccess().getConfiguration(info), QStringLiteral("{}"));
+}
+
+void ConfigurationDataAndProcessDescriptionAccessTest::linkIsFollowed()
+{
+    const QString link = m_directory->filePath(QStringLiteral("link.json"));
+    QVERIFY(QFile::link(writeFile("{}"), link));
+
+    QCOMPARE(readText(link), QStringLiteral("{}"));
+}
+
+QTEST_GUILESS_MAIN(ConfigurationDataAndProcessDescriptionAccessTest)
+
+#include "ConfigurationDataAndProcessDescriptionAccessTest.moc"

@@ -1,0 +1,30 @@
+#include <QtTest/QtTest>
+
+#include "DeviceManagerDefinitions.h"
+
+class DeviceManagerDefinitionsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void namesAreThoseOfTheModule();
+    void everyCallGivesTheSameObject();
+};
+
+void DeviceManagerDefinitionsTest::namesAreThoseOfTheModule()
+{
+    QCOMPARE(DeviceManagerDefinitions::getModuleName(), QStringLiteral("DeviceManager"));
+    QCOMPARE(DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration(),
+             QStringLiteral("UnitManagerConfiguration"));
+}
+
+void DeviceManagerDefinitionsTest::everyCallGivesTheSameObject()
+{
+    QCOMPARE(&DeviceManagerDefinitions::getModuleName(), &DeviceManagerDefinitions::getModuleName());
+    QCOMPARE(&DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration(),
+             &DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration());
+}
+
+QTEST_GUILESS_MAIN(DeviceManagerDefinitionsTest)
+
+#include "DeviceManagerDefinitionsTest.moc"

@@ -1,0 +1,31 @@
+#include <QtTest/QtTest>
+
+#include "PropertyManagerConst.h"
+
+class PropertyManagerConstTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void namesAreThoseOfTheDevice();
+    void everyCallGivesTheSameObject();
+};
+
+void PropertyManagerConstTest::namesAreThoseOfTheDevice()
+{
+    QCOMPARE(PropertyManagerConst::getUnitTypeNamePrefix(), QStringLiteral("UnitManager/UnitType/"));
+    QCOMPARE(PropertyManagerConst::getConfigFileExtension(), QStringLiteral("json"));
+    QCOMPARE(PropertyManagerConst::getDBusPrefix(), QStringLiteral("org.measuringdevice"));
+}
+
+void PropertyManagerConstTest::everyCallGivesTheSameObject()
+{
+    QCOMPARE(&PropertyManagerConst::getUnitTypeNamePrefix(), &PropertyManagerConst::getUnitTypeNamePrefix());
+    QCOMPARE(&PropertyManagerConst::getConfigFileExtension(),
+             &PropertyManagerConst::getConfigFileExtension());
+    QCOMPARE(&PropertyManagerConst::getDBusPrefix(), &PropertyManagerConst::getDBusPrefix());
+}
+
+QTEST_GUILESS_MAIN(PropertyManagerConstTest)
+
+#include "PropertyManagerConstTest.moc"

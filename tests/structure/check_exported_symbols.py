@@ -1,0 +1,53 @@
+"""What the library exports of its own, against the list under version control.
+
+    check_exported_symbols.py <project.json>            compares
+    check_exported_symbols.py <project.json> --update   writes the list anew
+
+Listed are functions, virtual tables, type information and the factories' registries. Weak functions (inline ones,
+instances of templates) come and go with compiler and build type: they are not listed, but must belong to an exported
+class, to Qt or to the standard library.
+"""
+
+import re
+import sys
+from pathlib import Path
+
+from project import Project, finish, run
+
+LIST = Path(__file__).parent / "data" / "exported-symbols.txt"
+LISTED_WEAK = re.compile(r"(vtable|typeinfo|typeinfo name) for (?!VESKFactories::)|VESKFactories::Factory<.*>::instance\(\)::factory$")
+SPECIAL_PREFIX = re.compile(
+    r"^(vtable|VTT|typeinfo|typeinfo name|guard variable|(non-virtual |virtual )?thunk) (for|to) ")
+QT_OR_STANDARD = re.compile(r"^(\w+ )?(std::|__gnu_cxx::|Q[A-Za-z]+(::|<))")
+
+
+def exported_symbols(library):
+    """(whether others may define it too, demangled name) of every symbol that can be linked to."""
+    lines = run(["nm", "-D", "--defined-only", "-C", library]).splitlines()
+    return {(line[17] in "VWuvw", line[19:]) for line in lines}
+
+
+def is_listed(weak, name, own):
+    return not weak or (LISTED_WEAK.match(name) is not None and own.match(SPECIAL_PREFIX.sub("", name)) is not None)
+
+
+def main():
+    project = Project(sys.argv[1])
+    symbols = exported_symbols(project.library)
+    classes = sorted(Path(header).stem for header in project.installed_headers)
+    own = re.compile(rf"({'|'.join(classes)}|VESKFactories)(::|$)")
+    listed = sorted({name for weak, name in symbols if is_listed(weak, name, own)})
+    if "--update" in sys.argv[2:]:
+        LIST.write_text("\n".join(listed) + "\n", encoding="utf-8")
+
+    expected = LIST.read_text(encoding="utf-8").splitlines()
+    problems = [f"listed, but not exported: {name}" for name in expected if name not in listed]
+    problems += [f"exported, but not listed: {name}" for name in listed if name not in expected]
+    for weak, name in sorted(symbols):
+        scope = SPECIAL_PREFIX.sub("", name)
+        if not own.match(scope) and not (weak and QT_OR_STANDARD.match(scope)):
+            problems.append(f"exported, but of no exported class: {name}")
+    finish(problems, f"{len(listed)} symbols, {len(expected)} listed; {len(symbols)} exported in all")
+
+
+main()

@@ -1,0 +1,44 @@
+"""A program outside of the tree builds and runs with the installed CMake package and with pkg-config."""
+
+import shutil
+import sys
+import tempfile
+from pathlib import Path
+
+from project import Project, finish, run
+
+EXPECTED = "1.013 bar\n"
+
+
+def build_with_cmake(project, folder):
+    """The program, built by a project of its own that finds the package."""
+    run([project.facts["cmake"], "-S", folder, "-B", folder / "build", "-G", project.facts["generator"],
+         f"-DCMAKE_CXX_COMPILER={project.facts['compiler']}", f"-DCMAKE_PREFIX_PATH={project.prefix}",
+         "-DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF"])
+    run([project.facts["cmake"], "--build", folder / "build"])
+    return folder / "build" / "consumer"
+
+
+def build_with_pkg_config(project, folder):
+    """The program, built by one command; the loader is told where the library stands."""
+    program = folder / "consumer"
+    run([project.facts["compiler"], "-std=c++17", "-fPIC", folder / "main.cpp", "-o", program,
+         *project.package_flags("--cflags", "--libs"), f"-Wl,-rpath,{project.library_dir}"])
+    return program
+
+
+def main():
+    project = Project(sys.argv[1])
+    problems = []
+    builds = [build_with_cmake, build_with_pkg_config]
+    for build in builds:
+        with tempfile.TemporaryDirectory() as temporary:
+            folder = Path(temporary) / "consumer"
+            shutil.copytree(Path(__file__).parent / "consumer", folder)
+            output = run([build(project, folder)])
+        if output != EXPECTED:
+            problems.append(f"{build.__name__}: prints {output!r} instead of {EXPECTED!r}")
+    finish(problems, f"{len(builds)} programs print {EXPECTED!r}")
+
+
+main()

@@ -1,0 +1,53 @@
+"""What the checks of this folder share: the description of the build that CMake wrote, and how a check ends."""
+
+import json
+import os
+import subprocess
+import sys
+from pathlib import Path
+
+
+class Project:
+    """The build under test, from the JSON file whose path is the check's first argument."""
+
+    def __init__(self, description):
+        with open(description, encoding="utf-8") as file:
+            self.facts = json.load(file)
+        self.source = Path(self.facts["sourceDir"])
+        self.scratch = Path(self.facts["scratchDir"])
+        self.prefix = Path(self.facts["installPrefix"])
+        self.library_dir = self.prefix / self.facts["installLibDir"]
+        self.include_dir = self.prefix / self.facts["installIncludeDir"]
+        self.library = self.facts["library"]
+        self.installed_headers = self.facts["installedHeaders"]
+        self.platform_headers = self.facts["platformHeaders"]
+
+    def package_flags(self, *options):
+        """What pkg-config answers for the installed library, in which includes of other packages are system ones."""
+        environment = dict(os.environ, PKG_CONFIG_PATH=str(self.library_dir / "pkgconfig"))
+        answer = run(["pkg-config", *options, "unitmanager"], env=environment)
+        flags = []
+        for flag in answer.split():
+            path = Path(flag[2:]).resolve() if flag.startswith("-I") else None
+            if path is None:
+                flags.append(flag)
+            elif path.is_relative_to(self.prefix.resolve()):
+                flags.append(f"-I{path}")
+            else:
+                flags += ["-isystem", str(path)]
+        return flags
+
+
+def run(command, **options):
+    """The standard output of a command; ends the check with everything it wrote when it fails."""
+    result = subprocess.run(command, capture_output=True, text=True, check=False, **options)
+    if result.returncode != 0:
+        sys.exit(f"{' '.join(map(str, command))}\nfailed with {result.returncode}\n{result.stdout}{result.stderr}")
+    return result.stdout
+
+
+def finish(problems, summary):
+    """Ends the check: with every problem on a line of its own, or with what was looked at."""
+    if problems:
+        sys.exit("\n".join([*problems, f"{len(problems)} problem(s)"]))
+    print(summary)

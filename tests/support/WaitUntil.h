@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QThread>
+
+/// Waits until `condition()` holds, without running an event loop. @return false when it does not within ten
+/// seconds.
+template <typename Condition>
+bool waitUntil(Condition condition)
+{
+    const QDeadlineTimer deadline(10000);
+    while (!condition()) {
+        if (deadline.hasExpired())
+            return false;
+        QThread::msleep(1);
+    }
+    return true;
+}
