@@ -1,0 +1,206 @@
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include "ToolProcess.h"
+
+/// The documents that the tool is given: what it accepts, and how it names what is wrong with one.
+class ToolDocumentsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void placesTheFault_data();
+    void placesTheFault();
+    void namesAFileThatIsNoDocument_data();
+    void namesAFileThatIsNoDocument();
+    void namesDefaultUnitsThatAreNone_data();
+    void namesDefaultUnitsThatAreNone();
+    void takesTheDocument_data();
+    void takesTheDocument();
+    void replacesOneDocumentAlone();
+    void readsFromAPipe();
+};
+
+namespace {
+
+const QByteArray lengthDocument = R"({"Length": {"Meter": {"@displayPosition": 0, "DecimalPlaces": 2,
+"Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]], "UnitLabel": "m"}}})";
+const QByteArray lengthDefault = R"({"Length": {"@type": "Selection", "@value": "Meter"}})";
+
+/// A folder with files of the given content.
+class Folder
+{
+public:
+    QString file(const QString& name, const QByteArray& content) const
+    {
+        QFile file(path(name));
+        const bool isWritten =
+            file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
+        return isWritten ? file.fileName() : QString();
+    }
+    QString path(const QString& name) const
+    {
+        return folder.filePath(name);
+    }
+
+private:
+    QTemporaryDir folder;
+};
+
+} // namespace
+
+void ToolDocumentsTest::placesTheFault_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("place");
+    QTest::addColumn<QByteArray>("reason");
+    QTest::newRow("missing comma") << QByteArray("{\n  \"A\": {},\n  \"B\": {}\n  \"C\": {}\n}\n")
+                                   << QByteArray("4:3") << QByteArray("unterminated object");
+    QTest::newRow("missing colon") << QByteArray("{\"A\" {}}") << QByteArray("1:6")
+                                   << QByteArray("missing name separator");
+    QTest::newRow("name without quotes")
+        << QByteArray("{\n\tA: 1}") << QByteArray("2:2") << QByteArray("unterminated object");
+    QTest::newRow("word that is none") << QByteArray("{\"A\":\n  true,\n  \"B\": nothing}")
+                                       << QByteArray("3:9") << QByteArray("illegal value");
+    QTest::newRow("number that is none")
+        << QByteArray("{\"A\": 'x'}") << QByteArray("1:7") << QByteArray("illegal number");
+    QTest::newRow("text behind the end")
+        << QByteArray("{}\n\n}") << QByteArray("3:1") << QByteArray("garbage at the end of the document");
+    QTest::newRow("end too early") << QByteArray("{\"A\": {\n") << QByteArray("1:8")
+                                   << QByteArray("unterminated object");
+    QTest::newRow("column in characters, not bytes")
+        << QByteArray("{\"\xC3\xA4\xE2\x82\x82\": 1 2}") << QByteArray("1:10")
+        << QByteArray("unterminated object");
+    QTest::newRow("byte order mark does not count")
+        << QByteArray("\xEF\xBB\xBF{\"A\" 1}") << QByteArray("1:6") << QByteArray("missing name separator");
+    QTest::newRow("lines that end in carriage return and line feed")
+        << QByteArray("{\r\n\"A\": 1\r\n\"B\": 2}") << QByteArray("3:1") << QByteArray("unterminated object");
+    QTest::newRow("Latin-1 letter") << QByteArray("{\n  \"A\": \"\xE4\"}") << QByteArray("2:9")
+                                    << QByteArray("not UTF-8");
+    QTest::newRow("letter cut in the middle")
+        << QByteArray("{\"A\": \"\xC3") << QByteArray("1:8") << QByteArray("not UTF-8");
+    QTest::newRow("no JSON at all") << QByteArray("Pressure = bar\n") << QByteArray("1:1")
+                                    << QByteArray("illegal value");
+}
+
+void ToolDocumentsTest::placesTheFault()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, place);
+    QFETCH(QByteArray, reason);
+    const Folder folder;
+    const QString path = folder.file("faulty.json", content);
+    for (const char* option : {"--units", "--default-units"}) {
+        const ToolRun run = ToolProcess::run({"types", option, path});
+        QCOMPARE(run.standardError, "unitmanager: " + path.toUtf8() + ':' + place + ": " + reason + '\n');
+        QCOMPARE(run.standardOutput, QByteArray());
+        QCOMPARE(run.exitCode, 1);
+    }
+}
+
+void ToolDocumentsTest::namesAFileThatIsNoDocument_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("reason");
+    const QByteArray noTypes = "holds no unit types that the library can read";
+    QTest::newRow("empty") << QByteArray() << noTypes;
+    QTest::newRow("blank") << QByteArray(" \n") << noTypes;
+    QTest::newRow("object without types") << QByteArray("{}") << noTypes;
+    QTest::newRow("array") << QByteArray("[1]") << QByteArray("is not a JSON object");
+}
+
+void ToolDocumentsTest::namesAFileThatIsNoDocument()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, reason);
+    const Folder folder;
+    const QString path = folder.file("units.json", content);
+    const ToolRun run = ToolProcess::run({"types", "--units", path});
+    QCOMPARE(run.standardError, "unitmanager: " + path.toUtf8() + ": " + reason + '\n');
+    QCOMPARE(run.standardOutput, QByteArray());
+    QCOMPARE(run.exitCode, 1);
+
+    const ToolRun folderRun = ToolProcess::run({"types", "--units", folder.path("")});
+    QCOMPARE(folderRun.standardError, "unitmanager: " + folder.path("").toUtf8() + ": is a directory\n");
+    QCOMPARE(folderRun.exitCode, 1);
+    const ToolRun missingRun = ToolProcess::run({"types", "--units", folder.path("missing.json")});
+    QCOMPARE(missingRun.standardError,
+             "unitmanager: " + folder.path("missing.json").toUtf8() + ": No such file or directory\n");
+    QCOMPARE(missingRun.exitCode, 1);
+}
+
+void ToolDocumentsTest::namesDefaultUnitsThatAreNone_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("wrong kind of node") << QByteArray(R"({"Length": {"@value": "Meter"}})");
+}
+
+void ToolDocumentsTest::namesDefaultUnitsThatAreNone()
+{
+    QFETCH(QByteArray, content);
+    const Folder folder;
+    const QString path = folder.file("default-units.json", content);
+    const ToolRun run = ToolProcess::run({"types", "--default-units", path});
+    QCOMPARE(run.standardError,
+             "unitmanager: " + path.toUtf8() + ": holds no default units that the library can read\n");
+    QCOMPARE(run.exitCode, 1);
+}
+
+void ToolDocumentsTest::takesTheDocument_data()
+{
+    QTest::addColumn<QByteArray>("units");
+    QTest::addColumn<QByteArray>("defaultUnits");
+    QTest::addColumn<QByteArray>("types");
+    const QByteArray withDefault = "{\"baseUnit\":\"Meter\",\"defaultUnit\":\"Meter\",\"type\":\"Length\"}\n";
+    const QByteArray withoutDefault = "{\"baseUnit\":\"Meter\",\"defaultUnit\":null,\"type\":\"Length\"}\n";
+    QTest::newRow("plain") << lengthDocument << lengthDefault << withDefault;
+    QTest::newRow("byte order mark") << "\xEF\xBB\xBF" + lengthDocument << "\xEF\xBB\xBF" + lengthDefault
+                                     << withDefault;
+    QTest::newRow("carriage returns")
+        << QByteArray(lengthDocument).replace('\n', "\r\n") << lengthDefault + "\r\n"
+        << withDefault;
+    QTest::newRow("empty default units") << lengthDocument << QByteArray() << withoutDefault;
+    QTest::newRow("default units without content") << lengthDocument << QByteArray("{}\n") << withoutDefault;
+    QTest::newRow("no label") << QByteArray(lengthDocument).replace(", \"UnitLabel\": \"m\"", "")
+                              << lengthDefault << withDefault;
+}
+
+void ToolDocumentsTest::takesTheDocument()
+{
+    QFETCH(QByteArray, units);
+    QFETCH(QByteArray, defaultUnits);
+    QFETCH(QByteArray, types);
+    const Folder folder;
+    const ToolRun run = ToolProcess::run({"types", "--json", "--units", folder.file("units.json", units),
+                                          "--default-units", folder.file("default.json", defaultUnits)});
+    QCOMPARE(run.standardError, QByteArray());
+    QCOMPARE(run.standardOutput, types);
+    QCOMPARE(run.exitCode, 0);
+}
+
+void ToolDocumentsTest::replacesOneDocumentAlone()
+{
+    const Folder folder;
+    const QString pressureDefault =
+        folder.file("default.json", R"({"Pressure": {"@type": "Selection", "@value": "Pascal"}})");
+    QCOMPARE(ToolProcess::run({"convert", "1", "Pressure", "Bar", "--default-units", pressureDefault})
+                 .standardOutput,
+             QByteArray("100000 Pa\n"));
+
+    const ToolRun run = ToolProcess::run(
+        {"convert", "1", "Length", "Meter", "--units", folder.file("units.json", lengthDocument)});
+    QCOMPARE(run.standardError, QByteArray("unitmanager: Length has no default unit; known: Meter\n"));
+    QCOMPARE(run.exitCode, 1);
+}
+
+void ToolDocumentsTest::readsFromAPipe()
+{
+    const ToolRun run = ToolProcess::run({"types", "--units", "/dev/stdin"}, lengthDocument);
+    QCOMPARE(run.standardError, QByteArray());
+    QCOMPARE(run.standardOutput, QByteArray("Length\n"));
+}
+
+QTEST_GUILESS_MAIN(ToolDocumentsTest)
+#include "ToolDocumentsTest.moc"

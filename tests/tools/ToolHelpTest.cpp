@@ -1,0 +1,109 @@
+#include <QtTest/QtTest>
+
+#include "ToolProcess.h"
+
+/// Help and version, on the program and on every verb: on standard output, exit code 0.
+class ToolHelpTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyVerbHasHelp_data();
+    void everyVerbHasHelp();
+    void everyVerbHasTheVersion_data();
+    void everyVerbHasTheVersion();
+    void programHelpListsEveryVerb_data();
+    void programHelpListsEveryVerb();
+    void programHasTheVersion();
+};
+
+namespace {
+
+void addVerbs()
+{
+    QTest::addColumn<QString>("verb");
+    QTest::addColumn<QByteArray>("usage");
+    QTest::addColumn<QStringList>("content");
+    const QStringList common{"--help", "--version", "--verbose", "--units <FILE>", "--default-units <FILE>",
+                             "--json", "Example"};
+    QTest::newRow("types") << "types" << QByteArray("[options]") << common;
+    QTest::newRow("units") << "units" << QByteArray("[options] TYPE")
+                           << common + QStringList{"--language", "  TYPE  "};
+    QTest::newRow("convert") << "convert" << QByteArray("[options] VALUE TYPE FROM [TO]")
+                             << common + QStringList{"--raw",      "--language",  "  VALUE  ", "  TYPE  ",
+                                                     "  FROM  ",   "  TO  ",      "nan",       "inf",
+                                                     "fixed unit", "Blank lines", "#"};
+    QTest::newRow("table") << "table" << QByteArray("[options] VALUE TYPE FROM")
+                           << common +
+                                  QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  "};
+    QTest::newRow("label") << "label" << QByteArray("[options] TYPE [UNIT]")
+                           << common + QStringList{"--language", "  TYPE  ", "  UNIT  "};
+}
+
+} // namespace
+
+void ToolHelpTest::everyVerbHasHelp_data()
+{
+    addVerbs();
+}
+
+void ToolHelpTest::everyVerbHasHelp()
+{
+    QFETCH(QString, verb);
+    QFETCH(QByteArray, usage);
+    QFETCH(QStringList, content);
+    const ToolRun run = ToolProcess::run({verb, "--help"});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.standardError, QByteArray());
+    QCOMPARE(run.standardOutput.split('\n').first(), "Usage: unitmanager " + verb.toUtf8() + ' ' + usage);
+    for (const QString& text : content)
+        QVERIFY2(run.standardOutput.contains(text.toUtf8()), qPrintable(text));
+    for (const QByteArray& line : run.standardOutput.split('\n'))
+        QVERIFY2(line.size() < 81, line.constData());
+
+    QCOMPARE(ToolProcess::run({verb, "-h"}).standardOutput, run.standardOutput);
+    QCOMPARE(ToolProcess::run({verb, "too", "many", "words", "for", "any", "--help"}).standardOutput,
+             run.standardOutput);
+}
+
+void ToolHelpTest::everyVerbHasTheVersion_data()
+{
+    addVerbs();
+}
+
+void ToolHelpTest::everyVerbHasTheVersion()
+{
+    QFETCH(QString, verb);
+    const ToolRun run = ToolProcess::run({verb, "--version"});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.standardError, QByteArray());
+    QCOMPARE(run.standardOutput, QByteArray("unitmanager " UNITMANAGER_VERSION "\n"));
+}
+
+void ToolHelpTest::programHelpListsEveryVerb_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::newRow("long") << "--help";
+    QTest::newRow("short") << "-h";
+}
+
+void ToolHelpTest::programHelpListsEveryVerb()
+{
+    QFETCH(QString, option);
+    const ToolRun run = ToolProcess::run({option});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.standardError, QByteArray());
+    for (const char* verb : {"types", "units", "convert", "table", "label"})
+        QVERIFY2(run.standardOutput.contains('\n' + QByteArray(" ") + verb + ' '), verb);
+}
+
+void ToolHelpTest::programHasTheVersion()
+{
+    const ToolRun run = ToolProcess::run({"--version"});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.standardError, QByteArray());
+    QCOMPARE(run.standardOutput, QByteArray("unitmanager " UNITMANAGER_VERSION "\n"));
+}
+
+QTEST_GUILESS_MAIN(ToolHelpTest)
+#include "ToolHelpTest.moc"

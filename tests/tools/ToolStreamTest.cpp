@@ -1,0 +1,190 @@
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include "ToolProcess.h"
+
+/// `convert -`: a value a line from standard input.
+class ToolStreamTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void convertsLineByLine_data();
+    void convertsLineByLine();
+    void answersBeforeTheInputEnds();
+    void doesNotGrowOverAMillionLines();
+    void endsQuietlyWhenTheReaderLeaves_data();
+    void endsQuietlyWhenTheReaderLeaves();
+    void reportsAnInputThatCannotBeRead();
+    void reportsAFullDisk();
+};
+
+namespace {
+
+const QStringList toBar{"convert", "-", "Pressure", "HectoPascal", "Bar"};
+const int longestWaitMilliseconds = 60000;
+
+QByteArray notANumber(int line, const QByteArray& text)
+{
+    return "unitmanager: line " + QByteArray::number(line) + ": '" + text +
+           "' is not a decimal number such as -1234.5 or 1e-3, within the range of a double\n";
+}
+
+/// The program's greatest resident memory so far, in kB; -1 when that is not known.
+int peakMemory(const QProcess& process)
+{
+    QFile status(QString("/proc/%1/status").arg(process.processId()));
+    if (!status.open(QIODevice::ReadOnly))
+        return -1;
+    const QRegularExpression pattern("VmHWM:\\s+(\\d+) kB");
+    const QRegularExpressionMatch match = pattern.match(QString::fromLatin1(status.readAll()));
+    return match.hasMatch() ? match.captured(1).toInt() : -1;
+}
+
+/// Feeds lines to a running conversion and waits for as many in return. @return whether they came in time
+bool convertLines(QProcess& process, int lineCount)
+{
+    const int linesAtATime = 1000;
+    QElapsedTimer timer;
+    timer.start();
+    int answered = 0;
+    for (int sent = 0; sent < lineCount; sent += linesAtATime) {
+        process.write(QByteArray("1234.5678901234567\n").repeated(linesAtATime));
+        while (answered < sent && timer.elapsed() < longestWaitMilliseconds) {
+            process.waitForReadyRead(100);
+            answered += process.readAllStandardOutput().count('\n');
+        }
+    }
+    while (answered < lineCount && timer.elapsed() < longestWaitMilliseconds) {
+        process.waitForReadyRead(100);
+        answered += process.readAllStandardOutput().count('\n');
+    }
+    return answered == lineCount;
+}
+
+} // namespace
+
+void ToolStreamTest::convertsLineByLine_data()
+{
+    QTest::addColumn<QByteArray>("standardInput");
+    QTest::addColumn<QByteArray>("standardOutput");
+    QTest::addColumn<QByteArray>("standardError");
+    QTest::newRow("nothing") << QByteArray() << QByteArray() << QByteArray();
+    QTest::newRow("values") << QByteArray("1000\n-5\n1e3\n")
+                            << QByteArray("1.000 bar\n-0.005 bar\n1.000 bar\n") << QByteArray();
+    QTest::newRow("last line without end")
+        << QByteArray("1000\n2000") << QByteArray("1.000 bar\n2.000 bar\n") << QByteArray();
+    QTest::newRow("carriage returns")
+        << QByteArray("1000\r\n2000\r\n") << QByteArray("1.000 bar\n2.000 bar\n") << QByteArray();
+    QTest::newRow("blank lines and comments pass")
+        << QByteArray("# hPa\n\n  \n1000\n\r\n #2\n") << QByteArray("1.000 bar\n") << QByteArray();
+    QTest::newRow("blanks around a value")
+        << QByteArray("  1000\t\n") << QByteArray("1.000 bar\n") << QByteArray();
+    QTest::newRow("bad lines do not stop the good ones")
+        << QByteArray("1000\nfive\n\n2,5\n3000\n") << QByteArray("1.000 bar\n3.000 bar\n")
+        << notANumber(2, "five") + notANumber(4, "2,5");
+    QTest::newRow("comment behind a value")
+        << QByteArray("1000 # hPa\n") << QByteArray() << notANumber(1, "1000 # hPa");
+    QTest::newRow("null byte") << QByteArray("1000\0zero\n2000\n", 15) << QByteArray("2.000 bar\n")
+                               << notANumber(1, "1000?zero");
+    QTest::newRow("not UTF-8") << QByteArray("1000\xFF\n") << QByteArray()
+                               << notANumber(1, "1000\xEF\xBF\xBD");
+    QTest::newRow("line of the longest size") << QByteArray(4091, ' ') + "1000\n2000\n"
+                                              << QByteArray("1.000 bar\n2.000 bar\n") << QByteArray();
+    QTest::newRow("line too long") << QByteArray(4092, ' ') + "1000\n2000\n"
+                                   << QByteArray("2.000 bar\n") << notANumber(1, "100...");
+    QTest::newRow("line far too long")
+        << QByteArray(100000, '1') + "\n2000\n"
+        << QByteArray("2.000 bar\n") << notANumber(1, QByteArray(60, '1') + "...");
+    QTest::newRow("line too long without end")
+        << QByteArray(5000, ' ') + "1" << QByteArray() << notANumber(1, "...");
+}
+
+void ToolStreamTest::convertsLineByLine()
+{
+    QFETCH(QByteArray, standardInput);
+    QFETCH(QByteArray, standardOutput);
+    QFETCH(QByteArray, standardError);
+    const ToolRun run = ToolProcess::run(toBar, standardInput);
+    QCOMPARE(run.standardError, standardError);
+    QCOMPARE(run.standardOutput, standardOutput);
+    QCOMPARE(run.exitCode, standardError.isEmpty() ? 0 : 1);
+}
+
+void ToolStreamTest::answersBeforeTheInputEnds()
+{
+    QProcess process;
+    process.start(ToolProcess::path(), toBar);
+    for (int i = 1; i <= 3; ++i) {
+        process.write("1000\n");
+        QVERIFY(process.waitForReadyRead(longestWaitMilliseconds));
+        QCOMPARE(process.readAllStandardOutput(), QByteArray("1.000 bar\n"));
+    }
+    process.closeWriteChannel();
+    QVERIFY(process.waitForFinished(longestWaitMilliseconds));
+    QCOMPARE(process.exitCode(), 0);
+}
+
+void ToolStreamTest::doesNotGrowOverAMillionLines()
+{
+    // The address sanitizer, if there is one, keeps freed memory for a while; a short while will do.
+    QProcessEnvironment environment = ToolProcess::plainEnvironment();
+    environment.insert("ASAN_OPTIONS", environment.value("ASAN_OPTIONS") +
+                                           ":quarantine_size_mb=1:thread_local_quarantine_size_kb=64");
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(ToolProcess::path(), toBar);
+    QVERIFY(convertLines(process, 10000));
+    const int peakAfterFew = peakMemory(process);
+    QVERIFY(peakAfterFew > 0);
+    QVERIFY(convertLines(process, 990000));
+    const int peakAfterMany = peakMemory(process);
+    process.closeWriteChannel();
+    QVERIFY(process.waitForFinished(longestWaitMilliseconds));
+    QCOMPARE(process.exitCode(), 0);
+
+    // A single byte kept of every line would already take half of it.
+    const int allowedGrowth = 2048;
+    QVERIFY2(peakAfterMany - peakAfterFew < allowedGrowth,
+             qPrintable(QString("from %1 kB to %2 kB").arg(peakAfterFew).arg(peakAfterMany)));
+}
+
+void ToolStreamTest::endsQuietlyWhenTheReaderLeaves_data()
+{
+    QTest::addColumn<QString>("preparation");
+    QTest::newRow("broken pipe as a signal") << "true";
+    QTest::newRow("broken pipe as an error") << "trap '' PIPE";
+}
+
+void ToolStreamTest::endsQuietlyWhenTheReaderLeaves()
+{
+    QFETCH(QString, preparation);
+    // Without end, unless the program stops by itself.
+    const QString script = preparation + "; yes 1000 | \"$0\" \"$@\" | head -n 2";
+    const ToolRun run = ToolProcess::runProgram("sh", QStringList{"-c", script, ToolProcess::path()} + toBar);
+    QCOMPARE(run.standardOutput, QByteArray("1.000 bar\n1.000 bar\n"));
+    QVERIFY2(!run.standardError.contains("unitmanager"), run.standardError.constData());
+    QCOMPARE(run.exitCode, 0);
+}
+
+void ToolStreamTest::reportsAnInputThatCannotBeRead()
+{
+    const QStringList program{"-c", "exec \"$0\" \"$@\" < /", ToolProcess::path()};
+    const ToolRun run = ToolProcess::runProgram("sh", program + toBar);
+    QCOMPARE(run.standardError, QByteArray("unitmanager: cannot read standard input\n"));
+    QCOMPARE(run.standardOutput, QByteArray());
+    QCOMPARE(run.exitCode, 1);
+}
+
+void ToolStreamTest::reportsAFullDisk()
+{
+    const QStringList program{"-c", "exec \"$0\" \"$@\" >/dev/full", ToolProcess::path()};
+    const ToolRun run = ToolProcess::runProgram("sh", program + toBar, QByteArray("1000\n").repeated(100000));
+    QCOMPARE(run.standardError, QByteArray("unitmanager: cannot write: No space left on device\n"));
+    QCOMPARE(run.exitCode, 1);
+}
+
+QTEST_GUILESS_MAIN(ToolStreamTest)
+#include "ToolStreamTest.moc"

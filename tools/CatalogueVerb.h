@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Verb.h"
+
+class UnitCatalogue;
+
+/// A verb that answers from the unit documents: the shipped ones, or those named by --units and
+/// --default-units.
+class CatalogueVerb : public Verb
+{
+protected:
+    using Verb::Verb;
+
+    void addOptions(QCommandLineParser& parser) const override;
+    /// Does the work with the documents loaded. @return an ExitCode
+    virtual int answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
+                       const QStringList& arguments) = 0;
+
+private:
+    int run(const QCommandLineParser& options, const QStringList& arguments) final;
+};

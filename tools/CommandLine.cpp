@@ -1,0 +1,66 @@
+#include "CommandLine.h"
+
+#include <algorithm>
+
+#include "Console.h"
+#include "ConvertVerb.h"
+#include "ExitCode.h"
+#include "KnownNames.h"
+#include "LabelVerb.h"
+#include "TableVerb.h"
+#include "TextTable.h"
+#include "TypesVerb.h"
+#include "UnitsVerb.h"
+
+CommandLine::CommandLine()
+{
+    verbs.push_back(std::make_unique<TypesVerb>());
+    verbs.push_back(std::make_unique<UnitsVerb>());
+    verbs.push_back(std::make_unique<ConvertVerb>());
+    verbs.push_back(std::make_unique<TableVerb>());
+    verbs.push_back(std::make_unique<LabelVerb>());
+}
+
+int CommandLine::run(const QStringList& words) const
+{
+    const QString word = words.value(0);
+    if (word == "--help" || word == "-h") {
+        Console::printLine(helpText());
+        return Succeeded;
+    }
+    if (word == "--version") {
+        Console::printLine(Verb::versionText());
+        return Succeeded;
+    }
+    if (Verb* verb = findVerb(word))
+        return verb->execute(words.mid(1));
+
+    QStringList names;
+    for (const auto& verb : verbs)
+        names.append(verb->about().name);
+    Console::printError(words.isEmpty() ? "VERB is missing; " + KnownNames::list(names)
+                                        : KnownNames::unknown("verb", word, {}, names).reason);
+    Console::printError("usage: unitmanager VERB [options] ...; more with --help");
+    return WrongUsage;
+}
+
+Verb* CommandLine::findVerb(const QString& name) const
+{
+    const auto found = std::find_if(verbs.begin(), verbs.end(),
+                                    [&name](const auto& verb) { return verb->about().name == name; });
+    return found == verbs.end() ? nullptr : found->get();
+}
+
+QString CommandLine::helpText() const
+{
+    TextTable table;
+    for (const auto& verb : verbs)
+        table.addRow({' ' + verb->about().name, verb->about().summary});
+    return "Usage: unitmanager VERB [options] ...\n"
+           "Converts values between the physical units of a measuring device.\n\n"
+           "Verbs:\n" +
+           table.lines().join('\n') +
+           "\n\n"
+           "Every verb has --help and --version. Exit codes: 0 done; 1 a name, a document or\n"
+           "a line of input was not usable; 2 the command line was wrong.";
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "CatalogueVerb.h"
+
+/// Shows the label of a unit.
+class LabelVerb : public CatalogueVerb
+{
+public:
+    LabelVerb();
+
+protected:
+    void addOptions(QCommandLineParser& parser) const override;
+    int answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
+               const QStringList& arguments) override;
+};

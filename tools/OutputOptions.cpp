@@ -1,0 +1,55 @@
+#include "OutputOptions.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+
+namespace {
+
+const char* const jsonName = "json";
+const char* const rawName = "raw";
+const char* const languageName = "language";
+
+} // namespace
+
+void OutputOptions::addJson(QCommandLineParser& parser, const QString& content)
+{
+    parser.addOption({jsonName, "Print a JSON object a line: " + content + '.'});
+}
+
+void OutputOptions::addRaw(QCommandLineParser& parser)
+{
+    parser.addOption(
+        {rawName, "Print numbers as the shortest text that reads back the same double, without label."});
+}
+
+void OutputOptions::addLanguage(QCommandLineParser& parser)
+{
+    parser.addOption(
+        {languageName, "Language of labels, such as de or de_AT; en when not given.", "LANGUAGE", "en"});
+}
+
+bool OutputOptions::isJson(const QCommandLineParser& options)
+{
+    return options.isSet(jsonName);
+}
+
+bool OutputOptions::isRaw(const QCommandLineParser& options)
+{
+    return options.isSet(rawName);
+}
+
+QString OutputOptions::language(const QCommandLineParser& options)
+{
+    return options.value(languageName);
+}
+
+QString OutputOptions::jsonLine(const QJsonObject& object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+QJsonValue OutputOptions::jsonText(const QString& text)
+{
+    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <optional>
+#include <utility>
+
+/// Why something was not done, as one line for the user.
+struct Failure
+{
+    QString reason;
+};
+
+/// A value, or the reason why there is none.
+template <typename T>
+class Result
+{
+public:
+    Result(T given) : value(std::move(given)) {}
+    Result(Failure given) : failure(std::move(given)) {}
+
+    /// Whether there is a value.
+    explicit operator bool() const
+    {
+        return value.has_value();
+    }
+    /// The value; only when there is one.
+    const T& operator*() const
+    {
+        return *value;
+    }
+    const T* operator->() const
+    {
+        return &*value;
+    }
+    /// The failure; its reason is empty when there is a value.
+    const Failure& error() const
+    {
+        return failure;
+    }
+
+private:
+    std::optional<T> value;
+    Failure failure;
+};

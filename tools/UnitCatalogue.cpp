@@ -1,0 +1,160 @@
+#include "UnitCatalogue.h"
+
+#include <algorithm>
+
+#include "JsonDocumentFile.h"
+#include "KnownNames.h"
+#include "UnitManagerDefinitions.h"
+
+namespace {
+
+QString behindLastSlash(const QString& text)
+{
+    return text.mid(text.lastIndexOf('/') + 1);
+}
+
+QStringList namesOf(const QVector<UnitType>& types)
+{
+    QStringList names;
+    for (const UnitType& type : types)
+        names.append(type.name);
+    return names;
+}
+
+/// Null when there is none.
+const UnitType* findType(const QVector<UnitType>& types, const QString& name)
+{
+    const auto found = std::find_if(types.begin(), types.end(), [&name](const UnitType& type) {
+        return type.name == name || type.id == name;
+    });
+    return found == types.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+UnitCatalogue::UnitCatalogue() = default;
+
+Result<UnitCatalogue> UnitCatalogue::load(const QString& unitsPath, const QString& defaultUnitsPath)
+{
+    const auto units = JsonDocumentFile::read(unitsPath);
+    if (!units)
+        return units.error();
+    const auto defaultUnits = JsonDocumentFile::read(defaultUnitsPath);
+    if (!defaultUnits)
+        return defaultUnits.error();
+
+    UnitCatalogue catalogue;
+    // The result does not matter: it is false also for a document without labels, which is good enough here.
+    catalogue.updateUnitConversionByJsonString(units->text);
+    if (catalogue.getListofUnitTypes().isEmpty())
+        return Failure{unitsPath + ": holds no unit types that the library can read"};
+    if (!catalogue.updateDefaultUnitsByJsonString(defaultUnits->text) && defaultUnits->hasContent)
+        return Failure{defaultUnitsPath + ": holds no default units that the library can read"};
+    return catalogue;
+}
+
+QVector<UnitType> UnitCatalogue::unitTypes() const
+{
+    QVector<UnitType> types;
+    for (const QString& id : getListofUnitTypes()) {
+        UnitType type{behindLastSlash(id), id, {}};
+        const QStringList noChoice{UnitManagerDefinitions::getUnitTypeNoUnit()};
+        if (units(type) == noChoice)
+            type.fixedUnit = noChoice.first();
+        types.append(type);
+    }
+    std::sort(types.begin(), types.end(),
+              [](const UnitType& left, const UnitType& right) { return left.name < right.name; });
+    return types;
+}
+
+Result<UnitType> UnitCatalogue::unitType(const QString& name) const
+{
+    const QVector<UnitType> types = unitTypes();
+    if (const UnitType* type = findType(types, name))
+        return *type;
+
+    const QString typeName = name.left(name.lastIndexOf('/'));
+    const UnitType* type = findType(types, typeName);
+    if (type == nullptr)
+        return KnownNames::unknown("unit type", name, {}, namesOf(types));
+    const QString unitName = behindLastSlash(name);
+    if (!units(*type).contains(unitName))
+        return KnownNames::unknown("unit", unitName, " of " + type->name, units(*type));
+    return UnitType{type->name + '/' + unitName, type->id, unitName};
+}
+
+QStringList UnitCatalogue::units(const UnitType& type) const
+{
+    if (!type.fixedUnit.isEmpty())
+        return {type.fixedUnit};
+
+    QStringList names;
+    for (const QString& name : getListofUnits(type.id)) {
+        // A unit listed without conversion is none: the unit-less one beside it has emptied them.
+        if (decimalPlaces(type, name))
+            names.append(name);
+    }
+    const QString base = baseUnit(type);
+    if (base == UnitManagerDefinitions::getUnitTypeNoUnit())
+        names.append(base);
+    names.removeDuplicates();
+    std::sort(names.begin(), names.end(), [&base](const QString& left, const QString& right) {
+        return left != right && (left == base || (right != base && left < right));
+    });
+    return names;
+}
+
+Result<QString> UnitCatalogue::unit(const UnitType& type, const QString& name) const
+{
+    const QStringList known = units(type);
+    if (!name.isEmpty() && !known.contains(name))
+        return KnownNames::unknown("unit", name, " of " + type.name, known);
+    if (!name.isEmpty())
+        return name;
+
+    const QString defaultName = defaultUnit(type);
+    if (defaultName.isEmpty())
+        return Failure{type.name + " has no default unit; " + KnownNames::list(known)};
+    if (!known.contains(defaultName))
+        return KnownNames::unknown("default unit", defaultName, " of " + type.name, known);
+    return defaultName;
+}
+
+QString UnitCatalogue::baseUnit(const UnitType& type) const
+{
+    if (type.id == UnitManagerDefinitions::getUnitTypeUrlNoUnit())
+        return UnitManagerDefinitions::getUnitTypeNoUnit();
+    return behindLastSlash(getBaseUnit(type.id));
+}
+
+QString UnitCatalogue::defaultUnit(const UnitType& type) const
+{
+    return type.fixedUnit.isEmpty() ? getDefaultUnit(type.id) : type.fixedUnit;
+}
+
+QString UnitCatalogue::label(const UnitType& type, const QString& unit, const QString& language) const
+{
+    return getUnitText(type.id, language, unit);
+}
+
+std::optional<unsigned int> UnitCatalogue::decimalPlaces(const UnitType& type, const QString& unit) const
+{
+    unsigned int places = 0;
+    const bool isKnown = unitManagerCore().getDecimalPlacesForUnit(type.id, unit, places);
+    return isKnown ? std::optional<unsigned int>(places) : std::nullopt;
+}
+
+double UnitCatalogue::convert(double value, const UnitType& type, const QString& from,
+                              const QString& to) const
+{
+    // Not by way of the base unit, which would cost the last digits.
+    if (from == to)
+        return value;
+    return fromBaseUnitRaw(toBaseUnitRaw(value, type.id, from), type.id, to).toDouble();
+}
+
+double UnitCatalogue::rounded(double value, unsigned int decimalPlaces) const
+{
+    return roundDouble(value, decimalPlaces).toDouble();
+}

@@ -1,0 +1,121 @@
+#include "Verb.h"
+
+#include <QtCore/QCommandLineParser>
+
+#include "Console.h"
+#include "ExitCode.h"
+#include "MessageFilter.h"
+
+namespace {
+
+/// Whether a word that begins like an option is a negative number.
+bool isNegativeNumber(const QString& word)
+{
+    if (!word.startsWith('-') || word.size() < 2)
+        return false;
+    return word[1].isDigit() || word[1] == '.' || word == "-inf";
+}
+
+/// The words with a blank before negative numbers, which keeps the parser from taking them for options.
+QStringList withShieldedNumbers(QStringList words)
+{
+    for (QString& word : words) {
+        if (isNegativeNumber(word))
+            word.prepend(' ');
+    }
+    return words;
+}
+
+QStringList withoutShields(QStringList words)
+{
+    for (QString& word : words) {
+        if (word.startsWith(" -"))
+            word.remove(0, 1);
+    }
+    return words;
+}
+
+/// A sentence as part of a message: without its capital letter and full stop.
+QString asClause(QString sentence)
+{
+    sentence[0] = sentence[0].toLower();
+    if (sentence.endsWith('.'))
+        sentence.chop(1);
+    return sentence;
+}
+
+int show(const QString& text)
+{
+    Console::printLine(text);
+    return Succeeded;
+}
+
+} // namespace
+
+QString Verb::versionText()
+{
+    return "unitmanager " UNITMANAGER_VERSION;
+}
+
+Verb::Verb(const Description& givenDescription) : description(givenDescription) {}
+
+Verb::~Verb() = default;
+
+const Verb::Description& Verb::about() const
+{
+    return description;
+}
+
+int Verb::execute(const QStringList& words)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(description.summary);
+    parser.addOption({{"h", "help"}, "Show this help."});
+    parser.addOption({"version", "Show the program's version."});
+    parser.addOption({"verbose", "Also print the library's messages on standard error."});
+    addOptions(parser);
+    for (const Argument& argument : description.arguments)
+        parser.addPositionalArgument(argument.name, argument.description);
+
+    const bool isUnderstood = parser.parse(QStringList("unitmanager") + withShieldedNumbers(words));
+    if (parser.isSet("help"))
+        return show(helpText(parser));
+    if (parser.isSet("version"))
+        return show(versionText());
+    if (!isUnderstood)
+        return usageError(asClause(parser.errorText()));
+
+    const QStringList arguments = withoutShields(parser.positionalArguments());
+    if (arguments.size() < description.leastArguments)
+        return usageError(description.arguments[arguments.size()].name + " is missing");
+    if (arguments.size() > description.arguments.size())
+        return usageError("too many arguments: " + Console::quoted(arguments[description.arguments.size()]));
+    if (parser.isSet("verbose"))
+        MessageFilter::setVerbose();
+    return run(parser, arguments);
+}
+
+int Verb::usageError(const QString& reason) const
+{
+    Console::printError(reason);
+    Console::printError("usage: " + usageLine() + "; more with --help");
+    return WrongUsage;
+}
+
+int Verb::fail(const Failure& failure)
+{
+    Console::printError(failure.reason);
+    return Failed;
+}
+
+QString Verb::usageLine() const
+{
+    return QString("unitmanager %1 [options] %2").arg(description.name, description.usage).trimmed();
+}
+
+QString Verb::helpText(const QCommandLineParser& parser) const
+{
+    // The parser's own first line names the program by its path and does not know the verb.
+    const QString generated = parser.helpText();
+    return "Usage: " + usageLine() + generated.mid(generated.indexOf('\n')) + '\n' + description.details;
+}
