@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# Shows the main job on the shipped documents: examples/demo.sh BUILD_FOLDER
+set -euo pipefail
+build=${1:?usage: examples/demo.sh BUILD_FOLDER}
+unitmanager=$build/tools/unitmanager
+
+show() { # what a user would type, and what it prints
+    printf '\n$ unitmanager'
+    printf ' %q' "$@"
+    printf '\n'
+    "$unitmanager" "$@"
+}
+
+show_failing() {
+    local status=0
+    show "$@" 2>&1 || status=$?
+    echo "(exit code $status)"
+    [ "$status" -ne 0 ]
+}
+
+echo "Units from documents: what there is"
+show types
+show units Pressure
+
+echo
+echo "Convert: into the default unit, into a given one, exactly, into all of them"
+show convert 1.01325 Pressure Bar
+show convert 72 AbsoluteTemperature DegreeFahrenheit DegreeCelsius
+show convert 14.5 Pressure PoundForcePerSquareInch HectoPascal --raw
+show table 1 Pressure StandardAtmosphere
+
+echo
+echo "Labels in three languages, also of a fixed unit"
+for language in en de fr; do
+    show label RelativeHumidity RelHumidity --language "$language"
+done
+show label UnitManager/UnitType/Pressure/InchOfMercury --language de
+
+echo
+echo "A stream of values"
+printf '$ printf "0\\n20.5\\n100\\n" | unitmanager convert - AbsoluteTemperature DegreeCelsius Kelvin\n'
+printf '0\n20.5\n100\n' | "$unitmanager" convert - AbsoluteTemperature DegreeCelsius Kelvin
+
+echo
+echo "What goes wrong says so"
+show_failing convert 1 Pressure Baar
+show_failing convert 1 Presure Bar
+show_failing convert one Pressure Bar
