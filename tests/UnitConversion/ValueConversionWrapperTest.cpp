@@ -208,8 +208,10 @@ void ValueConversionWrapperTest::probesInOrderAndStopsAtTheFirst_data()
     const QStringList all{"unit.getChild(Polynomial)", "unit.getChild(ArbitraryTable)",
                           "unit.getChild(EquidistantTable)"};
     QTest::newRow("no child") << "{}" << all;
-    QTest::newRow("polynomial") << R"({"Polynomial": [[1]], "ArbitraryTable": {}})" << QStringList(all.mid(0, 1));
-    QTest::newRow("arbitrary table") << R"({"ArbitraryTable": {}, "EquidistantTable": {}})" << QStringList(all.mid(0, 2));
+    QTest::newRow("polynomial") << R"({"Polynomial": [[1]], "ArbitraryTable": {}})"
+                                << QStringList(all.mid(0, 1));
+    QTest::newRow("arbitrary table") << R"({"ArbitraryTable": {}, "EquidistantTable": {}})"
+                                     << QStringList(all.mid(0, 2));
     QTest::newRow("equidistant table") << R"({"EquidistantTable": {}})" << all;
 }
 

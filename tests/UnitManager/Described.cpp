@@ -1,6 +1,7 @@
 #include "Described.h"
 
 #include "LogCapture.h"
+#include "MessageText.h"
 
 namespace {
 
@@ -11,30 +12,9 @@ bool hasFixedLines(const QString& file)
            file == QLatin1String("UnitConversion/UnitConversionUnitTypeHandler");
 }
 
-QString levelName(QtMsgType level)
+QString warning(const char* file, int line, const char* function, const QString& text)
 {
-    if (level == QtWarningMsg)
-        return QStringLiteral("warning");
-    return QStringLiteral("level %1").arg(static_cast<int>(level));
-}
-
-QString placeOf(const LoggedMessage& message)
-{
-    if (!hasFixedLines(message.file) && message.line > 0)
-        return message.file;
-    return message.file + QLatin1Char(':') + QString::number(message.line);
-}
-
-QString asLine(const QString& level, const QString& category, const QString& place, const QString& function,
-               const QString& text)
-{
-    return QStringList{level, category, place, function, text}.join(QStringLiteral(" | "));
-}
-
-QString warning(const char* place, const char* function, const QString& text)
-{
-    return asLine(QStringLiteral("warning"), QStringLiteral("default"), QLatin1String(place),
-                  QLatin1String(function), text);
+    return warningText(QLatin1String(file), line, QLatin1String(function), text);
 }
 
 QString quoted(const QString& text)
@@ -42,17 +22,21 @@ QString quoted(const QString& text)
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
-QString lookUpWarning(const char* place, const char* function, const char* text, const QString& unitType)
+QString lookUpWarning(int line, const char* function, const char* text, const QString& unitType)
 {
     // The text's own last blank and the stream's.
-    return warning(place, function, QLatin1String(text) + QStringLiteral("  ") + quoted(unitType));
+    return warning("UnitConversion/UnitConversionLookUp", line, function,
+                   QLatin1String(text) + QStringLiteral("  ") + quoted(unitType));
 }
 
-const char* handlerFunction(Expected::Conversion conversion)
+QString handlerWarning(Expected::Conversion conversion, int lineToBase, int lineFromBase, const QString& text)
 {
-    return conversion == Expected::Conversion::ToBase
-               ? "bool UnitConversionUnitTypeHandler::toBaseUnit(QVariant&, const QString&) const"
-               : "bool UnitConversionUnitTypeHandler::fromBaseUnit(QVariant&, const QString&) const";
+    const bool isToBase = conversion == Expected::Conversion::ToBase;
+    return warning("UnitConversion/UnitConversionUnitTypeHandler", isToBase ? lineToBase : lineFromBase,
+                   isToBase
+                       ? "bool UnitConversionUnitTypeHandler::toBaseUnit(QVariant&, const QString&) const"
+                       : "bool UnitConversionUnitTypeHandler::fromBaseUnit(QVariant&, const QString&) const",
+                   text);
 }
 
 QString unknownUnitText(const QString& unit, const QString& unitType)
@@ -82,16 +66,18 @@ QStringList described(const QList<QVariant>& values)
 
 QStringList describedMessages(LogCapture& log)
 {
-    QStringList lines;
-    for (const LoggedMessage& message : log.take())
-        lines.append(asLine(levelName(message.type), message.category, placeOf(message), message.function,
-                            message.text));
-    return lines;
+    QStringList texts;
+    for (LoggedMessage message : log.take()) {
+        if (!hasFixedLines(message.file) && message.line > 0)
+            message.line = anyLine;
+        texts.append(messageText(message));
+    }
+    return texts;
 }
 
 QString Expected::noDefaultUnit(const QString& unitType)
 {
-    return warning("UnitConversion/DefaultUnitHandler",
+    return warning("UnitConversion/DefaultUnitHandler", anyLine,
                    "QString DefaultUnitHandler::getDefaultUnit(const QString&) const",
                    QStringLiteral("Cannot find default unit for unitType ") + quoted(unitType) +
                        QStringLiteral(" !"));
@@ -102,18 +88,16 @@ QString Expected::noConversion(Conversion conversion, const QString& unitType)
     const char* const text = "No conversion function given for unitType";
     if (conversion == Conversion::ToBase)
         return lookUpWarning(
-            "UnitConversion/UnitConversionLookUp:137",
-            "bool UnitConversionLookUp::toBaseUnit(QVariant&, const QString&, const QString&) const", text,
-            unitType);
+            137, "bool UnitConversionLookUp::toBaseUnit(QVariant&, const QString&, const QString&) const",
+            text, unitType);
     return lookUpWarning(
-        "UnitConversion/UnitConversionLookUp:152",
-        "bool UnitConversionLookUp::fromBaseUnit(QVariant&, const QString&, const QString&) const", text,
+        152, "bool UnitConversionLookUp::fromBaseUnit(QVariant&, const QString&, const QString&) const", text,
         unitType);
 }
 
 QString Expected::noConversionForDecimalPlaces(const QString& unitType)
 {
-    return lookUpWarning("UnitConversion/UnitConversionLookUp:174",
+    return lookUpWarning(174,
                          "bool UnitConversionLookUp::getDecimalPlacesForUnit(const QString&, const QString&, "
                          "unsigned int&) const",
                          "No conversion function given for unitType", unitType);
@@ -121,26 +105,21 @@ QString Expected::noConversionForDecimalPlaces(const QString& unitType)
 
 QString Expected::noBaseUnit(const QString& unitType)
 {
-    return lookUpWarning("UnitConversion/UnitConversionLookUp:122",
-                         "QString UnitConversionLookUp::getBaseUnit(const QString&) const",
+    return lookUpWarning(122, "QString UnitConversionLookUp::getBaseUnit(const QString&) const",
                          "No base unit given for unitType", unitType);
 }
 
 QString Expected::invalidType(Conversion conversion, const QString& typeName)
 {
-    return warning(conversion == Conversion::ToBase ? "UnitConversion/UnitConversionUnitTypeHandler:114"
-                                                    : "UnitConversion/UnitConversionUnitTypeHandler:162",
-                   handlerFunction(conversion),
-                   QStringLiteral("Invalid type given for conversion ") + typeName);
+    return handlerWarning(conversion, 114, 162,
+                          QStringLiteral("Invalid type given for conversion ") + typeName);
 }
 
 QString Expected::unknownUnit(Conversion conversion, const QString& unit, const QString& unitTypeKey)
 {
-    return warning(conversion == Conversion::ToBase ? "UnitConversion/UnitConversionUnitTypeHandler:132"
-                                                    : "UnitConversion/UnitConversionUnitTypeHandler:180",
-                   handlerFunction(conversion),
-                   QStringLiteral("Unknown unit ") + quoted(unit) + QStringLiteral(" given for unitType ") +
-                       quoted(unitTypeKey));
+    return handlerWarning(conversion, 132, 180,
+                          QStringLiteral("Unknown unit ") + quoted(unit) +
+                              QStringLiteral(" given for unitType ") + quoted(unitTypeKey));
 }
 
 QStringList Expected::notConverted(Conversion conversion, const QString& typeName, const QString& unit,
@@ -151,14 +130,14 @@ QStringList Expected::notConverted(Conversion conversion, const QString& typeNam
 
 QString Expected::notRounded(const QString& streamedValue)
 {
-    return warning("UnitManager", "QVariant UnitManager::roundDouble(const QVariant&, unsigned int) const",
-                   QStringLiteral("Error on converting value to double ") + streamedValue +
-                       QStringLiteral(" !"));
+    return warning(
+        "UnitManager", anyLine, "QVariant UnitManager::roundDouble(const QVariant&, unsigned int) const",
+        QStringLiteral("Error on converting value to double ") + streamedValue + QStringLiteral(" !"));
 }
 
 QString Expected::noFixedUnit(const QString& text)
 {
-    return warning("UnitManagerCore",
+    return warning("UnitManagerCore", anyLine,
                    "bool UnitManagerCore::extractUnitTypeAndUnit(const QString&, QString&, QString&) const",
                    QStringLiteral("Unable to get unit type for unit: ") + quoted(text) +
                        QStringLiteral(" !"));
@@ -167,7 +146,7 @@ QString Expected::noFixedUnit(const QString& text)
 QString Expected::unknownTextType(const QString& unitType)
 {
     return warning(
-        "UnitTextManagement/UnitTextHandler",
+        "UnitTextManagement/UnitTextHandler", anyLine,
         "QString UnitTextHandler::getUnitText(const QString&, const QString&, const QString&) const",
         QStringLiteral("Unknown unit type given ") + quoted(unitType));
 }
@@ -175,42 +154,42 @@ QString Expected::unknownTextType(const QString& unitType)
 QString Expected::unknownTextUnit(const QString& unit, const QString& unitType)
 {
     return warning(
-        "UnitTextManagement/UnitTextHandler",
+        "UnitTextManagement/UnitTextHandler", anyLine,
         "QString UnitTextHandler::getUnitText(const QString&, const QString&, const QString&) const",
         unknownUnitText(unit, unitType));
 }
 
 QString Expected::unknownTextMapType(const QString& unitType)
 {
-    return warning("UnitTextManagement/UnitTextHandler",
+    return warning("UnitTextManagement/UnitTextHandler", anyLine,
                    "QVariant UnitTextHandler::getUnitTextJsonMap(const QString&) const",
                    QStringLiteral("Unknown unit type given ") + quoted(unitType));
 }
 
 QString Expected::unknownTextMapUnit(const QString& unit, const QString& unitType)
 {
-    return warning("UnitTextManagement/UnitTextHandler",
+    return warning("UnitTextManagement/UnitTextHandler", anyLine,
                    "QVariant UnitTextHandler::getUnitTextJsonMap(const QString&) const",
                    unknownUnitText(unit, unitType));
 }
 
 QString Expected::noBaseUnitLabel(const QString& unitType)
 {
-    return warning("UnitTextManagement/UnitTextHandler",
+    return warning("UnitTextManagement/UnitTextHandler", anyLine,
                    "bool UnitTextHandler::initByJsonString(const QString&)",
                    QStringLiteral("No Base unit label given for ") + quoted(unitType));
 }
 
 QString Expected::invalidUnitDocument(const QString& streamedDocument)
 {
-    return warning("UnitConversion/UnitConversionLookUp:75",
+    return warning("UnitConversion/UnitConversionLookUp", 75,
                    "bool UnitConversionLookUp::initByJsonString(const QString&)",
                    QStringLiteral("Conversion configuration invalid ") + quoted(streamedDocument));
 }
 
 QString Expected::invalidDefaultUnitDocument()
 {
-    return warning("UnitConversion/DefaultUnitHandler",
+    return warning("UnitConversion/DefaultUnitHandler", anyLine,
                    "bool DefaultUnitHandler::initByJsonString(const QString&)",
                    QStringLiteral("DefaultUnit file is not valid"));
 }

@@ -7,7 +7,7 @@
 
 #include "Described.h"
 #include "LogCapture.h"
-#include "RecordingNode.h"
+#include "RecordingValueNode.h"
 #include "TestDocuments.h"
 
 class UnitManagerCoreConversionTest : public QObject
@@ -237,7 +237,7 @@ void UnitManagerCoreConversionTest::nodeToBaseUnit()
 {
     QFETCH(QVariant, unitType);
     QFETCH(QString, unit);
-    const auto node = RecordingNode::number(1.5, unitType);
+    const auto node = RecordingValueNode::number(1.5, unitType);
     QVariant value(2000);
     LogCapture log;
 
@@ -278,7 +278,7 @@ void UnitManagerCoreConversionTest::nodeFromBaseUnit()
 {
     QFETCH(QVariant, unitType);
     QFETCH(QString, unit);
-    const auto node = RecordingNode::number(1.5, unitType);
+    const auto node = RecordingValueNode::number(1.5, unitType);
     LogCapture log;
 
     QTEST(described(m_core.fromBaseUnit(node, QVariant(2), unit)), "result");

@@ -6,7 +6,7 @@
 
 #include "Described.h"
 #include "LogCapture.h"
-#include "RecordingNode.h"
+#include "RecordingValueNode.h"
 #include "TestDocuments.h"
 
 static_assert(std::has_virtual_destructor_v<UnitManagerCore>);
@@ -187,7 +187,7 @@ void UnitManagerCoreTest::unitTypeOfNode()
 {
     QFETCH(QVariant, property);
     QFETCH(QString, unitType);
-    const auto node = RecordingNode::number(1.5, property);
+    const auto node = RecordingValueNode::number(1.5, property);
     QString foundType = QStringLiteral("old type");
     QString unit = QStringLiteral("old unit");
     LogCapture log;
@@ -214,8 +214,8 @@ void UnitManagerCoreTest::unitTypeOfNullNode()
 
 void UnitManagerCoreTest::unitTypeOfChild()
 {
-    const auto child = RecordingNode::number(1.5, T::pressure);
-    const auto parent = RecordingNode::parentOf(child);
+    const auto child = RecordingValueNode::number(1.5, T::pressure);
+    const auto parent = RecordingValueNode::parentOf(child);
     QString unitType = QStringLiteral("old type");
     QString unit = QStringLiteral("old unit");
 

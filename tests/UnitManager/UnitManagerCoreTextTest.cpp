@@ -4,7 +4,7 @@
 
 #include "Described.h"
 #include "LogCapture.h"
-#include "RecordingNode.h"
+#include "RecordingValueNode.h"
 #include "TestDocuments.h"
 
 class UnitManagerCoreTextTest : public QObject
@@ -134,7 +134,7 @@ void UnitManagerCoreTextTest::unitTextOfNode()
 {
     QFETCH(QVariant, unitType);
     QFETCH(QString, unit);
-    const auto node = RecordingNode::number(1.5, unitType);
+    const auto node = RecordingValueNode::number(1.5, unitType);
     LogCapture log;
 
     QTEST(m_core.getUnitText(node, QStringLiteral("de"), unit), "text");

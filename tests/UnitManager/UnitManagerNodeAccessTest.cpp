@@ -8,7 +8,7 @@
 #include "Described.h"
 #include "LogCapture.h"
 #include "PropertyManagerConst.h"
-#include "RecordingNode.h"
+#include "RecordingValueNode.h"
 #include "TestDocuments.h"
 
 class UnitManagerNodeAccessTest : public QObject
@@ -35,7 +35,7 @@ private:
     UnitManager m_manager;
 };
 
-Q_DECLARE_METATYPE(QSharedPointer<RecordingNode>)
+Q_DECLARE_METATYPE(QSharedPointer<RecordingValueNode>)
 
 namespace {
 
@@ -43,7 +43,7 @@ namespace T = TestUnitType;
 
 using Expected::Conversion;
 using Expected::notConverted;
-using Node = QSharedPointer<RecordingNode>;
+using Node = QSharedPointer<RecordingValueNode>;
 
 const double marker = std::numeric_limits<double>::quiet_NaN();
 
@@ -66,7 +66,7 @@ void UnitManagerNodeAccessTest::getValue_data()
     QTest::addColumn<QString>("result");
     QTest::addColumn<QStringList>("messages");
 
-    const auto number = &RecordingNode::number;
+    const auto number = &RecordingValueNode::number;
     const QString fixedBar = T::pressure + QStringLiteral("/Bar");
     const QStringList none;
     QTest::newRow("unit, not rounded")
@@ -86,9 +86,9 @@ void UnitManagerNodeAccessTest::getValue_data()
                                                  << "double nan" << none;
     QTest::newRow("no value") << number(QVariant(), T::pressure) << "HectoPascal"
                               << "invalid" << none;
-    QTest::newRow("text") << RecordingNode::text("abc", T::pressure) << "HectoPascal"
+    QTest::newRow("text") << RecordingValueNode::text("abc", T::pressure) << "HectoPascal"
                           << "QString abc" << none;
-    QTest::newRow("number in a text node") << RecordingNode::text(2, T::pressure) << "HectoPascal"
+    QTest::newRow("number in a text node") << RecordingValueNode::text(2, T::pressure) << "HectoPascal"
                                            << "int 2" << none;
     QTest::newRow("text in a number node") << number("abc", T::pressure) << "HectoPascal"
                                            << "QString abc" << none;
@@ -106,7 +106,7 @@ void UnitManagerNodeAccessTest::getValue()
     QFETCH(Node, node);
     QFETCH(QString, unit);
     const QString stored = described(node->value());
-    const Node parent = RecordingNode::parentOf(node);
+    const Node parent = RecordingValueNode::parentOf(node);
     LogCapture log;
 
     QTEST(described(m_manager.getValue(key, parent, unit)), "result");
@@ -124,18 +124,18 @@ void UnitManagerNodeAccessTest::getValueAsksForTheUnitTypeOfNumbersOnly_data()
     QTest::addColumn<QStringList>("unitTypeCalls");
 
     const QStringList none;
-    QTest::newRow("number") << RecordingNode::number(2, T::pressure) << read;
-    QTest::newRow("number without unit type") << RecordingNode::number(2) << asked;
-    QTest::newRow("marker") << RecordingNode::number(marker, T::pressure) << none;
-    QTest::newRow("no value") << RecordingNode::number(QVariant(), T::pressure) << none;
-    QTest::newRow("text") << RecordingNode::text("abc", T::pressure) << none;
+    QTest::newRow("number") << RecordingValueNode::number(2, T::pressure) << read;
+    QTest::newRow("number without unit type") << RecordingValueNode::number(2) << asked;
+    QTest::newRow("marker") << RecordingValueNode::number(marker, T::pressure) << none;
+    QTest::newRow("no value") << RecordingValueNode::number(QVariant(), T::pressure) << none;
+    QTest::newRow("text") << RecordingValueNode::text("abc", T::pressure) << none;
 }
 
 void UnitManagerNodeAccessTest::getValueAsksForTheUnitTypeOfNumbersOnly()
 {
     QFETCH(Node, node);
 
-    m_manager.getValue(key, RecordingNode::parentOf(node), QString());
+    m_manager.getValue(key, RecordingValueNode::parentOf(node), QString());
 
     QTEST(node->calls().filter(QStringLiteral("@unitType")), "unitTypeCalls");
 }
@@ -151,7 +151,7 @@ void UnitManagerNodeAccessTest::setValue_data()
     QTest::addColumn<QStringList>("messages");
 
     const auto number = [](const QVariant& unitType) {
-        return RecordingNode::number(1.5, unitType);
+        return RecordingValueNode::number(1.5, unitType);
     };
     const QString fixedBar = T::pressure + QStringLiteral("/Bar");
     const QStringList none;
@@ -173,10 +173,10 @@ void UnitManagerNodeAccessTest::setValue_data()
     QTest::newRow("text") << number(T::pressure) << QVariant("abc") << "Bar" << 2 << "double 1.5" << read
                           << notConverted(Conversion::ToBase, "QString", "Bar", "Pressure");
     QTest::newRow("text into a text node with unit type")
-        << RecordingNode::text("old", T::pressure) << QVariant("abc") << "Bar" << 2 << "QString old" << read
-        << notConverted(Conversion::ToBase, "QString", "Bar", "Pressure");
+        << RecordingValueNode::text("old", T::pressure) << QVariant("abc") << "Bar" << 2 << "QString old"
+        << read << notConverted(Conversion::ToBase, "QString", "Bar", "Pressure");
     QTest::newRow("number into a text node is converted")
-        << RecordingNode::text("old", T::pressure) << QVariant(2000) << "HectoPascal" << 0 << "double 2"
+        << RecordingValueNode::text("old", T::pressure) << QVariant(2000) << "HectoPascal" << 0 << "double 2"
         << readAndWritten << none;
     QTest::newRow("unknown unit") << number(T::pressure) << QVariant(3) << "Nope" << 2 << "double 1.5" << read
                                   << QStringList{
@@ -203,7 +203,7 @@ void UnitManagerNodeAccessTest::setValue()
     QFETCH(QVariant, value);
     QFETCH(QString, unit);
     const QString given = described(value);
-    const Node parent = RecordingNode::parentOf(node);
+    const Node parent = RecordingValueNode::parentOf(node);
     LogCapture log;
 
     QTEST(m_manager.setValueStatus(key, parent, value, unit), "status");
@@ -228,8 +228,8 @@ void UnitManagerNodeAccessTest::writeStatusIsHandedOn_data()
 void UnitManagerNodeAccessTest::writeStatusIsHandedOn()
 {
     QFETCH(int, status);
-    const Node child = RecordingNode::number(1.5, T::pressure);
-    const Node parent = RecordingNode::parentOf(child);
+    const Node child = RecordingValueNode::number(1.5, T::pressure);
+    const Node parent = RecordingValueNode::parentOf(child);
     child->setWriteStatus(status);
 
     QCOMPARE(m_manager.setValueStatus(key, parent, 3, QStringLiteral("Bar")), status);
@@ -243,9 +243,10 @@ void UnitManagerNodeAccessTest::nothingWithoutChild_data()
     QTest::addColumn<QString>("childKey");
 
     QTest::newRow("null node") << Node() << key;
-    QTest::newRow("no such child") << RecordingNode::parentOf(RecordingNode::number(1.5, T::pressure))
+    QTest::newRow("no such child") << RecordingValueNode::parentOf(
+                                          RecordingValueNode::number(1.5, T::pressure))
                                    << "Missing";
-    QTest::newRow("null child") << RecordingNode::parentOf(Node()) << key;
+    QTest::newRow("null child") << RecordingValueNode::parentOf(Node()) << key;
 }
 
 void UnitManagerNodeAccessTest::nothingWithoutChild()
@@ -270,7 +271,7 @@ void UnitManagerNodeAccessTest::getUnitText_data()
     QTest::addColumn<QStringList>("messages");
 
     const auto number = [](const QVariant& unitType) {
-        return RecordingNode::number(1.5, unitType);
+        return RecordingValueNode::number(1.5, unitType);
     };
     const QString fixedBar = T::pressure + QStringLiteral("/Bar");
     const QStringList none;
@@ -284,7 +285,7 @@ void UnitManagerNodeAccessTest::getUnitText_data()
                                              << "Bar" << QStringList{Expected::noDefaultUnit(fixedBar)};
     QTest::newRow("unit-less type") << number(T::noUnit) << ""
                                     << "" << none;
-    QTest::newRow("text node") << RecordingNode::text("abc", T::pressure) << "Bar"
+    QTest::newRow("text node") << RecordingValueNode::text("abc", T::pressure) << "Bar"
                                << "Bar" << none;
     QTest::newRow("no unit type") << number(QVariant()) << "Bar"
                                   << "" << QStringList{Expected::unknownTextType("")};
@@ -297,7 +298,7 @@ void UnitManagerNodeAccessTest::getUnitText()
 {
     QFETCH(Node, node);
     QFETCH(QString, unit);
-    const Node parent = RecordingNode::parentOf(node);
+    const Node parent = RecordingValueNode::parentOf(node);
     LogCapture log;
 
     QTEST(m_manager.getUnitText(key, parent, QStringLiteral("de"), unit), "text");

@@ -12,7 +12,7 @@
 #include "Array2dDataTypeWrapper.h"
 #include "Described.h"
 #include "LogCapture.h"
-#include "RecordingNode.h"
+#include "RecordingValueNode.h"
 
 /// Properties that hold for every number, tried with many random ones.
 class UnitManagerRoundTripTest : public QObject
@@ -204,8 +204,8 @@ void UnitManagerRoundTripTest::nodesAndArraysHoldTheRawForms()
     for (const double number : randomNumbers()) {
         const QString fromBase = described(m_manager.fromBaseUnitRaw(number, unitType, name));
         const QString toBase = described(m_manager.toBaseUnitRaw(number, unitType, name));
-        const auto child = RecordingNode::number(number, unitType);
-        const auto node = RecordingNode::parentOf(child);
+        const auto child = RecordingValueNode::number(number, unitType);
+        const auto node = RecordingValueNode::parentOf(child);
         Array2dDataTypeWrapper array({QVariant(QVariantList{number})}, {unitType});
 
         QCOMPARE(described(m_manager.getValue(QVariant(number), unitType, name)), fromBase);

@@ -1,7 +1,8 @@
 """What the library exports of its own, against the list under version control.
 
-    check_exported_symbols.py <project.json>            compares
-    check_exported_symbols.py <project.json> --update   writes the list anew
+With a last argument `--update` the list is written anew from the library of a build:
+
+    python3 tests/structure/check_exported_symbols.py build/release/tests/structure/project.json --update
 
 Listed are functions, virtual tables, type information and the factories' registries. Weak functions (inline ones,
 instances of templates) come and go with compiler and build type: they are not listed, but must belong to an exported
@@ -15,16 +16,18 @@ from pathlib import Path
 from project import Project, finish, run
 
 LIST = Path(__file__).parent / "data" / "exported-symbols.txt"
-LISTED_WEAK = re.compile(r"(vtable|typeinfo|typeinfo name) for (?!VESKFactories::)|VESKFactories::Factory<.*>::instance\(\)::factory$")
+LISTED_WEAK = re.compile(r"(vtable|typeinfo|typeinfo name) for (?!VESKFactories::)|"
+                         r"VESKFactories::Factory<.*>::instance\(\)::factory$")
 SPECIAL_PREFIX = re.compile(
     r"^(vtable|VTT|typeinfo|typeinfo name|guard variable|(non-virtual |virtual )?thunk) (for|to) ")
+COVERAGE_COUNTER = re.compile(r"__gcov_|mangle_path$")
 QT_OR_STANDARD = re.compile(r"^(\w+ )?(std::|__gnu_cxx::|Q[A-Za-z]+(::|<))")
 
 
 def exported_symbols(library):
     """(whether others may define it too, demangled name) of every symbol that can be linked to."""
     lines = run(["nm", "-D", "--defined-only", "-C", library]).splitlines()
-    return {(line[17] in "VWuvw", line[19:]) for line in lines}
+    return {(line[17] in "VWuvw", line[19:]) for line in lines if not COVERAGE_COUNTER.match(line[19:])}
 
 
 def is_listed(weak, name, own):

@@ -3,11 +3,16 @@
 #include <QtCore/QDebug>
 
 #include <cmath>
+#include <sstream>
 
 QString exactText(double number)
 {
     // The sign of a NaN says nothing.
-    return std::isnan(number) ? QStringLiteral("nan") : QString::asprintf("%a", number);
+    if (std::isnan(number))
+        return QStringLiteral("nan");
+    std::ostringstream text; // QString::asprintf() takes "%a" for "%f"
+    text << std::hexfloat << number;
+    return QString::fromStdString(text.str());
 }
 
 QString exactText(const QVariant& value)

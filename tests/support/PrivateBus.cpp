@@ -54,7 +54,8 @@ QString configuration(const QString& socket, const QString& serviceDirectory)
 
 } // namespace
 
-PrivateBus::PrivateBus() : m_daemon(new Daemon)
+// A short name, because the path of a socket is limited to about a hundred characters.
+PrivateBus::PrivateBus() : m_directory(QDir::tempPath() + QStringLiteral("/bus-XXXXXX")), m_daemon(new Daemon)
 {
     m_daemon->setProgram(QStringLiteral("dbus-daemon"));
     m_daemon->setArguments({QStringLiteral("--config-file=") + path(QStringLiteral("bus.conf")),

@@ -24,7 +24,7 @@ private slots:
 namespace {
 
 const QStringList toBar{"convert", "-", "Pressure", "HectoPascal", "Bar"};
-const int longestWaitMilliseconds = 60000;
+const int longestWaitMilliseconds = 120000;
 
 QByteArray notANumber(int line, const QByteArray& text)
 {

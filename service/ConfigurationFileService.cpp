@@ -1,0 +1,92 @@
+#include "ConfigurationFileService.h"
+
+#include <QtCore/QDir>
+#include <QtDBus/QDBusConnectionInterface>
+#include <QtDBus/QDBusReply>
+
+#include "ConfigurationObject.h"
+#include "DeviceManagerDefinitions.h"
+#include "DocumentRules.h"
+#include "DocumentWatcher.h"
+#include "PropertyManagerConst.h"
+#include "configurationfilehandleradaptor.h"
+
+namespace {
+
+/// A document as it is found: by object and name on the bus, and in the directory.
+struct Place
+{
+    QString object;
+    QString name;
+    QString file;
+    ConfigurationObject::Method method;
+    ConfigurationDocument::Rule rule;
+};
+
+QList<Place> places()
+{
+    using Method = ConfigurationObject::Method;
+    return {{DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration(),
+             QStringLiteral("UnitManager/UnitType"), QStringLiteral("units.json"), Method::GetConfiguration,
+             DocumentRules::unitsProblem},
+            {QStringLiteral("DefaultUnitConfiguration"), QStringLiteral("UnitManager/DefaultUnit"),
+             QStringLiteral("default-units.json"), Method::GetConfiguration,
+             DocumentRules::defaultUnitsProblem},
+            {QStringLiteral("DependencyConfiguration"), QStringLiteral("UnitManager/Dependency"),
+             QStringLiteral("dependencies.json"), Method::GetConfigurationDependency,
+             DocumentRules::dependenciesProblem}};
+}
+
+} // namespace
+
+ConfigurationFileService::ConfigurationFileService(const QString& directory, QObject* parent)
+    : QObject(parent)
+{
+    const QDir absolute(QDir(directory).absolutePath());
+    QStringList files;
+    for (const Place& place : places()) {
+        const ConfigurationDocument document(place.name, absolute.filePath(place.file), place.rule);
+        auto* const object = new ConfigurationObject(document, place.method, this);
+        object->setObjectName(place.object);
+        new ConfigurationFileHandlerAdaptor(object);
+        m_objects.append(object);
+        files.append(document.path());
+    }
+    // Watched before they are read, so that no change falls between.
+    m_watcher = std::make_unique<DocumentWatcher>(files, DocumentWatcher::Patience());
+    connect(m_watcher.get(), &DocumentWatcher::touched, this, &ConfigurationFileService::update);
+    update();
+}
+
+ConfigurationFileService::~ConfigurationFileService() = default;
+
+QString ConfigurationFileService::name()
+{
+    return PropertyManagerConst::getDBusPrefix() + '.' + DeviceManagerDefinitions::getModuleName();
+}
+
+QString ConfigurationFileService::start(QDBusConnection connection)
+{
+    connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                       QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
+                       SIGNAL(busLost()));
+    for (ConfigurationObject* object : m_objects) {
+        const QString path = '/' + object->objectName();
+        if (!connection.registerObject(path, object))
+            return QStringLiteral("cannot put the object %1 on the bus").arg(path);
+    }
+    // Only now: who sees the name finds everything there.
+    const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply =
+        connection.interface()->registerService(name());
+    if (!reply.isValid())
+        return QStringLiteral("cannot take the name %1: %2").arg(name(), reply.error().message());
+    if (reply.value() != QDBusConnectionInterface::ServiceRegistered)
+        return QStringLiteral("cannot take the name %1: another program has it").arg(name());
+    return {};
+}
+
+void ConfigurationFileService::update()
+{
+    for (ConfigurationObject* object : m_objects)
+        object->update();
+}

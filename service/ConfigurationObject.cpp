@@ -1,0 +1,56 @@
+#include "ConfigurationObject.h"
+
+namespace {
+
+const int longestQuotation = 60;
+
+QString errorName(const char* error)
+{
+    return QStringLiteral("org.measuringdevice.ConfigurationFileHandler.Error.") + QLatin1String(error);
+}
+
+} // namespace
+
+ConfigurationObject::ConfigurationObject(const ConfigurationDocument& document, Method method,
+                                         QObject* parent)
+    : QObject(parent), m_document(document), m_method(method)
+{}
+
+QString ConfigurationObject::path() const
+{
+    return m_document.path();
+}
+
+void ConfigurationObject::update()
+{
+    if (m_document.update())
+        emit configurationChanged(m_document.name());
+}
+
+QString ConfigurationObject::getConfiguration(const QString& name, const QString& /*module*/,
+                                              const QString& /*extra*/) const
+{
+    return answer(Method::GetConfiguration, name);
+}
+
+QString ConfigurationObject::getConfigurationDependency(const QString& name, const QString& /*module*/) const
+{
+    return answer(Method::GetConfigurationDependency, name);
+}
+
+QString ConfigurationObject::answer(Method method, const QString& name) const
+{
+    if (method != m_method || name != m_document.name()) {
+        sendErrorReply(errorName("UnknownConfiguration"),
+                       QStringLiteral("This method of this object serves no configuration '%1'.")
+                           .arg(name.left(longestQuotation)));
+        return {};
+    }
+    if (!m_document.text()) {
+        sendErrorReply(errorName("NoConfiguration"),
+                       QStringLiteral("There was no valid document for '%1' yet; the service's log says why.")
+                           .arg(name));
+        return {};
+    }
+    return *m_document.text();
+}

@@ -1,0 +1,61 @@
+#include "DocumentRules.h"
+
+#include <QtCore/QJsonArray>
+
+#include <algorithm>
+
+#include "ConfigurationAndProcessDataDefinitions.h"
+#include "UnitManager.h"
+
+namespace {
+
+using Definitions = ConfigurationAndProcessDataDefinitions;
+
+bool isSelection(const QJsonValue& entry)
+{
+    return entry[Definitions::getKeyDataPropertyType()].toString() ==
+               Definitions::getKeyDataTypeSelection() &&
+           !entry[Definitions::getKeyDataPropertyValue()].toString().isEmpty();
+}
+
+bool isListOfTexts(const QJsonValue& entry)
+{
+    const QJsonArray array = entry.toArray();
+    return entry.isArray() &&
+           std::all_of(array.begin(), array.end(), [](const QJsonValue& text) { return text.isString(); });
+}
+
+/// The first entry, in the order of the keys, that is not as it should be; empty when all are.
+QString wrongEntry(const QJsonObject& root, bool (*isRight)(const QJsonValue&))
+{
+    for (auto entry = root.begin(); entry != root.end(); ++entry) {
+        if (!isRight(entry.value()))
+            return QStringLiteral("its entry \"%1\"").arg(entry.key());
+    }
+    return {};
+}
+
+} // namespace
+
+QString DocumentRules::unitsProblem(const JsonText& json)
+{
+    UnitManager units;
+    if (units.updateUnitConversionByJsonString(json.text))
+        return {};
+    return units.getListofUnitTypes().isEmpty() ? QStringLiteral("it holds no unit type")
+                                                : QStringLiteral("it holds no unit label");
+}
+
+QString DocumentRules::defaultUnitsProblem(const JsonText& json)
+{
+    if (json.root.isEmpty())
+        return QStringLiteral("it holds no default unit");
+    const QString wrong = wrongEntry(json.root, isSelection);
+    return wrong.isEmpty() ? QString() : wrong + QStringLiteral(" is not a selection of a unit");
+}
+
+QString DocumentRules::dependenciesProblem(const JsonText& json)
+{
+    const QString wrong = wrongEntry(json.root, isListOfTexts);
+    return wrong.isEmpty() ? QString() : wrong + QStringLiteral(" is not a list of texts");
+}

@@ -1,0 +1,83 @@
+#include "DocumentWatcher.h"
+
+#include <QtCore/QDebug>
+#include <QtCore/QFileInfo>
+#include <QtCore/QFileSystemWatcher>
+
+#include <algorithm>
+
+DocumentWatcher::DocumentWatcher(const QStringList& files, Patience patience, QObject* parent)
+    : QObject(parent), m_files(files), m_patience(patience)
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &DocumentWatcher::report);
+    watch();
+}
+
+DocumentWatcher::~DocumentWatcher() = default;
+
+QVector<DocumentWatcher::Trail> DocumentWatcher::trails() const
+{
+    QVector<Trail> trails;
+    for (const QString& file : m_files)
+        trails.append(PathTrail::of(file));
+    return trails;
+}
+
+void DocumentWatcher::watch()
+{
+    // A new watcher each time: one that is kept would hold on to files that no longer have their names.
+    m_watcher = std::make_unique<QFileSystemWatcher>();
+    connect(m_watcher.get(), &QFileSystemWatcher::fileChanged, this, &DocumentWatcher::postpone);
+    connect(m_watcher.get(), &QFileSystemWatcher::directoryChanged, this, &DocumentWatcher::lookAt);
+
+    m_trails = trails();
+    m_watcher->addPaths(watchable());
+    if (m_trails != trails())
+        postpone();
+}
+
+/// The places of all trails, as far as they can be watched.
+QStringList DocumentWatcher::watchable()
+{
+    QStringList result;
+    for (const Trail& trail : qAsConst(m_trails)) {
+        for (const PathTrail::Place& place : trail) {
+            const QFileInfo info(place.path);
+            if (info.isReadable()) {
+                result.append(place.path);
+            } else if (info.exists() && !m_unwatchable.contains(place.path)) {
+                m_unwatchable.append(place.path);
+                qWarning().noquote() << "Cannot watch" << place.path + ": changes there may go unnoticed";
+            }
+        }
+    }
+    result.removeDuplicates();
+    return result;
+}
+
+/// Something happened in a directory. Near a document that counts; further up, where much else may go on,
+/// only what makes a document another file.
+void DocumentWatcher::lookAt(const QString& directory)
+{
+    const bool isNear = std::any_of(m_trails.cbegin(), m_trails.cend(), [&directory](const Trail& trail) {
+        const QString end = trail.last().path;
+        return directory == end || directory == QFileInfo(end).path();
+    });
+    if (isNear || m_trails != trails())
+        postpone();
+}
+
+void DocumentWatcher::postpone()
+{
+    if (!m_timer.isActive())
+        m_deadline.setRemainingTime(m_patience.longest);
+    const std::chrono::milliseconds left(m_deadline.remainingTime());
+    m_timer.start(std::min(m_patience.quiet, left));
+}
+
+void DocumentWatcher::report()
+{
+    watch();
+    emit touched();
+}

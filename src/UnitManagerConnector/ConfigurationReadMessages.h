@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+struct LogContext;
+
+/// The warnings of the read states. They name the unit switch whatever source is read.
+namespace ConfigurationReadMessages {
+
+void warnNotConnected(const LogContext& context);
+void warnUnknownKind(const LogContext& context, const QString& kind);
+void warnNoReply(const LogContext& context, const QStringList& settings);
+void warnEmpty(const LogContext& context, const QStringList& settings);
+
+} // namespace ConfigurationReadMessages

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QtCore/QMap>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+/// The settings list of a configuration source, and what the connector does with any map of sources.
+namespace ConnectorSettings {
+
+/// What stands where in a settings list.
+enum Entry
+{
+    Service = 0,       ///< module name of the configuration-file service
+    Object = 1,        ///< object name
+    Configuration = 2, ///< name of the configuration that is asked for
+    Kind = 3,          ///< which read call serves it
+    Necessity = 4,     ///< mandatory or optional
+    EntryCount = 5
+};
+
+/// Whether service, object and configuration are named.
+inline bool areUsable(const QStringList& settings)
+{
+    return !settings.value(Service).isEmpty() && !settings.value(Object).isEmpty() &&
+           !settings.value(Configuration).isEmpty();
+}
+
+/// Empties every value of @p map and keeps its keys.
+template <typename Key, typename Value>
+void clearValues(QMap<Key, Value>& map)
+{
+    for (Value& value : map)
+        value = Value();
+}
+
+} // namespace ConnectorSettings

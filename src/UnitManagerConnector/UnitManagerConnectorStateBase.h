@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+
+#include "StateMachineEvent.h"
+#include "StateMachineStateBase.h"
+#include "UnitManagerConnector/UnitManagerConnectorDefinitions.h"
+#include "UnitManagerExport.h"
+
+class UnitManagerConnectionData;
+class UnitManagerStateMachineWrapper;
+
+/// A state of the connector. States are made by the factory and owned by the state machine; they act only
+/// through the UnitManagerStateMachineWrapper under which they were made.
+class UNITMANAGER_EXPORT UnitManagerConnectorStateBase : public StateMachineStateBase
+{
+    Q_OBJECT
+
+public:
+    using ConnectorType = UnitManagerConnectorDefinitions::ConnectorType;
+
+    /// @param parent the wrapper; anything else gives a state without wrapper. It does not become the QObject
+    /// parent.
+    explicit UnitManagerConnectorStateBase(QObject* parent);
+    ~UnitManagerConnectorStateBase() override;
+
+    /// Whether there is no wrapper.
+    bool isValid();
+    operator bool();
+
+protected:
+    /// The data shared by all states of the wrapper.
+    UnitManagerConnectionData& connectionData() const;
+
+    /// Selects the state class @p State as the next one. @p event is overwritten by that when it is the one
+    /// being delivered: do not read it afterwards.
+    template <typename State>
+    void moveTo(const StateMachineEvent& event);
+
+    /// Selects the read state with the sources to read.
+    void triggerRead(const QList<ConnectorType>& types);
+
+    /// The sources to read that an event carries; none when its data is something else.
+    static QList<ConnectorType> typesToRead(const StateMachineEvent& event);
+
+    UnitManagerStateMachineWrapper* m_wrapper;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+#include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
+#include "UnitManagerExport.h"
+
+/// Drops everything that was opened or fetched and starts again.
+class UNITMANAGER_EXPORT UnitManagerConnectorStateError : public UnitManagerConnectorStateBase
+{
+    Q_OBJECT
+
+public:
+    explicit UnitManagerConnectorStateError(QObject* parent);
+    ~UnitManagerConnectorStateError() override;
+
+    /// Entering the state does nothing.
+    void postInitialEvent(const StateMachineEvent& event) override;
+
+    /// Goes to the initial state.
+    void postEvent(const StateMachineEvent& event) override;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+#include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
+#include "UnitManagerExport.h"
+
+/// Opens a connector for each configuration source and has those that are open read.
+class UNITMANAGER_EXPORT UnitManagerConnectorStateInitial : public UnitManagerConnectorStateBase
+{
+    Q_OBJECT
+
+public:
+    explicit UnitManagerConnectorStateInitial(QObject* parent);
+    ~UnitManagerConnectorStateInitial() override;
+
+    /// Entering the state does nothing.
+    void postInitialEvent(const StateMachineEvent& event) override;
+
+    /// Opens the sources in ascending order. A mandatory source that cannot be opened, and an optional one
+    /// whose connection failed, end the attempt: the sources behind it are not opened, all connections are
+    /// dropped, and the next step tries again. An optional source that is not configured is left out.
+    ///
+    /// Logs a warning for each source that ends the attempt and for settings that are no full list.
+    void postEvent(const StateMachineEvent& event) override;
+
+private:
+    bool openSource(ConnectorType type, QList<ConnectorType>& opened) const;
+};

@@ -1,0 +1,5 @@
+#include "UnitManagerConnector/UnitManagerConnectorStateMachine.h"
+
+UnitManagerConnectorStateMachine::UnitManagerConnectorStateMachine(QObject* parent)
+    : StateMachineBase(parent, true)
+{}

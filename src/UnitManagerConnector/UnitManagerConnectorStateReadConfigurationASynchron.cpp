@@ -1,0 +1,85 @@
+#include "UnitManagerConnector/UnitManagerConnectorStateReadConfigurationASynchron.h"
+
+#include "ConfigurationFileHandlerDBusConnector.h"
+#include "DBusPendingReply.h"
+#include "Diagnostics.h"
+#include "UnitManagerConnector/ConfigurationReadMessages.h"
+#include "UnitManagerConnector/ConnectorSettings.h"
+#include "UnitManagerConnector/UnitManagerConnectionData.h"
+#include "UnitManagerConnector/UnitManagerConnectorStateError.h"
+#include "UnitManagerConnector/UnitManagerConnectorStateTransition.h"
+#include "UnitManagerConnector/UnitManagerConnectorStateWaitForReply.h"
+#include "UnitManagerDefinitions.h"
+
+namespace {
+
+const char* const sourceName = "UnitManagerConnector/UnitManagerConnectorStateReadConfigurationASynchron";
+
+/// Puts the reply of a new call in place of an earlier one; an unknown kind of configuration leaves that as
+/// it is.
+void request(UnitManagerConnectionData& data, UnitManagerConnectorDefinitions::ConnectorType type,
+             const ConfigurationFileHandlerDBusConnector& connector, const LogContext& context)
+{
+    const QStringList settings = data.connectorSettings().value(type);
+    const QString name = settings.value(ConnectorSettings::Configuration);
+    const QString kind = settings.value(ConnectorSettings::Kind);
+    const QString& module = UnitManagerDefinitions::getModuleName();
+    if (kind == UnitManagerConnectorDefinitions::getKeyConfigurationDependencyFile())
+        data.pendingReplies()[type] = connector.getConfigurationDependencyAsynchron(name, module);
+    else if (kind == UnitManagerConnectorDefinitions::getKeyConfigurationFile())
+        data.pendingReplies()[type] = connector.getConfigurationAsynchron(name, module, QString());
+    else
+        ConfigurationReadMessages::warnUnknownKind(context, kind);
+}
+
+} // namespace
+
+UnitManagerConnectorStateReadConfigurationASynchron::UnitManagerConnectorStateReadConfigurationASynchron(
+    QObject* parent)
+    : UnitManagerConnectorStateBase(parent)
+{}
+
+UnitManagerConnectorStateReadConfigurationASynchron::~UnitManagerConnectorStateReadConfigurationASynchron() =
+    default;
+
+void UnitManagerConnectorStateReadConfigurationASynchron::postInitialEvent(const StateMachineEvent& /*event*/)
+{}
+
+void UnitManagerConnectorStateReadConfigurationASynchron::postEvent(const StateMachineEvent& event)
+{
+    const QList<ConnectorType> types = typesToRead(event);
+    bool allRead = !types.isEmpty();
+    // Every listed source is asked once, whatever became of those before it.
+    for (const ConnectorType type : types)
+        allRead = startConfigurationRead(type) && allRead;
+    if (allRead)
+        moveTo<UnitManagerConnectorStateWaitForReply>(event);
+    else
+        moveTo<UnitManagerConnectorStateError>(event);
+}
+
+bool UnitManagerConnectorStateReadConfigurationASynchron::startConfigurationRead(
+    UnitManagerConnectorDefinitions::ConnectorType type)
+{
+    if (!m_wrapper)
+        return false;
+    UnitManagerConnectionData& data = connectionData();
+    if (data.configurations().contains(type))
+        data.configurations()[type] = QString();
+
+    const LogContext context{sourceName, __LINE__, Q_FUNC_INFO};
+    if (!data.isConnectedToDBus()) {
+        ConfigurationReadMessages::warnNotConnected(context);
+        return false;
+    }
+    const auto connector = data.connectors().value(type);
+    if (!connector)
+        return false;
+
+    request(data, type, *connector, context);
+    if (!data.pendingReplies().value(type)) {
+        ConfigurationReadMessages::warnNoReply(context, data.connectorSettings().value(type));
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,85 @@
+#include "UnitManagerConnector/UnitManagerConnectorStateReadConfigurationSynchron.h"
+
+#include "ConfigurationFileHandlerDBusConnector.h"
+#include "DBusReply.h"
+#include "Diagnostics.h"
+#include "UnitManagerConnector/ConfigurationReadMessages.h"
+#include "UnitManagerConnector/ConnectorSettings.h"
+#include "UnitManagerConnector/UnitManagerConnectionData.h"
+#include "UnitManagerConnector/UnitManagerConnectorStateError.h"
+#include "UnitManagerConnector/UnitManagerConnectorStateTransition.h"
+#include "UnitManagerConnector/UnitManagerConnectorStateUpdate.h"
+#include "UnitManagerDefinitions.h"
+
+namespace {
+
+const char* const sourceName = "UnitManagerConnector/UnitManagerConnectorStateReadConfigurationSynchron";
+
+DBusReply request(const ConfigurationFileHandlerDBusConnector& connector, const QStringList& settings,
+                  const LogContext& context)
+{
+    const QString name = settings.value(ConnectorSettings::Configuration);
+    const QString kind = settings.value(ConnectorSettings::Kind);
+    if (kind == UnitManagerConnectorDefinitions::getKeyConfigurationDependencyFile())
+        return connector.getConfigurationDependency(name, UnitManagerDefinitions::getModuleName());
+    if (kind == UnitManagerConnectorDefinitions::getKeyConfigurationFile())
+        return connector.getConfiguration(name, UnitManagerDefinitions::getModuleName(), QString());
+    ConfigurationReadMessages::warnUnknownKind(context, kind);
+    return {};
+}
+
+} // namespace
+
+UnitManagerConnectorStateReadConfigurationSynchron::UnitManagerConnectorStateReadConfigurationSynchron(
+    QObject* parent)
+    : UnitManagerConnectorStateBase(parent)
+{}
+
+UnitManagerConnectorStateReadConfigurationSynchron::~UnitManagerConnectorStateReadConfigurationSynchron() =
+    default;
+
+void UnitManagerConnectorStateReadConfigurationSynchron::postInitialEvent(const StateMachineEvent& /*event*/)
+{}
+
+void UnitManagerConnectorStateReadConfigurationSynchron::postEvent(const StateMachineEvent& event)
+{
+    const QList<ConnectorType> types = typesToRead(event);
+    bool allRead = !types.isEmpty();
+    // Every listed source is asked once, whatever became of those before it.
+    for (const ConnectorType type : types)
+        allRead = readConfiguration(type) && allRead;
+    if (allRead)
+        moveTo<UnitManagerConnectorStateUpdate>(event);
+    else
+        moveTo<UnitManagerConnectorStateError>(event);
+}
+
+bool UnitManagerConnectorStateReadConfigurationSynchron::readConfiguration(
+    UnitManagerConnectorDefinitions::ConnectorType type)
+{
+    if (!m_wrapper)
+        return false;
+    UnitManagerConnectionData& data = connectionData();
+    data.configurations()[type] = QString();
+
+    const LogContext context{sourceName, __LINE__, Q_FUNC_INFO};
+    if (!data.isConnectedToDBus()) {
+        ConfigurationReadMessages::warnNotConnected(context);
+        return false;
+    }
+    const auto connector = data.connectors().value(type);
+    if (!connector)
+        return false;
+
+    const QStringList settings = data.connectorSettings().value(type);
+    const DBusReply reply = request(*connector, settings, context);
+    if (reply.isError()) {
+        ConfigurationReadMessages::warnNoReply(context, settings);
+        return false;
+    }
+    const QString text = reply.getValue().toString();
+    data.configurations()[type] = text;
+    if (text.isEmpty())
+        ConfigurationReadMessages::warnEmpty(context, settings);
+    return !text.isEmpty();
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+#include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
+#include "UnitManagerExport.h"
+
+/// Builds unit manager and dependency walker from the fetched texts.
+class UNITMANAGER_EXPORT UnitManagerConnectorStateUpdate : public UnitManagerConnectorStateBase
+{
+    Q_OBJECT
+
+public:
+    explicit UnitManagerConnectorStateUpdate(QObject* parent);
+    ~UnitManagerConnectorStateUpdate() override;
+
+    /// Entering the state does nothing.
+    void postInitialEvent(const StateMachineEvent& event) override;
+
+    /// Goes to the idle state, or to the error state when a text did not load.
+    void postEvent(const StateMachineEvent& event) override;
+};

@@ -1,0 +1,42 @@
+#include "UnitManagerDevice/UnitManagerDevice.h"
+
+#include "ProcessDataValue.h"
+
+namespace {
+
+const auto noError = ProcessDataDefinitions::ErrorTypes(0);
+const auto notReadable = ProcessDataDefinitions::ErrorTypes(3);
+
+} // namespace
+
+UnitManagerDevice::UnitManagerDevice() = default;
+
+UnitManagerDevice::~UnitManagerDevice() = default;
+
+ProcessValue UnitManagerDevice::getValueNoLock(const QSharedPointer<ProcessDataValue>& processDataValue,
+                                               const QString& unit) const
+{
+    ProcessValue result(notReadable);
+    if (!processDataValue)
+        return result;
+    processDataValue->getValueNoLock(result, false);
+    if (result.getErrorType() == noError)
+        result.setValue(unitManagerCore().fromBaseUnit(processDataValue, result.getValue(), unit));
+    return result;
+}
+
+bool UnitManagerDevice::setValueNoLock(const QSharedPointer<ProcessDataValue>& processDataValue,
+                                       const ProcessValue& value, const QString& unit) const
+{
+    if (!processDataValue)
+        return false;
+    ProcessValue stored = value;
+    if (stored.getErrorType() == noError) {
+        QVariant converted = stored.getValue();
+        if (!unitManagerCore().toBaseUnit(processDataValue, converted, unit))
+            return false;
+        stored.setValue(converted);
+    }
+    processDataValue->setValueNoLock(stored);
+    return true;
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QtCore/QSharedPointer>
+#include <QtCore/QString>
+
+#include "ProcessValue.h"
+#include "UnitManager.h"
+#include "UnitManagerExport.h"
+
+class ProcessDataValue;
+
+/// A unit manager that also reads and writes live process-data values in the caller's unit, while the value
+/// itself is stored in the base unit.
+///
+/// Both operations are for callers that hold the process-data value's lock already. They never round.
+class UNITMANAGER_EXPORT UnitManagerDevice : public UnitManager
+{
+public:
+    UnitManagerDevice();
+    ~UnitManagerDevice() override;
+
+    /// @param unit unit of the result; empty for the default unit
+    /// @return the value converted from the base unit, or as it is when it carries an error; error type 3 for
+    /// a null
+    ///         @p processDataValue.
+    ProcessValue getValueNoLock(const QSharedPointer<ProcessDataValue>& processDataValue,
+                                const QString& unit) const;
+
+    /// Writes @p value converted to the base unit; a value that carries an error is written as it is.
+    ///
+    /// @param unit unit of @p value; empty for the default unit
+    /// @return false, with nothing written, for a null @p processDataValue and a value that cannot be
+    /// converted.
+    bool setValueNoLock(const QSharedPointer<ProcessDataValue>& processDataValue, const ProcessValue& value,
+                        const QString& unit) const;
+};

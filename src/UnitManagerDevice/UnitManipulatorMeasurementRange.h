@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QtCore/QSharedPointer>
+#include <QtCore/QString>
+
+#include "ConfigurationAndProcessDataBase.h"
+#include "UnitManagerExport.h"
+#include "UnitManipulatorBase.h"
+
+class UnitManagerWrapper;
+
+/// Writes the base unit and the unit texts of a unit type into the measurement-range attributes of the nodes
+/// that a DependencyWalker reaches.
+///
+/// Used from the thread of its wrapper.
+class UNITMANAGER_EXPORT UnitManipulatorMeasurementRange : public UnitManipulatorBase
+{
+public:
+    /// @param wrapper must outlive the manipulator
+    explicit UnitManipulatorMeasurementRange(UnitManagerWrapper& wrapper);
+    ~UnitManipulatorMeasurementRange() override;
+
+    /// Writes base unit and unit texts of @p unitType into the first measurement range of @p node. The
+    /// wrapper's connector is advanced first.
+    ///
+    /// @param handled set to true when the node was written
+    /// @param changed set to true when that changed the node. Neither output is ever set to false.
+    ///
+    /// Logs a warning, and touches nothing, while the wrapper is not initialised. A null node and one without
+    /// measurement-range attributes stay as they are.
+    void manipulate(const QSharedPointer<ConfigurationAndProcessDataBase>& node, const QString& unitType,
+                    bool& handled, bool& changed) override;
+
+private:
+    UnitManagerWrapper& m_wrapper;
+};

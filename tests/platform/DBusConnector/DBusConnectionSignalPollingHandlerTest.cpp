@@ -1,0 +1,292 @@
+#include "DBusConnectionSignalPollingHandler.h"
+#include "FakeBusService.h"
+#include "PrivateBus.h"
+#include "WaitUntil.h"
+
+#include <QtDBus/QDBusArgument>
+#include <QtTest/QtTest>
+
+#include <memory>
+#include <thread>
+
+class DBusConnectionSignalPollingHandlerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void nothingHasOccurredAtFirst();
+    void aSignalIsRecordedUntilItIsReset();
+    void aSignalIsRecordedInAThreadWithoutEventLoop();
+    void aSignalIsRecordedWithARunningEventLoop();
+    void theSignatureMayBeGivenByItsNumber();
+    void theLastOfABurstIsRecorded();
+    void aSignalThatWasNotTakenInIsNotResetAway();
+    void theParameterIsTheFirstArgument_data();
+    void theParameterIsTheFirstArgument();
+    void aDictionaryIsHandedOver();
+    void otherSignalsAreNotRecorded_data();
+    void otherSignalsAreNotRecorded();
+    void onlyItsOwnCallsAreDelivered();
+    void aNewOwnerOfTheNameIsHeardToo();
+    void aBusThatCameBackIsHeardAgain();
+    void aBusThatComesLateIsHeard();
+
+private:
+    void startService();
+    bool send(const QVariant& argument);
+
+    std::unique_ptr<PrivateBus> m_bus;
+    std::unique_ptr<FakeBusService> m_service;
+};
+
+namespace {
+
+const QString changed = QStringLiteral("configurationChanged");
+
+// A handler for the signal that the tests send.
+class Handler : public DBusConnectionSignalPollingHandler
+{
+public:
+    explicit Handler(const QString& object = QStringLiteral("Object"))
+        : DBusConnectionSignalPollingHandler("Files", object, changed, SlotSignatureString)
+    {}
+
+    // Polls until the last signal had this parameter.
+    bool hasHeard(const QVariant& parameter)
+    {
+        return waitUntil([&] { return isSignalOccured() && getSignalParameter() == parameter; });
+    }
+};
+
+} // namespace
+
+void DBusConnectionSignalPollingHandlerTest::init()
+{
+    m_bus = std::make_unique<PrivateBus>();
+    QVERIFY(m_bus->start());
+    qputenv("DEVICE_BUS", m_bus->address().toLocal8Bit());
+    startService();
+}
+
+void DBusConnectionSignalPollingHandlerTest::cleanup()
+{
+    m_service.reset();
+    m_bus.reset();
+}
+
+void DBusConnectionSignalPollingHandlerTest::startService()
+{
+    m_service = std::make_unique<FakeBusService>(m_bus->address(), "org.measuringdevice.Files",
+                                                 FakeBusService::never());
+    QVERIFY(m_service->isRunning());
+}
+
+bool DBusConnectionSignalPollingHandlerTest::send(const QVariant& argument)
+{
+    return m_service->sendSignal("/Object", changed, {argument});
+}
+
+void DBusConnectionSignalPollingHandlerTest::nothingHasOccurredAtFirst()
+{
+    Handler handler;
+    QVERIFY(!handler.isSignalOccured());
+    QVERIFY(!handler.getSignalParameter().isValid());
+    handler.resetLastSignal();
+    QVERIFY(!handler.isSignalOccured());
+}
+
+void DBusConnectionSignalPollingHandlerTest::aSignalIsRecordedUntilItIsReset()
+{
+    Handler handler;
+    QVERIFY(send("units"));
+    QVERIFY(handler.hasHeard("units"));
+    QVERIFY(handler.isSignalOccured());
+    QCOMPARE(handler.getSignalParameter(), QVariant("units"));
+
+    handler.resetLastSignal();
+    QVERIFY(!handler.isSignalOccured());
+    QVERIFY(!handler.getSignalParameter().isValid());
+    QVERIFY(send("units"));
+    QVERIFY(handler.hasHeard("units"));
+}
+
+void DBusConnectionSignalPollingHandlerTest::aSignalIsRecordedInAThreadWithoutEventLoop()
+{
+    bool heard = false;
+    std::thread thread([this, &heard] {
+        Handler handler;
+        heard = send("units") && handler.hasHeard("units");
+    });
+    thread.join();
+    QVERIFY(heard);
+}
+
+void DBusConnectionSignalPollingHandlerTest::aSignalIsRecordedWithARunningEventLoop()
+{
+    Handler handler;
+    QVERIFY(send("units"));
+    QTRY_VERIFY(handler.isSignalOccured());
+    QCOMPARE(handler.getSignalParameter(), QVariant("units"));
+}
+
+void DBusConnectionSignalPollingHandlerTest::theSignatureMayBeGivenByItsNumber()
+{
+    const auto handler =
+        QSharedPointer<DBusConnectionSignalPollingHandler>::create("Files", "Object", changed, 3);
+    QCOMPARE(static_cast<int>(DBusConnectionSignalPollingHandler::SlotSignatureString), 3);
+    QVERIFY(send("units"));
+    QVERIFY(waitUntil([&handler] { return handler->isSignalOccured(); }));
+    QCOMPARE(handler->getSignalParameter(), QVariant("units"));
+}
+
+void DBusConnectionSignalPollingHandlerTest::theLastOfABurstIsRecorded()
+{
+    constexpr int count = 10000;
+    Handler handler;
+    for (int number = 1; number <= count; ++number)
+        QVERIFY(send(number));
+
+    // Nothing is left over once the last one has been taken in.
+    QVERIFY(handler.hasHeard(count));
+    handler.resetLastSignal();
+    QVERIFY(!handler.isSignalOccured());
+}
+
+void DBusConnectionSignalPollingHandlerTest::aSignalThatWasNotTakenInIsNotResetAway()
+{
+    Handler handler;
+    Handler other("Other");
+    QVERIFY(send("first"));
+    QVERIFY(handler.hasHeard("first"));
+
+    // Signals arrive in order: when the other object's is there, the second one waits for its handler.
+    QVERIFY(send("second"));
+    QVERIFY(m_service->sendSignal("/Other", changed, {"later"}));
+    QVERIFY(other.hasHeard("later"));
+    QCOMPARE(handler.getSignalParameter(), QVariant("first"));
+    handler.resetLastSignal();
+    QVERIFY(handler.isSignalOccured());
+    QCOMPARE(handler.getSignalParameter(), QVariant("second"));
+}
+
+void DBusConnectionSignalPollingHandlerTest::theParameterIsTheFirstArgument_data()
+{
+    QTest::addColumn<QVariantList>("arguments");
+    QTest::addColumn<QVariant>("parameter");
+    QTest::newRow("a text") << QVariantList{"units"} << QVariant("units");
+    QTest::newRow("an empty text") << QVariantList{""} << QVariant("");
+    QTest::newRow("a number") << QVariantList{7} << QVariant(7);
+    QTest::newRow("texts") << QVariantList{QStringList{"a", "b"}} << QVariant(QStringList{"a", "b"});
+    QTest::newRow("two texts") << QVariantList{"first", "second"} << QVariant("first");
+    QTest::newRow("nothing") << QVariantList{} << QVariant();
+}
+
+void DBusConnectionSignalPollingHandlerTest::theParameterIsTheFirstArgument()
+{
+    QFETCH(const QVariantList, arguments);
+    QFETCH(const QVariant, parameter);
+    Handler handler;
+    QVERIFY(m_service->sendSignal("/Object", changed, arguments));
+    QVERIFY(waitUntil([&handler] { return handler.isSignalOccured(); }));
+    QCOMPARE(handler.getSignalParameter().userType(), parameter.userType());
+    QCOMPARE(handler.getSignalParameter(), parameter);
+}
+
+void DBusConnectionSignalPollingHandlerTest::aDictionaryIsHandedOver()
+{
+    const QVariantMap map{{"number", 1}};
+    Handler handler;
+    QVERIFY(send(map));
+    QVERIFY(waitUntil([&handler] { return handler.isSignalOccured(); }));
+    QVERIFY(!handler.getSignalParameter().canConvert<QString>());
+    QCOMPARE(qdbus_cast<QVariantMap>(handler.getSignalParameter()), map);
+}
+
+void DBusConnectionSignalPollingHandlerTest::otherSignalsAreNotRecorded_data()
+{
+    QTest::addColumn<QString>("service");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("signalName");
+    QTest::newRow("of another service") << "org.measuringdevice.Others"
+                                        << "/Object" << changed;
+    QTest::newRow("of another object") << "org.measuringdevice.Files"
+                                       << "/Object/Child" << changed;
+    QTest::newRow("of another name") << "org.measuringdevice.Files"
+                                     << "/Object"
+                                     << "started";
+}
+
+void DBusConnectionSignalPollingHandlerTest::otherSignalsAreNotRecorded()
+{
+    QFETCH(const QString, service);
+    QFETCH(const QString, path);
+    QFETCH(const QString, signalName);
+    m_service.reset();
+    m_service = std::make_unique<FakeBusService>(m_bus->address(), service, FakeBusService::never());
+    QVERIFY(m_service->isRunning());
+
+    Handler handler;
+    DBusConnectionSignalPollingHandler witness(service.section('.', -1), path.mid(1), signalName,
+                                               DBusConnectionSignalPollingHandler::SlotSignatureString);
+    QVERIFY(m_service->sendSignal(path, signalName, {"foreign"}));
+    QVERIFY(waitUntil([&witness] { return witness.isSignalOccured(); }));
+    QVERIFY(!handler.isSignalOccured());
+}
+
+void DBusConnectionSignalPollingHandlerTest::onlyItsOwnCallsAreDelivered()
+{
+    Handler handler;
+    QObject bystander;
+    bool delivered = false;
+    QMetaObject::invokeMethod(
+        &bystander, [&delivered] { delivered = true; }, Qt::QueuedConnection);
+    QVERIFY(send("units"));
+    QVERIFY(handler.hasHeard("units"));
+    QVERIFY(!delivered);
+    QCoreApplication::sendPostedEvents(&bystander);
+    QVERIFY(delivered);
+}
+
+void DBusConnectionSignalPollingHandlerTest::aNewOwnerOfTheNameIsHeardToo()
+{
+    Handler handler;
+    QVERIFY(send("first"));
+    QVERIFY(handler.hasHeard("first"));
+    m_service.reset();
+    startService();
+    QVERIFY(send("second"));
+    QVERIFY(handler.hasHeard("second"));
+}
+
+void DBusConnectionSignalPollingHandlerTest::aBusThatCameBackIsHeardAgain()
+{
+    Handler handler;
+    QVERIFY(send("first"));
+    QVERIFY(handler.hasHeard("first"));
+    handler.resetLastSignal();
+    m_service.reset();
+    m_bus->stop();
+    QVERIFY(!handler.isSignalOccured());
+
+    QVERIFY(m_bus->start());
+    startService();
+    // Whatever is sent before the handler has found the bus again is lost, so it is sent until it is heard.
+    QVERIFY(waitUntil([&] { return send("second") && handler.isSignalOccured(); }));
+    QCOMPARE(handler.getSignalParameter(), QVariant("second"));
+}
+
+void DBusConnectionSignalPollingHandlerTest::aBusThatComesLateIsHeard()
+{
+    m_service.reset();
+    m_bus->stop();
+    Handler handler;
+    QVERIFY(!handler.isSignalOccured());
+    QVERIFY(m_bus->start());
+    startService();
+    QVERIFY(waitUntil([&] { return send("units") && handler.isSignalOccured(); }));
+}
+
+QTEST_GUILESS_MAIN(DBusConnectionSignalPollingHandlerTest)
+#include "DBusConnectionSignalPollingHandlerTest.moc"

@@ -1,0 +1,202 @@
+#include "DBusConnection.h"
+#include "PrivateBus.h"
+#include "WaitUntil.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtDBus/QDBusConnectionInterface>
+#include <QtTest/QtTest>
+
+#include <atomic>
+#include <thread>
+#include <vector>
+
+class DBusConnectionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void theEnvironmentNamesTheBus_data();
+    void theEnvironmentNamesTheBus();
+    void theConnectionIsShared();
+    void theConnectionIsSharedByThreads();
+    void aBusThatIsNotThereGivesAConnectionThatIsNotConnected_data();
+    void aBusThatIsNotThereGivesAConnectionThatIsNotConnected();
+    void aBusThatCameBackIsConnectedAgain();
+    void theTimeOutCanBeSet_data();
+    void theTimeOutCanBeSet();
+    void aModuleIsAddressedByPrefixAndName();
+    void anObjectIsAddressedByASlashAndItsName();
+
+private:
+    PrivateBus m_sessionBus;
+    PrivateBus m_systemBus;
+    PrivateBus m_otherBus;
+};
+
+namespace {
+
+QString busId()
+{
+    const QDBusMessage question = QDBusMessage::createMethodCall(
+        "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "GetId");
+    return DBusConnection::getQDBusConnection().call(question).arguments().value(0).toString();
+}
+
+// The id of a bus, asked of it by a program of its own.
+QString busId(const PrivateBus& bus)
+{
+    QProcess send;
+    send.start("dbus-send", {"--bus=" + bus.address(), "--dest=org.freedesktop.DBus", "--print-reply=literal",
+                             "/org/freedesktop/DBus", "org.freedesktop.DBus.GetId"});
+    send.waitForFinished();
+    return QString::fromUtf8(send.readAllStandardOutput()).trimmed();
+}
+
+// What several threads that start together see as the connection's name on the bus.
+std::vector<QString> askAtOnce(std::size_t count)
+{
+    std::vector<QString> names(count);
+    std::vector<std::thread> threads;
+    threads.reserve(count);
+    std::atomic<std::size_t> ready = 0;
+    for (QString& name : names) {
+        threads.emplace_back([&name, &ready, count] {
+            ++ready;
+            while (ready != count)
+                std::this_thread::yield();
+            name = DBusConnection::getQDBusConnection().baseService();
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    return names;
+}
+
+} // namespace
+
+void DBusConnectionTest::initTestCase()
+{
+    QVERIFY(m_sessionBus.start());
+    QVERIFY(m_systemBus.start());
+    QVERIFY(m_otherBus.start());
+    // A process looks up its usual buses once.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", m_sessionBus.address().toLocal8Bit());
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", m_systemBus.address().toLocal8Bit());
+}
+
+void DBusConnectionTest::init()
+{
+    qputenv("DEVICE_BUS", m_otherBus.address().toLocal8Bit());
+}
+
+void DBusConnectionTest::theEnvironmentNamesTheBus_data()
+{
+    QTest::addColumn<QString>("deviceBus");
+    QTest::addColumn<QString>("expectedId");
+    QTest::newRow("nothing") << QString() << busId(m_sessionBus);
+    QTest::newRow("the session bus") << QStringLiteral("session") << busId(m_sessionBus);
+    QTest::newRow("the system bus") << QStringLiteral("system") << busId(m_systemBus);
+    QTest::newRow("an address") << m_otherBus.address() << busId(m_otherBus);
+}
+
+void DBusConnectionTest::theEnvironmentNamesTheBus()
+{
+    QFETCH(const QString, deviceBus);
+    QFETCH(const QString, expectedId);
+    qputenv("DEVICE_BUS", deviceBus.toLocal8Bit());
+    QCOMPARE(expectedId.size(), 32); // a bus id is 128 bits in hexadecimal
+    QVERIFY(DBusConnection::getQDBusConnection().isConnected());
+    QCOMPARE(busId(), expectedId);
+}
+
+void DBusConnectionTest::theConnectionIsShared()
+{
+    const QString name = DBusConnection::getQDBusConnection().baseService();
+    QVERIFY(!name.isEmpty());
+    QCOMPARE(DBusConnection::getQDBusConnection().baseService(), name);
+}
+
+void DBusConnectionTest::theConnectionIsSharedByThreads()
+{
+    for (int round = 0; round < 100; ++round) {
+        // Another text for the same bus is another connection, not opened yet.
+        const QString address =
+            QStringLiteral("unix:path=/nonexistent/%1;").arg(round) + m_otherBus.address();
+        qputenv("DEVICE_BUS", address.toLocal8Bit());
+        const std::vector<QString> names = askAtOnce(8);
+        QVERIFY(!names.front().isEmpty());
+        QCOMPARE(names, std::vector<QString>(names.size(), names.front()));
+    }
+}
+
+void DBusConnectionTest::aBusThatIsNotThereGivesAConnectionThatIsNotConnected_data()
+{
+    QTest::addColumn<QString>("deviceBus");
+    QTest::newRow("no socket") << QStringLiteral("unix:path=/nonexistent/bus");
+    QTest::newRow("no address") << QStringLiteral("somewhere");
+}
+
+void DBusConnectionTest::aBusThatIsNotThereGivesAConnectionThatIsNotConnected()
+{
+    QFETCH(const QString, deviceBus);
+    qputenv("DEVICE_BUS", deviceBus.toLocal8Bit());
+    QElapsedTimer timer;
+    timer.start();
+    for (int attempt = 0; attempt < 100; ++attempt)
+        QVERIFY(!DBusConnection::getQDBusConnection().isConnected());
+    // Had they waited for anything, a hundred attempts would take longer than one call may.
+    QVERIFY2(timer.elapsed() < DBusConnection::getCallTimeout(),
+             qPrintable(QString::number(timer.elapsed())));
+}
+
+void DBusConnectionTest::aBusThatCameBackIsConnectedAgain()
+{
+    const QDBusConnection lost = DBusConnection::getQDBusConnection();
+    QVERIFY(lost.isConnected());
+    m_otherBus.stop();
+    QVERIFY(waitUntil([&lost] { return !lost.isConnected(); }));
+    QVERIFY(!DBusConnection::getQDBusConnection().isConnected());
+
+    QVERIFY(m_otherBus.start());
+    QVERIFY(DBusConnection::getQDBusConnection().isConnected());
+    QCOMPARE(busId(), busId(m_otherBus));
+    QVERIFY(!lost.isConnected());
+}
+
+void DBusConnectionTest::theTimeOutCanBeSet_data()
+{
+    QTest::addColumn<QByteArray>("environment");
+    QTest::addColumn<int>("milliseconds");
+    QTest::newRow("nothing") << QByteArray() << 5000;
+    QTest::newRow("a number") << QByteArray("250") << 250;
+    QTest::newRow("zero") << QByteArray("0") << 5000;
+    QTest::newRow("a negative number") << QByteArray("-1") << 5000;
+    QTest::newRow("no number") << QByteArray("soon") << 5000;
+}
+
+void DBusConnectionTest::theTimeOutCanBeSet()
+{
+    QFETCH(const QByteArray, environment);
+    QFETCH(const int, milliseconds);
+    qputenv("DEVICE_BUS_TIMEOUT_MS", environment);
+    const int timeout = DBusConnection::getCallTimeout();
+    qunsetenv("DEVICE_BUS_TIMEOUT_MS");
+    QCOMPARE(timeout, milliseconds);
+}
+
+void DBusConnectionTest::aModuleIsAddressedByPrefixAndName()
+{
+    QCOMPARE(DBusConnection::getServiceName("DeviceManager"),
+             QStringLiteral("org.measuringdevice.DeviceManager"));
+}
+
+void DBusConnectionTest::anObjectIsAddressedByASlashAndItsName()
+{
+    QCOMPARE(DBusConnection::getObjectPath("UnitManagerConfiguration"),
+             QStringLiteral("/UnitManagerConfiguration"));
+}
+
+QTEST_GUILESS_MAIN(DBusConnectionTest)
+#include "DBusConnectionTest.moc"

@@ -1,0 +1,200 @@
+#include "DBusConnection.h"
+#include "DBusConnectorBase.h"
+#include "FakeBusService.h"
+#include "PrivateBus.h"
+#include "WaitUntil.h"
+
+#include <QtTest/QtTest>
+
+#include <memory>
+#include <thread>
+
+// A connector to any interface.
+class Connector : public DBusConnectorBase
+{
+    Q_OBJECT
+
+public:
+    Connector() : DBusConnectorBase("Module", "Object", "org.measuringdevice.Interface") {}
+
+    using DBusConnectorBase::call;
+    using DBusConnectorBase::callAsynchron;
+    using DBusConnectorBase::isServiceAvailable;
+};
+
+class DBusConnectorBaseTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void aModuleOnTheBusIsAvailable();
+    void aConnectorWithoutAnOwnerBecomesValidWhenOneAppears();
+    void theOwnerIsFollowedInAThreadWithoutEventLoop();
+    void theOwnerIsFollowedWithAnEventLoop();
+    void onlyItsOwnEventsAreDelivered();
+    void aConnectorStaysInvalidWhenItsBusIsLost();
+    void aCallNamesTheObjectTheInterfaceAndTheMethod();
+    void aBusThatHangsIsAskedNoLongerThanTheTimeOut();
+
+private:
+    std::unique_ptr<FakeBusService> startService();
+
+    std::unique_ptr<PrivateBus> m_bus;
+};
+
+namespace {
+
+const QString serviceName = QStringLiteral("org.measuringdevice.Module");
+
+} // namespace
+
+void DBusConnectorBaseTest::init()
+{
+    m_bus = std::make_unique<PrivateBus>();
+    QVERIFY(m_bus->start());
+    qputenv("DEVICE_BUS", m_bus->address().toLocal8Bit());
+}
+
+void DBusConnectorBaseTest::cleanup()
+{
+    qunsetenv("DEVICE_BUS_TIMEOUT_MS");
+    m_bus.reset();
+}
+
+std::unique_ptr<FakeBusService> DBusConnectorBaseTest::startService()
+{
+    return std::make_unique<FakeBusService>(m_bus->address(), serviceName, FakeBusService::withValue("text"));
+}
+
+void DBusConnectorBaseTest::aModuleOnTheBusIsAvailable()
+{
+    QVERIFY(!Connector::isServiceAvailable("Module"));
+    {
+        const auto service = startService();
+        QVERIFY(service->isRunning());
+        QVERIFY(Connector::isServiceAvailable("Module"));
+        QVERIFY(!Connector::isServiceAvailable("Other"));
+        QVERIFY(!Connector::isServiceAvailable(""));
+        QVERIFY(!Connector::isServiceAvailable("no'name"));
+    }
+    QVERIFY(waitUntil([] { return !Connector::isServiceAvailable("Module"); }));
+    m_bus->stop();
+    QVERIFY(!Connector::isServiceAvailable("Module"));
+}
+
+void DBusConnectorBaseTest::aConnectorWithoutAnOwnerBecomesValidWhenOneAppears()
+{
+    const Connector connector;
+    QVERIFY(!connector.isDBusInterfaceValid());
+    const auto service = startService();
+    QVERIFY(service->isRunning());
+    QVERIFY(waitUntil([&connector] { return connector.isDBusInterfaceValid(); }));
+}
+
+void DBusConnectorBaseTest::theOwnerIsFollowedInAThreadWithoutEventLoop()
+{
+    auto service = startService();
+    bool validFirst = false;
+    bool becameInvalid = false;
+    bool becameValid = false;
+    std::thread thread([&] {
+        const Connector connector;
+        validFirst = connector.isDBusInterfaceValid();
+        service.reset();
+        becameInvalid = waitUntil([&connector] { return !connector.isDBusInterfaceValid(); });
+        service = startService();
+        becameValid = waitUntil([&connector] { return connector.isDBusInterfaceValid(); });
+    });
+    thread.join();
+    QVERIFY(validFirst);
+    QVERIFY(becameInvalid);
+    QVERIFY(becameValid);
+}
+
+void DBusConnectorBaseTest::theOwnerIsFollowedWithAnEventLoop()
+{
+    auto service = startService();
+    const Connector connector;
+    QVERIFY(connector.isDBusInterfaceValid());
+    service.reset();
+    QTRY_VERIFY(!connector.isDBusInterfaceValid());
+    service = startService();
+    QTRY_VERIFY(connector.isDBusInterfaceValid());
+}
+
+void DBusConnectorBaseTest::onlyItsOwnEventsAreDelivered()
+{
+    const auto service = startService();
+    const Connector connector;
+    QObject bystander;
+    bool delivered = false;
+    QMetaObject::invokeMethod(
+        &bystander, [&delivered] { delivered = true; }, Qt::QueuedConnection);
+    QVERIFY(connector.isDBusInterfaceValid());
+    QVERIFY(!delivered);
+    QCoreApplication::sendPostedEvents(&bystander);
+    QVERIFY(delivered);
+}
+
+void DBusConnectorBaseTest::aConnectorStaysInvalidWhenItsBusIsLost()
+{
+    auto service = startService();
+    const Connector connector;
+    QVERIFY(connector.isDBusInterfaceValid());
+    m_bus->stop();
+    QVERIFY(waitUntil([&connector] { return !connector.isDBusInterfaceValid(); }));
+    QVERIFY(connector.call("method", {}).isError());
+    QVERIFY(connector.callAsynchron("method", {}).isNull());
+
+    QVERIFY(m_bus->start());
+    service = startService();
+    QVERIFY(service->isRunning());
+    QVERIFY(!connector.isDBusInterfaceValid());
+    const Connector another;
+    QVERIFY(another.isDBusInterfaceValid());
+    QCOMPARE(another.call("method", {}).getValue(), QVariant("text"));
+}
+
+void DBusConnectorBaseTest::aCallNamesTheObjectTheInterfaceAndTheMethod()
+{
+    const auto service = startService();
+    const Connector connector;
+    QVERIFY(!connector.call("blocking", {"a", 1}).isError());
+    const QSharedPointer<DBusPendingReply> pending = connector.callAsynchron("asynchronous", {});
+    ErrorContainer error;
+    QVERIFY(waitUntil([&] { return pending->isFinished(error) == DBusPendingReply::Arrived; }));
+
+    const QList<QDBusMessage> calls = service->calls();
+    QCOMPARE(calls.size(), 2);
+    QCOMPARE(calls.at(0).member(), QStringLiteral("blocking"));
+    QCOMPARE(calls.at(0).arguments(), (QVariantList{"a", 1}));
+    QCOMPARE(calls.at(1).member(), QStringLiteral("asynchronous"));
+    QCOMPARE(calls.at(1).arguments(), QVariantList());
+    for (const QDBusMessage& call : calls) {
+        QCOMPARE(call.service(), DBusConnection::getQDBusConnection().baseService());
+        QCOMPARE(call.path(), QStringLiteral("/Object"));
+        QCOMPARE(call.interface(), QStringLiteral("org.measuringdevice.Interface"));
+    }
+}
+
+void DBusConnectorBaseTest::aBusThatHangsIsAskedNoLongerThanTheTimeOut()
+{
+    const auto service = startService();
+    QVERIFY(Connector::isServiceAvailable("Module"));
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "200");
+    QElapsedTimer timer;
+    timer.start();
+    m_bus->halt();
+    const bool available = Connector::isServiceAvailable("Module");
+    const qint64 elapsed = timer.elapsed();
+    m_bus->resume();
+    QVERIFY(!available);
+    QVERIFY(elapsed >= 150); // libdbus may round a time-out down a little
+    QVERIFY(elapsed < 5000);
+    QVERIFY(waitUntil([] { return Connector::isServiceAvailable("Module"); }));
+}
+
+QTEST_GUILESS_MAIN(DBusConnectorBaseTest)
+#include "DBusConnectorBaseTest.moc"

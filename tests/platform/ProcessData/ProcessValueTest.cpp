@@ -1,0 +1,112 @@
+#include "ProcessValue.h"
+
+#include <QtTest/QtTest>
+
+#include <cmath>
+#include <type_traits>
+
+static_assert(std::has_virtual_destructor_v<ProcessValue>);
+
+class ProcessValueTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aDefaultValueIsNotAvailable();
+    void theErrorTypesHaveFixedNumbers();
+    void aValueOfAnErrorTypeHasNoValue();
+    void everythingIsCopied();
+    void equalityComparesEverything_data();
+    void equalityComparesEverything();
+};
+
+Q_DECLARE_METATYPE(ProcessValue)
+
+namespace {
+
+ProcessValue completeValue()
+{
+    ProcessValue value(1.5, ProcessDataDefinitions::ErrorTypeOutOfRange);
+    value.setTimestamp(QDateTime(QDate(2020, 2, 29), QTime(12, 30), Qt::UTC));
+    value.setSource("sensor 1");
+    return value;
+}
+
+} // namespace
+
+void ProcessValueTest::aDefaultValueIsNotAvailable()
+{
+    const ProcessValue value;
+    QVERIFY(!value.getValue().isValid());
+    QCOMPARE(value.getErrorType(), ProcessDataDefinitions::ErrorTypeNotAvailable);
+    QVERIFY(!value.getTimestamp().isValid());
+    QCOMPARE(value.getSource(), QString());
+}
+
+void ProcessValueTest::theErrorTypesHaveFixedNumbers()
+{
+    QCOMPARE(static_cast<int>(ProcessDataDefinitions::ErrorTypeNone), 0);
+    QCOMPARE(static_cast<int>(ProcessDataDefinitions::ErrorTypeNotAvailable), 3);
+}
+
+void ProcessValueTest::aValueOfAnErrorTypeHasNoValue()
+{
+    const ProcessValue value(ProcessDataDefinitions::ErrorTypeSensor);
+    QVERIFY(!value.getValue().isValid());
+    QCOMPARE(value.getErrorType(), ProcessDataDefinitions::ErrorTypeSensor);
+}
+
+void ProcessValueTest::everythingIsCopied()
+{
+    ProcessValue copy = completeValue();
+    QCOMPARE(copy.getValue(), QVariant(1.5));
+    QCOMPARE(copy.getErrorType(), ProcessDataDefinitions::ErrorTypeOutOfRange);
+    QCOMPARE(copy.getTimestamp(), QDateTime(QDate(2020, 2, 29), QTime(12, 30), Qt::UTC));
+    QCOMPARE(copy.getSource(), QStringLiteral("sensor 1"));
+
+    const ProcessValue original = copy;
+    copy.setValue(2);
+    copy.setErrorType(ProcessDataDefinitions::ErrorTypeNone);
+    QCOMPARE(original.getValue(), QVariant(1.5));
+    QCOMPARE(original.getErrorType(), ProcessDataDefinitions::ErrorTypeOutOfRange);
+}
+
+void ProcessValueTest::equalityComparesEverything_data()
+{
+    QTest::addColumn<ProcessValue>("left");
+    QTest::addColumn<ProcessValue>("right");
+    QTest::addColumn<bool>("equal");
+
+    const auto good = ProcessDataDefinitions::ErrorTypeNone;
+    const ProcessValue number(1.5, good);
+    ProcessValue later = completeValue();
+    later.setTimestamp(later.getTimestamp().addSecs(1));
+    ProcessValue elsewhere = completeValue();
+    elsewhere.setSource("sensor 2");
+
+    QTest::newRow("the same") << completeValue() << completeValue() << true;
+    QTest::newRow("no value at all") << ProcessValue() << ProcessValue() << true;
+    QTest::newRow("another number") << number << ProcessValue(1.25, good) << false;
+    QTest::newRow("another type of number") << ProcessValue(1, good) << ProcessValue(1.0, good) << false;
+    QTest::newRow("a text of the number") << number << ProcessValue("1.5", good) << false;
+    QTest::newRow("a NaN and a NaN") << ProcessValue(std::nan(""), good) << ProcessValue(std::nan(""), good)
+                                     << true;
+    QTest::newRow("a NaN and a number") << ProcessValue(std::nan(""), good) << number << false;
+    QTest::newRow("another error type")
+        << number << ProcessValue(1.5, ProcessDataDefinitions::ErrorTypeSensor) << false;
+    QTest::newRow("another time") << completeValue() << later << false;
+    QTest::newRow("another source") << completeValue() << elsewhere << false;
+}
+
+void ProcessValueTest::equalityComparesEverything()
+{
+    QFETCH(const ProcessValue, left);
+    QFETCH(const ProcessValue, right);
+    QFETCH(const bool, equal);
+    QCOMPARE(left == right, equal);
+    QCOMPARE(right == left, equal);
+    QCOMPARE(left != right, !equal);
+}
+
+QTEST_GUILESS_MAIN(ProcessValueTest)
+#include "ProcessValueTest.moc"

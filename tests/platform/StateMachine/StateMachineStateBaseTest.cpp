@@ -1,0 +1,52 @@
+#include "StateMachineStateBase.h"
+
+#include <QtTest/QtTest>
+
+class StateThatCounts : public StateMachineStateBase
+{
+    Q_OBJECT
+
+public:
+    using StateMachineStateBase::StateMachineStateBase;
+
+    void postEvent(const StateMachineEvent& /*event*/) override
+    {
+        ++steps;
+    }
+
+    int steps = 0;
+};
+
+class StateMachineStateBaseTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theParentOwnsTheState();
+    void enteringIsNoStep();
+};
+
+void StateMachineStateBaseTest::theParentOwnsTheState()
+{
+    QPointer<StateMachineStateBase> state;
+    {
+        QObject parent;
+        state = new StateThatCounts(&parent);
+        QCOMPARE(state->parent(), &parent);
+    }
+    QVERIFY(state.isNull());
+    QCOMPARE(StateThatCounts(nullptr).parent(), nullptr);
+}
+
+void StateMachineStateBaseTest::enteringIsNoStep()
+{
+    StateThatCounts counting(nullptr);
+    StateMachineStateBase& state = counting;
+    state.postInitialEvent(StateMachineEvent("initialEvent"));
+    QCOMPARE(counting.steps, 0);
+    state.postEvent(StateMachineEvent());
+    QCOMPARE(counting.steps, 1);
+}
+
+QTEST_GUILESS_MAIN(StateMachineStateBaseTest)
+#include "StateMachineStateBaseTest.moc"

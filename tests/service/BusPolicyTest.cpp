@@ -1,0 +1,186 @@
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
+
+#include <csignal>
+#include <memory>
+#include <unistd.h>
+
+#include "ConfigurationFileService.h"
+#include "InstalledService.h"
+#include "ServiceClient.h"
+#include "ServiceProcess.h"
+#include "SystemBus.h"
+#include "TestFiles.h"
+
+namespace {
+
+const QString object = "UnitManagerConfiguration";
+const QString denied = "org.freedesktop.DBus.Error.AccessDenied";
+
+/// The user that runs this test, as a policy may name it.
+QString thisUser()
+{
+    return QString::number(::geteuid());
+}
+
+/// A user that is not the one that runs this test.
+QString anotherUser()
+{
+    return QString::number(::geteuid() + 1);
+}
+
+} // namespace
+
+/// The installed policy, as a real bus applies it. Who is the service's user changes under way: the service
+/// takes its name while that is the user of this test; then it is another, and this test is just anybody.
+class BusPolicyTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void withoutPolicyNobodyMayRead();
+    void serviceUserMayOwnTheName();
+    void nobodyElseMayOwnTheName();
+    void everybodyMayRead();
+    void everybodyMayListen();
+    void everybodyMayAskWhatIsThere();
+    void nobodyMayDoMore();
+
+private:
+    QString policy(const QString& serviceUser) const;
+    bool startService();
+    bool changeRules(const QString& rules);
+    QDBusMessage callBus(const QString& method, const QVariantList& arguments = {}) const;
+
+    InstalledService m_installed;
+    QTemporaryDir m_directory;
+    std::unique_ptr<SystemBus> m_bus;
+    std::unique_ptr<ServiceProcess> m_service;
+    std::unique_ptr<ServiceClient> m_client;
+};
+
+/// The installed policy with another user in the place of the service's.
+QString BusPolicyTest::policy(const QString& serviceUser) const
+{
+    const QString unit = "lib/systemd/system/configuration-file-service.service";
+    const QString named = "user=\"" + m_installed.values(unit, "User").value(0) + '"';
+    const QString text = m_installed.text("share/dbus-1/system.d/org.measuringdevice.DeviceManager.conf");
+    return text.contains(named) ? QString(text).replace(named, "user=\"" + serviceUser + '"') : "no policy";
+}
+
+bool BusPolicyTest::startService()
+{
+    return m_service->serve(m_directory.path(), m_bus->address());
+}
+
+bool BusPolicyTest::changeRules(const QString& rules)
+{
+    return m_bus->setRules(rules) && callBus("ReloadConfig").type() == QDBusMessage::ReplyMessage;
+}
+
+QDBusMessage BusPolicyTest::callBus(const QString& method, const QVariantList& arguments) const
+{
+    const QString bus = "org.freedesktop.DBus";
+    return m_client->call(bus, "/org/freedesktop/DBus", bus, method, arguments);
+}
+
+void BusPolicyTest::initTestCase()
+{
+    QVERIFY(m_installed.install());
+}
+
+void BusPolicyTest::init()
+{
+    QVERIFY(TestFiles::write(m_directory.filePath("units.json"), TestFiles::units("first")));
+    QVERIFY(TestFiles::write(m_directory.filePath("default-units.json"), TestFiles::defaultUnits("first")));
+    QVERIFY(TestFiles::write(m_directory.filePath("dependencies.json"), TestFiles::dependencies("first")));
+    m_bus = std::make_unique<SystemBus>();
+    QVERIFY(m_bus->setRules(policy(thisUser())));
+    QVERIFY(m_bus->start());
+    m_service = std::make_unique<ServiceProcess>();
+    m_client = std::make_unique<ServiceClient>(m_bus->address());
+}
+
+void BusPolicyTest::cleanup()
+{
+    m_client.reset();
+    m_service.reset();
+    m_bus.reset();
+}
+
+// What the other tests find allowed is the policy's doing.
+void BusPolicyTest::withoutPolicyNobodyMayRead()
+{
+    QVERIFY(startService());
+    QVERIFY(changeRules("<busconfig/>"));
+    QCOMPARE(m_client->text(object), "error: " + denied);
+}
+
+void BusPolicyTest::serviceUserMayOwnTheName()
+{
+    QVERIFY2(startService(), qPrintable(m_service->log()));
+    QCOMPARE(m_client->text(object), QString(TestFiles::units("first")));
+}
+
+void BusPolicyTest::nobodyElseMayOwnTheName()
+{
+    QVERIFY(changeRules(policy(anotherUser())));
+    const QVariantList request{ConfigurationFileService::name(), QVariant::fromValue(0U)};
+    QCOMPARE(callBus("RequestName", request).errorName(), denied);
+
+    QVERIFY(!startService());
+    QCOMPARE(m_service->waitForEnd(), 1);
+    const QString beginning =
+        "configuration-file-service: cannot take the name " + ConfigurationFileService::name() + ": ";
+    QVERIFY2(m_service->log().contains(beginning), qPrintable(m_service->log()));
+    QVERIFY2(m_service->log().contains("not allowed to own the service"), qPrintable(m_service->log()));
+
+    QVERIFY(changeRules(policy(thisUser())));
+    QCOMPARE(callBus("RequestName", request).type(), QDBusMessage::ReplyMessage);
+}
+
+void BusPolicyTest::everybodyMayRead()
+{
+    QVERIFY(startService());
+    QVERIFY(changeRules(policy(anotherUser())));
+    QCOMPARE(m_client->text(object), QString(TestFiles::units("first")));
+    QCOMPARE(m_client->text("DefaultUnitConfiguration"), QString(TestFiles::defaultUnits("first")));
+    QCOMPARE(m_client->text("DependencyConfiguration"), QString(TestFiles::dependencies("first")));
+}
+
+void BusPolicyTest::everybodyMayListen()
+{
+    QVERIFY(startService());
+    QVERIFY(changeRules(policy(anotherUser())));
+    QVERIFY(TestFiles::replace(m_directory.filePath("units.json"), TestFiles::units("next")));
+    QTRY_COMPARE(m_client->announcements(), QStringList{"UnitManagerConfiguration UnitManager/UnitType"});
+    QCOMPARE(m_client->text(object), QString(TestFiles::units("next")));
+}
+
+void BusPolicyTest::everybodyMayAskWhatIsThere()
+{
+    QVERIFY(startService());
+    QVERIFY(changeRules(policy(anotherUser())));
+    const QString service = ConfigurationFileService::name();
+    const QDBusMessage description =
+        m_client->call(service, "/", "org.freedesktop.DBus.Introspectable", "Introspect");
+    QVERIFY2(description.arguments().value(0).toString().contains("DependencyConfiguration"),
+             qPrintable(description.errorMessage()));
+    const QDBusMessage sign = m_client->call(service, "/", "org.freedesktop.DBus.Peer", "Ping");
+    QCOMPARE(sign.type(), QDBusMessage::ReplyMessage);
+}
+
+void BusPolicyTest::nobodyMayDoMore()
+{
+    QVERIFY(startService());
+    QVERIFY(changeRules(policy(anotherUser())));
+    const QDBusMessage reply = m_client->call(ConfigurationFileService::name(), '/' + object,
+                                              "org.freedesktop.DBus.Properties", "GetAll", {""});
+    QCOMPARE(reply.errorName(), denied);
+}
+
+QTEST_GUILESS_MAIN(BusPolicyTest)
+#include "BusPolicyTest.moc"

@@ -1,0 +1,152 @@
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
+
+#include "ConfigurationDocument.h"
+#include "LogCapture.h"
+#include "TestFiles.h"
+
+namespace {
+
+/// A rule of the test's own.
+QString forbidsBad(const JsonText& json)
+{
+    return json.root.contains("bad") ? "it is bad" : "";
+}
+
+} // namespace
+
+class ConfigurationDocumentTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void nothingIsReadAtFirst();
+    void goodTextComesIntoForce();
+    void sameTextChangesNothing();
+    void lastGoodTextStaysInForce_data();
+    void lastGoodTextStaysInForce();
+    void withoutGoodTextThereIsNone();
+    void emptyFileIsRefusedAtOnce();
+    void refusalIsLoggedOnce();
+    void returnOfTheGoodTextIsLogged();
+
+private:
+    QTemporaryDir m_directory;
+    QString m_path;
+    std::optional<ConfigurationDocument> m_document;
+    std::optional<LogCapture> m_log;
+};
+
+void ConfigurationDocumentTest::init()
+{
+    m_path = m_directory.filePath("document.json");
+    QVERIFY(TestFiles::write(m_path, "{\"a\": 1}"));
+    m_document.emplace("Name", m_path, forbidsBad);
+    m_log.emplace();
+}
+
+void ConfigurationDocumentTest::nothingIsReadAtFirst()
+{
+    QCOMPARE(m_document->name(), "Name");
+    QCOMPARE(m_document->path(), m_path);
+    QVERIFY(!m_document->text());
+    QCOMPARE(m_log->takeTexts(), QStringList());
+}
+
+void ConfigurationDocumentTest::goodTextComesIntoForce()
+{
+    QVERIFY(m_document->update());
+    QCOMPARE(m_document->text(), QString("{\"a\": 1}"));
+    QCOMPARE(m_log->takeTexts(), QStringList{"Name: took " + m_path});
+
+    QVERIFY(TestFiles::write(m_path, "{\"a\": 2}"));
+    QVERIFY(m_document->update());
+    QCOMPARE(m_document->text(), QString("{\"a\": 2}"));
+    QCOMPARE(m_log->takeTexts(), QStringList{"Name: took " + m_path});
+}
+
+void ConfigurationDocumentTest::sameTextChangesNothing()
+{
+    QVERIFY(m_document->update());
+    m_log->take();
+    QVERIFY(!m_document->update());
+    QVERIFY(TestFiles::replace(m_path, "{\"a\": 1}"));
+    QVERIFY(!m_document->update());
+    QCOMPARE(m_log->takeTexts(), QStringList());
+}
+
+void ConfigurationDocumentTest::lastGoodTextStaysInForce_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("reason");
+
+    QTest::newRow("no JSON") << QByteArray("{") << "line 1, column 1: unterminated object";
+    QTest::newRow("against the rule") << QByteArray("{\"bad\": 1}") << "it is bad";
+    QTest::newRow("too large") << QByteArray("{}").leftJustified(
+                                      static_cast<int>(ConfigurationDocument::maximumSize) + 1)
+                               << "it is larger than 16777216 bytes";
+}
+
+void ConfigurationDocumentTest::lastGoodTextStaysInForce()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, reason);
+    QVERIFY(m_document->update());
+    m_log->take();
+
+    QVERIFY(TestFiles::write(m_path, bytes));
+    QVERIFY(!m_document->update());
+    QCOMPARE(m_document->text(), QString("{\"a\": 1}"));
+    const QList<LoggedMessage> messages = m_log->take();
+    QCOMPARE(messages.size(), 1);
+    QCOMPARE(messages[0].type, QtWarningMsg);
+    QCOMPARE(messages[0].text,
+             "Name: cannot use " + m_path + ": " + reason + "; the last good document stays in force");
+}
+
+void ConfigurationDocumentTest::withoutGoodTextThereIsNone()
+{
+    QVERIFY(QFile::remove(m_path));
+    QVERIFY(!m_document->update());
+    QVERIFY(!m_document->text());
+    QCOMPARE(m_log->takeTexts(), QStringList{"Name: cannot use " + m_path +
+                                             ": No such file or directory; there is none to serve"});
+}
+
+void ConfigurationDocumentTest::emptyFileIsRefusedAtOnce()
+{
+    QVERIFY(TestFiles::write(m_path, ""));
+    QVERIFY(!m_document->update());
+    QCOMPARE(m_log->takeTexts(),
+             QStringList{"Name: cannot use " + m_path + ": it is empty; there is none to serve"});
+}
+
+void ConfigurationDocumentTest::refusalIsLoggedOnce()
+{
+    QVERIFY(TestFiles::write(m_path, "{\"bad\": 1}"));
+    QVERIFY(!m_document->update());
+    QCOMPARE(m_log->takeTexts().size(), 1);
+    QVERIFY(!m_document->update());
+    QCOMPARE(m_log->takeTexts(), QStringList());
+
+    QVERIFY(TestFiles::write(m_path, "{\"bad\": 2}"));
+    QVERIFY(!m_document->update());
+    QCOMPARE(m_log->takeTexts().size(), 1);
+}
+
+void ConfigurationDocumentTest::returnOfTheGoodTextIsLogged()
+{
+    QVERIFY(m_document->update());
+    QVERIFY(TestFiles::write(m_path, "{"));
+    QVERIFY(!m_document->update());
+    m_log->take();
+
+    QVERIFY(TestFiles::write(m_path, "{\"a\": 1}"));
+    QVERIFY(!m_document->update());
+    QCOMPARE(m_log->takeTexts(), QStringList{"Name: unchanged in " + m_path});
+}
+
+QTEST_GUILESS_MAIN(ConfigurationDocumentTest)
+#include "ConfigurationDocumentTest.moc"

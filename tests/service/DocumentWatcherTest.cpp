@@ -1,0 +1,150 @@
+#include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include "DocumentWatcher.h"
+#include "LogCapture.h"
+#include "TestFiles.h"
+#include "WithoutPrivileges.h"
+
+using namespace std::chrono_literals;
+
+/// Which changes are seen, the service's tests show; here is when they are reported.
+class DocumentWatcherTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void burstIsReportedWhenItHasGoneQuiet();
+    void endlessBurstIsReported();
+    void changesFurtherUpAreNotReported();
+    void exchangeFurtherUpIsReported();
+    void directoryMadeAnewIsWatched();
+    void missingFileIsWatched();
+    void placeThatCannotBeWatchedIsLoggedOnce();
+
+private:
+    QTemporaryDir m_directory;
+    QString m_file;
+};
+
+void DocumentWatcherTest::init()
+{
+    QVERIFY(QDir(m_directory.path()).mkpath("upper/documents"));
+    m_file = m_directory.filePath("upper/documents/file");
+    QVERIFY(TestFiles::write(m_file, "text"));
+}
+
+void DocumentWatcherTest::cleanup()
+{
+    QVERIFY(QFile::setPermissions(m_directory.filePath("upper/documents"), QFileDevice::Permissions(0x7055)));
+}
+
+void DocumentWatcherTest::burstIsReportedWhenItHasGoneQuiet()
+{
+    const DocumentWatcher watcher({m_file}, {500ms, 5s});
+    QSignalSpy reports(&watcher, &DocumentWatcher::touched);
+    QElapsedTimer sinceLastChange;
+    for (int count = 0; count < 20; ++count) {
+        QVERIFY(TestFiles::write(m_file, QByteArray::number(count)));
+        QCoreApplication::processEvents();
+        sinceLastChange.start();
+    }
+    QVERIFY(reports.wait(10000));
+    QCOMPARE(reports.size(), 1);
+    // A timer may be early by a twentieth.
+    QVERIFY2(sinceLastChange.elapsed() >= 450, qPrintable(QString::number(sinceLastChange.elapsed())));
+}
+
+void DocumentWatcherTest::endlessBurstIsReported()
+{
+    const DocumentWatcher watcher({m_file}, {1h, 500ms});
+    const QSignalSpy reports(&watcher, &DocumentWatcher::touched);
+    QElapsedTimer sinceFirstChange;
+    sinceFirstChange.start();
+    QTRY_VERIFY(TestFiles::write(m_file, "text") && !reports.isEmpty());
+    QVERIFY2(sinceFirstChange.elapsed() >= 450, qPrintable(QString::number(sinceFirstChange.elapsed())));
+    QTRY_VERIFY(TestFiles::write(m_file, "text") && reports.size() == 2);
+}
+
+void DocumentWatcherTest::changesFurtherUpAreNotReported()
+{
+    const DocumentWatcher watcher({m_file}, {10ms, 100ms});
+    QSignalSpy reports(&watcher, &DocumentWatcher::touched);
+    QVERIFY(TestFiles::write(m_directory.filePath("a file of somebody else"), "text"));
+    QVERIFY(!reports.wait(500));
+
+    QVERIFY(TestFiles::write(m_file, "text"));
+    QVERIFY(reports.wait());
+}
+
+void DocumentWatcherTest::exchangeFurtherUpIsReported()
+{
+    const DocumentWatcher watcher({m_file}, {10ms, 100ms});
+    QSignalSpy reports(&watcher, &DocumentWatcher::touched);
+    QDir top(m_directory.path());
+    QVERIFY(top.rename("upper", "before"));
+    QVERIFY(top.mkpath("upper/documents"));
+    QVERIFY(reports.wait());
+
+    QVERIFY(TestFiles::write(m_file, "text"));
+    QVERIFY(reports.wait());
+    QVERIFY(TestFiles::write(m_file, "another text"));
+    QVERIFY(reports.wait());
+    QVERIFY(QDir(top.filePath("before")).removeRecursively());
+}
+
+// It may well get the number that the old one had.
+void DocumentWatcherTest::directoryMadeAnewIsWatched()
+{
+    QVERIFY(QFile::remove(m_file));
+    const DocumentWatcher watcher({m_file}, {10ms, 100ms});
+    QSignalSpy reports(&watcher, &DocumentWatcher::touched);
+    QVERIFY(QDir().rmdir(m_directory.filePath("upper/documents")));
+    QVERIFY(QDir().mkdir(m_directory.filePath("upper/documents")));
+    QVERIFY(reports.wait());
+
+    QVERIFY(TestFiles::write(m_file, "text"));
+    QVERIFY(reports.wait());
+}
+
+void DocumentWatcherTest::missingFileIsWatched()
+{
+    const QString path = m_directory.filePath("not/there/yet");
+    const DocumentWatcher watcher({path}, {10ms, 100ms});
+    QSignalSpy reports(&watcher, &DocumentWatcher::touched);
+    QVERIFY(QDir(m_directory.path()).mkdir("not"));
+    QVERIFY(reports.wait());
+    QVERIFY(QDir(m_directory.path()).mkdir("not/there"));
+    QVERIFY(reports.wait());
+    QVERIFY(TestFiles::write(path, "text"));
+    QVERIFY(reports.wait());
+}
+
+void DocumentWatcherTest::placeThatCannotBeWatchedIsLoggedOnce()
+{
+    const QString closed = m_directory.filePath("upper/documents");
+    QVERIFY(QFile::setPermissions(m_directory.path(), QFileDevice::Permissions(0x7055)));
+    QVERIFY(QFile::setPermissions(closed, QFileDevice::Permissions(0x3011)));
+    QVERIFY(QFile::setPermissions(m_file, QFileDevice::Permissions(0x6066)));
+    LogCapture log;
+    const WithoutPrivileges ordinary;
+    QVERIFY(ordinary.isEffective());
+
+    const DocumentWatcher watcher({m_file}, {10ms, 100ms});
+    QSignalSpy reports(&watcher, &DocumentWatcher::touched);
+    QCOMPARE(log.takeTexts().join('\n'), "Cannot watch " + closed + ": changes there may go unnoticed");
+
+    // The file itself is watched all the same.
+    QVERIFY(TestFiles::write(m_file, "another text"));
+    QVERIFY(reports.wait());
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(DocumentWatcherTest)
+#include "DocumentWatcherTest.moc"

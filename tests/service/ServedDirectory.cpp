@@ -1,0 +1,64 @@
+#include "ServedDirectory.h"
+
+#include <QtCore/QDir>
+#include <QtTest/QTest>
+
+#include "TestFiles.h"
+
+ServedDirectory::ServedDirectory()
+{
+    QDir().mkpath(directory());
+    TestFiles::write(path("units.json"), TestFiles::units("first"));
+    TestFiles::write(path("default-units.json"), TestFiles::defaultUnits("first"));
+    TestFiles::write(path("dependencies.json"), TestFiles::dependencies("first"));
+}
+
+bool ServedDirectory::start()
+{
+    if (!m_bus.start())
+        return false;
+    // Listening first, so that an announcement at the start would be heard.
+    m_client = std::make_unique<ServiceClient>(m_bus.address());
+    return m_service.serve(directory(), m_bus.address());
+}
+
+QString ServedDirectory::path(const QString& file) const
+{
+    return directory() + '/' + file;
+}
+
+QString ServedDirectory::directory() const
+{
+    return m_directory.filePath("documents");
+}
+
+QStringList ServedDirectory::settledAnnouncements()
+{
+    const QString marker = "DependencyConfiguration UnitManager/Dependency";
+    const QByteArray text = TestFiles::dependencies(QString::number(m_known) + " announcements known");
+    if (!TestFiles::replace(path("dependencies.json"), text))
+        return {"the dependencies could not be replaced"};
+    const bool isHeard = QTest::qWaitFor(
+        [this, &marker] { return m_client->announcements().mid(m_known).contains(marker); }, 10000);
+    QStringList news = m_client->announcements().mid(m_known);
+    m_known += news.size();
+    if (!isHeard)
+        news.append("the dependencies were not announced");
+    news.removeOne(marker);
+    return news;
+}
+
+PrivateBus& ServedDirectory::bus()
+{
+    return m_bus;
+}
+
+ServiceProcess& ServedDirectory::service()
+{
+    return m_service;
+}
+
+ServiceClient& ServedDirectory::client()
+{
+    return *m_client;
+}

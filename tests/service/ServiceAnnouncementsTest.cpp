@@ -1,0 +1,226 @@
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtTest/QTest>
+
+#include <csignal>
+#include <functional>
+
+#include "ServedDirectory.h"
+#include "TestFiles.h"
+
+using Action = std::function<bool(const ServedDirectory& served, const QByteArray& text)>;
+Q_DECLARE_METATYPE(Action)
+
+namespace {
+
+const QString object = "UnitManagerConfiguration";
+const QString announcement = "UnitManagerConfiguration UnitManager/UnitType";
+
+bool removeAndWrite(const ServedDirectory& served, const QByteArray& text)
+{
+    return QFile::remove(served.path("units.json")) && TestFiles::write(served.path("units.json"), text);
+}
+
+bool overwriteInPlace(const ServedDirectory& served, const QByteArray& text)
+{
+    return TestFiles::write(served.path("units.json"), text);
+}
+
+bool replace(const ServedDirectory& served, const QByteArray& text)
+{
+    return TestFiles::replace(served.path("units.json"), text);
+}
+
+bool writeInPieces(const ServedDirectory& served, const QByteArray& text)
+{
+    QFile file(served.path("units.json"));
+    bool isWritten = file.open(QIODevice::WriteOnly);
+    for (const char byte : text)
+        isWritten = isWritten && file.putChar(byte) && file.flush();
+    return isWritten;
+}
+
+bool linkToAnotherFile(const ServedDirectory& served, const QByteArray& text)
+{
+    return TestFiles::write(served.path("units of another name"), text) &&
+           TestFiles::link("units of another name", served.path("units.json"));
+}
+
+/// A directory with the other two documents as they are, and @p text as units.
+bool fillDirectory(const ServedDirectory& served, const QString& path, const QByteArray& text)
+{
+    return QDir().mkpath(path) && TestFiles::write(path + "/units.json", text) &&
+           QFile::copy(served.path("default-units.json"), path + "/default-units.json") &&
+           QFile::copy(served.path("dependencies.json"), path + "/dependencies.json");
+}
+
+bool exchangeDirectory(const ServedDirectory& served, const QByteArray& text)
+{
+    const QString path = served.directory();
+    return fillDirectory(served, path + ".next", text) && QDir().rename(path, path + ".before") &&
+           QDir().rename(path + ".next", path);
+}
+
+bool makeDirectoryAnew(const ServedDirectory& served, const QByteArray& text)
+{
+    const QString path = served.directory();
+    return fillDirectory(served, path + ".next", text) && QDir(path).removeRecursively() &&
+           QDir().mkdir(path) && QFile::copy(path + ".next/dependencies.json", path + "/dependencies.json") &&
+           TestFiles::write(path + "/units.json", text);
+}
+
+bool linkToAnotherDirectory(const ServedDirectory& served, const QByteArray& text)
+{
+    const QString path = served.directory();
+    return fillDirectory(served, path + ".next", text) && QDir().rename(path, path + ".before") &&
+           TestFiles::link("documents.next", path);
+}
+
+} // namespace
+
+/// When the program announces that a document has changed, and when not.
+class ServiceAnnouncementsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void changeIsAnnouncedOnce_data();
+    void changeIsAnnouncedOnce();
+    void eachDocumentIsAnnouncedByItsObject();
+    void swappedVersionsAreAnnounced();
+    void sameTextIsNotAnnounced_data();
+    void sameTextIsNotAnnounced();
+    void burstIsAnnouncedOnce();
+    void everyFurtherChangeIsAnnounced();
+};
+
+void ServiceAnnouncementsTest::changeIsAnnouncedOnce_data()
+{
+    QTest::addColumn<Action>("change");
+
+    QTest::newRow("written in place") << Action(overwriteInPlace);
+    QTest::newRow("written in place, piece by piece") << Action(writeInPieces);
+    QTest::newRow("replaced by another file") << Action(replace);
+    QTest::newRow("removed and written") << Action(removeAndWrite);
+    QTest::newRow("replaced by a link") << Action(linkToAnotherFile);
+    QTest::newRow("directory exchanged") << Action(exchangeDirectory);
+    QTest::newRow("directory removed and made anew") << Action(makeDirectoryAnew);
+    QTest::newRow("directory replaced by a link") << Action(linkToAnotherDirectory);
+}
+
+void ServiceAnnouncementsTest::changeIsAnnouncedOnce()
+{
+    QFETCH(Action, change);
+    ServedDirectory served;
+    QVERIFY(served.start());
+
+    const QByteArray next = TestFiles::units("next");
+    QVERIFY(change(served, next));
+    QTRY_COMPARE(served.client().text(object), QString(next));
+    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+
+    // Whatever the change has made of the file, it is still watched.
+    const QByteArray last = TestFiles::units("last");
+    QVERIFY(overwriteInPlace(served, last));
+    QTRY_COMPARE(served.client().text(object), QString(last));
+    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+}
+
+void ServiceAnnouncementsTest::eachDocumentIsAnnouncedByItsObject()
+{
+    ServedDirectory served;
+    QVERIFY(served.start());
+
+    QVERIFY(TestFiles::replace(served.path("default-units.json"), TestFiles::defaultUnits("next")));
+    QCOMPARE(served.settledAnnouncements(), QStringList{"DefaultUnitConfiguration UnitManager/DefaultUnit"});
+    QCOMPARE(served.client().text("DefaultUnitConfiguration"), QString(TestFiles::defaultUnits("next")));
+
+    QVERIFY(TestFiles::replace(served.path("dependencies.json"), TestFiles::dependencies("next")));
+    QTRY_COMPARE(served.client().text("DependencyConfiguration"), QString(TestFiles::dependencies("next")));
+    QTRY_COMPARE(served.client().announcements().last(), "DependencyConfiguration UnitManager/Dependency");
+}
+
+// The documents are links through a link that is turned from one version to the next.
+void ServiceAnnouncementsTest::swappedVersionsAreAnnounced()
+{
+    ServedDirectory served;
+    QVERIFY(fillDirectory(served, served.path("..1"), TestFiles::units("one")));
+    QVERIFY(fillDirectory(served, served.path("..2"), TestFiles::units("two")));
+    QVERIFY(TestFiles::link("..1", served.path("..data")));
+    QVERIFY(TestFiles::link("..data/units.json", served.path("units.json")));
+    QVERIFY(served.start());
+    QCOMPARE(served.client().text(object), QString(TestFiles::units("one")));
+
+    QVERIFY(TestFiles::link("..2", served.path("..data")));
+    QTRY_COMPARE(served.client().text(object), QString(TestFiles::units("two")));
+    QVERIFY(QDir(served.path("..1")).removeRecursively());
+    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+
+    QVERIFY(TestFiles::write(served.path("..2/units.json"), TestFiles::units("two, corrected")));
+    QTRY_COMPARE(served.client().text(object), QString(TestFiles::units("two, corrected")));
+    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+}
+
+void ServiceAnnouncementsTest::sameTextIsNotAnnounced_data()
+{
+    QTest::addColumn<Action>("action");
+
+    QTest::newRow("touched") << Action([](const ServedDirectory& served, const QByteArray&) {
+        QFile file(served.path("units.json"));
+        return file.open(QIODevice::Append) &&
+               file.setFileTime(QDateTime::currentDateTime(), QFileDevice::FileModificationTime);
+    });
+    QTest::newRow("written in place") << Action(overwriteInPlace);
+    QTest::newRow("replaced by another file") << Action(replace);
+    QTest::newRow("removed and written") << Action(removeAndWrite);
+    QTest::newRow("directory exchanged") << Action(exchangeDirectory);
+    QTest::newRow("with a byte order mark")
+        << Action([](const ServedDirectory& served, const QByteArray& text) {
+               return replace(served, "\xEF\xBB\xBF" + text);
+           });
+    QTest::newRow("file beside it") << Action([](const ServedDirectory& served, const QByteArray& text) {
+        return TestFiles::write(served.path("units.json~"), text + ' ');
+    });
+}
+
+void ServiceAnnouncementsTest::sameTextIsNotAnnounced()
+{
+    QFETCH(Action, action);
+    ServedDirectory served;
+    QVERIFY(served.start());
+
+    const QByteArray text = TestFiles::units("first");
+    QVERIFY(action(served, text));
+    QCOMPARE(served.settledAnnouncements(), QStringList());
+    QCOMPARE(served.client().text(object), QString(text));
+}
+
+void ServiceAnnouncementsTest::burstIsAnnouncedOnce()
+{
+    ServedDirectory served;
+    QVERIFY(served.start());
+
+    // Held for the moment, so that the whole burst meets it at once however busy the machine is.
+    QVERIFY(served.service().send(SIGSTOP));
+    for (int count = 1; count <= 50; ++count)
+        QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units(QString::number(count))));
+    QVERIFY(served.service().send(SIGCONT));
+
+    QTRY_COMPARE(served.client().text(object), QString(TestFiles::units("50")));
+    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+}
+
+void ServiceAnnouncementsTest::everyFurtherChangeIsAnnounced()
+{
+    ServedDirectory served;
+    QVERIFY(served.start());
+
+    for (const char* label : {"second", "third", "first"}) {
+        QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units(label)));
+        QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+        QCOMPARE(served.client().text(object), QString(TestFiles::units(label)));
+    }
+}
+
+QTEST_GUILESS_MAIN(ServiceAnnouncementsTest)
+#include "ServiceAnnouncementsTest.moc"

@@ -1,0 +1,138 @@
+#include <QtCore/QFile>
+#include <QtTest/QTest>
+
+#include "ConfigurationFileService.h"
+#include "DeviceManagerDefinitions.h"
+#include "ServedDirectory.h"
+#include "TestFiles.h"
+
+/// What the program answers on the bus, and that it answers nothing else.
+class ServiceAnswersTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void eachDocumentIsServed_data();
+    void eachDocumentIsServed();
+    void nothingElseIsServed_data();
+    void nothingElseIsServed();
+    void whoAsksMakesNoDifference();
+    void objectsDescribeTheInterface();
+    void startIsNotAnnounced();
+    void shippedDocumentsAreServed();
+
+private:
+    ServedDirectory m_served;
+};
+
+void ServiceAnswersTest::initTestCase()
+{
+    QVERIFY(m_served.start());
+}
+
+void ServiceAnswersTest::eachDocumentIsServed_data()
+{
+    QTest::addColumn<QString>("object");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("units") << DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration()
+                           << QString(TestFiles::units("first"));
+    QTest::newRow("default units") << "DefaultUnitConfiguration" << QString(TestFiles::defaultUnits("first"));
+    QTest::newRow("dependencies") << "DependencyConfiguration" << QString(TestFiles::dependencies("first"));
+}
+
+void ServiceAnswersTest::eachDocumentIsServed()
+{
+    QFETCH(QString, object);
+    QFETCH(QString, text);
+
+    QCOMPARE(m_served.client().text(object), text);
+}
+
+void ServiceAnswersTest::nothingElseIsServed_data()
+{
+    QTest::addColumn<QString>("object");
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<QStringList>("arguments");
+
+    const QString units = "UnitManagerConfiguration";
+    const QString defaultUnits = "DefaultUnitConfiguration";
+    const QString dependencies = "DependencyConfiguration";
+    const QString get = "getConfiguration";
+    const QString getDependency = "getConfigurationDependency";
+    using Arguments = QStringList;
+
+    QTest::newRow("name nobody knows") << units << get << Arguments{"UnitManager/Unit", "", ""};
+    QTest::newRow("no name") << units << get << Arguments{"", "", ""};
+    QTest::newRow("other case") << units << get << Arguments{"unitmanager/unittype", "", ""};
+    QTest::newRow("slash at the end") << units << get << Arguments{"UnitManager/UnitType/", "", ""};
+    QTest::newRow("one unit type") << units << get << Arguments{"UnitManager/UnitType/Pressure", "", ""};
+    QTest::newRow("another object's name") << units << get << Arguments{"UnitManager/DefaultUnit", "", ""};
+    QTest::newRow("units as dependencies") << units << getDependency << Arguments{"UnitManager/UnitType", ""};
+    QTest::newRow("default units as dependencies")
+        << defaultUnits << getDependency << Arguments{"UnitManager/DefaultUnit", ""};
+    QTest::newRow("dependencies as plain configuration")
+        << dependencies << get << Arguments{"UnitManager/Dependency", "", ""};
+    QTest::newRow("a document's file") << units << get << Arguments{"units.json", "", ""};
+    QTest::newRow("a document's path") << units << get << Arguments{m_served.path("units.json"), "", ""};
+    QTest::newRow("path upwards") << units << get << Arguments{"../../etc/passwd", "", ""};
+    QTest::newRow("path upwards behind the name")
+        << units << get << Arguments{"UnitManager/UnitType/../../../../../etc/passwd", "", ""};
+    QTest::newRow("absolute path") << dependencies << getDependency << Arguments{"/etc/passwd", ""};
+    QTest::newRow("a very long name") << units << get << Arguments{QString(1000000, 'x'), "", ""};
+}
+
+void ServiceAnswersTest::nothingElseIsServed()
+{
+    QFETCH(QString, object);
+    QFETCH(QString, method);
+    QFETCH(QStringList, arguments);
+
+    const QDBusMessage reply = m_served.client().call(object, method, arguments);
+    QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
+    QCOMPARE(reply.errorName(), "org.measuringdevice.ConfigurationFileHandler.Error.UnknownConfiguration");
+    QCOMPARE(reply.errorMessage(),
+             "This method of this object serves no configuration '" + arguments[0].left(60) + "'.");
+}
+
+void ServiceAnswersTest::whoAsksMakesNoDifference()
+{
+    const QDBusMessage reply =
+        m_served.client().call("UnitManagerConfiguration", "getConfiguration",
+                               {"UnitManager/UnitType", "../../etc", m_served.path("default-units.json")});
+    QCOMPARE(reply.arguments(), QVariantList{QString(TestFiles::units("first"))});
+}
+
+void ServiceAnswersTest::objectsDescribeTheInterface()
+{
+    const QDBusMessage reply =
+        m_served.client().call(ConfigurationFileService::name(), "/DependencyConfiguration",
+                               "org.freedesktop.DBus.Introspectable", "Introspect");
+    const QString description = reply.arguments().value(0).toString();
+    for (const char* part : {"interface name=\"org.measuringdevice.ConfigurationFileHandler\"",
+                             "method name=\"getConfiguration\"", "method name=\"getConfigurationDependency\"",
+                             "signal name=\"configurationChanged\""})
+        QVERIFY2(description.contains(part), part);
+}
+
+void ServiceAnswersTest::startIsNotAnnounced()
+{
+    QCOMPARE(m_served.settledAnnouncements(), QStringList());
+}
+
+void ServiceAnswersTest::shippedDocumentsAreServed()
+{
+    ServedDirectory served;
+    for (const char* name : {"units.json", "default-units.json", "dependencies.json"}) {
+        QVERIFY(QFile::remove(served.path(name)));
+        QVERIFY(QFile::copy(QString(UNITMANAGER_SOURCE_DIR "/config/") + name, served.path(name)));
+    }
+    QVERIFY(served.start());
+    QCOMPARE(served.service().log().count(": took "), 3);
+    QCOMPARE(served.service().log().count('\n'), 3);
+    QVERIFY(served.client().text("UnitManagerConfiguration").contains("\"HectoPascal\""));
+}
+
+QTEST_GUILESS_MAIN(ServiceAnswersTest)
+#include "ServiceAnswersTest.moc"

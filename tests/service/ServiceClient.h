@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtDBus/QDBusMessage>
+
+/// An application on the bus: asks the service and hears its announcements, while its event loop runs.
+class ServiceClient : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ServiceClient(const QString& address);
+    ~ServiceClient() override;
+
+    /// Calls a method of the service's interface. @return the reply, an error after ten seconds.
+    QDBusMessage call(const QString& object, const QString& method, const QStringList& arguments) const;
+    /// The same for any interface and any program on the bus.
+    QDBusMessage call(const QString& program, const QString& object, const QString& interface,
+                      const QString& method, const QVariantList& arguments = {}) const;
+
+    /// The text that an object serves under a name, by the method that is meant for it; else "error: " and
+    /// the error's name.
+    QString text(const QString& object) const;
+
+    /// The announcements heard so far, oldest first: the object's name, a blank, and the name announced.
+    QStringList announcements() const;
+
+private slots:
+    void hear(const QString& name, const QDBusMessage& message);
+
+private:
+    QString m_connectionName;
+    QStringList m_announcements;
+};

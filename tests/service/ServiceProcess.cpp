@@ -1,0 +1,71 @@
+#include "ServiceProcess.h"
+
+#include <QtCore/QDeadlineTimer>
+
+#include <csignal>
+
+namespace {
+
+const int waitLimit = 10000;
+
+} // namespace
+
+ServiceProcess::ServiceProcess()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"QT_HASH_SEED", "QT_LOGGING_RULES", "QT_MESSAGE_PATTERN"})
+        environment.remove(name);
+    m_process.setProcessEnvironment(environment);
+}
+
+bool ServiceProcess::start(const QStringList& arguments)
+{
+    m_process.start(QStringLiteral(CONFIGURATION_FILE_SERVICE), arguments);
+    const QDeadlineTimer deadline(waitLimit);
+    while (!output().startsWith(QLatin1String("serving "))) {
+        if (!m_process.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
+            return false;
+    }
+    return true;
+}
+
+bool ServiceProcess::serve(const QString& directory, const QString& bus)
+{
+    return start({QStringLiteral("--directory"), directory, QStringLiteral("--bus"), bus});
+}
+
+int ServiceProcess::run(const QStringList& arguments)
+{
+    m_process.start(QStringLiteral(CONFIGURATION_FILE_SERVICE), arguments);
+    return waitForEnd();
+}
+
+int ServiceProcess::waitForEnd()
+{
+    const bool hasEnded = m_process.state() == QProcess::NotRunning || m_process.waitForFinished(waitLimit);
+    return hasEnded && m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+}
+
+void ServiceProcess::setVariable(const QString& name, const QString& value)
+{
+    QProcessEnvironment environment = m_process.processEnvironment();
+    environment.insert(name, value);
+    m_process.setProcessEnvironment(environment);
+}
+
+bool ServiceProcess::send(int signal) const
+{
+    return ::kill(static_cast<pid_t>(m_process.processId()), signal) == 0;
+}
+
+QString ServiceProcess::output()
+{
+    m_output += m_process.readAllStandardOutput();
+    return QString::fromUtf8(m_output);
+}
+
+QString ServiceProcess::log()
+{
+    m_log += m_process.readAllStandardError();
+    return QString::fromUtf8(m_log);
+}

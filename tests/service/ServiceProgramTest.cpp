@@ -1,0 +1,241 @@
+#include <QtCore/QDir>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
+
+#include <csignal>
+
+#include "ConfigurationFileService.h"
+#include "ServedDirectory.h"
+#include "TestFiles.h"
+
+/// How the program starts and ends.
+class ServiceProgramTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void wrongUsageIsRejected_data();
+    void wrongUsageIsRejected();
+    void helpNamesTheOptions();
+    void versionIsPrinted();
+    void busIsChosen_data();
+    void busIsChosen();
+    void directoryMayHaveAnyName();
+    void directoryMayBeRelative();
+    void busStartsIt();
+    void signalEndsIt_data();
+    void signalEndsIt();
+    void nameIsFreeAfterItsEnd();
+    void takenNameEndsIt();
+    void unreachableBusEndsIt_data();
+    void unreachableBusEndsIt();
+    void lostBusEndsIt();
+};
+
+void ServiceProgramTest::wrongUsageIsRejected_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("reason");
+
+    using Arguments = QStringList;
+    QTest::newRow("nothing") << Arguments{} << "No directory given.";
+    QTest::newRow("no directory") << Arguments{"--bus", "session"} << "No directory given.";
+    QTest::newRow("empty directory") << Arguments{"--directory", ""} << "No directory given.";
+    QTest::newRow("directory without value")
+        << Arguments{"--directory"} << "Missing value after '--directory'.";
+    QTest::newRow("empty bus") << Arguments{"--directory", "x", "--bus", ""} << "No bus given.";
+    QTest::newRow("unknown option") << Arguments{"--directory", "x", "--port", "1"}
+                                    << "Unknown option 'port'.";
+    QTest::newRow("plain argument") << Arguments{"--directory", "x", "y"} << "Unexpected argument 'y'.";
+}
+
+void ServiceProgramTest::wrongUsageIsRejected()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, reason);
+
+    ServiceProcess service;
+    QCOMPARE(service.run(arguments), 2);
+    QCOMPARE(service.log(), "configuration-file-service: " + reason + "\nTry --help.\n");
+    QCOMPARE(service.output(), QString());
+}
+
+void ServiceProgramTest::helpNamesTheOptions()
+{
+    ServiceProcess service;
+    QCOMPARE(service.run({"--help"}), 0);
+    for (const char* option : {"--directory <DIR>", "--bus <session|system|ADDRESS>", "--help", "--version"})
+        QVERIFY2(service.output().contains(option), option);
+    QCOMPARE(service.log(), QString());
+}
+
+void ServiceProgramTest::versionIsPrinted()
+{
+    ServiceProcess service;
+    QCOMPARE(service.run({"--version"}), 0);
+    QCOMPARE(service.output(), "configuration-file-service " UNITMANAGER_VERSION "\n");
+    QCOMPARE(service.log(), QString());
+}
+
+void ServiceProgramTest::busIsChosen_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("variable");
+    QTest::addColumn<QString>("shown");
+
+    QTest::newRow("default") << QStringList{} << "DBUS_SESSION_BUS_ADDRESS"
+                             << "session";
+    QTest::newRow("session") << QStringList{"--bus", "session"} << "DBUS_SESSION_BUS_ADDRESS"
+                             << "session";
+    QTest::newRow("system") << QStringList{"--bus", "system"} << "DBUS_SYSTEM_BUS_ADDRESS"
+                            << "system";
+}
+
+void ServiceProgramTest::busIsChosen()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QString, variable);
+    QFETCH(QString, shown);
+    ServedDirectory served;
+    QVERIFY(served.bus().start());
+
+    ServiceProcess service;
+    service.setVariable("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
+    service.setVariable("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere");
+    service.setVariable(variable, served.bus().address());
+    QVERIFY(service.start(QStringList{"--directory", served.directory()} + options));
+    QCOMPARE(service.output(),
+             "serving " + served.directory() + " as org.measuringdevice.DeviceManager on " + shown + '\n');
+    const ServiceClient client(served.bus().address());
+    QCOMPARE(client.text("UnitManagerConfiguration"), QString(TestFiles::units("first")));
+}
+
+void ServiceProgramTest::directoryMayHaveAnyName()
+{
+    ServedDirectory served;
+    const QString directory = served.directory() + QString::fromUtf8(" für %1 µ\xF0\x9F\x93\x81");
+    QVERIFY(QDir().rename(served.directory(), directory));
+    QVERIFY(served.bus().start());
+
+    ServiceProcess service;
+    service.setVariable("LC_ALL", "C");
+    QVERIFY(service.serve(directory, served.bus().address()));
+    QVERIFY2(service.output().startsWith("serving " + directory + " as "), qPrintable(service.output()));
+    const ServiceClient client(served.bus().address());
+    QCOMPARE(client.text("UnitManagerConfiguration"), QString(TestFiles::units("first")));
+    QVERIFY(TestFiles::replace(directory + "/units.json", TestFiles::units("next")));
+    QTRY_COMPARE(client.text("UnitManagerConfiguration"), QString(TestFiles::units("next")));
+}
+
+void ServiceProgramTest::directoryMayBeRelative()
+{
+    ServedDirectory served;
+    QVERIFY(served.bus().start());
+
+    ServiceProcess service;
+    const QString directory = QDir::current().relativeFilePath(served.directory());
+    QVERIFY(QDir::isRelativePath(directory));
+    QVERIFY(service.serve(directory, served.bus().address()));
+    const ServiceClient client(served.bus().address());
+    QCOMPARE(client.text("UnitManagerConfiguration"), QString(TestFiles::units("first")));
+    QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units("next")));
+    QTRY_COMPARE(client.text("UnitManagerConfiguration"), QString(TestFiles::units("next")));
+}
+
+void ServiceProgramTest::busStartsIt()
+{
+    ServedDirectory served;
+    const QString command = QStringLiteral("%1 --directory %2 --bus %3")
+                                .arg(CONFIGURATION_FILE_SERVICE, served.directory(), served.bus().address());
+    QVERIFY(served.bus().addActivatableService(ConfigurationFileService::name(), command));
+    QVERIFY(served.bus().start());
+
+    const ServiceClient client(served.bus().address());
+    QCOMPARE(client.text("UnitManagerConfiguration"), QString(TestFiles::units("first")));
+}
+
+void ServiceProgramTest::signalEndsIt_data()
+{
+    QTest::addColumn<int>("signal");
+
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGINT") << SIGINT;
+}
+
+void ServiceProgramTest::signalEndsIt()
+{
+    QFETCH(int, signal);
+    ServedDirectory served;
+    QVERIFY(served.start());
+
+    QVERIFY(served.service().send(signal));
+    QCOMPARE(served.service().waitForEnd(), 0);
+    QCOMPARE(served.service().log().count('\n'), 3);
+}
+
+void ServiceProgramTest::nameIsFreeAfterItsEnd()
+{
+    ServedDirectory served;
+    QVERIFY(served.start());
+    QVERIFY(served.service().send(SIGTERM));
+    QCOMPARE(served.service().waitForEnd(), 0);
+
+    ServiceProcess next;
+    QVERIFY(next.serve(served.directory(), served.bus().address()));
+    QCOMPARE(served.client().text("UnitManagerConfiguration"), QString(TestFiles::units("first")));
+}
+
+void ServiceProgramTest::takenNameEndsIt()
+{
+    ServedDirectory served;
+    QVERIFY(served.start());
+
+    ServiceProcess second;
+    QCOMPARE(second.run({"--directory", served.directory(), "--bus", served.bus().address()}), 1);
+    QVERIFY2(second.log().endsWith("configuration-file-service: cannot take the name "
+                                   "org.measuringdevice.DeviceManager: another program has it\n"),
+             qPrintable(second.log()));
+    QCOMPARE(second.output(), QString());
+    QCOMPARE(served.client().text("UnitManagerConfiguration"), QString(TestFiles::units("first")));
+}
+
+void ServiceProgramTest::unreachableBusEndsIt_data()
+{
+    QTest::addColumn<QString>("bus");
+
+    QTest::newRow("nobody listens") << "unix:path=/nowhere/socket";
+    QTest::newRow("no address") << "anything";
+    QTest::newRow("session bus that is not there") << "session";
+    QTest::newRow("system bus that is not there") << "system";
+}
+
+void ServiceProgramTest::unreachableBusEndsIt()
+{
+    QFETCH(QString, bus);
+    const QTemporaryDir directory;
+
+    ServiceProcess service;
+    service.setVariable("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/socket");
+    service.setVariable("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere/socket");
+    QCOMPARE(service.run({"--directory", directory.path(), "--bus", bus}), 1);
+    const QString beginning = "configuration-file-service: cannot reach the bus " + bus + ": ";
+    QVERIFY2(service.log().startsWith(beginning), qPrintable(service.log()));
+    QVERIFY2(service.log().size() > beginning.size() + 1, qPrintable(service.log()));
+    QCOMPARE(service.log().count('\n'), 1);
+    QCOMPARE(service.output(), QString());
+}
+
+void ServiceProgramTest::lostBusEndsIt()
+{
+    ServedDirectory served;
+    QVERIFY(served.start());
+
+    served.bus().stop();
+    QCOMPARE(served.service().waitForEnd(), 1);
+    QVERIFY2(served.service().log().endsWith("configuration-file-service: lost the bus " +
+                                             served.bus().address() + '\n'),
+             qPrintable(served.service().log()));
+}
+
+QTEST_GUILESS_MAIN(ServiceProgramTest)
+#include "ServiceProgramTest.moc"

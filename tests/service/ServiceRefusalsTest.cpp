@@ -1,0 +1,150 @@
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtTest/QTest>
+
+#include "ConfigurationDocument.h"
+#include "ServedDirectory.h"
+#include "TestFiles.h"
+
+namespace {
+
+const QString object = "UnitManagerConfiguration";
+const QString announcement = "UnitManagerConfiguration UnitManager/UnitType";
+const QString noDocument = "error: org.measuringdevice.ConfigurationFileHandler.Error.NoConfiguration";
+
+} // namespace
+
+/// What the program does with a document that it cannot serve.
+class ServiceRefusalsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void badTextIsRefused_data();
+    void badTextIsRefused();
+    void largestDocumentIsServed();
+    void removedDocumentStaysInForce();
+    void eachRefusalIsLoggedOnce();
+    void documentMayComeLater_data();
+    void documentMayComeLater();
+};
+
+void ServiceRefusalsTest::badTextIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("reason");
+
+    QTest::newRow("half written") << QByteArray("{\n  \"Pressure\": {\n    \"Bar\": {")
+                                  << "line 3, column 12: unterminated object";
+    QTest::newRow("comma too many") << QByteArray("{\n  \"Pressure\": {},\n}")
+                                    << "line 3, column 1: object is missing after a comma";
+    QTest::newRow("invalid UTF-8") << QByteArray("{\n  \"Pressure\": \"\xFF\"}")
+                                   << "line 2, column 16: it is not UTF-8";
+    QTest::newRow("too large") << QByteArray(static_cast<int>(ConfigurationDocument::maximumSize) + 1, ' ')
+                               << "it is larger than 16777216 bytes";
+    QTest::newRow("empty") << QByteArray() << "it is empty";
+    QTest::newRow("list") << QByteArray("[]") << "its root is not an object";
+    QTest::newRow("no unit type") << QByteArray("{}") << "it holds no unit type";
+}
+
+void ServiceRefusalsTest::badTextIsRefused()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, reason);
+    ServedDirectory served;
+    QVERIFY(served.start());
+
+    QVERIFY(TestFiles::replace(served.path("units.json"), text));
+    QCOMPARE(served.settledAnnouncements(), QStringList());
+    QCOMPARE(served.client().text(object), QString(TestFiles::units("first")));
+    const QString message = "configuration-file-service: warning: UnitManager/UnitType: cannot use " +
+                            served.path("units.json") + ": " + reason +
+                            "; the last good document stays in force\n";
+    QTRY_VERIFY2(served.service().log().contains(message), qPrintable(served.service().log()));
+
+    QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units("first")));
+    QCOMPARE(served.settledAnnouncements(), QStringList());
+    QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units("next")));
+    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+    QCOMPARE(served.client().text(object), QString(TestFiles::units("next")));
+}
+
+void ServiceRefusalsTest::largestDocumentIsServed()
+{
+    ServedDirectory served;
+    QVERIFY(served.start());
+
+    const QByteArray text =
+        TestFiles::units("next").leftJustified(static_cast<int>(ConfigurationDocument::maximumSize));
+    QVERIFY(TestFiles::replace(served.path("units.json"), text));
+    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+    QCOMPARE(served.client().text(object), QString(text));
+}
+
+void ServiceRefusalsTest::removedDocumentStaysInForce()
+{
+    ServedDirectory served;
+    QVERIFY(served.start());
+
+    QVERIFY(QFile::remove(served.path("units.json")));
+    QCOMPARE(served.settledAnnouncements(), QStringList());
+    QCOMPARE(served.settledAnnouncements(), QStringList());
+    QCOMPARE(served.client().text(object), QString(TestFiles::units("first")));
+    const QString message = "units.json: No such file or directory; the last good document stays in force\n";
+    QTRY_COMPARE(served.service().log().count(message), 1);
+
+    QVERIFY(TestFiles::write(served.path("units.json"), TestFiles::units("first")));
+    QCOMPARE(served.settledAnnouncements(), QStringList());
+    QVERIFY(QFile::remove(served.path("units.json")));
+    QCOMPARE(served.settledAnnouncements(), QStringList());
+    QTRY_COMPARE(served.service().log().count(message), 2);
+}
+
+void ServiceRefusalsTest::eachRefusalIsLoggedOnce()
+{
+    ServedDirectory served;
+    QVERIFY(served.start());
+
+    const QString message = "line 1, column 2: unterminated object; the last good document stays in force\n";
+    QVERIFY(TestFiles::replace(served.path("units.json"), "{a"));
+    QCOMPARE(served.settledAnnouncements(), QStringList());
+    QCOMPARE(served.settledAnnouncements(), QStringList());
+    QTRY_COMPARE(served.service().log().count(message), 1);
+
+    QVERIFY(TestFiles::replace(served.path("units.json"), "{b"));
+    QCOMPARE(served.settledAnnouncements(), QStringList());
+    QTRY_COMPARE(served.service().log().count(message), 2);
+}
+
+void ServiceRefusalsTest::documentMayComeLater_data()
+{
+    QTest::addColumn<QString>("broken");
+    QTest::addColumn<bool>("isDirectoryThere");
+
+    QTest::newRow("broken at the start") << "{" << true;
+    QTest::newRow("missing at the start") << QString() << true;
+    QTest::newRow("directory missing at the start") << QString() << false;
+}
+
+void ServiceRefusalsTest::documentMayComeLater()
+{
+    QFETCH(QString, broken);
+    QFETCH(bool, isDirectoryThere);
+    ServedDirectory served;
+    QVERIFY(QDir(served.directory()).removeRecursively());
+    if (isDirectoryThere)
+        QVERIFY(QDir().mkpath(served.directory()));
+    if (!broken.isEmpty())
+        QVERIFY(TestFiles::write(served.path("units.json"), broken.toUtf8()));
+    QVERIFY(served.start());
+    QCOMPARE(served.client().text(object), noDocument);
+    QTRY_COMPARE(served.service().log().count("; there is none to serve\n"), 3);
+
+    QVERIFY(QDir().mkpath(served.directory()));
+    QVERIFY(TestFiles::write(served.path("units.json"), TestFiles::units("first")));
+    QTRY_COMPARE(served.client().text(object), QString(TestFiles::units("first")));
+    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+}
+
+QTEST_GUILESS_MAIN(ServiceRefusalsTest)
+#include "ServiceRefusalsTest.moc"

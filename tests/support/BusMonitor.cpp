@@ -1,0 +1,73 @@
+#include "BusMonitor.h"
+
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QRegularExpression>
+#include <QtDBus/QDBusMessage>
+
+namespace {
+
+constexpr int waitLimit = 10000;
+
+QStringList callsOf(const QString& sender, const QString& heard)
+{
+    static const QRegularExpression call(
+        QStringLiteral("^method call .* sender=(\\S+) -> destination=(\\S+) .* member=(\\S+)\\n"
+                       "(?:   string \"(.*)\"\\n)?"),
+        QRegularExpression::MultilineOption);
+
+    QStringList calls;
+    for (auto found = call.globalMatch(heard); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        if (match.captured(1) != sender)
+            continue;
+        const QStringList parts{match.captured(2), match.captured(3), match.captured(4)};
+        calls.append(parts.join(QLatin1Char(' ')).trimmed());
+    }
+    return calls;
+}
+
+} // namespace
+
+BusMonitor::BusMonitor(const QString& address)
+{
+    m_monitor.setProgram(QStringLiteral("dbus-monitor"));
+    m_monitor.setArguments({QStringLiteral("--address"), address});
+    m_monitor.setStandardErrorFile(QProcess::nullDevice());
+}
+
+BusMonitor::~BusMonitor()
+{
+    m_monitor.kill();
+    m_monitor.waitForFinished(waitLimit);
+}
+
+bool BusMonitor::start()
+{
+    m_monitor.start(QIODevice::ReadOnly);
+    // A connection loses its name when it becomes a monitor.
+    return readUntil("member=NameLost");
+}
+
+QStringList BusMonitor::takeCalls(const QDBusConnection& caller)
+{
+    // The mark is sent after the calls and on the same connection, so it is heard after them.
+    const QString mark = QStringLiteral("Mark%1").arg(++m_marks);
+    caller.send(QDBusMessage::createSignal(QStringLiteral("/"), QStringLiteral("org.example.Monitor"), mark));
+    if (!readUntil("member=" + mark.toLatin1() + '\n'))
+        return {QString()};
+
+    const QString heard = QString::fromUtf8(m_heard);
+    m_heard.clear();
+    return callsOf(caller.baseService(), heard);
+}
+
+bool BusMonitor::readUntil(const QByteArray& text)
+{
+    const QDeadlineTimer deadline(waitLimit);
+    while (!m_heard.contains(text)) {
+        if (!m_monitor.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
+            return false;
+        m_heard += m_monitor.readAllStandardOutput();
+    }
+    return true;
+}
