@@ -134,6 +134,12 @@ QString UnitManager::getNoUnitLabelTextId() const
     return PropertyManagerConst::getUnitTypeNamePrefix() + UnitManagerDefinitions::getUnitTypeNoUnit();
 }
 
+bool UnitManager::getDecimalPlacesForUnit(const QString& unitType, const QString& unit,
+                                          unsigned int& decimalPlaces) const
+{
+    return core.getDecimalPlacesForUnit(unitType, unit, decimalPlaces);
+}
+
 QVariant UnitManager::roundDouble(const QVariant& value, unsigned int decimalPlaces) const
 {
     bool isNumber = false;

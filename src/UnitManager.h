@@ -83,6 +83,13 @@ public:
     /// Identifier of the text that labels a value without unit.
     QString getNoUnitLabelTextId() const;
 
+    /// Stores the number of decimal places with which values of a unit are shown; of a fixed unit its own,
+    /// whatever @p unit says.
+    ///
+    /// @return false, with @p decimalPlaces untouched, when the unit is not known; an unknown unit type and a
+    /// missing default unit give a warning.
+    bool getDecimalPlacesForUnit(const QString& unitType, const QString& unit,
+                                 unsigned int& decimalPlaces) const;
     /// Rounds to a number of digits behind the decimal point.
     ///
     /// @return a double; 0.0, with a warning, for a value that is no number. Never invalid.

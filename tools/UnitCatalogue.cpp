@@ -141,7 +141,7 @@ QString UnitCatalogue::label(const UnitType& type, const QString& unit, const QS
 std::optional<unsigned int> UnitCatalogue::decimalPlaces(const UnitType& type, const QString& unit) const
 {
     unsigned int places = 0;
-    const bool isKnown = unitManagerCore().getDecimalPlacesForUnit(type.id, unit, places);
+    const bool isKnown = getDecimalPlacesForUnit(type.id, unit, places);
     return isKnown ? std::optional<unsigned int>(places) : std::nullopt;
 }
 

@@ -93,6 +93,11 @@ UnitManagerWrapper::operator bool() const
     return m_unitManager && m_unitManager->isValid();
 }
 
+QSharedPointer<UnitManagerDevice> UnitManagerWrapper::getUnitManager() const
+{
+    return m_unitManager;
+}
+
 QVariant UnitManagerWrapper::getValue(const QString& key,
                                       const QSharedPointer<ConfigurationAndProcessDataBase>& node,
                                       const QString& unit) const

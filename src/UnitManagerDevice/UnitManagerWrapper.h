@@ -86,6 +86,12 @@ public:
 
     /// Whether there is a usable unit manager.
     operator bool() const;
+    /// The unit manager of the configuration taken up last, for all that it knows beyond the operations below.
+    ///
+    /// Later changes replace it by another object: whoever keeps it keeps the units of this moment.
+    ///
+    /// @return null as long as there is none; it may be invalid after a configuration that did not load.
+    QSharedPointer<UnitManagerDevice> getUnitManager() const;
 
     /// The value of the child @p key of @p node, converted to @p unit (empty: the default unit). Without unit
     /// manager as it is stored.
