@@ -46,8 +46,10 @@ public:
     /// Loads the unit document and drops all default units.
     bool initByJsonFile(const QString& conversionPath);
 
-    /// Replaces units and labels. They are gone also when this fails: false, with a warning for a text that
-    /// does not parse.
+    /// Replaces units and labels. They are gone also when this fails.
+    ///
+    /// @return false, with a warning, for a text that does not parse; false without one for an empty text and
+    /// for a document without a unit type or without a label.
     bool updateUnitConversionByJsonString(const QString& json);
     /// The same from a file; false for an empty path.
     bool updateUnitConversionByJsonFile(const QString& path);
@@ -98,15 +100,16 @@ public:
     /// Converts from the base unit to @p unit and rounds to that unit's decimal places.
     ///
     /// @return a double; @p value as it is where unit and decimal places are not known; 0.0 for a value that
-    /// is no number
-    ///         but whose unit is known. Warnings say why.
+    /// is no number but whose unit is known. Warnings say why.
     QVariant fromBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const;
     /// Converts from @p unit to the base unit and rounds the result to the decimal places of @p unit, not of
     /// the base unit: a value entered in a coarse unit is stored coarsely. Results as for fromBaseUnit().
     QVariant toBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const;
-    /// fromBaseUnit() without rounding; @p value as it is, with a warning, when it cannot be converted.
+    /// fromBaseUnit() without rounding; @p value as it is when it cannot be converted. A warning says why,
+    /// except for an empty unit type.
     QVariant fromBaseUnitRaw(const QVariant& value, const QString& unitType, const QString& unit) const;
-    /// toBaseUnit() without rounding; @p value as it is, with a warning, when it cannot be converted.
+    /// toBaseUnit() without rounding; @p value as it is when it cannot be converted. A warning says why,
+    /// except for an empty unit type.
     QVariant toBaseUnitRaw(const QVariant& value, const QString& unitType, const QString& unit) const;
     /// fromBaseUnitRaw(), but invalid for an invalid value.
     QVariant getValue(const QVariant& value, const QString& unitType, const QString& unit) const;
@@ -115,15 +118,13 @@ public:
     /// number.
     ///
     /// @return invalid for a null node, a missing child or a child without value. (A null literal as @p node
-    /// is
-    ///         ambiguous with the overload above: pass a BaseClassSharedPointer.)
+    /// is ambiguous with the overload above: pass a BaseClassSharedPointer.)
     QVariant getValue(const QString& key, const BaseClassSharedPointer& node, const QString& unit) const;
     /// Writes a value to the child @p key of @p node, converted from @p unit to the base unit. The no-input
     /// marker is written as it is.
     ///
     /// @return the node's status: 0 changed, 1 written without change, 2 failure. 2, with nothing written,
-    /// for a null node,
-    ///         a missing child and a value that cannot be converted.
+    /// for a null node, a missing child and a value that cannot be converted.
     int setValueStatus(const QString& key, const BaseClassSharedPointer& node, const QVariant& value,
                        const QString& unit) const;
     /// Whether setValueStatus() wrote the value.
@@ -150,8 +151,7 @@ public:
     ///
     /// @param values at least @p columnCount values; fewer is a programming error
     /// @return false, with the array untouched, when the range does not lie within it or a value cannot be
-    /// converted; else
-    ///         what the array's write reports.
+    /// converted; else what the array's write reports.
     bool setValueArray(Array2dDataTypeWrapper& array, unsigned int row, unsigned int firstColumn,
                        unsigned int columnCount, const QList<QVariant>& values, const QString& unit) const;
 

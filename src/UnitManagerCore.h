@@ -38,6 +38,7 @@ public:
     /// The same from a file; an empty path resets them and gives true.
     bool updateDefaultUnitsByJsonFile(const QString& path);
 
+    /// @return the unit types with their prefix, in no particular order.
     QStringList getListofUnitTypes() const;
     /// @return the units of the type; empty for an unknown one. Nothing is logged.
     QStringList getListofUnits(const QString& unitType) const;
@@ -76,7 +77,8 @@ public:
     /// Converts @p value in place from @p unit to the base unit. An empty unit type with an empty unit and a
     /// fixed unit leave it as it is and succeed.
     ///
-    /// @return false, with the value untouched, when the conversion is not known; warnings say why.
+    /// @return false, with the value untouched, when the conversion is not known; warnings say why, except for
+    /// an empty unit type.
     bool toBaseUnit(QVariant& value, const QString& unitType, const QString& unit) const;
     /// @return @p value converted from the base unit to @p unit; @p value itself when the conversion is not
     /// known.
@@ -89,8 +91,7 @@ public:
                           const QString& unit) const;
 
     /// Stores the number of decimal places with which values of a unit are shown; of a fixed unit its own,
-    /// whatever
-    /// @p unit says.
+    /// whatever @p unit says.
     ///
     /// @return false, with @p decimalPlaces untouched, when the unit is not known.
     bool getDecimalPlacesForUnit(const QString& unitType, const QString& unit,

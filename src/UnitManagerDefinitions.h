@@ -13,18 +13,23 @@
 class UNITMANAGER_EXPORT UnitManagerDefinitions
 {
 public:
+    /// Nothing to construct: all identifiers are static.
     UnitManagerDefinitions() = default;
     virtual ~UnitManagerDefinitions();
 
+    /// The library's name.
     static const QString& getModuleName();
     /// Key below a unit type that is no unit and is passed over.
     static const QString& getUnitTypeText();
     /// Key of the unit-less type, and of the unit that converts nothing.
     static const QString& getUnitTypeNoUnit();
+    /// The unit-less type's identifier.
     static const QString& getUnitTypeUrlNoUnit();
     /// Key of a unit's label.
     static const QString& getUnitLabelUrl();
 
+    /// @name Identifiers of unit types (`getUnitTypeUrl...`) and of units of them (`getUnitUrl...`)
+    /// @{
     static const QString& getUnitTypeUrlResistance();
     static const QString& getUnitTypeUrlAbsoluteTemperature();
     static const QString& getUnitTypeUrlPressure();
@@ -45,6 +50,7 @@ public:
     static const QString& getUnitUrlTimeSeconds();
     static const QString& getUnitTypeUrlSpecificEnthalpy();
     static const QString& getUnitUrlSpecificEnthalpyKiloJoulePerKiloGram();
+    /// @}
 
     /// Number of decimal places by which a user interface is told to place the decimal comma itself.
     static int getUiDecimalsAutoComma();

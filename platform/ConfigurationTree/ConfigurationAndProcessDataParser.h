@@ -21,7 +21,8 @@ public:
     /// Strict JSON (RFC 8259); a byte order mark at the start is skipped.
     ///
     /// @return the root node; null for another extension and for a text that is not one JSON object: empty,
-    /// truncated, with anything after the object, with an unpaired surrogate, with a number beyond the range
-    /// of `double`, or with more than 1024 objects and arrays in each other. Nothing is logged.
+    /// truncated, with anything after the object, with an unpaired surrogate (written out or escaped), with a
+    /// number too large for `double` (one too small is 0), or with more than 1024 objects and arrays in each
+    /// other. Nothing is logged.
     BaseClassSharedPointer parseFromJson(const QString& json, const QString& fileExtension) const;
 };

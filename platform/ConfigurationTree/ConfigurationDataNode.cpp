@@ -1,18 +1,12 @@
 #include "ConfigurationDataNode.h"
 
 #include "ConfigurationAndProcessDataDefinitions.h"
-#include "JsonValueReader.h"
 #include "NodeValue.h"
 #include "WriteStatus.h"
 
 namespace {
 
 using Definitions = ConfigurationAndProcessDataDefinitions;
-
-bool isArrayText(const QVariant& value)
-{
-    return value.userType() == QMetaType::QByteArray;
-}
 
 bool isType(const QVariant& value)
 {
@@ -29,7 +23,7 @@ BaseClassSharedPointer ConfigurationDataNode::getChild(const QString& key) const
 QVariant ConfigurationDataNode::getProperty(const QString& propertyKey) const
 {
     if (propertyKey == Definitions::getKeyDataPropertyValue())
-        return value();
+        return m_value;
     if (propertyKey == Definitions::getKeyDataPropertyType())
         return type();
     const int index = findProperty(propertyKey);
@@ -82,11 +76,6 @@ void ConfigurationDataNode::storeProperty(const QString& propertyKey, const QVar
         m_properties.append({propertyKey, value});
 }
 
-void ConfigurationDataNode::storeArrayText(const QByteArray& json)
-{
-    m_value = json;
-}
-
 const QHash<QString, BaseClassSharedPointer>& ConfigurationDataNode::childMap() const
 {
     return m_children ? m_children->map() : ConfigurationAndProcessDataBase::childMap();
@@ -101,25 +90,12 @@ int ConfigurationDataNode::findProperty(const QString& propertyKey) const
     return -1;
 }
 
-QVariant ConfigurationDataNode::value() const
-{
-    if (!isArrayText(m_value))
-        return m_value;
-    const QString json = QString::fromUtf8(m_value.toByteArray());
-    return JsonValueReader(json).readValue();
-}
-
-NodeValue::Kind ConfigurationDataNode::valueKind() const
-{
-    return isArrayText(m_value) ? NodeValue::Kind::Array : NodeValue::kindOf(m_value);
-}
-
 QString ConfigurationDataNode::type() const
 {
     const int index = findProperty(Definitions::getKeyDataPropertyType());
     if (index >= 0 && isType(m_properties.at(index).value))
         return m_properties.at(index).value.toString();
-    return NodeValue::typeOf(valueKind());
+    return NodeValue::typeOf(NodeValue::kindOf(m_value));
 }
 
 bool ConfigurationDataNode::isReadOnly() const
@@ -135,6 +111,7 @@ bool ConfigurationDataNode::takes(const QString& propertyKey, const QVariant& va
     if (propertyKey == Definitions::getKeyDataPropertyValue())
         return NodeValue::isTakenBy(type(), NodeValue::kindOf(value));
     if (propertyKey == Definitions::getKeyDataPropertyType())
-        return isType(value) && (!m_value.isValid() || NodeValue::isTakenBy(value.toString(), valueKind()));
+        return isType(value) &&
+               (!m_value.isValid() || NodeValue::isTakenBy(value.toString(), NodeValue::kindOf(m_value)));
     return value.isValid();
 }

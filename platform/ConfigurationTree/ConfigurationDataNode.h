@@ -2,9 +2,7 @@
 
 #include "ChildTable.h"
 #include "ConfigurationAndProcessDataBase.h"
-#include "NodeValue.h"
 
-#include <QtCore/QByteArray>
 #include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
@@ -18,8 +16,8 @@
 /// change it. A write is refused when the node is read-only, when the type does not take a value of that
 /// kind, and when a type is written that does not take the present value. Numbers are stored as `double`.
 ///
-/// A tree may have hundreds of thousands of nodes, so a node is small: the value has a place of its own,
-/// lists stand where hashes would do, and an array remains JSON text until it is read.
+/// A tree may have hundreds of thousands of nodes, so a node is small: the value has a place of its own, and
+/// lists stand where hashes would do.
 class ConfigurationDataNode : public ConfigurationAndProcessDataBase
 {
 public:
@@ -33,8 +31,6 @@ public:
     void insertChild(const QString& key, const BaseClassSharedPointer& child);
     /// Stores a property as it is, whatever the type takes; an invalid value removes it.
     void storeProperty(const QString& propertyKey, const QVariant& value);
-    /// Stores the value as the text of a JSON array, in UTF-8 and valid.
-    void storeArrayText(const QByteArray& json);
 
 protected:
     const QHash<QString, BaseClassSharedPointer>& childMap() const override;
@@ -47,13 +43,11 @@ private:
     };
 
     int findProperty(const QString& propertyKey) const;
-    QVariant value() const;
-    NodeValue::Kind valueKind() const;
     QString type() const;
     bool isReadOnly() const;
     bool takes(const QString& propertyKey, const QVariant& value) const;
 
-    QVariant m_value; // a byte array, which is no kind of value, is the text of an array
+    QVariant m_value;
     QVector<Property> m_properties;
     std::unique_ptr<ChildTable> m_children;
 };

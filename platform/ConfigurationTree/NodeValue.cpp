@@ -89,10 +89,17 @@ QVariant NodeValue::asStored(const QVariant& value)
     switch (kindOf(value)) {
     case Kind::Number:
         return value.toDouble();
-    case Kind::Array:
-        return QVariant(value.toList());
-    case Kind::Map:
-        return value.toMap();
+    case Kind::Array: {
+        QVariantList list = value.toList();
+        std::transform(list.cbegin(), list.cend(), list.begin(), asStored);
+        return QVariant(list);
+    }
+    case Kind::Map: {
+        QVariantMap map = value.toMap();
+        for (QVariant& entry : map)
+            entry = asStored(entry);
+        return map;
+    }
     default:
         return value;
     }

@@ -27,7 +27,7 @@ const QString& typeOf(Kind kind);
 bool isTakenBy(const QString& type, Kind kind);
 
 /// @return @p value in the form in which nodes hold its kind: numbers as `double`, arrays as `QVariantList`,
-/// maps as `QVariantMap`.
+/// maps as `QVariantMap`, at every depth.
 QVariant asStored(const QVariant& value);
 
 /// @return whether two values in stored form are equal: of one type, and exactly the same, but that one NaN

@@ -18,8 +18,7 @@ public:
     /// Replaces the table by the selection nodes of the document. The old table is gone also when this fails.
     ///
     /// @return false for an empty text, a text that does not parse (a warning is logged) and a document
-    /// without a usable
-    ///         selection node.
+    /// without a usable selection node.
     bool initByJsonString(const QString& json);
 
     /// initByJsonString() with the text of the file @p path; an unreadable file counts as empty.
@@ -27,8 +26,7 @@ public:
 
     /// @param unitType unit type with its prefix
     /// @return the default unit's name without its unit type; empty for an unknown type, with a warning
-    /// unless it is the
-    ///         unit-less type.
+    /// unless it is the unit-less type.
     QString getDefaultUnit(const QString& unitType) const;
 
     /// Empties the table.

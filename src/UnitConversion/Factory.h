@@ -30,9 +30,11 @@ QString createFactoryKey()
 
 /// Process-wide registry of creators for classes derived from @p Base, keyed by text.
 ///
-/// There is one registry per instantiation and process, shared by all shared libraries: `Base` and the
-/// classes among `Args` must be exported by their library. The registry is filled by static initialisers when
-/// a library is loaded and only read afterwards; it takes no locks.
+/// There is one registry per instantiation and process, shared by all shared libraries, when one library
+/// exports an explicit instantiation (`extern template class EXPORT Factory<...>;` in a header, the definition
+/// in one source): an implicit one is exported only when `Base` and every class among `Args` are, template
+/// arguments included. The registry is filled by static initialisers when a library is loaded and only read
+/// afterwards; it takes no locks.
 template <typename Base, typename... Args>
 class Q_DECL_EXPORT Factory
 {

@@ -24,8 +24,7 @@ public:
     /// Replaces the catalogue by the unit types of the document. The old one is gone also when this fails.
     ///
     /// @return false for an empty text, a text that does not parse (a warning carries the whole text) and a
-    /// document
-    ///         without unit types.
+    /// document without unit types.
     bool initByJsonString(const QString& json);
 
     /// initByJsonString() with the text of the file @p path; an unreadable file counts as empty.
@@ -50,16 +49,14 @@ public:
     /// Stores the number of decimal places with which values of @p unit are shown.
     ///
     /// @return false, with @p decimalPlaces untouched, for an unknown unit type (a warning is logged), an
-    /// unknown unit and
-    ///         "NoUnit".
+    /// unknown unit and "NoUnit".
     bool getDecimalPlacesForUnit(const QString& unitType, const QString& unit,
                                  unsigned int& decimalPlaces) const;
 
     /// Converts @p value in place from @p unit to the base unit; the result is a double.
     ///
     /// @return false, with the value untouched and a warning logged, for an unknown unit type or unit and for
-    /// a value
-    ///         that is no number.
+    /// a value that is no number.
     bool toBaseUnit(QVariant& value, const QString& unitType, const QString& unit) const;
 
     /// Converts @p value in place from the base unit to @p unit; everything else as for toBaseUnit().

@@ -1,6 +1,8 @@
 #include "UnitConversion/ValueConverterPolynomial.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "Array2dDataTypeWrapper.h"
 #include "ConfigurationAndProcessDataTools.h"
@@ -10,11 +12,12 @@ namespace {
 
 void prependColumn(const QList<QVariant>& column, QVector<double>& coefficients, int& degree)
 {
-    for (const QVariant& value : column) {
-        ++degree;
-        coefficients.prepend(value.toDouble());
-    }
-    --degree;
+    QVector<double> reversed;
+    reversed.reserve(column.size() + coefficients.size());
+    std::transform(column.crbegin(), column.crend(), std::back_inserter(reversed),
+                   [](const QVariant& value) { return value.toDouble(); });
+    coefficients = reversed + coefficients;
+    degree += column.size() - 1;
 }
 
 } // namespace

@@ -21,8 +21,7 @@ public:
 
     /// @param unit unit of the result; empty for the default unit
     /// @return the value converted from the base unit, or as it is when it carries an error; error type 3 for
-    /// a null
-    ///         @p processDataValue.
+    /// a null @p processDataValue.
     ProcessValue getValueNoLock(const QSharedPointer<ProcessDataValue>& processDataValue,
                                 const QString& unit) const;
 

@@ -50,8 +50,7 @@ public:
     ///
     /// @param useAsynchronInterface whether configurations are read without blocking
     /// @param useSignalPolling whether change signals are polled; also suppresses the first attempt, so that
-    /// nothing is read
-    ///        inside the constructor
+    /// nothing is read inside the constructor
     UnitManagerWrapper(const QString& defaultUnitService, const QString& defaultUnitObject,
                        const QString& defaultUnitConfiguration, bool useAsynchronInterface,
                        bool useSignalPolling);
@@ -86,7 +85,8 @@ public:
 
     /// Whether there is a usable unit manager.
     operator bool() const;
-    /// The unit manager of the configuration taken up last, for all that it knows beyond the operations below.
+    /// The unit manager of the configuration taken up last, for all that it knows beyond the operations
+    /// below.
     ///
     /// Later changes replace it by another object: whoever keeps it keeps the units of this moment.
     ///

@@ -41,8 +41,7 @@ public:
     /// @param language language of the text; a missing one falls back to another
     /// @param unit the unit's name; empty for the base unit
     /// @return the text; empty for the unit-less type and for a unit without label; empty with a warning for
-    /// an unknown
-    ///         unit type or unit.
+    /// an unknown unit type or unit.
     QString getUnitText(const QString& unitType, const QString& language, const QString& unit) const;
 
     /// The label of a unit of the unit type that @p node names; empty for a null node or one without unit
@@ -57,8 +56,7 @@ public:
     /// The label, in all languages, of a fixed unit or of a unit type's base unit.
     ///
     /// @return the text object; one with an empty text for the unit-less type; invalid when there is no
-    /// label, with a
-    ///         warning for an unknown unit type or unit.
+    /// label, with a warning for an unknown unit type or unit.
     QVariant getUnitTextJsonMap(const QString& unitType) const;
 
     /// Whether @p unitType is a fixed unit.

@@ -66,6 +66,7 @@ class ValueConverterPolynomialTest : public QObject
 private slots:
     void readsCoefficients_data();
     void readsCoefficients();
+    void readsAMillionCoefficients();
     void readsDecimalPlaces_data();
     void readsDecimalPlaces();
     void asksForItsKeysInOrderAndNothingElse();
@@ -121,6 +122,20 @@ void ValueConverterPolynomialTest::readsCoefficients()
     QTEST(converter.state(), "expected");
     QCOMPARE(converter.getDecimalPlaces(), 0U);
     QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void ValueConverterPolynomialTest::readsAMillionCoefficients()
+{
+    // Moved one by one to make room at the front this would take hours.
+    const int count = 1000000;
+    QVariantList coefficients;
+    coefficients.reserve(count);
+    for (int index = 0; index < count; ++index)
+        coefficients.append(index);
+    ValueConverterPolynomial converter{BaseClassSharedPointer()};
+    QVERIFY(converter.resetPolynom(coefficients, {}));
+    QCOMPARE(converter.convertValue(0.0), 0.0);
+    QCOMPARE(converter.convertValue(1.0), 499999500000.0);
 }
 
 void ValueConverterPolynomialTest::readsDecimalPlaces_data()

@@ -34,6 +34,8 @@ private slots:
     void catalogueQuestionsAreHandedOn();
     void labelsAreHandedOn();
     void fixedUnitsAreHandedOn();
+    void decimalPlacesAreHandedOn_data();
+    void decimalPlacesAreHandedOn();
     void noUnitLabel();
     void copiesAreIndependent();
     void copyOutlivesItsOriginal();
@@ -260,6 +262,40 @@ void UnitManagerTest::fixedUnitsAreHandedOn()
     QVERIFY(manager.extractUnitTypeAndUnit(T::pressure + "/Bar", unitType, unit));
     QCOMPARE(unitType, T::pressure);
     QCOMPARE(unit, QStringLiteral("Bar"));
+}
+
+void UnitManagerTest::decimalPlacesAreHandedOn_data()
+{
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<bool>("found");
+    QTest::addColumn<unsigned int>("places");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    QTest::newRow("unit") << T::pressure << "Bar" << true << 3U << none;
+    QTest::newRow("default unit") << T::pressure << "" << true << 1U << none;
+    QTest::newRow("fixed unit beats the unit") << T::pressure + "/Bar"
+                                               << "HectoPascal" << true << 3U << none;
+    QTest::newRow("no places given") << T::pressure << "MilliBar" << true << 0U << none;
+    QTest::newRow("unknown unit") << T::pressure << "Nope" << false << 77U << none;
+    QTest::newRow("no default unit") << T::ratio << "" << false << 77U
+                                     << QStringList{Expected::noDefaultUnit(T::ratio)};
+    QTest::newRow("unknown unit type") << T::unknown << "Bar" << false << 77U
+                                       << QStringList{Expected::noConversionForDecimalPlaces(T::unknown)};
+}
+
+void UnitManagerTest::decimalPlacesAreHandedOn()
+{
+    QFETCH(QString, unitType);
+    QFETCH(QString, unit);
+    const UnitManager manager = loadedManager();
+    unsigned int places = 77;
+    LogCapture log;
+
+    QTEST(manager.getDecimalPlacesForUnit(unitType, unit, places), "found");
+    QTEST(places, "places");
+    QTEST(describedMessages(log), "messages");
 }
 
 void UnitManagerTest::noUnitLabel()

@@ -10,7 +10,8 @@ QList<LoggedMessage>& messages()
 
 QString withoutCompilerBlanks(const char* function)
 {
-    return QString::fromUtf8(function).replace(QLatin1String(" &"), QLatin1String("&"))
+    return QString::fromUtf8(function)
+        .replace(QLatin1String(" &"), QLatin1String("&"))
         .replace(QLatin1String(" *"), QLatin1String("*"));
 }
 

@@ -110,6 +110,11 @@ void ConfigurationAndProcessDataParserRobustnessTest::textThatIsNoDocumentGivesN
     QTest::newRow("number with a comma") << R"({"a": 1,5})";
     QTest::newRow("number beyond double") << R"({"a": 1e309})";
     QTest::newRow("number below double") << R"({"a": -1e309})";
+    QTest::newRow("escaped high surrogate alone") << R"({"a": "\ud800"})";
+    QTest::newRow("escaped low surrogate alone") << R"({"a": "\udc00"})";
+    QTest::newRow("escaped high surrogate before a letter") << R"({"a": "\ud800b"})";
+    QTest::newRow("surrogate alone") << QStringLiteral("{\"a\": \"") + QChar(0xd800) + QStringLiteral("\"}");
+    QTest::newRow("NUL behind the object") << QStringLiteral("{}") + QChar(0) + QStringLiteral("x");
     QTest::newRow("number beyond double in an array") << R"({"a": [[1e309]]})";
     QTest::newRow("number with a gigantic exponent") << R"({"a": 1e99999999999999999999})";
     QTest::newRow("text not closed") << R"({"a": "x})";

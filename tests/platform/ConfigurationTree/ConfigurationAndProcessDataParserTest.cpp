@@ -180,6 +180,9 @@ void ConfigurationAndProcessDataParserTest::numberIsTheNearestDouble_data()
     QTest::newRow("largest") << "1.7976931348623157e308" << 1.7976931348623157e308;
     QTest::newRow("smallest normal") << "2.2250738585072014e-308" << 2.2250738585072014e-308;
     QTest::newRow("smallest") << "5e-324" << 5e-324;
+    QTest::newRow("smaller than smallest") << "1e-400" << 0.0;
+    QTest::newRow("beyond 64 bits") << "18446744073709551616" << 18446744073709551616.0;
+    QTest::newRow("beyond 53 bits") << "9007199254740993" << 9007199254740992.0;
 }
 
 void ConfigurationAndProcessDataParserTest::numberIsTheNearestDouble()

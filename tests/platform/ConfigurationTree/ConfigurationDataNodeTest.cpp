@@ -82,6 +82,9 @@ void ConfigurationDataNodeTest::writeGivesAStatus_data()
     row("boolean: number", booleanNode, "@value", 1, 2, "true");
     row("boolean: text", booleanNode, "@value", "false", 2, "true");
     row("array: other", arrayNode, "@value", QVariantList{1.0, 2.0}, 0, "[1, 2]");
+    row("array: equal, of integers", arrayNode, "@value", QVariantList{1, QVariant()}, 1, "[1, invalid]");
+    row("array: nested integers", arrayNode, "@value",
+        QVariantList{QVariant(QVariantList{1}), QVariantMap{{"a", 2}}}, 0, "[[1], <a:2>]");
     row("array: equal", arrayNode, "@value", QVariantList{1.0, QVariant()}, 1, "[1, invalid]");
     row("array: longer", arrayNode, "@value", QVariantList{1.0, QVariant(), QVariant()}, 0,
         "[1, invalid, invalid]");

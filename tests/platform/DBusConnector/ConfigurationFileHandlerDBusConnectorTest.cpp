@@ -1,6 +1,6 @@
+#include "ConfigurationFileHandlerDBusConnector.h"
 #include "AdaptedService.h"
 #include "BusMonitor.h"
-#include "ConfigurationFileHandlerDBusConnector.h"
 #include "DBusConnection.h"
 #include "FakeBusService.h"
 #include "PrivateBus.h"

@@ -1,5 +1,5 @@
-#include "DBusConnection.h"
 #include "DBusConnectorBase.h"
+#include "DBusConnection.h"
 #include "FakeBusService.h"
 #include "PrivateBus.h"
 #include "WaitUntil.h"

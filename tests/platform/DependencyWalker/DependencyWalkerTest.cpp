@@ -1,5 +1,5 @@
-#include "ConfigurationAndProcessDataParser.h"
 #include "DependencyWalker.h"
+#include "ConfigurationAndProcessDataParser.h"
 #include "LogCapture.h"
 
 #include <QtTest/QtTest>

@@ -1,6 +1,6 @@
+#include "ProcessDataValue.h"
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataTools.h"
-#include "ProcessDataValue.h"
 
 #include <QtTest/QtTest>
 

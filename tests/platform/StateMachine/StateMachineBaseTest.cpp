@@ -1,5 +1,5 @@
-#include "LogCapture.h"
 #include "StateMachineBase.h"
+#include "LogCapture.h"
 #include "UnitConversion/Factory.h"
 
 #include <QtCore/QLoggingCategory>
