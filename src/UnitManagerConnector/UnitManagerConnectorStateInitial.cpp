@@ -23,9 +23,10 @@ void UnitManagerConnectorStateInitial::postEvent(const StateMachineEvent& /*even
     if (!m_wrapper)
         return;
     const QList<ConnectorType> types = connectionData().connectorSettings().keys();
+    const LogContext context{sourceName, __LINE__, Q_FUNC_INFO};
     QList<ConnectorType> opened;
     for (const ConnectorType type : types) {
-        if (!openSource(type, opened)) {
+        if (!openSource(type, opened, context)) {
             connectionData().resetObject();
             return;
         }
@@ -33,12 +34,13 @@ void UnitManagerConnectorStateInitial::postEvent(const StateMachineEvent& /*even
     triggerRead(opened);
 }
 
-bool UnitManagerConnectorStateInitial::openSource(ConnectorType type, QList<ConnectorType>& opened) const
+bool UnitManagerConnectorStateInitial::openSource(ConnectorType type, QList<ConnectorType>& opened,
+                                                  const LogContext& context) const
 {
     const auto status = connectionData().openConnector(type);
     const QStringList settings = connectionData().connectorSettings().value(type);
     if (settings.size() < ConnectorSettings::EntryCount) {
-        LogContext{sourceName, __LINE__, Q_FUNC_INFO}.warning() << "Unable to find handling for file type";
+        context.warning() << "Unable to find handling for file type";
         return true;
     }
     const QString configuration = settings.at(ConnectorSettings::Configuration);
@@ -51,13 +53,11 @@ bool UnitManagerConnectorStateInitial::openSource(ConnectorType type, QList<Conn
         return true;
     }
     if (isMandatory) {
-        LogContext{sourceName, __LINE__, Q_FUNC_INFO}.warning()
-            << "Unable to connect to mandantory file type" << configuration;
+        context.warning() << "Unable to connect to mandantory file type" << configuration;
         return false;
     }
     if (status == UnitManagerConnectorDefinitions::ConnectionFailed) {
-        LogContext{sourceName, __LINE__, Q_FUNC_INFO}.warning()
-            << "Connection Error to optional file type" << configuration;
+        context.warning() << "Connection Error to optional file type" << configuration;
         return false;
     }
     return true;

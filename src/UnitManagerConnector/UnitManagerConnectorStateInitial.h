@@ -5,6 +5,8 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
 #include "UnitManagerExport.h"
 
+struct LogContext;
+
 /// Opens a connector for each configuration source and has those that are open read.
 class UNITMANAGER_EXPORT UnitManagerConnectorStateInitial : public UnitManagerConnectorStateBase
 {
@@ -25,5 +27,5 @@ public:
     void postEvent(const StateMachineEvent& event) override;
 
 private:
-    bool openSource(ConnectorType type, QList<ConnectorType>& opened) const;
+    bool openSource(ConnectorType type, QList<ConnectorType>& opened, const LogContext& context) const;
 };

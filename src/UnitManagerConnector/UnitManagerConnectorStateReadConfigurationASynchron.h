@@ -25,7 +25,6 @@ public:
     /// Starts reading one source; an earlier text that is there is dropped first.
     ///
     /// @return whether the connection data holds a pending reply. Warnings say why not; there is none for a
-    /// missing
-    ///         connector.
+    /// missing connector.
     bool startConfigurationRead(UnitManagerConnectorDefinitions::ConnectorType type);
 };
