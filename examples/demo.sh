@@ -46,3 +46,5 @@ echo "What goes wrong says so"
 show_failing convert 1 Pressure Baar
 show_failing convert 1 Presure Bar
 show_failing convert one Pressure Bar
+
+"$(dirname "${BASH_SOURCE[0]}")/live-demo.sh" "$build"

@@ -4,6 +4,9 @@
 #include <QtDBus/QDBusConnectionInterface>
 #include <QtDBus/QDBusReply>
 
+#include <algorithm>
+#include <iterator>
+
 #include "ConfigurationObject.h"
 #include "DeviceManagerDefinitions.h"
 #include "DocumentRules.h"
@@ -87,6 +90,10 @@ QString ConfigurationFileService::start(QDBusConnection connection)
 
 void ConfigurationFileService::update()
 {
-    for (ConfigurationObject* object : m_objects)
-        object->update();
+    QList<ConfigurationObject*> changed;
+    std::copy_if(m_objects.cbegin(), m_objects.cend(), std::back_inserter(changed),
+                 [](ConfigurationObject* object) { return object->update(); });
+    // Only now: who hears of one finds all of them as they are to be.
+    for (ConfigurationObject* object : qAsConst(changed))
+        object->announce();
 }

@@ -16,15 +16,14 @@ ConfigurationObject::ConfigurationObject(const ConfigurationDocument& document, 
     : QObject(parent), m_document(document), m_method(method)
 {}
 
-QString ConfigurationObject::path() const
+bool ConfigurationObject::update()
 {
-    return m_document.path();
+    return m_document.update();
 }
 
-void ConfigurationObject::update()
+void ConfigurationObject::announce()
 {
-    if (m_document.update())
-        emit configurationChanged(m_document.name());
+    emit configurationChanged(m_document.name());
 }
 
 QString ConfigurationObject::getConfiguration(const QString& name, const QString& /*module*/,

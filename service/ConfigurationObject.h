@@ -23,11 +23,10 @@ public:
 
     ConfigurationObject(const ConfigurationDocument& document, Method method, QObject* parent);
 
-    /// The document's file.
-    QString path() const;
-
-    /// Reads the document's file, and announces it when the text in force is another than before.
-    void update();
+    /// Reads the document's file. @return whether the text in force is another than before.
+    bool update();
+    /// Announces that it is.
+    void announce();
 
     /// The text of the document @p name; called from the bus.
     QString getConfiguration(const QString& name, const QString& module, const QString& extra) const;

@@ -11,6 +11,12 @@ namespace {
 
 using Definitions = ConfigurationAndProcessDataDefinitions;
 
+/// Properties of the root are no entries.
+bool isProperty(const QString& key)
+{
+    return key.startsWith(QLatin1Char('@'));
+}
+
 bool isSelection(const QJsonValue& entry)
 {
     return entry[Definitions::getKeyDataPropertyType()].toString() ==
@@ -29,7 +35,7 @@ bool isListOfTexts(const QJsonValue& entry)
 QString wrongEntry(const QJsonObject& root, bool (*isRight)(const QJsonValue&))
 {
     for (auto entry = root.begin(); entry != root.end(); ++entry) {
-        if (!isRight(entry.value()))
+        if (!isProperty(entry.key()) && !isRight(entry.value()))
             return QStringLiteral("its entry \"%1\"").arg(entry.key());
     }
     return {};
@@ -48,7 +54,8 @@ QString DocumentRules::unitsProblem(const JsonText& json)
 
 QString DocumentRules::defaultUnitsProblem(const JsonText& json)
 {
-    if (json.root.isEmpty())
+    const QStringList keys = json.root.keys();
+    if (std::all_of(keys.begin(), keys.end(), isProperty))
         return QStringLiteral("it holds no default unit");
     const QString wrong = wrongEntry(json.root, isSelection);
     return wrong.isEmpty() ? QString() : wrong + QStringLiteral(" is not a selection of a unit");

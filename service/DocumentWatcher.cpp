@@ -32,7 +32,8 @@ void DocumentWatcher::watch()
     connect(m_watcher.get(), &QFileSystemWatcher::directoryChanged, this, &DocumentWatcher::lookAt);
 
     m_trails = trails();
-    m_watcher->addPaths(watchable());
+    for (const QString& place : m_watcher->addPaths(watchable()))
+        complainOnce(place);
     if (m_trails != trails())
         postpone();
 }
@@ -46,14 +47,21 @@ QStringList DocumentWatcher::watchable()
             const QFileInfo info(place.path);
             if (info.isReadable()) {
                 result.append(place.path);
-            } else if (info.exists() && !m_unwatchable.contains(place.path)) {
-                m_unwatchable.append(place.path);
-                qWarning().noquote() << "Cannot watch" << place.path + ": changes there may go unnoticed";
+            } else if (info.exists()) {
+                complainOnce(place.path);
             }
         }
     }
     result.removeDuplicates();
     return result;
+}
+
+void DocumentWatcher::complainOnce(const QString& place)
+{
+    if (m_unwatchable.contains(place))
+        return;
+    m_unwatchable.append(place);
+    qWarning().noquote() << "Cannot watch" << place + ": changes there may go unnoticed";
 }
 
 /// Something happened in a directory. Near a document that counts; further up, where much else may go on,

@@ -49,6 +49,7 @@ private:
     QVector<Trail> trails() const;
     void watch();
     QStringList watchable();
+    void complainOnce(const QString& place);
     void lookAt(const QString& directory);
     void postpone();
     void report();

@@ -84,7 +84,7 @@ void MeasuringDevice::setUpOnce()
         m_lastShown.append(shown(entry));
 }
 
-QString MeasuringDevice::shown(const ProcessEntry& entry) const
+QString MeasuringDevice::shown(const ProcessEntry& entry)
 {
     const QSharedPointer<UnitManagerDevice> units = m_units.getUnitManager();
     if (!units)
@@ -94,13 +94,13 @@ QString MeasuringDevice::shown(const ProcessEntry& entry) const
     if (!units->getDecimalPlacesForUnit(entry.unitType, QString(), places))
         return value.toString();
     return QString::number(units->roundDouble(value, places).toDouble(), 'f', static_cast<int>(places)) +
-           QLatin1Char(' ') + units->getUnitText(entry.unitType, m_language, QString());
+           QLatin1Char(' ') + m_units.getUnitText(entry.unitType, m_language);
 }
 
-void MeasuringDevice::printTable() const
+void MeasuringDevice::printTable()
 {
     const QSharedPointer<UnitManagerDevice> units = m_units.getUnitManager();
-    for (const ProcessEntry& entry : m_entries) {
+    for (const ProcessEntry& entry : qAsConst(m_entries)) {
         unsigned int places = 0;
         units->getDecimalPlacesForUnit(entry.unitType, QString(), places);
         out() << "  " << entry.name.leftJustified(16) << shown(entry).leftJustified(14) << places

@@ -37,8 +37,8 @@ private:
     void setUpOnce();
     void writeInCallersUnit();
     void fillMeasurementRange();
-    QString shown(const ProcessEntry& entry) const;
-    void printTable() const;
+    QString shown(const ProcessEntry& entry);
+    void printTable();
     void printChanges();
 
     QString m_language;

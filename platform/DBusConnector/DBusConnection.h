@@ -14,7 +14,8 @@ class DBUSCONNECTOR_EXPORT DBusConnection
 {
 public:
     /// The connection to the device's bus. It is opened on first use and shared from then on; when it has
-    /// been lost it is opened anew, with nothing subscribed on it.
+    /// been lost it is opened anew, with nothing subscribed on it. Opening has no time limit of its own: a
+    /// bus that accepts the connection and then says nothing blocks the caller.
     /// @return a connection that is not connected when the bus cannot be reached; the next call tries again.
     static QDBusConnection getQDBusConnection();
 

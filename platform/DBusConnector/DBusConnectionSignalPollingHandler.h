@@ -13,9 +13,12 @@ class QDBusMessage;
 /// in what has arrived for this object, and nothing else. An occurrence stays recorded until
 /// resetLastSignal(). What arrives between two polls waits in the thread's event queue, so poll regularly.
 ///
-/// DBusConnectionSignalPollingHandler changes(module, object, "configurationChanged",
-/// DBusConnectionSignalPollingHandler::SlotSignatureString); if (changes.isSignalOccured()) {
-/// reload(changes.getSignalParameter().toString()); changes.resetLastSignal(); }
+///     DBusConnectionSignalPollingHandler changes(module, object, "configurationChanged",
+///                                                DBusConnectionSignalPollingHandler::SlotSignatureString);
+///     if (changes.isSignalOccured()) {
+///         reload(changes.getSignalParameter().toString());
+///         changes.resetLastSignal();
+///     }
 ///
 /// A bus that went away and came back is subscribed again by the next isSignalOccured(); what was sent
 /// meanwhile is lost. Used from the thread that built it; a QCoreApplication must exist.

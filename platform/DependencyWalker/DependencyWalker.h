@@ -13,7 +13,7 @@
 
 /// Finds the values that depend on a value, from a document that maps a key to the keys that depend on it:
 ///
-/// { "PressureUnit": ["Pressure", "PressureRange"] }
+///     { "PressureUnit": ["Pressure", "PressureRange"] }
 ///
 /// A plain value without threads or locks.
 class DEPENDENCYWALKER_EXPORT DependencyWalker

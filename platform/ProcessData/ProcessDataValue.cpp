@@ -116,6 +116,8 @@ int ProcessDataValue::setNumber(const QVariant& number)
 {
     if (!ConfigurationAndProcessDataTools::isVariantNumber(number))
         return statusRefused;
-    return setValueNoLock(ProcessValue(number, ProcessDataDefinitions::ErrorTypeNone)) ? statusChanged
-                                                                                       : statusEqualAlready;
+    if (m_value.getErrorType() == ProcessDataDefinitions::ErrorTypeNone && m_value.getValue() == number)
+        return statusEqualAlready;
+    setValueNoLock(ProcessValue(number, ProcessDataDefinitions::ErrorTypeNone));
+    return statusChanged;
 }

@@ -15,7 +15,8 @@
 /// May be used by several threads. Every operation but those named NoLock takes the lock; a caller that needs
 /// several operations in one takes it around them (the lock is recursive):
 ///
-/// const std::lock_guard<const ProcessDataValue> guard(*pressure); pressure->getValueNoLock(value, false);
+///     const std::lock_guard<const ProcessDataValue> guard(*pressure);
+///     pressure->getValueNoLock(value, false);
 class PROCESSDATA_EXPORT ProcessDataValue : public ConfigurationAndProcessDataBase
 {
 public:

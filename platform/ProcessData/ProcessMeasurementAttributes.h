@@ -8,7 +8,7 @@
 
 /// A view of the measurement-range attributes of a node, to read and edit them:
 ///
-/// [ { "unit": "UnitManager/UnitType/Pressure/Bar", "unitText": { "en": "bar" }, "min": 0, "max": 10 }, ... ]
+///     [ { "unit": "UnitManager/UnitType/Pressure/Bar", "unitText": { "en": "bar" }, "max": 10 }, ... ]
 ///
 /// One map per measurement range. The members "unit" and "unitText" are what this class knows; every other
 /// member, and every range that is not edited, stays as it is.

@@ -10,10 +10,10 @@
 
 /// A state machine that never runs by itself: each postEvent() is one step of the current state.
 ///
-/// A state is selected by its factory key and created through VESKFactories::Factory<StateMachineStateBase,
-/// QObject*> with the machine's QObject parent as the argument. It is current from that moment, even when it
-/// was selected from inside the running state, whose object lives until its call returns. Used from one
-/// thread.
+/// A state is selected by its factory key and created through
+/// VESKFactories::Factory<StateMachineStateBase, QObject*> with the machine's QObject parent as the argument.
+/// It is current from that moment, even when it was selected from inside the running state, whose object
+/// lives until its call returns. Used from one thread.
 class STATEMACHINE_EXPORT StateMachineBase : public QObject
 {
     Q_OBJECT

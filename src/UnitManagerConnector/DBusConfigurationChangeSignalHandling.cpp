@@ -18,7 +18,11 @@ QString changeSignal()
     return QStringLiteral("configurationChanged");
 }
 
-/// One string argument, in the words of the polling handler.
+/// One string argument, in the words of the bus. Qt ends the process over a signal whose argument it cannot
+/// turn into that of the slot; with this it delivers no other than fitting ones.
+const QString oneString = QStringLiteral("s");
+
+/// The same in the words of the polling handler.
 const auto oneStringArgument = DBusConnectionSignalPollingHandler::SlotSignature(3);
 
 QString busNameOf(const QStringList& settings)
@@ -92,7 +96,7 @@ DBusConfigurationChangeSignalHandling::connectSource(const Source& source, const
         return UnitManagerConnectorDefinitions::Connected;
     }
     QDBusConnection bus = DBusConnection::getQDBusConnection();
-    if (!bus.connect(busNameOf(settings), objectPathOf(settings), QString(), changeSignal(), this,
+    if (!bus.connect(busNameOf(settings), objectPathOf(settings), QString(), changeSignal(), oneString, this,
                      source.slot)) {
         context.warning() << "Error cannot connect to module" << service << object;
         return UnitManagerConnectorDefinitions::ConnectionFailed;
@@ -162,8 +166,8 @@ void DBusConfigurationChangeSignalHandling::disconnectSource(const Source& sourc
     if (!ConnectorSettings::areUsable(settings) || !(this->*source.isConnected))
         return;
     QDBusConnection bus = DBusConnection::getQDBusConnection();
-    if (!bus.disconnect(busNameOf(settings), objectPathOf(settings), QString(), changeSignal(), this,
-                        source.slot))
+    if (!bus.disconnect(busNameOf(settings), objectPathOf(settings), QString(), changeSignal(), oneString,
+                        this, source.slot))
         context.warning() << "Unable to disconnect connection" << settings.value(ConnectorSettings::Object);
     this->*source.isConnected = false;
 }

@@ -5,7 +5,6 @@
 #include "UnitManagerConnector/UnitManagerConnectionData.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateReadConfigurationASynchron.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateReadConfigurationSynchron.h"
-#include "UnitManagerConnector/UnitManagerConnectorStateTransition.h"
 
 UnitManagerConnectorStateBase::UnitManagerConnectorStateBase(QObject* parent)
     : StateMachineStateBase(nullptr), m_wrapper(qobject_cast<UnitManagerStateMachineWrapper*>(parent))
@@ -44,4 +43,14 @@ UnitManagerConnectorStateBase::typesToRead(const StateMachineEvent& event)
     const QVariant data = event.getData();
     return data.canConvert<QList<ConnectorType>>() ? data.value<QList<ConnectorType>>()
                                                    : QList<ConnectorType>();
+}
+
+bool UnitManagerConnectorStateBase::forEachType(const StateMachineEvent& event,
+                                                const std::function<bool(ConnectorType)>& action)
+{
+    const QList<ConnectorType> types = typesToRead(event);
+    bool allWell = !types.isEmpty();
+    for (const ConnectorType type : types)
+        allWell = action(type) && allWell;
+    return allWell;
 }

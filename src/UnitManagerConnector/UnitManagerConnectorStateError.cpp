@@ -2,7 +2,6 @@
 
 #include "UnitManagerConnector/UnitManagerConnectionData.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateInitial.h"
-#include "UnitManagerConnector/UnitManagerConnectorStateTransition.h"
 
 UnitManagerConnectorStateError::UnitManagerConnectorStateError(QObject* parent)
     : UnitManagerConnectorStateBase(parent)

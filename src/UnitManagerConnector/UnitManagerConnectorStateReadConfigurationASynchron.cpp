@@ -7,7 +7,6 @@
 #include "UnitManagerConnector/ConnectorSettings.h"
 #include "UnitManagerConnector/UnitManagerConnectionData.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateError.h"
-#include "UnitManagerConnector/UnitManagerConnectorStateTransition.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateWaitForReply.h"
 #include "UnitManagerDefinitions.h"
 
@@ -47,12 +46,7 @@ void UnitManagerConnectorStateReadConfigurationASynchron::postInitialEvent(const
 
 void UnitManagerConnectorStateReadConfigurationASynchron::postEvent(const StateMachineEvent& event)
 {
-    const QList<ConnectorType> types = typesToRead(event);
-    bool allRead = !types.isEmpty();
-    // Every listed source is asked once, whatever became of those before it.
-    for (const ConnectorType type : types)
-        allRead = startConfigurationRead(type) && allRead;
-    if (allRead)
+    if (forEachType(event, [this](ConnectorType type) { return startConfigurationRead(type); }))
         moveTo<UnitManagerConnectorStateWaitForReply>(event);
     else
         moveTo<UnitManagerConnectorStateError>(event);

@@ -7,7 +7,6 @@
 #include "UnitManagerConnector/ConnectorSettings.h"
 #include "UnitManagerConnector/UnitManagerConnectionData.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateError.h"
-#include "UnitManagerConnector/UnitManagerConnectorStateTransition.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateUpdate.h"
 #include "UnitManagerDefinitions.h"
 
@@ -43,12 +42,7 @@ void UnitManagerConnectorStateReadConfigurationSynchron::postInitialEvent(const 
 
 void UnitManagerConnectorStateReadConfigurationSynchron::postEvent(const StateMachineEvent& event)
 {
-    const QList<ConnectorType> types = typesToRead(event);
-    bool allRead = !types.isEmpty();
-    // Every listed source is asked once, whatever became of those before it.
-    for (const ConnectorType type : types)
-        allRead = readConfiguration(type) && allRead;
-    if (allRead)
+    if (forEachType(event, [this](ConnectorType type) { return readConfiguration(type); }))
         moveTo<UnitManagerConnectorStateUpdate>(event);
     else
         moveTo<UnitManagerConnectorStateError>(event);

@@ -3,7 +3,6 @@
 #include "UnitManagerConnector/UnitManagerConnectionData.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateError.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateIdle.h"
-#include "UnitManagerConnector/UnitManagerConnectorStateTransition.h"
 
 UnitManagerConnectorStateUpdate::UnitManagerConnectorStateUpdate(QObject* parent)
     : UnitManagerConnectorStateBase(parent)

@@ -4,7 +4,6 @@
 #include "ErrorContainer.h"
 #include "UnitManagerConnector/UnitManagerConnectionData.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateError.h"
-#include "UnitManagerConnector/UnitManagerConnectorStateTransition.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateUpdate.h"
 
 namespace {

@@ -52,9 +52,13 @@ public:
     /// Shares the built unit manager. @return false, with @p out untouched, when none has been built.
     virtual bool initializeUnitManager(QSharedPointer<UnitManagerDevice>& out);
 
-    /// Advances the connector: one step, which never blocks, when configurations are read without blocking;
-    /// else up to 100 steps, which block during the reads and end early when the connector idles or has
-    /// failed.
+    /// Advances the connector: one step, which waits for no configuration, when configurations are read
+    /// without blocking; else up to 100 steps, which block during the reads and end early when the connector
+    /// idles or has failed.
+    ///
+    /// Without polled signals a lost bus is not noticed once the connector idles: call reset() after the bus
+    /// was restarted. A change made while the service was down is not announced by it either; reset() reads
+    /// everything again.
     ///
     /// @return whether the connector idles, so that what could be built is built.
     virtual bool isUnitManagerInitialized();

@@ -31,7 +31,9 @@ class UnitManagerDevice;
 /// @endcode
 ///
 /// Used from the thread that built it. Without signal polling that thread must run a Qt event loop, or
-/// changes of the configuration go unnoticed; with it none is needed. Nothing throws.
+/// changes of the configuration go unnoticed; with it none is needed, and changes are heard again after the
+/// bus was restarted, where without it reset() is needed. Changes made while the service or the bus was down
+/// are announced by nobody: reset() reads everything again. Nothing throws.
 ///
 /// A configuration that does not load replaces a good one: the wrapper then falls back to stored values until
 /// a good one is read.

@@ -1,0 +1,74 @@
+#!/usr/bin/env bash
+# Shows an application that follows its configuration over D-Bus: examples/live-demo.sh BUILD_FOLDER
+# A bus, the service and the application are started here and stopped here; nobody's own bus is touched.
+set -euo pipefail
+build=$(realpath "${1:?usage: examples/live-demo.sh BUILD_FOLDER}")
+config=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../config")
+folder=$(mktemp -d)
+export DEVICE_BUS=unix:path=$folder/bus
+
+stop() {
+    local started
+    started=$(jobs -p)
+    # shellcheck disable=SC2086 # one word for each process
+    [ -z "$started" ] || kill $started 2>/dev/null || true
+    wait
+    rm -rf "$folder"
+}
+trap stop EXIT
+
+start() { # descriptor for its output, program and arguments
+    local descriptor=$1
+    shift
+    mkfifo "$folder/output-$descriptor"
+    "$@" >"$folder/output-$descriptor" 2>&1 &
+    eval "exec $descriptor<'$folder/output-$descriptor'"
+}
+
+show_until() { # who, descriptor of its output, text of the last line to show
+    local line
+    while IFS= read -r -t 20 line <&"$2"; do
+        echo "  $1 | ${line//$folder/documents}"
+        [[ $line != *"$3"* ]] || return 0
+    done
+    echo "live-demo.sh: no \"$3\" from the $1" >&2
+    return 1
+}
+
+change() { # document, and how it then differs from the shipped one; as an editor does it, by a new file
+    sed "$2" "$config/$1" >"$folder/$1.new"
+    mv "$folder/$1.new" "$folder/$1"
+}
+
+cp "$config"/{units,default-units,dependencies}.json "$folder"
+
+echo
+echo "Live: a private bus, the configuration service, and a device application in German"
+start 3 dbus-daemon --session --nofork --nopidfile --address="$DEVICE_BUS" --print-address
+read -r -t 20 _ <&3
+start 4 "$build/service/configuration-file-service" --directory "$folder" --bus "$DEVICE_BUS"
+show_until service 4 "serving"
+start 5 "$build/examples/measuring-device/measuring-device" --language de --changes 2
+device=$!
+show_until device 5 "pressure range"
+
+echo
+echo "Edit default-units.json: pressure in kilopascal"
+change default-units.json 's/"HectoPascal"/"KiloPascal"/'
+show_until service 4 "took"
+show_until device 5 "->"
+
+echo
+echo "Edit units.json badly: the service refuses it, the application goes on"
+change units.json 's/"DegreeCelsius": {/"DegreeCelsius": /'
+show_until service 4 "cannot use"
+
+echo
+echo "Edit units.json well: temperatures with two decimals"
+change units.json '/"DegreeCelsius"/,/}/ s/"DecimalPlaces": 1/"DecimalPlaces": 2/'
+show_until service 4 "took"
+show_until device 5 "->"
+
+wait "$device"
+echo
+echo "The application has ended with exit code 0; bus and service are stopped."
