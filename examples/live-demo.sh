@@ -51,12 +51,15 @@ show_until service 4 "serving"
 start 5 "$build/examples/measuring-device/measuring-device" --language de --changes 2
 device=$!
 show_until device 5 "pressure range"
+start 6 "$build/tools/unitmanager" watch
+show_until "unitmanager watch" 6 "adopted"
 
 echo
 echo "Edit default-units.json: pressure in kilopascal"
 change default-units.json 's/"HectoPascal"/"KiloPascal"/'
 show_until service 4 "took"
 show_until device 5 "->"
+show_until "unitmanager watch" 6 "adopted"
 
 echo
 echo "Edit units.json badly: the service refuses it, the application goes on"
@@ -68,6 +71,7 @@ echo "Edit units.json well: temperatures with two decimals"
 change units.json '/"DegreeCelsius"/,/}/ s/"DecimalPlaces": 1/"DecimalPlaces": 2/'
 show_until service 4 "took"
 show_until device 5 "->"
+show_until "unitmanager watch" 6 "adopted"
 
 wait "$device"
 echo

@@ -11,6 +11,7 @@
 #include "TextTable.h"
 #include "TypesVerb.h"
 #include "UnitsVerb.h"
+#include "WatchVerb.h"
 
 CommandLine::CommandLine()
 {
@@ -19,6 +20,7 @@ CommandLine::CommandLine()
     verbs.push_back(std::make_unique<ConvertVerb>());
     verbs.push_back(std::make_unique<TableVerb>());
     verbs.push_back(std::make_unique<LabelVerb>());
+    verbs.push_back(std::make_unique<WatchVerb>());
 }
 
 int CommandLine::run(const QStringList& words) const

@@ -38,6 +38,9 @@ void addVerbs()
                                   QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  "};
     QTest::newRow("label") << "label" << QByteArray("[options] TYPE [UNIT]")
                            << common + QStringList{"--language", "  TYPE  ", "  UNIT  "};
+    QTest::newRow("watch") << "watch" << QByteArray("[options]")
+                           << QStringList{"--help",     "--version", "--verbose", "--bus <BUS>",
+                                          "DEVICE_BUS", "SIGTERM",   "Example"};
 }
 
 } // namespace
@@ -93,7 +96,7 @@ void ToolHelpTest::programHelpListsEveryVerb()
     const ToolRun run = ToolProcess::run({option});
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.standardError, QByteArray());
-    for (const char* verb : {"types", "units", "convert", "table", "label"})
+    for (const char* verb : {"types", "units", "convert", "table", "label", "watch"})
         QVERIFY2(run.standardOutput.contains('\n' + QByteArray(" ") + verb + ' '), verb);
 }
 

@@ -138,7 +138,7 @@ void ToolUsageTest::needsAVerb_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("message");
-    const QByteArray known = "; known: convert, label, table, types, units";
+    const QByteArray known = "; known: convert, label, table, types, units, watch";
     QTest::newRow("nothing") << QStringList{} << "VERB is missing" + known;
     QTest::newRow("unknown verb") << QStringList{"invert"}
                                   << "unknown verb 'invert'" + known + "; did you mean convert?";

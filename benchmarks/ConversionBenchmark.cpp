@@ -1,0 +1,161 @@
+#include <cmath>
+#include <vector>
+
+#include "BenchmarkSupport.h"
+#include "Documents.h"
+#include "Floors.h"
+#include "Peers.h"
+#include "Themes.h"
+
+namespace {
+
+using BenchmarkSupport::add;
+using Operation = QVariant (UnitManager::*)(const QVariant&, const QString&, const QString&) const;
+using Floor = QVariant (Floors::*)(const QVariant&, const QString&, const QString&) const;
+
+/// One question, and the four answers to it: rounded and raw, from and to the base unit.
+struct Situation
+{
+    std::string name;
+    QString unitType;
+    QString unit;
+    double from;
+    double fromRaw;
+    double to;
+    double toRaw;
+};
+
+const double bars = 1.01325;
+const double hectoPascals = 1013.25;
+
+/// Compares with a peer, whose last digit may differ.
+struct Near
+{
+    double number;
+};
+
+bool operator==(double result, const Near& expected)
+{
+    return std::abs(result - expected.number) <= std::abs(expected.number) * 1e-12;
+}
+
+std::vector<Situation> situations()
+{
+    const QString unknown = QStringLiteral("Cubit");
+    return {
+        {"unit", Documents::pressure(), Documents::hectoPascal(), 1013.3, 1013.25, 1.0, 1.01325},
+        {"default unit", Documents::pressure(), QString(), 1013.3, 1013.25, 1.0, 1.01325},
+        {"fixed unit", Documents::pressureInBar(), QString(), 1.013, 1.01325, 1013.25, 1013.25},
+        {"unknown unit", Documents::pressure(), unknown, 1.01325, 1.01325, 1013.25, 1013.25},
+    };
+}
+
+void addOperation(const std::string& name, Operation operation, const QVariant& value,
+                  const Situation& situation, double expected)
+{
+    benchmark::RegisterBenchmark(
+        ("conversion/" + name + "/" + situation.name).c_str(), [=](benchmark::State& state) {
+            const BenchmarkSupport::SilentLog silence;
+            const UnitManager& manager = Documents::shippedManager();
+            BenchmarkSupport::measure(state, QVariant(expected), [&] {
+                return (manager.*operation)(value, situation.unitType, situation.unit);
+            });
+        });
+}
+
+void addFloor(const std::string& name, Floor floor, const QVariant& value, const Situation& situation,
+              double expected)
+{
+    const Floors& floors = Floors::instance();
+    add("floor/" + name + "/" + situation.name, QVariant(expected),
+        [=, &floors] { return (floors.*floor)(value, situation.unitType, situation.unit); });
+}
+
+/// One value to every unit in turn, so that no branch and no cache line is the same as before.
+template <typename Convert>
+void addEveryUnit(const std::string& name, const Convert& convert)
+{
+    benchmark::RegisterBenchmark((name + "/every unit").c_str(), [convert](benchmark::State& state) {
+        const UnitManager& manager = Documents::shippedManager();
+        const QVariant value(bars);
+        std::vector<std::pair<QString, QString>> keys;
+        bool isRight = true;
+        for (const QString& unitType : manager.getListofUnitTypes()) {
+            for (const QString& unit : manager.getListofUnits(unitType)) {
+                keys.emplace_back(unitType, unit);
+                isRight = isRight && convert(value, unitType, unit) ==
+                                         Floors::instance().literalFromBaseUnit(value, unitType, unit);
+            }
+        }
+        if (!BenchmarkSupport::check(state, isRight && keys.size() > 40))
+            return;
+        std::size_t next = 0;
+        for (auto iteration : state) {
+            Q_UNUSED(iteration)
+            benchmark::DoNotOptimize(convert(value, keys[next].first, keys[next].second));
+            next = next + 1 == keys.size() ? 0 : next + 1;
+        }
+    });
+}
+
+void addFloors()
+{
+    const Floors& floors = Floors::instance();
+    const QString& type = Documents::pressure();
+    const QString& unit = Documents::hectoPascal();
+    const std::vector<double> coefficients = floors.find(type, unit)->polynomial;
+    add("floor/polynomial", hectoPascals, [=] { return Floors::polynomial(coefficients, bars); });
+    add("floor/hash of both keys", qHash(type, 1) ^ qHash(unit, 1),
+        [&] { return Floors::hashKeys(type, unit); });
+    add("floor/nested look-up", hectoPascals, [&] { return floors.nested(bars, type, unit); });
+    const QVariant value(bars);
+    add("floor/nested look-up of variants", QVariant(hectoPascals),
+        [&floors, value, &type, &unit] { return floors.nestedVariant(value, type, unit); });
+
+    for (const Situation& situation : situations()) {
+        addFloor("literal fromBaseUnit", &Floors::literalFromBaseUnit, bars, situation, situation.from);
+        addFloor("literal toBaseUnit", &Floors::literalToBaseUnit, hectoPascals, situation, situation.to);
+    }
+    const Situation named = situations().front();
+    addFloor("one-look-up fromBaseUnit", &Floors::resolvedFromBaseUnit, bars, named, named.from);
+    addFloor("one-look-up toBaseUnit", &Floors::resolvedToBaseUnit, hectoPascals, named, named.to);
+
+    addEveryUnit("floor/literal fromBaseUnit",
+                 [&floors](const QVariant& number, const QString& unitType, const QString& toUnit) {
+                     return floors.literalFromBaseUnit(number, unitType, toUnit);
+                 });
+    addEveryUnit("floor/one-look-up fromBaseUnit",
+                 [&floors](const QVariant& number, const QString& unitType, const QString& toUnit) {
+                     return floors.resolvedFromBaseUnit(number, unitType, toUnit);
+                 });
+}
+
+void addPeers()
+{
+    const QString bar = QStringLiteral("bar");
+    const QString hPa = QStringLiteral("hPa");
+    add("peer/KUnitConversion by names", Near{hectoPascals},
+        [=] { return Peers::convertByKUnitConversion(bars, bar, hPa); });
+    add("peer/UDUNITS by names", Near{hectoPascals},
+        [] { return Peers::convertByUdunits(bars, "bar", "hPa"); });
+    const auto converter = std::make_shared<const Peers::UdunitsConverter>("bar", "hPa");
+    add("peer/UDUNITS converter", Near{hectoPascals}, [converter] { return converter->convert(bars); });
+}
+
+} // namespace
+
+void Themes::addConversions()
+{
+    for (const Situation& situation : situations()) {
+        addOperation("fromBaseUnit", &UnitManager::fromBaseUnit, bars, situation, situation.from);
+        addOperation("fromBaseUnitRaw", &UnitManager::fromBaseUnitRaw, bars, situation, situation.fromRaw);
+        addOperation("toBaseUnit", &UnitManager::toBaseUnit, hectoPascals, situation, situation.to);
+        addOperation("toBaseUnitRaw", &UnitManager::toBaseUnitRaw, hectoPascals, situation, situation.toRaw);
+    }
+    addEveryUnit("conversion/fromBaseUnit",
+                 [](const QVariant& value, const QString& unitType, const QString& unit) {
+                     return Documents::shippedManager().fromBaseUnit(value, unitType, unit);
+                 });
+    addFloors();
+    addPeers();
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+/// Registers the benchmarks of one theme each.
+namespace Themes {
+
+void addConversions();
+void addNodes();
+void addLabels();
+void addLoading();
+void addStart();
+void addChanges();
+void addSharing();
+
+} // namespace Themes

@@ -1,0 +1,270 @@
+#!/usr/bin/env python3
+"""Turns a run of unitmanager-benchmarks into a table: what each thing costs, how that stands to the floors and to
+the peers measured in the same run, and which goals are met.
+
+    table.py RUN.json                              prints the table
+    table.py RUN.json --write docs/performance.md  also puts it between the markers of that file
+
+Ends with 1 when a benchmark found a wrong result or is missing from the run, whatever the goals say.
+"""
+
+import argparse
+import json
+import re
+import sys
+from dataclasses import dataclass, field
+from pathlib import Path
+
+BEGIN = "<!-- figures: written by benchmarks/table.py -->"
+END = "<!-- end of figures -->"
+
+NANOSECONDS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
+
+
+@dataclass(frozen=True)
+class Value:
+    """A figure of a run: the median time (or a counter's median), divided by `per`."""
+
+    name: str
+    counter: str = ""
+    per: int = 1
+
+
+@dataclass(frozen=True)
+class Against:
+    """What a row is held against. A floor divides the row; a peer is divided by it, so that more is better."""
+
+    label: str
+    value: Value
+    goal: float | None = None
+
+
+@dataclass(frozen=True)
+class Row:
+    title: str
+    value: Value
+    floors: list[Against] = field(default_factory=list)
+    peers: list[Against] = field(default_factory=list)
+    at_most: float | None = None
+
+
+def conversion_rows():
+    by_names = [
+        Against("KUnitConversion", Value("peer/KUnitConversion by names"), 20.0),
+        Against("UDUNITS", Value("peer/UDUNITS by names"), 20.0),
+    ]
+    for operation in ("fromBaseUnit", "toBaseUnit"):
+        for situation in ("unit", "default unit", "fixed unit", "unknown unit"):
+            named = situation == "unit"
+            goal = 1.3 if named else None
+            floors = [Against("literal", Value(f"floor/literal {operation}/{situation}"), goal)]
+            if named:
+                floors.append(Against("one look-up", Value(f"floor/one-look-up {operation}/unit")))
+            yield Row(f"`{operation}`, {situation}", Value(f"conversion/{operation}/{situation}"), floors,
+                      by_names if named else [])
+            raw_floors = [
+                Against("nested look-up", Value("floor/nested look-up"), 1.5),
+                Against("same, variants", Value("floor/nested look-up of variants")),
+            ]
+            yield Row(f"`{operation}Raw`, {situation}", Value(f"conversion/{operation}Raw/{situation}"),
+                      raw_floors if named else [], by_names if named else [])
+    yield Row("`fromBaseUnit`, every unit in turn", Value("conversion/fromBaseUnit/every unit"),
+              [Against("literal", Value("floor/literal fromBaseUnit/every unit"), 1.3),
+               Against("one look-up", Value("floor/one-look-up fromBaseUnit/every unit"))])
+
+
+def node_rows():
+    for title, name, floor in (
+            ("`getValue` of a node", "node/getValue", "node read"),
+            ("`setValueStatus` of a node", "node/setValueStatus", "node write"),
+            ("`getValueNoLock`", "process data/getValueNoLock", "process data read"),
+            ("`setValueNoLock`", "process data/setValueNoLock", "process data write")):
+        yield Row(title, Value(name), [Against("unconverted", Value(f"floor/{floor}"))])
+    for columns in (10, 1000):
+        for operation in ("getValueArray", "setValueArray"):
+            yield Row(f"`{operation}`, {columns} columns", Value(f"array/{operation}/{columns}"),
+                      [Against("list by hand", Value(f"floor/list of variants/{columns}")),
+                       Against("plain loop", Value(f"floor/plain loop/{columns}"))],
+                      [Against("UDUNITS array", Value(f"peer/UDUNITS array/{columns}"))])
+
+
+def label_rows():
+    for situation in ("unit", "default unit"):
+        yield Row(f"`getUnitText`, {situation}", Value(f"label/getUnitText/{situation}"),
+                  [Against("nested look-up", Value(f"floor/label/{situation}"))],
+                  [Against("KUnitConversion", Value("peer/KUnitConversion symbol")),
+                   Against("UDUNITS", Value("peer/UDUNITS symbol"))])
+
+
+def loading_rows():
+    yield Row("loading the shipped documents", Value("loading/shipped documents"),
+              [Against("Qt's parser twice", Value("floor/Qt's parser twice/shipped documents"), 4.0)],
+              [Against("UDUNITS, its own database", Value("peer/UDUNITS loads its database"))])
+    for count in (100, 1000, 10000, 100000):
+        level = [Against("per unit of 1,000", Value("loading/units/1000", per=1000), 1.5)]
+        yield Row(f"loading {count:,} units, per unit", Value(f"loading/units/{count}", per=count),
+                  (level if count > 1000 else []) +
+                  [Against("Qt's parser twice", Value(f"floor/Qt's parser twice/{count}", per=count))])
+    for count in (100, 1000, 10000, 100000):
+        peak = "peakBytesPerUnit"
+        level = [Against("per unit of 1,000", Value("memory/units/1000", peak), 1.5)]
+        yield Row(f"peak memory of loading {count:,} units, per unit", Value(f"memory/units/{count}", peak),
+                  (level if count > 1000 else []) +
+                  [Against("Qt's document", Value(f"floor/memory of Qt's parser/{count}", peak))],
+                  at_most=2048.0 if count >= 1000 else None)
+    yield Row("memory kept by 100,000 units, per unit", Value("memory/units/100000", "keptBytesPerUnit"),
+              [Against("Qt's document", Value("floor/memory of Qt's parser/100000", "keptBytesPerUnit"))])
+
+
+def start_rows():
+    for manner in ("blocking", "asynchronous"):
+        goal = 1.5 if manner == "blocking" else None
+        yield Row(f"start to idle, {manner}", Value(f"start/to idle/{manner}"),
+                  [Against("three calls", Value(f"floor/three calls/{manner}")),
+                   Against("three calls, Qt's parser", Value(f"floor/three calls and Qt's parser/{manner}"), goal),
+                   Against("three calls, loading", Value(f"floor/three calls and loading/{manner}"))])
+        yield Row(f"rebuild after a change, {manner}", Value(f"start/rebuild/{manner}"),
+                  [Against("one call", Value(f"floor/one call/{manner}"))])
+        yield Row(f"idle step, {manner}", Value(f"start/idle step/{manner}"), at_most=1000.0)
+    for clients in (1, 10, 50):
+        yield Row(f"storm of 20 changes, {clients} client processes", Value(f"start/storm/{clients}"))
+
+
+def sharing_rows():
+    yield Row("copying a `UnitManager`", Value("sharing/copy"))
+    for threads in (1, 2):
+        yield Row(f"`fromBaseUnit`, {threads} reading at once, wall time by calls", Value(f"sharing/fromBaseUnit/threads:{threads}"),
+                  [Against("one look-up", Value(f"floor/sharing/one look-up/threads:{threads}"))])
+
+
+THEMES = [
+    ("Conversion", conversion_rows),
+    ("Nodes and arrays", node_rows),
+    ("Labels", label_rows),
+    ("Loading", loading_rows),
+    ("Start and change", start_rows),
+    ("Sharing", sharing_rows),
+]
+
+
+class Run:
+    """The medians of one run, by the names that the benchmarks were registered with."""
+
+    # What Google Benchmark appends to a name, and how it says that wall time is what counts.
+    APPENDED = re.compile(r"/(iterations:\d+|repeats:\d+|real_time|manual_time)")
+    WALL_TIME = re.compile(r"/(real_time|manual_time)")
+
+    def __init__(self, document):
+        self.context = document["context"]
+        runs = document["benchmarks"]
+        self.errors = sorted({f"{run['run_name']}: {run['error_message']}" for run in runs if run.get("error_occurred")})
+        self.medians = {self.APPENDED.sub("", run["run_name"]): run
+                        for run in runs if run.get("aggregate_name") == "median"}
+        self.missing = set()
+
+    def get(self, value):
+        run = self.medians.get(value.name)
+        if run is None:
+            self.missing.add(value.name)
+            return None
+        if value.counter:
+            return run[value.counter] / value.per
+        return self.time(run) / value.per
+
+    def time(self, run):
+        time = run["real_time"] if self.WALL_TIME.search(run["run_name"]) else run["cpu_time"]
+        return time * NANOSECONDS[run["time_unit"]]
+
+
+def time_text(nanoseconds):
+    for unit, factor in (("s", 1e9), ("ms", 1e6), ("µs", 1e3)):
+        if nanoseconds >= factor:
+            return f"{nanoseconds / factor:.3g} {unit}"
+    return f"{nanoseconds:.3g} ns"
+
+
+def lead_text(lead):
+    return f"{lead:.3g}" if lead >= 1.0 else f"1/{1.0 / lead:.3g}"
+
+
+def value_text(value, number):
+    return f"{number:,.0f} B" if value.counter else time_text(number)
+
+
+def line(run, row):
+    """The cells of a row; None when the run lacks one of its figures."""
+    own = run.get(row.value)
+    floors = [(floor, run.get(floor.value)) for floor in row.floors]
+    peers = [(peer, run.get(peer.value)) for peer in row.peers]
+    if own is None or any(number is None for _, number in floors + peers):
+        return None
+
+    ratios = [(floor, own / number) for floor, number in floors]
+    leads = [(peer, number / own) for peer, number in peers]
+    goals = [(f"≤ {floor.goal:g} {floor.label}", ratio <= floor.goal) for floor, ratio in ratios if floor.goal]
+    goals += [(f"≥ {peer.goal:g} {peer.label}", lead >= peer.goal) for peer, lead in leads if peer.goal]
+    if row.at_most:
+        goals.append((f"≤ {value_text(row.value, row.at_most)}", own <= row.at_most))
+    return [
+        row.title,
+        value_text(row.value, own),
+        "<br>".join(f"{ratio:.2f} {floor.label}" for floor, ratio in ratios),
+        "<br>".join(f"{lead_text(lead)} {peer.label}" for peer, lead in leads),
+        "<br>".join(text for text, _ in goals),
+        "<br>".join("yes" if met else "**no**" for _, met in goals),
+    ]
+
+
+def markdown(header, lines):
+    aligned = ["---"] + ["---:"] * (len(header) - 1)
+    return "\n".join("| " + " | ".join(cells) + " |" for cells in [header, aligned, *lines])
+
+
+def machine_text(context):
+    return (f"{context['processor']} ({context['architecture']}), {context['num_cpus']} processors seen, "
+            f"{context['system']}; GCC {context['compiler']}, Qt {context['qt']}, {context['build_type']} build; "
+            f"load at the start {context['load_avg'][0]:.2g}; {context['date'][:10]}.")
+
+
+def figures_text(run):
+    parts = [f"Machine of these figures: {machine_text(run.context)}"]
+    for title, rows in THEMES:
+        lines = [cells for cells in (line(run, row) for row in rows()) if cells]
+        parts.append(f"### {title}")
+        parts.append(markdown(["what", "median", "ratio to floors", "times faster than peers", "goal", "met"], lines))
+    references = [[name, time_text(run.time(entry))] for name, entry in sorted(run.medians.items())
+                  if name.startswith(("floor/", "peer/")) and "memory" not in name]
+    parts.append("### Floors and peers")
+    parts.append(markdown(["what", "median"], references))
+    return "\n\n".join(parts)
+
+
+def write_between_markers(path, text):
+    before, begin, rest = path.read_text(encoding="utf-8").partition(BEGIN)
+    _, end, after = rest.partition(END)
+    if not begin or not end:
+        sys.exit(f"{path}: no lines \"{BEGIN}\" and \"{END}\"")
+    path.write_text(f"{before}{begin}\n{text}\n{end}{after}", encoding="utf-8")
+
+
+def main():
+    parser = argparse.ArgumentParser(description="Makes a table of a benchmark run.")
+    parser.add_argument("run", type=Path, help="what the benchmarks wrote with --benchmark_out")
+    parser.add_argument("--write", type=Path, metavar="FILE", help="Markdown file whose figures are replaced")
+    arguments = parser.parse_args()
+
+    run = Run(json.loads(arguments.run.read_text(encoding="utf-8")))
+    text = figures_text(run)
+    print(text)
+    problems = run.errors + [f"{name}: not in the run" for name in sorted(run.missing)]
+    for problem in problems:
+        print(f"table.py: {problem}", file=sys.stderr)
+    if problems:
+        return 1
+    if arguments.write:
+        write_between_markers(arguments.write, text)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

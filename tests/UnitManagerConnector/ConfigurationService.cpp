@@ -1,0 +1,145 @@
+#include "ConfigurationService.h"
+
+#include <QtCore/QMutexLocker>
+
+#include "DBusConnection.h"
+#include "WaitUntil.h"
+
+namespace {
+
+const QString serviceName = QStringLiteral("org.measuringdevice.DeviceManager");
+/// The call that settle() makes.
+const QString settlingMember = QStringLiteral("settle");
+
+QString callText(const QDBusMessage& call)
+{
+    QStringList arguments;
+    for (const QVariant& argument : call.arguments())
+        arguments.append(argument.toString());
+    return QStringLiteral("%1 %2(%3)").arg(call.path(), call.member(), arguments.join(QLatin1String(", ")));
+}
+
+} // namespace
+
+QString TestDocument::units()
+{
+    return QStringLiteral(R"json({
+        "Pressure": {
+            "Bar": { "@displayPosition": 0, "DecimalPlaces": 3,
+                     "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]],
+                     "UnitLabel": { "@value": { "en": "bar" } } },
+            "HectoPascal": { "@displayPosition": 1, "DecimalPlaces": 1,
+                             "Polynomial": [[0], [1000]], "InversePolynomial": [[0], [0.001]],
+                             "UnitLabel": { "@value": { "en": "hPa" } } }
+        }
+    })json");
+}
+
+QString TestDocument::defaultUnits()
+{
+    return QStringLiteral(R"json({ "Pressure": { "@type": "Selection", "@value": "HectoPascal" } })json");
+}
+
+QString TestDocument::dependencies()
+{
+    return QStringLiteral(R"json({ "PressureUnit": ["Pressure"] })json");
+}
+
+QString TestDocument::broken()
+{
+    return QStringLiteral("{ \"Pressure\"");
+}
+
+ConfigurationService::ConfigurationService()
+    : m_answers{{TestSource::unitSwitchName, FakeBusService::withValue(TestDocument::units())},
+                {TestSource::dependencyName, FakeBusService::withValue(TestDocument::dependencies())},
+                {TestSource::defaultUnitName, FakeBusService::withValue(TestDocument::defaultUnits())}}
+{
+    qputenv("DEVICE_BUS", m_bus.address().toLocal8Bit());
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "5000");
+}
+
+ConfigurationService::~ConfigurationService()
+{
+    qunsetenv("DEVICE_BUS");
+    qunsetenv("DEVICE_BUS_TIMEOUT_MS");
+}
+
+bool ConfigurationService::start()
+{
+    if (!m_bus.start())
+        return false;
+    m_takenCalls = 0;
+    m_service = std::make_unique<FakeBusService>(m_bus.address(), serviceName,
+                                                 [this](const QDBusMessage& call) { return answerTo(call); });
+    return m_service->isRunning();
+}
+
+void ConfigurationService::stop()
+{
+    m_service.reset();
+}
+
+PrivateBus& ConfigurationService::bus()
+{
+    return m_bus;
+}
+
+void ConfigurationService::setAnswer(const QString& configuration, const FakeBusService::Answer& answer)
+{
+    const QMutexLocker locker(&m_mutex);
+    m_answers[configuration] = answer;
+}
+
+QStringList ConfigurationService::takeCalls()
+{
+    QStringList texts;
+    for (const QDBusMessage& call : calls().mid(m_takenCalls))
+        texts.append(callText(call));
+    m_takenCalls += texts.size();
+    return texts;
+}
+
+bool ConfigurationService::waitForCalls(int count) const
+{
+    return waitUntil([&] { return calls().size() >= m_takenCalls + count; });
+}
+
+bool ConfigurationService::announce(const QString& object, const QVariant& parameter)
+{
+    return settle(serviceName) &&
+           m_service->sendSignal(QLatin1Char('/') + object, QStringLiteral("configurationChanged"),
+                                 {parameter}) &&
+           settle(serviceName);
+}
+
+bool ConfigurationService::settle(const QString& serviceName)
+{
+    // What a peer sends arrives in the order in which it was sent.
+    const QDBusMessage call = QDBusMessage::createMethodCall(
+        serviceName, QStringLiteral("/"), QStringLiteral("org.example.Test"), settlingMember);
+    return DBusConnection::getQDBusConnection().call(call).type() == QDBusMessage::ReplyMessage;
+}
+
+QList<QDBusMessage> ConfigurationService::calls() const
+{
+    QList<QDBusMessage> calls;
+    for (const QDBusMessage& call : m_service->calls()) {
+        if (call.member() != settlingMember)
+            calls.append(call);
+    }
+    return calls;
+}
+
+QDBusMessage ConfigurationService::answerTo(const QDBusMessage& call) const
+{
+    if (call.member() == settlingMember)
+        return call.createReply();
+    FakeBusService::Answer answer;
+    {
+        const QMutexLocker locker(&m_mutex);
+        answer = m_answers.value(call.arguments().value(0).toString(),
+                                 FakeBusService::withError(QStringLiteral("org.example.Unknown")));
+    }
+    return answer(call);
+}

@@ -1,0 +1,337 @@
+#include "UnitManagerConnector/DBusConfigurationChangeSignalHandling.h"
+
+#include <QtDBus/QDBusConnectionInterface>
+#include <QtDBus/QDBusMessage>
+#include <QtTest/QtTest>
+
+#include <memory>
+
+#include "ChangeSources.h"
+#include "ConfigurationService.h"
+#include "DBusConnection.h"
+#include "LogCapture.h"
+#include "ObjectSlots.h"
+
+using Handling = DBusConfigurationChangeSignalHandling;
+using Definitions = UnitManagerConnectorDefinitions;
+using namespace ChangeSources;
+
+class DBusConfigurationChangeSignalHandlingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void theMetaObjectListsTheSlotsInOrder();
+    void nothingHasChangedAtFirst_data();
+    void nothingHasChangedAtFirst();
+    void onlyTheConfiguredNameIsAChange_data();
+    void onlyTheConfiguredNameIsAChange();
+    void changesStayUntilTheyAreReset_data();
+    void changesStayUntilTheyAreReset();
+    void initForgetsThatSomethingChangedButNotWhat();
+    void resetForgetsChangesAndSubscriptions_data();
+    void resetForgetsChangesAndSubscriptions();
+    void aSignalOnTheBusIsAChange_data();
+    void aSignalOnTheBusIsAChange();
+    void aSignalOfAnotherConfigurationIsNone_data();
+    void aSignalOfAnotherConfigurationIsNone();
+    void aSignalOfAnyInterfaceCounts();
+    void aSignalOfAnotherObjectOrServiceDoesNotCount_data();
+    void aSignalOfAnotherObjectOrServiceDoesNotCount();
+
+private:
+    std::unique_ptr<ConfigurationService> m_service;
+};
+
+namespace {
+
+/// Whether a change is noted, after the event loop has delivered what waits.
+bool hasChanged(Handling& handling)
+{
+    QCoreApplication::processEvents();
+    return handling.pollChangeFlags();
+}
+
+void addModes()
+{
+    QTest::addColumn<bool>("polling");
+    QTest::newRow("signals delivered") << false;
+    QTest::newRow("signals polled") << true;
+}
+
+void addModesAndSources()
+{
+    QTest::addColumn<bool>("polling");
+    QTest::addColumn<Type>("type");
+    for (const Type type : all) {
+        QTest::addRow("%s, signals delivered", nameOf(type)) << false << type;
+        QTest::addRow("%s, signals polled", nameOf(type)) << true << type;
+    }
+}
+
+} // namespace
+
+void DBusConfigurationChangeSignalHandlingTest::init()
+{
+    m_service = std::make_unique<ConfigurationService>();
+    QVERIFY(m_service->start());
+}
+
+void DBusConfigurationChangeSignalHandlingTest::cleanup()
+{
+    m_service.reset();
+}
+
+void DBusConfigurationChangeSignalHandlingTest::theMetaObjectListsTheSlotsInOrder()
+{
+    const QMetaObject& metaObject = Handling::staticMetaObject;
+    QCOMPARE(metaObject.className(), "DBusConfigurationChangeSignalHandling");
+    QCOMPARE(metaObject.superClass(), &QObject::staticMetaObject);
+    QCOMPARE(ownMethods(metaObject, QMetaMethod::Slot),
+             (QByteArrayList{"unitSwitchConfigurationFileChange(QString)", "defaultUnitFileChange(QString)",
+                             "dependencyFileChanged(QString)"}));
+    QCOMPARE(metaObject.methodCount() - metaObject.methodOffset(), 3);
+}
+
+void DBusConfigurationChangeSignalHandlingTest::nothingHasChangedAtFirst_data()
+{
+    addModes();
+}
+
+void DBusConfigurationChangeSignalHandlingTest::nothingHasChangedAtFirst()
+{
+    QFETCH(const bool, polling);
+    LogCapture log;
+    Handling handling(polling);
+    QCOMPARE(handling.parent(), nullptr);
+    QVERIFY(!handling.pollChangeFlags());
+    QCOMPARE(handling.getConfigurationChangeMap(), Changes());
+    QVERIFY(handling.closeDbusConnections());
+    QVERIFY(handling.resetCachedObjects());
+    QVERIFY(handling.reset());
+    QVERIFY(handling.init(settings()));
+    QVERIFY(!handling.pollChangeFlags());
+    QCOMPARE(handling.getConfigurationChangeMap(), Changes());
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void DBusConfigurationChangeSignalHandlingTest::onlyTheConfiguredNameIsAChange_data()
+{
+    QTest::addColumn<Type>("type");
+    QTest::addColumn<QString>("function");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("unit switch") << Definitions::UnitSwitch
+                                 << "unitSwitchConfigurationFileChange(const QString&)"
+                                 << "unit manager configuration has been changed";
+    QTest::newRow("dependency file") << Definitions::DependencyFile << "dependencyFileChanged(const QString&)"
+                                     << "dependency file has been changed";
+    QTest::newRow("default unit") << Definitions::DefaultUnit << "defaultUnitFileChange(const QString&)"
+                                  << "default unit configuration has been changed";
+}
+
+void DBusConfigurationChangeSignalHandlingTest::onlyTheConfiguredNameIsAChange()
+{
+    QFETCH(const Type, type);
+    QFETCH(const QString, function);
+    QFETCH(const QString, message);
+    const QString name = settings()[type].at(2);
+    Handling handling(false);
+    handling.init(settings());
+
+    LogCapture log;
+    const QStringList otherNames{"", name.toUpper(), name + " ", name.left(name.size() - 1), "Test/Other"};
+    for (const QString& other : otherNames) {
+        report(handling, type, other);
+        QVERIFY2(!handling.pollChangeFlags(), qPrintable(other));
+    }
+    QCOMPARE(handling.getConfigurationChangeMap(), Changes());
+    QCOMPARE(log.takeTexts(), QStringList());
+
+    report(handling, type, name);
+    QCOMPARE(takeMessages(log), QStringList{messageOf(QtDebugMsg, function, message)});
+    QVERIFY(handling.pollChangeFlags());
+    QCOMPARE(handling.getConfigurationChangeMap(), (Changes{{type, name}}));
+
+    // What is known stays known when another name comes in.
+    report(handling, type, "Test/Other");
+    QVERIFY(handling.pollChangeFlags());
+    QCOMPARE(handling.getConfigurationChangeMap(), (Changes{{type, name}}));
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void DBusConfigurationChangeSignalHandlingTest::changesStayUntilTheyAreReset_data()
+{
+    addModes();
+}
+
+void DBusConfigurationChangeSignalHandlingTest::changesStayUntilTheyAreReset()
+{
+    QFETCH(const bool, polling);
+    Handling handling(polling);
+    handling.init(settings());
+    LogCapture log;
+    handling.defaultUnitFileChange(TestSource::defaultUnitName);
+    handling.unitSwitchConfigurationFileChange(TestSource::unitSwitchName);
+    for (int poll = 0; poll < 3; ++poll)
+        QVERIFY(handling.pollChangeFlags());
+    const Changes changes{{Definitions::UnitSwitch, TestSource::unitSwitchName},
+                          {Definitions::DefaultUnit, TestSource::defaultUnitName}};
+    QCOMPARE(handling.getConfigurationChangeMap(), changes);
+
+    QVERIFY(handling.resetCachedObjects());
+    QVERIFY(!handling.pollChangeFlags());
+    const Changes kept = handling.getConfigurationChangeMap();
+    QCOMPARE(kept.keys(), changes.keys());
+    for (const QString& change : kept)
+        QVERIFY(change.isNull());
+}
+
+void DBusConfigurationChangeSignalHandlingTest::initForgetsThatSomethingChangedButNotWhat()
+{
+    Handling handling(true);
+    handling.init(settings());
+    LogCapture log;
+    handling.dependencyFileChanged(TestSource::dependencyName);
+    QVERIFY(handling.init(Settings{}));
+    QVERIFY(!handling.pollChangeFlags());
+    QCOMPARE(handling.getConfigurationChangeMap(),
+             (Changes{{Definitions::DependencyFile, TestSource::dependencyName}}));
+}
+
+void DBusConfigurationChangeSignalHandlingTest::resetForgetsChangesAndSubscriptions_data()
+{
+    addModes();
+}
+
+void DBusConfigurationChangeSignalHandlingTest::resetForgetsChangesAndSubscriptions()
+{
+    QFETCH(const bool, polling);
+    Handling handling(polling);
+    Handling witness(polling);
+    handling.init(settings());
+    witness.init(settings());
+    LogCapture log;
+    QVERIFY(subscribeAll(handling) && subscribeAll(witness));
+    handling.dependencyFileChanged(TestSource::dependencyName);
+
+    QVERIFY(handling.reset());
+    QVERIFY(!handling.pollChangeFlags());
+    QCOMPARE(handling.getConfigurationChangeMap(), (Changes{{Definitions::DependencyFile, QString()}}));
+    QVERIFY(m_service->announce(TestSource::dependencyObject, TestSource::dependencyName));
+    QVERIFY(hasChanged(witness));
+    QVERIFY(!hasChanged(handling));
+}
+
+void DBusConfigurationChangeSignalHandlingTest::aSignalOnTheBusIsAChange_data()
+{
+    addModesAndSources();
+}
+
+void DBusConfigurationChangeSignalHandlingTest::aSignalOnTheBusIsAChange()
+{
+    QFETCH(const bool, polling);
+    QFETCH(const Type, type);
+    const QStringList source = settings()[type];
+    Handling handling(polling);
+    handling.init(settings());
+    LogCapture log;
+    QCOMPARE(subscribe(handling, type), Definitions::Connected);
+    QVERIFY(m_service->announce(source.at(1), source.at(2)));
+    // Only delivered signals need the event loop.
+    QCOMPARE(handling.pollChangeFlags(), polling);
+    QVERIFY(hasChanged(handling));
+    QCOMPARE(handling.getConfigurationChangeMap(), (Changes{{type, source.at(2)}}));
+
+    // One signal is one change.
+    QVERIFY(handling.pollChangeFlags());
+    QCOMPARE(log.takeTexts().size(), 1);
+    handling.resetCachedObjects();
+    QVERIFY(!handling.pollChangeFlags());
+}
+
+void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherConfigurationIsNone_data()
+{
+    addModesAndSources();
+}
+
+void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherConfigurationIsNone()
+{
+    QFETCH(const bool, polling);
+    QFETCH(const Type, type);
+    const QStringList source = settings()[type];
+    Settings otherNames = settings();
+    otherNames[type][2] = QStringLiteral("Test/Other");
+    Handling handling(polling);
+    Handling witness(polling);
+    handling.init(settings());
+    witness.init(otherNames);
+    LogCapture log;
+    QCOMPARE(subscribe(handling, type), Definitions::Connected);
+    QCOMPARE(subscribe(witness, type), Definitions::Connected);
+
+    QVERIFY(m_service->announce(source.at(1), "Test/Other"));
+    QVERIFY(hasChanged(witness));
+    QVERIFY(!hasChanged(handling));
+    QCOMPARE(handling.getConfigurationChangeMap(), Changes());
+    QCOMPARE(log.takeTexts().size(), 1);
+}
+
+void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnyInterfaceCounts()
+{
+    m_service->stop();
+    QDBusConnection sender = QDBusConnection::connectToBus(m_service->bus().address(), "sender");
+    QVERIFY(sender.registerService("org.measuringdevice.DeviceManager"));
+    Handling handling(false);
+    handling.init(settings());
+    LogCapture log;
+    QCOMPARE(handling.connectUnitSwitchChangeFlag(), Definitions::Connected);
+    QDBusMessage signal = QDBusMessage::createSignal("/" + TestSource::unitSwitchObject, "org.example.Any",
+                                                     "configurationChanged");
+    signal << TestSource::unitSwitchName;
+    // The answer says that the bus has the subscription by now.
+    QVERIFY(DBusConnection::getQDBusConnection().interface()->isServiceRegistered(sender.baseService()));
+    QVERIFY(sender.send(signal));
+    QTRY_VERIFY(handling.pollChangeFlags());
+    QDBusConnection::disconnectFromBus("sender");
+}
+
+void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherObjectOrServiceDoesNotCount_data()
+{
+    QTest::addColumn<QString>("module");
+    QTest::addColumn<QString>("object");
+    QTest::newRow("another object") << TestSource::module << TestSource::defaultUnitObject;
+    QTest::newRow("an object below") << TestSource::module << TestSource::unitSwitchObject + "/Below";
+    QTest::newRow("another service") << "Other" << TestSource::unitSwitchObject;
+}
+
+void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherObjectOrServiceDoesNotCount()
+{
+    QFETCH(const QString, module);
+    QFETCH(const QString, object);
+    const QString otherService = QStringLiteral("org.measuringdevice.Other");
+    const FakeBusService other(m_service->bus().address(), otherService, FakeBusService::withoutValue());
+    QVERIFY(other.isRunning());
+    Settings elsewhere = settings();
+    elsewhere[Definitions::UnitSwitch] = QStringList{module, object, TestSource::unitSwitchName};
+    Handling handling(false);
+    Handling witness(false);
+    handling.init(settings());
+    witness.init(elsewhere);
+    LogCapture log;
+    QCOMPARE(handling.connectUnitSwitchChangeFlag(), Definitions::Connected);
+    QCOMPARE(witness.connectUnitSwitchChangeFlag(), Definitions::Connected);
+
+    if (module == TestSource::module)
+        QVERIFY(m_service->announce(object, TestSource::unitSwitchName));
+    else
+        QVERIFY(ConfigurationService::settle(otherService) &&
+                other.sendSignal("/" + object, "configurationChanged", {TestSource::unitSwitchName}) &&
+                ConfigurationService::settle(otherService));
+    QVERIFY(hasChanged(witness));
+    QVERIFY(!hasChanged(handling));
+}
+
+QTEST_GUILESS_MAIN(DBusConfigurationChangeSignalHandlingTest)
+#include "DBusConfigurationChangeSignalHandlingTest.moc"

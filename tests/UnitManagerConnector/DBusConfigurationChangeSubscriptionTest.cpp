@@ -1,0 +1,211 @@
+#include "UnitManagerConnector/DBusConfigurationChangeSignalHandling.h"
+
+#include <QtTest/QtTest>
+
+#include <memory>
+
+#include "ChangeSources.h"
+#include "ConfigurationService.h"
+#include "DBusConnection.h"
+#include "LogCapture.h"
+
+using Handling = DBusConfigurationChangeSignalHandling;
+using Definitions = UnitManagerConnectorDefinitions;
+using namespace ChangeSources;
+
+class DBusConfigurationChangeSubscriptionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void aSubscriptionWithoutBusFails_data();
+    void aSubscriptionWithoutBusFails();
+    void closingEndsTheSubscriptions_data();
+    void closingEndsTheSubscriptions();
+    void closingWarnsOfWhatTheBusDoesNotKnow_data();
+    void closingWarnsOfWhatTheBusDoesNotKnow();
+    void closingUnderNewNamesLeavesTheOldSubscription();
+    void aSourceThatIsNoLongerConfiguredIsNotClosed();
+
+private:
+    std::unique_ptr<ConfigurationService> m_service;
+};
+
+namespace {
+
+/// Whether a change is noted, after the event loop has delivered what waits.
+bool hasChanged(Handling& handling)
+{
+    QCoreApplication::processEvents();
+    return handling.pollChangeFlags();
+}
+
+void addModesAndSources()
+{
+    QTest::addColumn<bool>("polling");
+    QTest::addColumn<Type>("type");
+    for (const Type type : all) {
+        QTest::addRow("%s, signals delivered", nameOf(type)) << false << type;
+        QTest::addRow("%s, signals polled", nameOf(type)) << true << type;
+    }
+}
+
+} // namespace
+
+void DBusConfigurationChangeSubscriptionTest::init()
+{
+    m_service = std::make_unique<ConfigurationService>();
+    QVERIFY(m_service->start());
+}
+
+void DBusConfigurationChangeSubscriptionTest::cleanup()
+{
+    m_service.reset();
+}
+
+void DBusConfigurationChangeSubscriptionTest::aSubscriptionWithoutBusFails_data()
+{
+    QTest::addColumn<Type>("type");
+    QTest::addColumn<QString>("function");
+    QTest::addColumn<QString>("object");
+    QTest::newRow("unit switch") << Definitions::UnitSwitch << "connectUnitSwitchChangeFlag()"
+                                 << TestSource::unitSwitchObject;
+    QTest::newRow("dependency file") << Definitions::DependencyFile << "connectDependencyFileChangeFlag()"
+                                     << TestSource::dependencyObject;
+    QTest::newRow("default unit") << Definitions::DefaultUnit << "connectDefaultUnitChangeFlag()"
+                                  << TestSource::defaultUnitObject;
+}
+
+void DBusConfigurationChangeSubscriptionTest::aSubscriptionWithoutBusFails()
+{
+    QFETCH(const Type, type);
+    QFETCH(const QString, function);
+    QFETCH(const QString, object);
+    m_service->stop();
+    m_service->bus().stop();
+    Handling handling(false);
+    handling.init(settings());
+    LogCapture log;
+    QCOMPARE(subscribe(handling, type), Definitions::ConnectionFailed);
+    QCOMPARE(takeMessages(log),
+             QStringList{messageOf(QtWarningMsg, function,
+                                   "Error cannot connect to module \"DeviceManager\" \"" + object + '"')});
+    // It does not count as a subscription that would have to be closed.
+    QVERIFY(handling.closeDbusConnections());
+    QCOMPARE(log.takeTexts(), QStringList());
+
+    // The polling handler waits for the bus by itself.
+    Handling pollingHandling(true);
+    pollingHandling.init(settings());
+    QCOMPARE(subscribe(pollingHandling, type), Definitions::Connected);
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void DBusConfigurationChangeSubscriptionTest::closingEndsTheSubscriptions_data()
+{
+    addModesAndSources();
+}
+
+void DBusConfigurationChangeSubscriptionTest::closingEndsTheSubscriptions()
+{
+    QFETCH(const bool, polling);
+    QFETCH(const Type, type);
+    const QStringList source = settings()[type];
+    Handling handling(polling);
+    Handling witness(polling);
+    handling.init(settings());
+    witness.init(settings());
+    LogCapture log;
+    QVERIFY(subscribeAll(handling) && subscribeAll(witness));
+    QVERIFY(handling.closeDbusConnections());
+    QVERIFY(m_service->announce(source.at(1), source.at(2)));
+    QVERIFY(hasChanged(witness));
+    QVERIFY(!hasChanged(handling));
+
+    // Nothing is left that a second close, or a new subscription, would stumble over.
+    log.take();
+    QVERIFY(handling.closeDbusConnections());
+    QVERIFY(subscribeAll(handling));
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void DBusConfigurationChangeSubscriptionTest::closingWarnsOfWhatTheBusDoesNotKnow_data()
+{
+    QTest::addColumn<bool>("polling");
+    QTest::addColumn<QStringList>("objects");
+    QTest::newRow("signals delivered")
+        << false
+        << QStringList{TestSource::unitSwitchObject, TestSource::dependencyObject,
+                       TestSource::defaultUnitObject};
+    QTest::newRow("signals polled") << true << QStringList();
+}
+
+void DBusConfigurationChangeSubscriptionTest::closingWarnsOfWhatTheBusDoesNotKnow()
+{
+    QFETCH(const bool, polling);
+    QFETCH(const QStringList, objects);
+    Handling handling(polling);
+    handling.init(settings());
+    LogCapture log;
+    QVERIFY(subscribeAll(handling));
+    m_service->stop();
+    m_service->bus().stop();
+    QTRY_VERIFY(!DBusConnection::getQDBusConnection().isConnected());
+    log.take();
+
+    QVERIFY(handling.closeDbusConnections());
+    QStringList expected;
+    for (const QString& object : objects)
+        expected.append(messageOf(QtWarningMsg, "closeDbusConnections()",
+                                  "Unable to disconnect connection \"" + object + '"'));
+    QCOMPARE(takeMessages(log), expected);
+    // The flag is cleared in either case.
+    QVERIFY(handling.closeDbusConnections());
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void DBusConfigurationChangeSubscriptionTest::closingUnderNewNamesLeavesTheOldSubscription()
+{
+    Settings moved = settings();
+    moved[Definitions::DefaultUnit][1] = QStringLiteral("Moved");
+    Handling handling(false);
+    handling.init(settings());
+    LogCapture log;
+    QVERIFY(subscribeAll(handling));
+
+    QVERIFY(handling.init(moved));
+    QCOMPARE(takeMessages(log), QStringList{messageOf(QtWarningMsg, "closeDbusConnections()",
+                                                      "Unable to disconnect connection \"Moved\"")});
+    QVERIFY(m_service->announce(TestSource::defaultUnitObject, TestSource::defaultUnitName));
+    QVERIFY(hasChanged(handling));
+}
+
+void DBusConfigurationChangeSubscriptionTest::aSourceThatIsNoLongerConfiguredIsNotClosed()
+{
+    Handling handling(false);
+    handling.init(settings());
+    LogCapture log;
+    QVERIFY(subscribeAll(handling));
+    for (int missing = 0; missing < 3; ++missing) {
+        Settings incomplete = settings();
+        incomplete[Definitions::DefaultUnit][missing].clear();
+        QVERIFY(handling.init(incomplete));
+        QCOMPARE(log.takeTexts(), QStringList());
+    }
+    QVERIFY(handling.init(Settings{}));
+    QCOMPARE(log.takeTexts(), QStringList());
+
+    // It kept its flag: under its old names it is closed at last, once.
+    QVERIFY(handling.init(settings()));
+    QCOMPARE(log.takeTexts(), QStringList());
+    Settings moved = settings();
+    moved[Definitions::DefaultUnit][1] = QStringLiteral("Moved");
+    QVERIFY(handling.init(moved));
+    QCOMPARE(log.takeTexts(), QStringList());
+    QVERIFY(subscribeAll(handling));
+}
+
+QTEST_GUILESS_MAIN(DBusConfigurationChangeSubscriptionTest)
+#include "DBusConfigurationChangeSubscriptionTest.moc"

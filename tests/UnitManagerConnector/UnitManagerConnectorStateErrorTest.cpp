@@ -1,0 +1,68 @@
+#include "UnitManagerConnector/UnitManagerConnectorStateError.h"
+
+#include <QtDBus/QDBusPendingCall>
+#include <QtTest/QtTest>
+
+#include "ConfigurationFileHandlerDBusConnector.h"
+#include "ConfigurationService.h"
+#include "DBusPendingReply.h"
+#include "LogCapture.h"
+#include "RecordingWrapper.h"
+#include "UnitManagerDevice/UnitManagerDevice.h"
+
+using Definitions = UnitManagerConnectorDefinitions;
+
+class UnitManagerConnectorStateErrorTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everythingIsDroppedBeforeTheStartOver();
+    void theEventGoesOnUnchanged();
+};
+
+void UnitManagerConnectorStateErrorTest::everythingIsDroppedBeforeTheStartOver()
+{
+    const auto units = Definitions::UnitSwitch;
+    ConfigurationService service;
+    QVERIFY(service.start());
+    LogCapture log;
+    RecordingWrapper wrapper;
+    UnitManagerConnectionData& data = wrapper.data();
+    QCOMPARE(data.openConnector(units), Definitions::Connected);
+    data.configurations()[units] = TestDocument::units();
+    QVERIFY(data.updateObjects());
+    data.pendingReplies()[units] = QSharedPointer<DBusPendingReply>::create(
+        QDBusPendingCall::fromError(QDBusError(QDBusError::Failed, "as asked")));
+
+    bool wasDropped = false;
+    wrapper.setObserver([&] {
+        wasDropped = data.connectors().value(units).isNull() && data.pendingReplies().value(units).isNull() &&
+                     data.configurations().value(units).isNull();
+    });
+    UnitManagerConnectorStateError state(&wrapper);
+    state.postEvent(readTrigger({units}));
+    QCOMPARE(wrapper.takeTransitions(), QStringList{"UnitManagerConnectorStateInitial ReadTrigger([0])"});
+    QVERIFY(wasDropped);
+    QVERIFY(data.connectors().contains(units) && data.pendingReplies().contains(units) &&
+            data.configurations().contains(units));
+
+    // The subscription is closed, and what was built stays.
+    QVERIFY(service.announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
+    QVERIFY(!data.pollChangeFlags());
+    QSharedPointer<UnitManagerDevice> manager;
+    QVERIFY(wrapper.initializeUnitManager(manager));
+    QVERIFY(manager->isValid());
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitManagerConnectorStateErrorTest::theEventGoesOnUnchanged()
+{
+    RecordingWrapper wrapper;
+    UnitManagerConnectorStateError state(&wrapper);
+    state.postEvent(StateMachineEvent("any name", QVariant("any data")));
+    QCOMPARE(wrapper.takeTransitions(), QStringList{"UnitManagerConnectorStateInitial any name(any data)"});
+}
+
+QTEST_GUILESS_MAIN(UnitManagerConnectorStateErrorTest)
+#include "UnitManagerConnectorStateErrorTest.moc"

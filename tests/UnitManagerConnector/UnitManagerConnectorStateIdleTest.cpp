@@ -1,0 +1,152 @@
+#include "UnitManagerConnector/UnitManagerConnectorStateIdle.h"
+
+#include <QtTest/QtTest>
+
+#include <memory>
+
+#include "ChangeSources.h"
+#include "ConfigurationService.h"
+#include "LogCapture.h"
+#include "RecordingWrapper.h"
+
+using Definitions = UnitManagerConnectorDefinitions;
+using namespace ChangeSources;
+
+class UnitManagerConnectorStateIdleTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void withoutChangeTheStateStays_data();
+    void withoutChangeTheStateStays();
+    void theChangedSourcesAreRead_data();
+    void theChangedSourcesAreRead();
+    void aChangeWithoutNameGivesAnEmptyList();
+    void theChangesStayNoted();
+
+private:
+    std::unique_ptr<ConfigurationService> m_service;
+};
+
+namespace {
+
+bool openAll(RecordingWrapper& wrapper)
+{
+    bool areOpen = true;
+    for (const Type type : all)
+        areOpen = wrapper.data().openConnector(type) == Definitions::Connected && areOpen;
+    return areOpen;
+}
+
+} // namespace
+
+void UnitManagerConnectorStateIdleTest::init()
+{
+    m_service = std::make_unique<ConfigurationService>();
+    QVERIFY(m_service->start());
+}
+
+void UnitManagerConnectorStateIdleTest::cleanup()
+{
+    m_service.reset();
+}
+
+void UnitManagerConnectorStateIdleTest::withoutChangeTheStateStays_data()
+{
+    QTest::addColumn<bool>("polling");
+    QTest::newRow("signals delivered") << false;
+    QTest::newRow("signals polled") << true;
+}
+
+void UnitManagerConnectorStateIdleTest::withoutChangeTheStateStays()
+{
+    QFETCH(const bool, polling);
+    LogCapture log;
+    RecordingWrapper wrapper(polling);
+    QVERIFY(openAll(wrapper));
+    UnitManagerConnectorStateIdle state(&wrapper);
+    QVERIFY(m_service->announce(TestSource::unitSwitchObject, "Test/Other"));
+    QCoreApplication::processEvents();
+    for (int step = 0; step < 3; ++step)
+        state.postEvent(readTrigger({Definitions::UnitSwitch}));
+    QCOMPARE(wrapper.takeTransitions(), QStringList());
+    QCOMPARE(m_service->takeCalls(), QStringList());
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitManagerConnectorStateIdleTest::theChangedSourcesAreRead_data()
+{
+    QTest::addColumn<bool>("asynchron");
+    QTest::addColumn<QList<Type>>("changed");
+    QTest::addColumn<QString>("list");
+    for (const bool asynchron : {false, true}) {
+        const char* const mode = asynchron ? "asynchronous" : "blocking";
+        QTest::addRow("default unit, %s", mode)
+            << asynchron << QList<Type>{Definitions::DefaultUnit} << "[2]";
+        QTest::addRow("unit switch, %s", mode) << asynchron << QList<Type>{Definitions::UnitSwitch} << "[0]";
+        QTest::addRow("two, in ascending order, %s", mode)
+            << asynchron << QList<Type>{Definitions::DefaultUnit, Definitions::DependencyFile} << "[1 2]";
+        QTest::addRow("all, in ascending order, %s", mode)
+            << asynchron
+            << QList<Type>{Definitions::DefaultUnit, Definitions::UnitSwitch, Definitions::DependencyFile}
+            << "[0 1 2]";
+    }
+}
+
+void UnitManagerConnectorStateIdleTest::theChangedSourcesAreRead()
+{
+    QFETCH(const bool, asynchron);
+    QFETCH(const QList<Type>, changed);
+    QFETCH(const QString, list);
+    for (const bool polling : {false, true}) {
+        LogCapture log;
+        RecordingWrapper wrapper(polling, asynchron);
+        QVERIFY(openAll(wrapper));
+        UnitManagerConnectorStateIdle state(&wrapper);
+        for (const Type type : changed)
+            QVERIFY(m_service->announce(settings()[type].at(1), settings()[type].at(2)));
+        QCoreApplication::processEvents();
+        state.postEvent(StateMachineEvent("other", QVariant("data")));
+        QCOMPARE(wrapper.takeTransitions(),
+                 QStringList{QStringLiteral("UnitManagerConnectorStateReadConfiguration%1 ReadTrigger(%2)")
+                                 .arg(asynchron ? "ASynchron" : "Synchron", list)});
+    }
+}
+
+void UnitManagerConnectorStateIdleTest::aChangeWithoutNameGivesAnEmptyList()
+{
+    LogCapture log;
+    RecordingWrapper wrapper;
+    QVERIFY(wrapper.data().init(false, TestSource::module, TestSource::dependencyObject, "", "", "", ""));
+    // Its name is empty, as the settings' entry is: that counts, but marks no source.
+    wrapper.data().connectorSettings()[Definitions::DependencyFile][2] = QStringLiteral("any");
+    QCOMPARE(wrapper.data().openConnector(Definitions::DependencyFile), Definitions::Connected);
+    QVERIFY(m_service->announce(TestSource::dependencyObject, ""));
+    UnitManagerConnectorStateIdle state(&wrapper);
+    state.postEvent(StateMachineEvent());
+    QCOMPARE(wrapper.data().getConfigurationChangeMap(),
+             (Changes{{Definitions::DependencyFile, QString("")}}));
+    QCOMPARE(wrapper.takeTransitions(),
+             QStringList{"UnitManagerConnectorStateReadConfigurationSynchron ReadTrigger([])"});
+}
+
+void UnitManagerConnectorStateIdleTest::theChangesStayNoted()
+{
+    LogCapture log;
+    RecordingWrapper wrapper;
+    QVERIFY(openAll(wrapper));
+    UnitManagerConnectorStateIdle state(&wrapper);
+    QVERIFY(m_service->announce(TestSource::defaultUnitObject, TestSource::defaultUnitName));
+    for (int step = 0; step < 2; ++step) {
+        state.postEvent(StateMachineEvent());
+        QCOMPARE(wrapper.takeTransitions(),
+                 QStringList{"UnitManagerConnectorStateReadConfigurationSynchron ReadTrigger([2])"});
+    }
+    QCOMPARE(wrapper.data().getConfigurationChangeMap(),
+             (Changes{{Definitions::DefaultUnit, TestSource::defaultUnitName}}));
+}
+
+QTEST_GUILESS_MAIN(UnitManagerConnectorStateIdleTest)
+#include "UnitManagerConnectorStateIdleTest.moc"

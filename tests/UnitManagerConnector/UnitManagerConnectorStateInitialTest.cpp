@@ -1,0 +1,321 @@
+#include "UnitManagerConnector/UnitManagerConnectorStateInitial.h"
+
+#include <QtTest/QtTest>
+
+#include <memory>
+
+#include "ConfigurationFileHandlerDBusConnector.h"
+#include "ConfigurationService.h"
+#include "LogCapture.h"
+#include "MessageText.h"
+#include "RecordingWrapper.h"
+
+using Definitions = UnitManagerConnectorDefinitions;
+using Type = Definitions::ConnectorType;
+using State = UnitManagerConnectorStateInitial;
+
+Q_DECLARE_METATYPE(RecordingWrapper::OptionalSources)
+
+class UnitManagerConnectorStateInitialTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void theOpenedSourcesAreRead_data();
+    void theOpenedSourcesAreRead();
+    void theReceivedEventIsIgnored();
+    void anUnreachableUnitSwitchEndsTheAttempt();
+    void everyStepTriesAgain();
+    void anUnreachableOptionalSourceEndsTheAttempt_data();
+    void anUnreachableOptionalSourceEndsTheAttempt();
+    void aMandatorySourceWithoutSettingsEndsTheAttempt();
+    void aFailureDropsWhatIsThere();
+    void aShortListIsOpenedButNotRead_data();
+    void aShortListIsOpenedButNotRead();
+    void anUnknownNecessityIsOpenedButNotRead_data();
+    void anUnknownNecessityIsOpenedButNotRead();
+    void aBadLastSourceDoesNotHoldTheMachine_data();
+    void aBadLastSourceDoesNotHoldTheMachine();
+    void withoutSourcesTheListIsEmpty();
+
+private:
+    std::unique_ptr<ConfigurationService> m_service;
+};
+
+namespace {
+
+const Type units = Definitions::UnitSwitch;
+const Type dependencies = Definitions::DependencyFile;
+const Type defaults = Definitions::DefaultUnit;
+
+QString warning(const QString& text)
+{
+    return warningText("UnitManagerConnector/UnitManagerConnectorStateInitial", anyLine,
+                       "virtual void UnitManagerConnectorStateInitial::postEvent(const StateMachineEvent&)",
+                       text);
+}
+
+QString readTransition(const QString& types, bool asynchron = false)
+{
+    return QStringLiteral("UnitManagerConnectorStateReadConfiguration%1 ReadTrigger(%2)")
+        .arg(asynchron ? "ASynchron" : "Synchron", types);
+}
+
+/// Which sources have a connector.
+QList<Type> openTypes(RecordingWrapper& wrapper)
+{
+    QList<Type> types;
+    const auto& connectors = wrapper.data().connectors();
+    for (auto connector = connectors.begin(); connector != connectors.end(); ++connector) {
+        if (connector.value())
+            types.append(connector.key());
+    }
+    return types;
+}
+
+} // namespace
+
+void UnitManagerConnectorStateInitialTest::init()
+{
+    m_service = std::make_unique<ConfigurationService>();
+    QVERIFY(m_service->start());
+}
+
+void UnitManagerConnectorStateInitialTest::cleanup()
+{
+    m_service.reset();
+}
+
+void UnitManagerConnectorStateInitialTest::theOpenedSourcesAreRead_data()
+{
+    QTest::addColumn<RecordingWrapper::OptionalSources>("sources");
+    QTest::addColumn<bool>("asynchron");
+    QTest::addColumn<QString>("types");
+    for (const bool asynchron : {false, true}) {
+        const char* const mode = asynchron ? "asynchronous" : "blocking";
+        QTest::addRow("all sources, %s", mode) << RecordingWrapper::BothConfigured << asynchron << "[0 1 2]";
+        QTest::addRow("no dependency file, %s", mode)
+            << RecordingWrapper::NoDependencyFile << asynchron << "[0 2]";
+        QTest::addRow("no default unit, %s", mode) << RecordingWrapper::NoDefaultUnit << asynchron << "[0 1]";
+        QTest::addRow("unit switch alone, %s", mode)
+            << RecordingWrapper::NoneConfigured << asynchron << "[0]";
+    }
+}
+
+void UnitManagerConnectorStateInitialTest::theOpenedSourcesAreRead()
+{
+    QFETCH(const RecordingWrapper::OptionalSources, sources);
+    QFETCH(const bool, asynchron);
+    QFETCH(const QString, types);
+    for (const bool polling : {false, true}) {
+        LogCapture log;
+        RecordingWrapper wrapper(polling, asynchron, sources);
+        State state(&wrapper);
+        state.postEvent(StateMachineEvent());
+        QCOMPARE(wrapper.takeTransitions(), QStringList{readTransition(types, asynchron)});
+        QCOMPARE(log.takeTexts(), QStringList());
+        QVERIFY(wrapper.data().isConnectedToDBus());
+        // Nothing is read yet.
+        QCOMPARE(m_service->takeCalls(), QStringList());
+    }
+}
+
+void UnitManagerConnectorStateInitialTest::theReceivedEventIsIgnored()
+{
+    RecordingWrapper wrapper;
+    State state(&wrapper);
+    state.postEvent(readTrigger({defaults}, "other"));
+    QCOMPARE(wrapper.takeTransitions(), QStringList{readTransition("[0 1 2]")});
+}
+
+void UnitManagerConnectorStateInitialTest::anUnreachableUnitSwitchEndsTheAttempt()
+{
+    m_service->stop();
+    RecordingWrapper wrapper;
+    State state(&wrapper);
+    LogCapture log;
+    state.postEvent(StateMachineEvent());
+    QCOMPARE(messageTexts(log.take(), LineNumbers::Any),
+             QStringList{warning("Unable to connect to mandantory file type \"UnitManager/UnitType\"")});
+    QCOMPARE(wrapper.takeTransitions(), QStringList());
+    // The other sources are not even looked at.
+    QCOMPARE(wrapper.data().connectors().keys(), QList<Type>{units});
+    QCOMPARE(openTypes(wrapper), QList<Type>());
+}
+
+void UnitManagerConnectorStateInitialTest::everyStepTriesAgain()
+{
+    m_service->stop();
+    RecordingWrapper wrapper;
+    State state(&wrapper);
+    LogCapture log;
+    for (int attempt = 0; attempt < 3; ++attempt)
+        state.postEvent(StateMachineEvent());
+    QCOMPARE(log.takeTexts().size(), 3);
+    QCOMPARE(wrapper.takeTransitions(), QStringList());
+    QVERIFY(m_service->start());
+    state.postEvent(StateMachineEvent());
+    QCOMPARE(log.takeTexts(), QStringList());
+    QCOMPARE(wrapper.takeTransitions(), QStringList{readTransition("[0 1 2]")});
+}
+
+void UnitManagerConnectorStateInitialTest::anUnreachableOptionalSourceEndsTheAttempt_data()
+{
+    QTest::addColumn<RecordingWrapper::OptionalSources>("sources");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QList<Type>>("tried");
+    QTest::newRow("dependency file") << RecordingWrapper::DependencyFileAbsent << TestSource::dependencyName
+                                     << QList<Type>{units, dependencies};
+    QTest::newRow("default unit") << RecordingWrapper::DefaultUnitAbsent << TestSource::defaultUnitName
+                                  << QList<Type>{units, dependencies, defaults};
+}
+
+void UnitManagerConnectorStateInitialTest::anUnreachableOptionalSourceEndsTheAttempt()
+{
+    QFETCH(const RecordingWrapper::OptionalSources, sources);
+    QFETCH(const QString, name);
+    QFETCH(const QList<Type>, tried);
+    RecordingWrapper wrapper(true, false, sources);
+    State state(&wrapper);
+    LogCapture log;
+    state.postEvent(StateMachineEvent());
+    QCOMPARE(messageTexts(log.take(), LineNumbers::Any),
+             QStringList{warning("Connection Error to optional file type \"" + name + '"')});
+    QCOMPARE(wrapper.takeTransitions(), QStringList());
+    QCOMPARE(wrapper.data().connectors().keys(), tried);
+    QCOMPARE(openTypes(wrapper), QList<Type>());
+}
+
+void UnitManagerConnectorStateInitialTest::aMandatorySourceWithoutSettingsEndsTheAttempt()
+{
+    RecordingWrapper wrapper;
+    wrapper.data().connectorSettings()[units][1].clear();
+    State state(&wrapper);
+    LogCapture log;
+    state.postEvent(StateMachineEvent());
+    QCOMPARE(log.takeTexts(),
+             QStringList{"Unable to connect to mandantory file type \"UnitManager/UnitType\""});
+    QCOMPARE(wrapper.takeTransitions(), QStringList());
+    QCOMPARE(wrapper.data().connectors().keys(), QList<Type>{units});
+}
+
+void UnitManagerConnectorStateInitialTest::aFailureDropsWhatIsThere()
+{
+    RecordingWrapper wrapper(true, false, RecordingWrapper::DefaultUnitAbsent);
+    wrapper.data().configurations()[units] = QStringLiteral("text");
+    State state(&wrapper);
+    LogCapture log;
+    state.postEvent(StateMachineEvent());
+    QVERIFY(wrapper.data().configurations().contains(units));
+    QVERIFY(wrapper.data().configurations().value(units).isNull());
+    // The subscriptions are gone too.
+    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
+    QVERIFY(!wrapper.data().pollChangeFlags());
+}
+
+void UnitManagerConnectorStateInitialTest::aShortListIsOpenedButNotRead_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<bool>("isOpened");
+    QTest::newRow("no entry") << 0 << false;
+    QTest::newRow("two entries") << 2 << false;
+    QTest::newRow("three entries") << 3 << true;
+    QTest::newRow("four entries") << 4 << true;
+}
+
+void UnitManagerConnectorStateInitialTest::aShortListIsOpenedButNotRead()
+{
+    QFETCH(const int, size);
+    QFETCH(const bool, isOpened);
+    for (const Type type : {units, dependencies, defaults}) {
+        RecordingWrapper wrapper;
+        QStringList& settings = wrapper.data().connectorSettings()[type];
+        settings = settings.mid(0, size);
+        State state(&wrapper);
+        LogCapture log;
+        state.postEvent(StateMachineEvent());
+        QCOMPARE(messageTexts(log.take(), LineNumbers::Any),
+                 QStringList{warning("Unable to find handling for file type")});
+        QList<Type> opened{units, dependencies, defaults};
+        opened.removeOne(type);
+        const QString types = QStringLiteral("[%1 %2]").arg(opened.at(0)).arg(opened.at(1));
+        QCOMPARE(wrapper.takeTransitions(), QStringList{readTransition(types)});
+        QCOMPARE(openTypes(wrapper).contains(type), isOpened);
+        QCOMPARE(openTypes(wrapper).size(), isOpened ? 3 : 2);
+    }
+}
+
+void UnitManagerConnectorStateInitialTest::anUnknownNecessityIsOpenedButNotRead_data()
+{
+    QTest::addColumn<QString>("necessity");
+    QTest::newRow("nothing") << "";
+    QTest::newRow("another word") << "desirable";
+    QTest::newRow("mandatory in capitals") << "Mandatory";
+    QTest::newRow("optional in capitals") << "OPTIONAL";
+}
+
+void UnitManagerConnectorStateInitialTest::anUnknownNecessityIsOpenedButNotRead()
+{
+    QFETCH(const QString, necessity);
+    RecordingWrapper wrapper;
+    wrapper.data().connectorSettings()[units][4] = necessity;
+    State state(&wrapper);
+    LogCapture log;
+    state.postEvent(StateMachineEvent());
+    QCOMPARE(log.takeTexts(), QStringList());
+    QCOMPARE(wrapper.takeTransitions(), QStringList{readTransition("[1 2]")});
+    QCOMPARE(openTypes(wrapper), (QList<Type>{units, dependencies, defaults}));
+}
+
+void UnitManagerConnectorStateInitialTest::aBadLastSourceDoesNotHoldTheMachine_data()
+{
+    QTest::addColumn<QStringList>("lastSettings");
+    QTest::addColumn<QStringList>("messages");
+    QTest::newRow("not configured") << QStringList{"", "", "", "configuration.dependency", "optional"}
+                                    << QStringList();
+    QTest::newRow("a short list, its service absent")
+        << QStringList{TestSource::absentModule, "Object", "Name", "configuration.dependency"}
+        << QStringList{"Unable to find handling for file type"};
+    QTest::newRow("an unknown necessity, its service absent")
+        << QStringList{TestSource::absentModule, "Object", "Name", "configuration.dependency", "any"}
+        << QStringList();
+}
+
+void UnitManagerConnectorStateInitialTest::aBadLastSourceDoesNotHoldTheMachine()
+{
+    QFETCH(const QStringList, lastSettings);
+    QFETCH(const QStringList, messages);
+    RecordingWrapper wrapper;
+    wrapper.data().connectorSettings()[defaults] = lastSettings;
+    State state(&wrapper);
+    LogCapture log;
+    state.postEvent(StateMachineEvent());
+    QCOMPARE(log.takeTexts(), messages);
+    QCOMPARE(wrapper.takeTransitions(), QStringList{readTransition("[0 1]")});
+    QCOMPARE(openTypes(wrapper), (QList<Type>{units, dependencies}));
+
+    // In the middle of the list the next source is opened all the same.
+    wrapper.data().resetObject();
+    wrapper.init(false, "", "", "", TestSource::module, TestSource::defaultUnitObject,
+                 TestSource::defaultUnitName);
+    wrapper.data().connectorSettings()[dependencies] = lastSettings;
+    state.postEvent(StateMachineEvent());
+    QCOMPARE(log.takeTexts(), messages);
+    QCOMPARE(wrapper.takeTransitions(), QStringList{readTransition("[0 2]")});
+}
+
+void UnitManagerConnectorStateInitialTest::withoutSourcesTheListIsEmpty()
+{
+    RecordingWrapper wrapper;
+    wrapper.data().connectorSettings().clear();
+    State state(&wrapper);
+    LogCapture log;
+    state.postEvent(StateMachineEvent());
+    QCOMPARE(log.takeTexts(), QStringList());
+    QCOMPARE(wrapper.takeTransitions(), QStringList{readTransition("[]")});
+}
+
+QTEST_GUILESS_MAIN(UnitManagerConnectorStateInitialTest)
+#include "UnitManagerConnectorStateInitialTest.moc"

@@ -1,0 +1,93 @@
+#include "UnitManagerConnector/UnitManagerConnectorStateMachine.h"
+
+#include <QtTest/QtTest>
+
+#include "ObjectSlots.h"
+#include "StateMachineStateBase.h"
+#include "UnitConversion/Factory.h"
+#include "UnitManagerConnector/UnitManagerConnectorStateError.h"
+#include "UnitManagerConnector/UnitManagerConnectorStateInitial.h"
+
+using StatePointer = QSharedPointer<StateMachineStateBase>;
+
+namespace {
+
+/// Writes down what the logging hooks are told.
+class Machine : public UnitManagerConnectorStateMachine
+{
+public:
+    using UnitManagerConnectorStateMachine::UnitManagerConnectorStateMachine;
+
+    QStringList told;
+
+protected:
+    void doLogEntryStateInitialized(StatePointer state) override
+    {
+        told.append(QStringLiteral("initialized ") + state->metaObject()->className());
+    }
+
+    void doLogEntryStateChanged(StatePointer previous, StatePointer current) override
+    {
+        told.append(QStringLiteral("changed %1 to %2")
+                        .arg(previous->metaObject()->className(), current->metaObject()->className()));
+    }
+};
+
+/// The hooks as the class itself has them.
+class Hooks : public UnitManagerConnectorStateMachine
+{
+public:
+    using UnitManagerConnectorStateMachine::doLogEntryStateChanged;
+    using UnitManagerConnectorStateMachine::doLogEntryStateInitialized;
+};
+
+} // namespace
+
+class UnitManagerConnectorStateMachineTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itAddsNoMethods();
+    void theHooksFollowTheFunctionsOfAnObject();
+    void theParentIsPassedOn();
+    void statesAreLogged();
+};
+
+void UnitManagerConnectorStateMachineTest::itAddsNoMethods()
+{
+    const QMetaObject& metaObject = UnitManagerConnectorStateMachine::staticMetaObject;
+    QCOMPARE(metaObject.className(), "UnitManagerConnectorStateMachine");
+    QCOMPARE(metaObject.superClass(), &StateMachineBase::staticMetaObject);
+    QCOMPARE(metaObject.methodCount(), metaObject.methodOffset());
+}
+
+void UnitManagerConnectorStateMachineTest::theHooksFollowTheFunctionsOfAnObject()
+{
+    QCOMPARE(virtualSlot(&Hooks::doLogEntryStateInitialized), firstSlotAfterObject());
+    QCOMPARE(virtualSlot(&Hooks::doLogEntryStateChanged), firstSlotAfterObject() + 1);
+}
+
+void UnitManagerConnectorStateMachineTest::theParentIsPassedOn()
+{
+    QObject parent;
+    auto* const machine = new UnitManagerConnectorStateMachine(&parent);
+    QCOMPARE(machine->parent(), &parent);
+    QCOMPARE(parent.children(), QObjectList{machine});
+}
+
+void UnitManagerConnectorStateMachineTest::statesAreLogged()
+{
+    Machine machine(nullptr);
+    machine.setInitialState(VESKFactories::createFactoryKey<UnitManagerConnectorStateInitial>(),
+                            StateMachineEvent());
+    machine.setNextState(VESKFactories::createFactoryKey<UnitManagerConnectorStateError>(),
+                         StateMachineEvent());
+    QCOMPARE(machine.told,
+             (QStringList{"initialized UnitManagerConnectorStateInitial",
+                          "changed UnitManagerConnectorStateInitial to UnitManagerConnectorStateError"}));
+    QCOMPARE(machine.getCurrentStateIdentifier(), QStringLiteral("UnitManagerConnectorStateError"));
+}
+
+QTEST_GUILESS_MAIN(UnitManagerConnectorStateMachineTest)
+#include "UnitManagerConnectorStateMachineTest.moc"

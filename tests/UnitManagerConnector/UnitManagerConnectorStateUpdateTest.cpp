@@ -1,0 +1,117 @@
+#include "UnitManagerConnector/UnitManagerConnectorStateUpdate.h"
+
+#include <QtTest/QtTest>
+
+#include "ConfigurationService.h"
+#include "DependencyWalker.h"
+#include "LogCapture.h"
+#include "RecordingWrapper.h"
+#include "UnitManagerDevice/UnitManagerDevice.h"
+
+using Type = UnitManagerConnectorDefinitions::ConnectorType;
+using Texts = QMap<Type, QString>;
+
+Q_DECLARE_METATYPE(Texts)
+
+class UnitManagerConnectorStateUpdateTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void theResultDecidesWhereToGo_data();
+    void theResultDecidesWhereToGo();
+    void theEventGoesOnUnchanged_data();
+    void theEventGoesOnUnchanged();
+    void theObjectsStandBeforeTheTransition();
+};
+
+namespace {
+
+const Type units = UnitManagerConnectorDefinitions::UnitSwitch;
+const Type dependencies = UnitManagerConnectorDefinitions::DependencyFile;
+const Type defaults = UnitManagerConnectorDefinitions::DefaultUnit;
+
+} // namespace
+
+void UnitManagerConnectorStateUpdateTest::initTestCase()
+{
+    qputenv("DEVICE_BUS", "unix:path=/nonexistent/bus");
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "1000");
+}
+
+void UnitManagerConnectorStateUpdateTest::theResultDecidesWhereToGo_data()
+{
+    QTest::addColumn<Texts>("texts");
+    QTest::addColumn<QString>("state");
+    const Texts good{{units, TestDocument::units()},
+                     {dependencies, TestDocument::dependencies()},
+                     {defaults, TestDocument::defaultUnits()}};
+    QTest::newRow("all texts load") << good << "Idle";
+    QTest::newRow("there is no text") << Texts() << "Idle";
+    QTest::newRow("only the default units are there")
+        << Texts{{defaults, TestDocument::defaultUnits()}} << "Idle";
+    for (const Type type : {units, dependencies, defaults}) {
+        Texts texts = good;
+        texts[type] = TestDocument::broken();
+        QTest::addRow("text %d does not load", static_cast<int>(type)) << texts << "Error";
+    }
+}
+
+void UnitManagerConnectorStateUpdateTest::theResultDecidesWhereToGo()
+{
+    QFETCH(const Texts, texts);
+    QFETCH(const QString, state);
+    LogCapture log;
+    RecordingWrapper wrapper;
+    wrapper.data().configurations() = texts;
+    UnitManagerConnectorStateUpdate update(&wrapper);
+    update.postEvent(readTrigger({units}));
+    QCOMPARE(wrapper.takeTransitions(),
+             QStringList{"UnitManagerConnectorState" + state + " ReadTrigger([0])"});
+    // The texts stay for the next update.
+    QCOMPARE(wrapper.data().configurations(), texts);
+}
+
+void UnitManagerConnectorStateUpdateTest::theEventGoesOnUnchanged_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("state");
+    QTest::newRow("to the idle state") << TestDocument::units() << "Idle";
+    QTest::newRow("to the error state") << TestDocument::broken() << "Error";
+}
+
+void UnitManagerConnectorStateUpdateTest::theEventGoesOnUnchanged()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QString, state);
+    LogCapture log;
+    RecordingWrapper wrapper;
+    wrapper.data().configurations()[units] = text;
+    UnitManagerConnectorStateUpdate update(&wrapper);
+    update.postEvent(StateMachineEvent("any name", QVariant("any data")));
+    QCOMPARE(wrapper.takeTransitions(),
+             QStringList{"UnitManagerConnectorState" + state + " any name(any data)"});
+}
+
+void UnitManagerConnectorStateUpdateTest::theObjectsStandBeforeTheTransition()
+{
+    LogCapture log;
+    RecordingWrapper wrapper;
+    wrapper.data().configurations() =
+        Texts{{units, TestDocument::units()}, {dependencies, TestDocument::dependencies()}};
+    QSharedPointer<UnitManagerDevice> manager;
+    QSharedPointer<DependencyWalker> walker;
+    wrapper.setObserver([&] {
+        wrapper.initializeUnitManager(manager);
+        wrapper.initializeDependencyWalker(walker);
+    });
+    UnitManagerConnectorStateUpdate update(&wrapper);
+    update.postEvent(readTrigger({units, dependencies}));
+    QVERIFY(manager);
+    QVERIFY(manager->isValid());
+    QVERIFY(walker);
+}
+
+QTEST_GUILESS_MAIN(UnitManagerConnectorStateUpdateTest)
+#include "UnitManagerConnectorStateUpdateTest.moc"

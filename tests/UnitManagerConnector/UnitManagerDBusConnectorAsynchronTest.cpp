@@ -1,0 +1,199 @@
+#include "UnitManagerConnector/UnitManagerDBusConnector.h"
+
+#include <QtTest/QtTest>
+
+#include <memory>
+
+#include "ConfigurationService.h"
+#include "LogCapture.h"
+#include "ObservedConnector.h"
+#include "WaitUntil.h"
+
+Q_DECLARE_METATYPE(FakeBusService::Answer)
+
+/// The steps of a connector that reads without blocking.
+class UnitManagerDBusConnectorAsynchronTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void anAsynchronousCallIsOneStep();
+    void anAsynchronousCallDoesNotWait();
+    void asynchronousCallsGoOnAfterAnError();
+    void aReplyWithoutTextEndsInIdleOrError_data();
+    void aReplyWithoutTextEndsInIdleOrError();
+    void initKeepsTheChangeAndSetsTheMode();
+    void aChangeBeforeTheUpdate_data();
+    void aChangeBeforeTheUpdate();
+
+private:
+    bool settle() const;
+
+    std::unique_ptr<ConfigurationService> m_service;
+};
+
+namespace {
+
+const QStringList changedAndInitialized{"changed", "initialized"};
+
+} // namespace
+
+void UnitManagerDBusConnectorAsynchronTest::init()
+{
+    m_service = std::make_unique<ConfigurationService>();
+    QVERIFY(m_service->start());
+}
+
+void UnitManagerDBusConnectorAsynchronTest::cleanup()
+{
+    m_service.reset();
+}
+
+/// Waits until all answers have arrived.
+bool UnitManagerDBusConnectorAsynchronTest::settle() const
+{
+    return ConfigurationService::settle("org.measuringdevice.DeviceManager");
+}
+
+void UnitManagerDBusConnectorAsynchronTest::anAsynchronousCallIsOneStep()
+{
+    LogCapture log;
+    ObservedConnector connector(true, true);
+    QVERIFY(!connector.isUnitManagerInitialized()); // opens
+    QVERIFY(settle());
+    QCOMPARE(m_service->takeCalls(), QStringList());
+    QVERIFY(!connector.isUnitManagerInitialized()); // starts to read
+    QVERIFY(settle());
+    QCOMPARE(m_service->takeCalls().size(), 3);
+    QVERIFY(!connector.isUnitManagerInitialized()); // takes the replies
+    QCOMPARE(connector.takeSignals(), QStringList());
+    QVERIFY(!connector.hasConfigurationChanged());
+    QVERIFY(connector.unitManager().isNull());
+
+    QVERIFY(connector.isUnitManagerInitialized()); // builds
+    QCOMPARE(connector.takeSignals(), changedAndInitialized);
+    QVERIFY(connector.hasConfigurationChanged());
+    QVERIFY(connector.unitManager()->isValid());
+    QVERIFY(connector.isUnitManagerInitialized()); // idles
+    QCOMPARE(connector.takeSignals(), QStringList{"initialized"});
+    QVERIFY(!connector.hasConfigurationChanged());
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitManagerDBusConnectorAsynchronTest::anAsynchronousCallDoesNotWait()
+{
+    m_service->setAnswer(TestSource::defaultUnitName, FakeBusService::never());
+    LogCapture log;
+    ObservedConnector connector(true, true);
+    QElapsedTimer timer;
+    timer.start();
+    for (int call = 0; call < 50; ++call)
+        QVERIFY(!connector.isUnitManagerInitialized());
+    QVERIFY2(timer.elapsed() < 5000, "one reply outstanding must not hold a call until its time is over");
+    QCOMPARE(connector.takeSignals(), QStringList());
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitManagerDBusConnectorAsynchronTest::asynchronousCallsGoOnAfterAnError()
+{
+    m_service->setAnswer(TestSource::unitSwitchName, FakeBusService::withError("org.example.Error"));
+    LogCapture log;
+    ObservedConnector connector(true, true);
+    QVERIFY(!connector.isUnitManagerInitialized()); // opens
+    QVERIFY(!connector.isUnitManagerInitialized()); // starts to read
+    QVERIFY(settle());
+    QVERIFY(!connector.isUnitManagerInitialized()); // sees the failure
+    m_service->setAnswer(TestSource::unitSwitchName, FakeBusService::withValue(TestDocument::units()));
+    QVERIFY(!connector.isUnitManagerInitialized()); // starts over
+    QVERIFY(!connector.isUnitManagerInitialized()); // opens
+    QVERIFY(!connector.isUnitManagerInitialized()); // starts to read
+    QVERIFY(settle());
+    QVERIFY(!connector.isUnitManagerInitialized()); // takes the replies
+    QCOMPARE(connector.takeSignals(), QStringList());
+    QVERIFY(connector.isUnitManagerInitialized());
+    QCOMPARE(connector.takeSignals(), changedAndInitialized);
+    QCOMPARE(m_service->takeCalls().size(), 6);
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitManagerDBusConnectorAsynchronTest::aReplyWithoutTextEndsInIdleOrError_data()
+{
+    QTest::addColumn<FakeBusService::Answer>("answer");
+    QTest::addColumn<bool>("asynchron");
+    QTest::addColumn<bool>("idles");
+    const auto empty = FakeBusService::withValue("");
+    const auto dictionary = FakeBusService::withValue(QVariantMap{{"a", 1}});
+    QTest::newRow("an empty text, asynchronous") << empty << true << true;
+    QTest::newRow("no text, asynchronous") << dictionary << true << true;
+    QTest::newRow("an empty text, blocking") << empty << false << false;
+    QTest::newRow("no text, blocking") << dictionary << false << false;
+}
+
+void UnitManagerDBusConnectorAsynchronTest::aReplyWithoutTextEndsInIdleOrError()
+{
+    QFETCH(const FakeBusService::Answer, answer);
+    QFETCH(const bool, asynchron);
+    QFETCH(const bool, idles);
+    m_service->setAnswer(TestSource::unitSwitchName, answer);
+    LogCapture log;
+    ObservedConnector connector(asynchron);
+    if (asynchron)
+        QVERIFY(waitUntil([&connector] { return connector.isUnitManagerInitialized(); }));
+    else
+        QVERIFY(!connector.isUnitManagerInitialized());
+    QCOMPARE(connector.takeSignals(), idles ? changedAndInitialized : QStringList());
+    QCOMPARE(connector.hasConfigurationChanged(), idles);
+    QVERIFY(connector.unitManager().isNull());
+    QCOMPARE(log.takeTexts().size(), idles ? 0 : 1);
+}
+
+void UnitManagerDBusConnectorAsynchronTest::initKeepsTheChangeAndSetsTheMode()
+{
+    ObservedConnector connector(true, false);
+    QVERIFY(connector.isUnitManagerInitialized());
+    m_service->takeCalls();
+
+    QVERIFY(connector.init(true, "", "", "", "", "", ""));
+    QVERIFY(connector.hasConfigurationChanged());
+    QVERIFY(connector.unitManager());
+    QVERIFY(!connector.isUnitManagerInitialized());
+    QVERIFY(settle());
+    QCOMPARE(m_service->takeCalls(), QStringList());
+    QVERIFY(!connector.isUnitManagerInitialized());
+    QVERIFY(settle());
+    // Only the units are configured now.
+    QCOMPARE(m_service->takeCalls().size(), 1);
+
+    QVERIFY(connector.init(false, "", "", "", "", "", ""));
+    QVERIFY(connector.isUnitManagerInitialized());
+}
+
+void UnitManagerDBusConnectorAsynchronTest::aChangeBeforeTheUpdate_data()
+{
+    QTest::addColumn<bool>("polling");
+    QTest::addColumn<bool>("isTakenUp");
+    QTest::newRow("a delivered signal is forgotten by the update") << false << false;
+    QTest::newRow("a signal that was not polled yet is not") << true << true;
+}
+
+void UnitManagerDBusConnectorAsynchronTest::aChangeBeforeTheUpdate()
+{
+    QFETCH(const bool, polling);
+    QFETCH(const bool, isTakenUp);
+    LogCapture log;
+    ObservedConnector connector(polling, true);
+    for (int step = 0; step < 2; ++step)
+        QVERIFY(!connector.isUnitManagerInitialized());
+    QVERIFY(settle());
+    m_service->takeCalls();
+    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
+    QCoreApplication::processEvents();
+    QVERIFY(!connector.isUnitManagerInitialized()); // takes the replies
+    QVERIFY(connector.isUnitManagerInitialized());  // builds
+    QCOMPARE(connector.isUnitManagerInitialized(), !isTakenUp);
+}
+
+QTEST_GUILESS_MAIN(UnitManagerDBusConnectorAsynchronTest)
+#include "UnitManagerDBusConnectorAsynchronTest.moc"

@@ -1,0 +1,247 @@
+#include <QtTest/QtTest>
+
+#include "Described.h"
+#include "DocumentService.h"
+#include "LogCapture.h"
+#include "PrivateBus.h"
+#include "TestDocuments.h"
+#include "UnitManagerDevice/UnitManagerDevice.h"
+#include "WaitUntil.h"
+#include "WrapperSetup.h"
+
+using namespace WrapperSetup;
+
+/// What a wrapper makes of documents that change while it runs.
+class UnitManagerWrapperChangeTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void changeIsAdopted_data();
+    void changeIsAdopted();
+    void eventLoopIsNeeded_data();
+    void eventLoopIsNeeded();
+    void changeIsTakenUpByTheCheck();
+    void changeIsNotSoughtByTheQuestion();
+    void unitsServeDuringAnAsynchronousRead();
+    void badDocumentReplacesGoodUnits_data();
+    void badDocumentReplacesGoodUnits();
+    void badDocumentWaitsForTheQuestion();
+
+private:
+    std::unique_ptr<PrivateBus> m_bus;
+    std::unique_ptr<DocumentService> m_service;
+};
+
+namespace {
+
+namespace T = TestUnitType;
+
+const QString milliBarAsDefault = QStringLiteral(R"({ "Pressure": { "@type": "Selection",
+                                                                     "@value": "MilliBar" } })");
+
+std::unique_ptr<UnitManagerWrapper> createInFetchedMode()
+{
+    QFETCH(bool, reading);
+    QFETCH(bool, changeSignals);
+    return create(AllNames, Reading(reading), Signals(changeSignals));
+}
+
+bool hasAdopted(UnitManagerWrapper& wrapper)
+{
+    return wrapper.checkInitialized() && wrapper.hasUnitManagerConfigurationChanged();
+}
+
+/// The same, repeated in an event loop. @return false when ten seconds were not enough.
+bool waitForAdoption(UnitManagerWrapper& wrapper)
+{
+    return QTest::qWaitFor([&wrapper] { return hasAdopted(wrapper); }, 10000);
+}
+
+QString defaultUnit(const UnitManagerWrapper& wrapper)
+{
+    return wrapper.getUnitManager()->getDefaultUnit(T::pressure);
+}
+
+/// What the wrapper makes of 1.5 bar.
+QString shown(const UnitManagerWrapper& wrapper)
+{
+    return described(wrapper.getValue(1.5, T::pressure, QStringLiteral("HectoPascal")));
+}
+
+const QString converted = QStringLiteral("double 1500");
+const QString asStored = QStringLiteral("double 1.5");
+
+} // namespace
+
+void UnitManagerWrapperChangeTest::init()
+{
+    m_bus = std::make_unique<PrivateBus>();
+    QVERIFY(m_bus->start());
+    qputenv("DEVICE_BUS", m_bus->address().toLocal8Bit());
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "10000");
+    m_service = std::make_unique<DocumentService>(m_bus->address());
+    QVERIFY(m_service->isRunning());
+}
+
+void UnitManagerWrapperChangeTest::cleanup()
+{
+    m_service.reset();
+    m_bus.reset();
+}
+
+void UnitManagerWrapperChangeTest::changeIsAdopted_data()
+{
+    addModes();
+}
+
+void UnitManagerWrapperChangeTest::changeIsAdopted()
+{
+    const auto wrapper = createInFetchedMode();
+    QVERIFY(waitForAdoption(*wrapper));
+    const auto before = wrapper->getUnitManager();
+    QCOMPARE(before->getDefaultUnit(T::pressure), QStringLiteral("HectoPascal"));
+    LogCapture log;
+
+    m_service->replace(DocumentService::DefaultUnits, milliBarAsDefault);
+    QVERIFY(m_service->announce(DocumentService::DefaultUnits));
+    QVERIFY(waitForAdoption(*wrapper));
+
+    QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
+    QVERIFY(wrapper->checkInitialized());
+    QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
+    QCOMPARE(defaultUnit(*wrapper), QStringLiteral("MilliBar"));
+    QVERIFY(wrapper->getUnitManager() != before);
+    QCOMPARE(before->getDefaultUnit(T::pressure), QStringLiteral("HectoPascal"));
+    QCOMPARE(log.takeTexts(), QStringList("default unit configuration has been changed"));
+}
+
+void UnitManagerWrapperChangeTest::eventLoopIsNeeded_data()
+{
+    QTest::addColumn<int>("names");
+    QTest::addColumn<bool>("changeSignals");
+    QTest::addColumn<bool>("isNeeded");
+
+    const auto add = [](const char* row, Names names, Signals changeSignals, bool isNeeded) {
+        QTest::newRow(row) << int(names) << bool(changeSignals) << isNeeded;
+    };
+    add("no names, delivered", NoNames, Delivered, true);
+    add("no names, called polled", NoNames, Polled, true);
+    add("default units, delivered", DefaultUnitNames, Delivered, true);
+    add("default units, polled", DefaultUnitNames, Polled, false);
+    add("all names, delivered", AllNames, Delivered, true);
+    add("all names, polled", AllNames, Polled, false);
+}
+
+void UnitManagerWrapperChangeTest::eventLoopIsNeeded()
+{
+    QFETCH(int, names);
+    QFETCH(bool, changeSignals);
+    QFETCH(bool, isNeeded);
+    const auto wrapper = create(Names(names), Blocking, Signals(changeSignals));
+    QVERIFY(hasAdopted(*wrapper));
+
+    m_service->replace(DocumentService::Units, TestDocuments::voltage());
+    QVERIFY(m_service->announce(DocumentService::Units));
+    QCOMPARE(hasAdopted(*wrapper), !isNeeded);
+    QVERIFY(!isNeeded || waitForAdoption(*wrapper));
+    QCOMPARE(wrapper->getUnitManager()->getListofUnitTypes(), QStringList{T::voltage});
+}
+
+void UnitManagerWrapperChangeTest::changeIsTakenUpByTheCheck()
+{
+    const auto wrapper = create(AllNames, Blocking, Delivered);
+    QVERIFY(hasAdopted(*wrapper));
+    m_service->replace(DocumentService::DefaultUnits, milliBarAsDefault);
+    QVERIFY(m_service->announce(DocumentService::DefaultUnits));
+
+    QTRY_VERIFY(wrapper->checkInitialized() && defaultUnit(*wrapper) == QLatin1String("MilliBar"));
+    const auto units = wrapper->getUnitManager();
+    QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
+    QCOMPARE(wrapper->getUnitManager(), units);
+}
+
+void UnitManagerWrapperChangeTest::changeIsNotSoughtByTheQuestion()
+{
+    const auto wrapper = create(AllNames, Blocking, Polled);
+    QVERIFY(hasAdopted(*wrapper));
+    const QStringList requests = m_service->requests();
+    m_service->replace(DocumentService::DefaultUnits, milliBarAsDefault);
+    QVERIFY(m_service->announce(DocumentService::DefaultUnits));
+
+    for (int call = 0; call < 10; ++call)
+        QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
+    QCOMPARE(m_service->requests(), requests);
+    QVERIFY(hasAdopted(*wrapper));
+}
+
+void UnitManagerWrapperChangeTest::unitsServeDuringAnAsynchronousRead()
+{
+    const auto wrapper = create(AllNames, Asynchronous, Polled);
+    QVERIFY(waitUntil([&] { return hasAdopted(*wrapper); }));
+    m_service->replace(DocumentService::Units, TestDocuments::voltage());
+    QVERIFY(m_service->announce(DocumentService::Units));
+
+    QVERIFY(!wrapper->checkInitialized());
+    QVERIFY(*wrapper);
+    QCOMPARE(shown(*wrapper), converted);
+    QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
+
+    QVERIFY(waitUntil([&] { return hasAdopted(*wrapper); }));
+    QCOMPARE(wrapper->getUnitManager()->getListofUnitTypes(), QStringList{T::voltage});
+}
+
+void UnitManagerWrapperChangeTest::badDocumentReplacesGoodUnits_data()
+{
+    addModes();
+}
+
+void UnitManagerWrapperChangeTest::badDocumentReplacesGoodUnits()
+{
+    const auto wrapper = createInFetchedMode();
+    QVERIFY(waitForAdoption(*wrapper));
+    const auto good = wrapper->getUnitManager();
+    LogCapture log;
+
+    m_service->replace(DocumentService::Units, QStringLiteral("{"));
+    QVERIFY(m_service->announce(DocumentService::Units));
+    QVERIFY(QTest::qWaitFor(
+        [&] { return !wrapper->checkInitialized() && wrapper->hasUnitManagerConfigurationChanged(); },
+        10000));
+    QVERIFY(!*wrapper);
+    QVERIFY(wrapper->getUnitManager());
+    QVERIFY(!wrapper->getUnitManager()->isValid());
+    QCOMPARE(shown(*wrapper), asStored);
+    QVERIFY(good->isValid());
+    const QStringList messages = describedMessages(log);
+    QVERIFY(messages.contains(Expected::invalidUnitDocument("{")));
+    QCOMPARE(messages.filter("UnitManagerWrapper"), QStringList());
+
+    m_service->replace(DocumentService::Units, TestDocuments::units());
+    QVERIFY(waitForUnits(*wrapper));
+    QVERIFY(*wrapper);
+    QCOMPARE(shown(*wrapper), converted);
+    QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
+}
+
+void UnitManagerWrapperChangeTest::badDocumentWaitsForTheQuestion()
+{
+    const auto wrapper = create(AllNames, Blocking, Polled);
+    QVERIFY(hasAdopted(*wrapper));
+    m_service->replace(DocumentService::Units, QStringLiteral("{"));
+    QVERIFY(m_service->announce(DocumentService::Units));
+    const LogCapture quiet;
+
+    QVERIFY(!wrapper->checkInitialized());
+    QVERIFY(*wrapper);
+    QCOMPARE(shown(*wrapper), converted);
+    QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
+    QVERIFY(!*wrapper);
+    QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
+}
+
+QTEST_GUILESS_MAIN(UnitManagerWrapperChangeTest)
+
+#include "UnitManagerWrapperChangeTest.moc"

@@ -1,0 +1,357 @@
+#include "UnitManagerDevice/UnitManagerWrapper.h"
+
+#include <QtTest/QtTest>
+
+#include <cstring>
+#include <type_traits>
+
+#include "DependencyWalker.h"
+#include "Described.h"
+#include "DocumentService.h"
+#include "LogCapture.h"
+#include "MessageText.h"
+#include "PrivateBus.h"
+#include "TestDocuments.h"
+#include "UnitManagerDevice/UnitManagerDevice.h"
+#include "VirtualSlot.h"
+#include "WrapperSetup.h"
+
+static_assert(!std::is_base_of_v<QObject, UnitManagerWrapper>);
+static_assert(std::has_virtual_destructor_v<UnitManagerWrapper>);
+static_assert(!std::is_default_constructible_v<UnitManagerWrapper>);
+static_assert(!std::is_copy_constructible_v<UnitManagerWrapper> &&
+              !std::is_copy_assignable_v<UnitManagerWrapper>);
+static_assert(std::is_convertible_v<UnitManagerWrapper, bool>);
+static_assert(sizeof(UnitManagerWrapper) == sizeof(void*) + sizeof(UnitManagerDBusConnector) +
+                                                sizeof(QSharedPointer<DependencyWalker>) +
+                                                sizeof(QSharedPointer<UnitManagerDevice>),
+              "connector by value, walker, manager");
+
+using namespace WrapperSetup;
+
+/// Building, the first configuration, init() and reset(). What becomes of changes has a test of its own.
+class UnitManagerWrapperTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void initHasTheThirdSlot();
+    void unitManagerIsReleasedFirst();
+    void newWrapperHasNoUnits();
+    void constructionReads_data();
+    void constructionReads();
+    void firstConfigurationIsAdopted_data();
+    void firstConfigurationIsAdopted();
+    void withoutServiceThereAreNoUnits_data();
+    void withoutServiceThereAreNoUnits();
+    void idleWithoutUnitManagerIsWarnedOf_data();
+    void idleWithoutUnitManagerIsWarnedOf();
+    void initDropsWhatWasBuilt_data();
+    void initDropsWhatWasBuilt();
+    void initKeepsANotedChange();
+    void initTakesNewSettings();
+    void resetKeepsWhatWasBuilt_data();
+    void resetKeepsWhatWasBuilt();
+    void resetForgetsANotedChange();
+
+private:
+    std::unique_ptr<PrivateBus> m_bus;
+    std::unique_ptr<DocumentService> m_service;
+};
+
+namespace {
+
+namespace T = TestUnitType;
+
+std::unique_ptr<UnitManagerWrapper> createInFetchedMode(Names names)
+{
+    QFETCH(bool, reading);
+    QFETCH(bool, changeSignals);
+    return create(names, Reading(reading), Signals(changeSignals));
+}
+
+/// What the wrapper makes of 1.5 bar.
+QString shown(const UnitManagerWrapper& wrapper)
+{
+    return described(wrapper.getValue(1.5, T::pressure, QStringLiteral("HectoPascal")));
+}
+
+const QString converted = QStringLiteral("double 1500");
+const QString asStored = QStringLiteral("double 1.5");
+
+QString wrapperWarning(const char* function, const char* text)
+{
+    return warningText("UnitManagerDevice/UnitManagerWrapper", anyLine, function, text);
+}
+
+} // namespace
+
+void UnitManagerWrapperTest::init()
+{
+    m_bus = std::make_unique<PrivateBus>();
+    QVERIFY(m_bus->start());
+    qputenv("DEVICE_BUS", m_bus->address().toLocal8Bit());
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "10000");
+    m_service = std::make_unique<DocumentService>(m_bus->address());
+    QVERIFY(m_service->isRunning());
+}
+
+void UnitManagerWrapperTest::cleanup()
+{
+    m_service.reset();
+    m_bus.reset();
+}
+
+void UnitManagerWrapperTest::initHasTheThirdSlot()
+{
+    QCOMPARE(virtualSlot(&UnitManagerWrapper::init), std::size_t(2));
+}
+
+void UnitManagerWrapperTest::unitManagerIsReleasedFirst()
+{
+    const auto wrapper = create(AllNames, Blocking, Delivered);
+    // Members are destroyed from the last to the first, and the last one is the unit manager.
+    using Pointer = QSharedPointer<UnitManagerDevice>;
+    const auto* const end = reinterpret_cast<const char*>(wrapper.get() + 1);
+    const UnitManagerDevice* last = nullptr;
+    std::memcpy(&last, end - sizeof(Pointer), sizeof(last));
+    QVERIFY(last != nullptr);
+    QCOMPARE(last, static_cast<const UnitManagerDevice*>(wrapper->getUnitManager().data()));
+}
+
+void UnitManagerWrapperTest::newWrapperHasNoUnits()
+{
+    LogCapture log;
+    const auto wrapper = createUnused();
+
+    const bool usable = *wrapper;
+    QVERIFY(!usable);
+    QVERIFY(!wrapper->getUnitManager());
+    QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
+    QCOMPARE(shown(*wrapper), asStored);
+    QCOMPARE(describedMessages(log), QStringList());
+}
+
+void UnitManagerWrapperTest::constructionReads_data()
+{
+    QTest::addColumn<int>("names");
+    QTest::addColumn<bool>("reading");
+    QTest::addColumn<bool>("changeSignals");
+    QTest::addColumn<QStringList>("requests");
+
+    using Service = DocumentService;
+    const QStringList nothing;
+    const QStringList units = Service::readsOf({Service::Units});
+    const QStringList two = Service::readsOf({Service::Units, Service::DefaultUnits});
+    const QStringList three =
+        Service::readsOf({Service::Units, Service::DefaultUnits, Service::Dependencies});
+
+    const auto add = [](const char* row, Names names, Reading reading, Signals changeSignals,
+                        const QStringList& requests) {
+        QTest::newRow(row) << int(names) << bool(reading) << bool(changeSignals) << requests;
+    };
+    add("no names, blocking, delivered", NoNames, Blocking, Delivered, units);
+    add("default units, blocking, delivered", DefaultUnitNames, Blocking, Delivered, two);
+    add("all names, blocking, delivered", AllNames, Blocking, Delivered, three);
+    // One attempt is one step here, in which the sources are opened.
+    add("no names, asynchronous, delivered", NoNames, Asynchronous, Delivered, nothing);
+    add("default units, asynchronous, delivered", DefaultUnitNames, Asynchronous, Delivered, nothing);
+    add("all names, asynchronous, delivered", AllNames, Asynchronous, Delivered, nothing);
+    add("no names, blocking, polled", NoNames, Blocking, Polled, nothing);
+    add("default units, blocking, polled", DefaultUnitNames, Blocking, Polled, nothing);
+    add("all names, blocking, polled", AllNames, Blocking, Polled, nothing);
+    add("no names, asynchronous, polled", NoNames, Asynchronous, Polled, nothing);
+    add("default units, asynchronous, polled", DefaultUnitNames, Asynchronous, Polled, nothing);
+    add("all names, asynchronous, polled", AllNames, Asynchronous, Polled, nothing);
+}
+
+void UnitManagerWrapperTest::constructionReads()
+{
+    QFETCH(int, names);
+    QFETCH(QStringList, requests);
+    const auto wrapper = createInFetchedMode(Names(names));
+
+    QCOMPARE(m_service->requests(), requests);
+    QCOMPARE(bool(*wrapper), !requests.isEmpty());
+    QCOMPARE(shown(*wrapper), requests.isEmpty() ? asStored : converted);
+}
+
+void UnitManagerWrapperTest::firstConfigurationIsAdopted_data()
+{
+    addModes();
+}
+
+void UnitManagerWrapperTest::firstConfigurationIsAdopted()
+{
+    LogCapture log;
+    for (const Names names : {NoNames, DefaultUnitNames, AllNames}) {
+        const auto wrapper = createInFetchedMode(names);
+
+        QVERIFY(waitForUnits(*wrapper));
+        QVERIFY(*wrapper);
+        QCOMPARE(shown(*wrapper), converted);
+        QVERIFY(wrapper->getUnitManager()->isValid());
+        QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
+        QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
+        QVERIFY(wrapper->checkInitialized());
+        QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
+        QCOMPARE(describedMessages(log), QStringList());
+        QCOMPARE(wrapper->getUnitManager()->getDefaultUnit(T::pressure),
+                 names == NoNames ? QString() : QStringLiteral("HectoPascal"));
+        log.take();
+    }
+}
+
+void UnitManagerWrapperTest::withoutServiceThereAreNoUnits_data()
+{
+    addModes();
+}
+
+void UnitManagerWrapperTest::withoutServiceThereAreNoUnits()
+{
+    QFETCH(bool, reading);
+    m_service.reset();
+    LogCapture log;
+    const auto wrapper = createInFetchedMode(AllNames);
+    log.take();
+
+    QVERIFY(!wrapper->checkInitialized());
+    QCOMPARE(log.take().size(), Reading(reading) == Blocking ? 100 : 1);
+    QVERIFY(!*wrapper);
+    QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
+
+    m_service = std::make_unique<DocumentService>(m_bus->address());
+    QVERIFY(m_service->isRunning());
+    QVERIFY(waitForUnits(*wrapper));
+    QCOMPARE(shown(*wrapper), converted);
+}
+
+void UnitManagerWrapperTest::idleWithoutUnitManagerIsWarnedOf_data()
+{
+    QTest::addColumn<QVariant>("answer");
+    QTest::newRow("an empty text") << QVariant(QString());
+    QTest::newRow("no text") << QVariant(QVariantList{1, 2});
+}
+
+void UnitManagerWrapperTest::idleWithoutUnitManagerIsWarnedOf()
+{
+    QFETCH(QVariant, answer);
+    m_service->replace(DocumentService::Units, answer);
+    const auto wrapper = create(NoNames, Asynchronous, Delivered);
+    LogCapture log;
+    const QString notInitialized =
+        wrapperWarning("bool UnitManagerWrapper::checkInitialized()", "Unable to initialize UnitManager");
+
+    QVERIFY(waitForUnits(*wrapper));
+    QCOMPARE(describedMessages(log), QStringList{notInitialized});
+    QVERIFY(!*wrapper);
+    QVERIFY(!wrapper->getUnitManager());
+    QCOMPARE(shown(*wrapper), asStored);
+    QVERIFY(wrapper->checkInitialized());
+    QCOMPARE(describedMessages(log), QStringList{notInitialized});
+
+    QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
+    QCOMPARE(describedMessages(log),
+             QStringList{wrapperWarning("bool UnitManagerWrapper::hasUnitManagerConfigurationChanged()",
+                                        "Unable to change configuration of UnitManager")});
+    QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
+    QCOMPARE(describedMessages(log), QStringList());
+}
+
+void UnitManagerWrapperTest::initDropsWhatWasBuilt_data()
+{
+    addModes();
+}
+
+void UnitManagerWrapperTest::initDropsWhatWasBuilt()
+{
+    QFETCH(bool, reading);
+    const auto wrapper = createInFetchedMode(AllNames);
+    QVERIFY(waitForUnits(*wrapper));
+    QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
+    const QStringList requests = m_service->requests();
+    LogCapture log;
+
+    QVERIFY(WrapperSetup::init(*wrapper, Reading(reading)));
+    QVERIFY(!*wrapper);
+    QVERIFY(!wrapper->getUnitManager());
+    QCOMPARE(shown(*wrapper), asStored);
+    QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
+    QVERIFY(!*wrapper);
+    QCOMPARE(m_service->requests(), requests);
+    QCOMPARE(describedMessages(log), QStringList());
+
+    QVERIFY(waitForUnits(*wrapper));
+    QCOMPARE(shown(*wrapper), converted);
+    QCOMPARE(m_service->requests().size(), 2 * requests.size());
+    QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
+}
+
+void UnitManagerWrapperTest::initKeepsANotedChange()
+{
+    const auto wrapper = create(AllNames, Blocking, Delivered);
+    const auto units = wrapper->getUnitManager();
+    QVERIFY(units);
+
+    QVERIFY(WrapperSetup::init(*wrapper, Blocking));
+    QVERIFY(!*wrapper);
+    QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
+    QCOMPARE(wrapper->getUnitManager(), units);
+    QCOMPARE(shown(*wrapper), converted);
+}
+
+void UnitManagerWrapperTest::initTakesNewSettings()
+{
+    const auto wrapper = create(NoNames, Blocking, Delivered);
+    QCOMPARE(m_service->requests(), DocumentService::readsOf({DocumentService::Units}));
+
+    QVERIFY(WrapperSetup::init(*wrapper, Asynchronous));
+    QVERIFY2(!wrapper->checkInitialized(), "one step does not reach a configuration");
+    QVERIFY(waitForUnits(*wrapper));
+    QCOMPARE(wrapper->getUnitManager()->getDefaultUnit(T::pressure), QStringLiteral("HectoPascal"));
+
+    QVERIFY(initWithoutNames(*wrapper, Blocking));
+    QVERIFY2(wrapper->checkInitialized(), "a blocking attempt reaches it at once");
+    QVERIFY(*wrapper);
+}
+
+void UnitManagerWrapperTest::resetKeepsWhatWasBuilt_data()
+{
+    addModes();
+}
+
+void UnitManagerWrapperTest::resetKeepsWhatWasBuilt()
+{
+    const auto wrapper = createInFetchedMode(AllNames);
+    QVERIFY(waitForUnits(*wrapper));
+    const auto units = wrapper->getUnitManager();
+    const QStringList requests = m_service->requests();
+    LogCapture log;
+
+    QVERIFY(wrapper->reset());
+    QVERIFY(*wrapper);
+    QCOMPARE(wrapper->getUnitManager(), units);
+    QCOMPARE(shown(*wrapper), converted);
+    QCOMPARE(m_service->requests(), requests);
+    QCOMPARE(describedMessages(log), QStringList());
+
+    QVERIFY(waitForUnits(*wrapper));
+    QCOMPARE(m_service->requests().size(), 2 * requests.size());
+    QVERIFY(wrapper->getUnitManager() != units);
+    QVERIFY(units->isValid());
+    QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
+}
+
+void UnitManagerWrapperTest::resetForgetsANotedChange()
+{
+    const auto wrapper = create(AllNames, Blocking, Delivered);
+    QVERIFY(*wrapper);
+    QVERIFY(wrapper->reset());
+    QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
+}
+
+QTEST_GUILESS_MAIN(UnitManagerWrapperTest)
+
+#include "UnitManagerWrapperTest.moc"

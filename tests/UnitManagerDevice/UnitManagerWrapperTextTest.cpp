@@ -1,0 +1,191 @@
+#include <QtTest/QtTest>
+
+#include "Array2dDataTypeWrapper.h"
+#include "Described.h"
+#include "DocumentService.h"
+#include "LogCapture.h"
+#include "PrivateBus.h"
+#include "RecordingValueNode.h"
+#include "TestDocuments.h"
+#include "UnitManagerDevice/UnitManagerDevice.h"
+#include "WrapperSetup.h"
+
+/// Labels and what else is known of units, each with units and as long as there are none.
+class UnitManagerWrapperTextTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void textOfNode_data();
+    void textOfNode();
+    void textOfUnitType_data();
+    void textOfUnitType();
+    void textOfColumn_data();
+    void textOfColumn();
+    void textMapAndBaseUnit_data();
+    void textMapAndBaseUnit();
+    void unitManagerIsTheOneInUse();
+
+private:
+    PrivateBus m_bus;
+    std::unique_ptr<DocumentService> m_service;
+    std::unique_ptr<UnitManagerWrapper> m_units;
+    std::unique_ptr<UnitManagerWrapper> m_noUnits;
+};
+
+namespace {
+
+namespace T = TestUnitType;
+
+} // namespace
+
+void UnitManagerWrapperTextTest::initTestCase()
+{
+    using namespace WrapperSetup;
+    QVERIFY(m_bus.start());
+    qputenv("DEVICE_BUS", m_bus.address().toLocal8Bit());
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "10000");
+    m_service = std::make_unique<DocumentService>(m_bus.address());
+    QVERIFY(m_service->isRunning());
+    m_units = create(AllNames, Blocking, Delivered);
+    QVERIFY(*m_units);
+    m_noUnits = createUnused();
+    QVERIFY(!*m_noUnits);
+}
+
+void UnitManagerWrapperTextTest::textOfNode_data()
+{
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("default unit") << T::pressure << "de"
+                                  << "Hektopascal";
+    QTest::newRow("another language") << T::pressure << "en"
+                                      << "hPa";
+    QTest::newRow("fixed unit") << T::pressure + "/Bar"
+                                << "de"
+                                << "Bar";
+    QTest::newRow("no unit type") << ""
+                                  << "de"
+                                  << "";
+}
+
+void UnitManagerWrapperTextTest::textOfNode()
+{
+    QFETCH(QString, unitType);
+    QFETCH(QString, language);
+    const BaseClassSharedPointer null;
+    const QVariant property = unitType.isEmpty() ? QVariant() : QVariant(unitType);
+    const auto node = RecordingValueNode::parentOf(RecordingValueNode::number(1.5, property));
+    const LogCapture quiet;
+
+    QTEST(m_units->getUnitText("Value", node, language), "text");
+    QCOMPARE(m_noUnits->getUnitText("Value", node, language), QString());
+    QCOMPARE(m_units->getUnitText("Other", node, language), QString());
+    QCOMPARE(m_units->getUnitText("Value", null, language), QString());
+}
+
+void UnitManagerWrapperTextTest::textOfUnitType_data()
+{
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    QTest::newRow("default unit") << T::pressure << "de"
+                                  << "Hektopascal" << none;
+    QTest::newRow("another language") << T::pressure << "en"
+                                      << "hPa" << none;
+    QTest::newRow("fixed unit") << T::pressure + "/Bar"
+                                << "de"
+                                << "Bar" << none;
+    QTest::newRow("no unit") << T::noUnit << "de"
+                             << "" << none;
+    QTest::newRow("unknown fixed unit") << T::pressure + "/Nope"
+                                        << "de"
+                                        << "" << QStringList{Expected::unknownTextUnit("Nope", T::pressure)};
+    QTest::newRow("fixed unit of an unknown type")
+        << T::unknown + "/Bar"
+        << "de"
+        << "" << QStringList{Expected::unknownTextType(T::unknown)};
+    QTest::newRow("unknown unit type")
+        << T::unknown << "de"
+        << "" << QStringList{Expected::noDefaultUnit(T::unknown), Expected::unknownTextType(T::unknown)};
+    QTest::newRow("fixed unit with empty last part") << T::pressure + "/"
+                                                     << "de"
+                                                     << "Hektopascal" << none;
+}
+
+void UnitManagerWrapperTextTest::textOfUnitType()
+{
+    QFETCH(QString, unitType);
+    QFETCH(QString, language);
+    LogCapture log;
+
+    QTEST(m_units->getUnitText(unitType, language), "text");
+    QTEST(describedMessages(log), "messages");
+    QCOMPARE(m_noUnits->getUnitText(unitType, language), QString());
+    QCOMPARE(describedMessages(log), QStringList());
+}
+
+void UnitManagerWrapperTextTest::textOfColumn_data()
+{
+    QTest::addColumn<unsigned int>("column");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("default unit") << 0U << "Hektopascal";
+    QTest::newRow("no unit type") << 1U << "";
+    QTest::newRow("fixed unit") << 2U << "Bar";
+    QTest::newRow("beyond the columns") << 3U << "";
+}
+
+void UnitManagerWrapperTextTest::textOfColumn()
+{
+    QFETCH(unsigned int, column);
+    const Array2dDataTypeWrapper array({QVariant(QVariantList{1.5, 2.5, 3.5})},
+                                       {T::pressure, QString(), T::pressure + "/Bar"});
+    const LogCapture quiet;
+
+    QTEST(m_units->getUnitTextArray(array, column, "de"), "text");
+    QCOMPARE(m_noUnits->getUnitTextArray(array, column, "de"), QString());
+}
+
+void UnitManagerWrapperTextTest::textMapAndBaseUnit_data()
+{
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QVariant>("map");
+    QTest::addColumn<QString>("baseUnit");
+    QTest::newRow("unit type") << T::pressure << QVariant(QVariantMap{{"en", "bar"}, {"de", "Bar"}})
+                               << T::pressure + "/Bar";
+    QTest::newRow("fixed unit") << T::pressure + "/MilliBar" << QVariant(QVariantMap{{"en", "mbar"}}) << "";
+    QTest::newRow("unknown unit type") << T::unknown << QVariant() << "";
+}
+
+void UnitManagerWrapperTextTest::textMapAndBaseUnit()
+{
+    QFETCH(QString, unitType);
+    const LogCapture quiet;
+
+    QTEST(m_units->getUnitTextJsonMap(unitType), "map");
+    QTEST(m_units->getBaseUnit(unitType), "baseUnit");
+    QCOMPARE(described(m_noUnits->getUnitTextJsonMap(unitType)), QStringLiteral("QString "));
+    QVERIFY2(!m_noUnits->getUnitTextJsonMap(unitType).isNull(), "an empty text, not a null one");
+    QCOMPARE(m_noUnits->getBaseUnit(unitType), QString());
+}
+
+void UnitManagerWrapperTextTest::unitManagerIsTheOneInUse()
+{
+    const QSharedPointer<UnitManagerDevice> units = m_units->getUnitManager();
+    unsigned int places = 77;
+
+    QVERIFY(units->isValid());
+    QCOMPARE(m_units->getUnitManager(), units);
+    QVERIFY(units->getDecimalPlacesForUnit(T::pressure, QString(), places));
+    QCOMPARE(places, 1U);
+    QVERIFY(!m_noUnits->getUnitManager());
+}
+
+QTEST_GUILESS_MAIN(UnitManagerWrapperTextTest)
+
+#include "UnitManagerWrapperTextTest.moc"

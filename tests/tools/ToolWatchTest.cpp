@@ -1,0 +1,307 @@
+#include <QtTest/QtTest>
+
+#include <csignal>
+#include <unistd.h>
+
+#include "ChildProcess.h"
+#include "PrivateBus.h"
+#include "ServedDirectory.h"
+#include "TestFiles.h"
+#include "ToolProcess.h"
+
+/// The verb that follows the configuration service: what it prints, and how it ends.
+class ToolWatchTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void followsTheService_data();
+    void followsTheService();
+    void waitsForTheService();
+    void outlivesTheService();
+    void waitsWithoutBus();
+    void endsWhenAsked_data();
+    void endsWhenAsked();
+    void showsLibraryMessagesWhenVerbose();
+    void isIdleBetweenChanges();
+    void reportsAFullDisk();
+    void rejectsWrongUsage_data();
+    void rejectsWrongUsage();
+};
+
+namespace {
+
+const int waitLimit = 10000;
+const QByteArray threeUnits = R"({
+    "Pressure": { "Bar": { "@displayPosition": 0, "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]] },
+                  "Pascal": { "@displayPosition": 1, "Polynomial": [[0], [1e5]],
+                              "InversePolynomial": [[0], [1e-5]] } },
+    "Voltage": { "Volt": { "@displayPosition": 0, "UnitLabel": "V",
+                           "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]] } }
+})";
+/// What a served TestFiles::units() makes the tool print.
+const QByteArray oneUnit = "ready\nadopted; unit types: 1, units: 1\n";
+
+/// The tool at work. It ends with this object.
+class Watcher
+{
+public:
+    explicit Watcher(const QStringList& options)
+        : m_arguments(QStringList("watch") + options), m_environment(ToolProcess::plainEnvironment())
+    {
+        m_environment.remove("DEVICE_BUS");
+    }
+
+    void setVariable(const QString& name, const QString& value)
+    {
+        m_environment.insert(name, value);
+    }
+    void writeTo(const QString& file)
+    {
+        m_process.setStandardOutputFile(file);
+    }
+    bool start()
+    {
+        m_process.setProcessEnvironment(m_environment);
+        m_process.start(ToolProcess::path(), m_arguments);
+        return m_process.waitForStarted(waitLimit);
+    }
+    /// Whether the tool prints this, and nothing else, after what was printed before.
+    bool prints(const QByteArray& text)
+    {
+        const bool isText =
+            QTest::qWaitFor([&] { return news().size() >= text.size(); }, waitLimit) && news() == text;
+        if (!isText)
+            qWarning() << "printed" << news() << "instead of" << text;
+        m_known = m_output.size();
+        return isText;
+    }
+    /// Whether the tool prints this on standard error, among other things.
+    bool complains(const QByteArray& text)
+    {
+        return QTest::qWaitFor([&] { return errors().contains(text); }, waitLimit);
+    }
+    /// Everything on standard error so far.
+    QByteArray errors()
+    {
+        m_errors += m_process.readAllStandardError();
+        return m_errors;
+    }
+    bool isRunning() const
+    {
+        return m_process.state() == QProcess::Running;
+    }
+    qint64 processId() const
+    {
+        return m_process.processId();
+    }
+    /// Sends a signal and waits for the end. @return the exit code; -1 for another end
+    int end(int signal)
+    {
+        ::kill(static_cast<pid_t>(m_process.processId()), signal);
+        return waitForEnd();
+    }
+    int waitForEnd()
+    {
+        const bool hasEnded = !isRunning() || m_process.waitForFinished(waitLimit);
+        return hasEnded && m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+    }
+
+private:
+    QByteArray news()
+    {
+        m_output += m_process.readAllStandardOutput();
+        return m_output.mid(m_known);
+    }
+
+    const QStringList m_arguments;
+    QProcessEnvironment m_environment;
+    ChildProcess m_process;
+    QByteArray m_output;
+    QByteArray m_errors;
+    int m_known = 0;
+};
+
+/// The processor time that a process has used, in clock ticks; -1 when that is not known.
+qint64 processorTime(qint64 processId)
+{
+    QFile file(QStringLiteral("/proc/%1/stat").arg(processId));
+    if (!file.open(QIODevice::ReadOnly))
+        return -1;
+    // The name of the program, in parentheses, is the second field; the times are the 14th and 15th.
+    const QList<QByteArray> fields = file.readAll().split(')').last().simplified().split(' ');
+    return fields.value(11).toLongLong() + fields.value(12).toLongLong();
+}
+
+} // namespace
+
+void ToolWatchTest::followsTheService_data()
+{
+    QTest::addColumn<bool>("isOption");
+    QTest::newRow("bus by option") << true;
+    QTest::newRow("bus by variable") << false;
+}
+
+void ToolWatchTest::followsTheService()
+{
+    QFETCH(bool, isOption);
+    ServedDirectory served;
+    QVERIFY(served.start());
+    Watcher watcher(isOption ? QStringList{"--bus", served.bus().address()} : QStringList());
+    watcher.setVariable("DEVICE_BUS", isOption ? "unix:path=/nowhere" : served.bus().address());
+    QVERIFY(watcher.start());
+    QVERIFY(watcher.prints("waiting\n" + oneUnit));
+
+    QVERIFY(TestFiles::replace(served.path("default-units.json"), TestFiles::defaultUnits("second")));
+    QVERIFY(watcher.prints("waiting\n" + oneUnit));
+
+    QVERIFY(TestFiles::replace(served.path("dependencies.json"), TestFiles::dependencies("second")));
+    QVERIFY(watcher.prints("waiting\n" + oneUnit));
+
+    QVERIFY(TestFiles::replace(served.path("units.json"), threeUnits));
+    QVERIFY(watcher.prints("waiting\nready\nadopted; unit types: 2, units: 3\n"));
+
+    QCOMPARE(watcher.end(SIGTERM), 0);
+    QVERIFY(watcher.prints(""));
+    QCOMPARE(watcher.errors(), QByteArray());
+}
+
+void ToolWatchTest::waitsForTheService()
+{
+    ServedDirectory served;
+    QVERIFY(served.bus().start());
+    Watcher watcher({"--bus", served.bus().address()});
+    QVERIFY(watcher.start());
+    QVERIFY(watcher.prints("waiting\n"));
+
+    QVERIFY(served.start());
+    QVERIFY(watcher.prints(oneUnit));
+    QCOMPARE(watcher.end(SIGTERM), 0);
+}
+
+void ToolWatchTest::outlivesTheService()
+{
+    ServedDirectory served;
+    QVERIFY(served.start());
+    Watcher watcher({"--bus", served.bus().address()});
+    QVERIFY(watcher.start());
+    QVERIFY(watcher.prints("waiting\n" + oneUnit));
+
+    QVERIFY(served.service().send(SIGKILL));
+    QCOMPARE(served.service().waitForEnd(), -1);
+    ServiceProcess successor;
+    QVERIFY(successor.serve(served.directory(), served.bus().address()));
+    QVERIFY(TestFiles::replace(served.path("default-units.json"), TestFiles::defaultUnits("second")));
+    QVERIFY(watcher.prints("waiting\n" + oneUnit));
+
+    QVERIFY(successor.send(SIGTERM));
+    QCOMPARE(successor.waitForEnd(), 0);
+    QVERIFY(watcher.isRunning());
+    QCOMPARE(watcher.end(SIGTERM), 0);
+    QVERIFY(watcher.prints(""));
+    QCOMPARE(watcher.errors(), QByteArray());
+}
+
+void ToolWatchTest::waitsWithoutBus()
+{
+    ServedDirectory served;
+    Watcher watcher({"--bus", served.bus().address()});
+    QVERIFY(watcher.start());
+    QVERIFY(watcher.prints("waiting\n"));
+    QVERIFY(served.start());
+    QVERIFY(watcher.prints(oneUnit));
+    QCOMPARE(watcher.end(SIGTERM), 0);
+}
+
+void ToolWatchTest::endsWhenAsked_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<bool>("isServed");
+    QTest::newRow("SIGINT, ready") << SIGINT << true;
+    QTest::newRow("SIGTERM, ready") << SIGTERM << true;
+    QTest::newRow("SIGINT, waiting") << SIGINT << false;
+    QTest::newRow("SIGTERM, waiting") << SIGTERM << false;
+}
+
+void ToolWatchTest::endsWhenAsked()
+{
+    QFETCH(int, signal);
+    QFETCH(bool, isServed);
+    ServedDirectory served;
+    QVERIFY(isServed ? served.start() : served.bus().start());
+    Watcher watcher({"--bus", served.bus().address()});
+    QVERIFY(watcher.start());
+    QVERIFY(watcher.prints(isServed ? "waiting\n" + oneUnit : QByteArray("waiting\n")));
+
+    QCOMPARE(watcher.end(signal), 0);
+    QVERIFY(watcher.prints(""));
+    QCOMPARE(watcher.errors(), QByteArray());
+}
+
+void ToolWatchTest::showsLibraryMessagesWhenVerbose()
+{
+    PrivateBus bus;
+    QVERIFY(bus.start());
+    Watcher watcher({"--bus", bus.address(), "--verbose"});
+    QVERIFY(watcher.start());
+    QVERIFY(watcher.prints("waiting\n"));
+    QVERIFY(watcher.complains(
+        "unitmanager: Unable to connect to mandantory file type \"UnitManager/UnitType\"\n"));
+    QCOMPARE(watcher.end(SIGTERM), 0);
+}
+
+void ToolWatchTest::isIdleBetweenChanges()
+{
+    ServedDirectory served;
+    QVERIFY(served.start());
+    Watcher watcher({"--bus", served.bus().address()});
+    QVERIFY(watcher.start());
+    QVERIFY(watcher.prints("waiting\n" + oneUnit));
+
+    const qint64 before = processorTime(watcher.processId());
+    QVERIFY(before >= 0);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QVERIFY(QTest::qWaitFor([&elapsed] { return elapsed.hasExpired(1000); }, waitLimit));
+    const qint64 used = processorTime(watcher.processId()) - before;
+    const qint64 ticksPerSecond = ::sysconf(_SC_CLK_TCK);
+    QVERIFY2(used < ticksPerSecond / 4, qPrintable(QString::number(used)));
+    QCOMPARE(watcher.end(SIGTERM), 0);
+}
+
+void ToolWatchTest::reportsAFullDisk()
+{
+    PrivateBus bus;
+    QVERIFY(bus.start());
+    Watcher watcher({"--bus", bus.address()});
+    watcher.writeTo("/dev/full");
+    QVERIFY(watcher.start());
+    QCOMPARE(watcher.waitForEnd(), 1);
+    QCOMPARE(watcher.errors(), QByteArray("unitmanager: cannot write: No space left on device\n"));
+}
+
+void ToolWatchTest::rejectsWrongUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("message");
+    const QByteArray noBus = " is no bus: session, system or a D-Bus address";
+    QTest::newRow("empty bus") << QStringList{"--bus", ""} << "''" + noBus;
+    QTest::newRow("unknown bus") << QStringList{"--bus", "Session"} << "'Session'" + noBus;
+    QTest::newRow("bus without value") << QStringList{"--bus"} << QByteArray("missing value after '--bus'");
+    QTest::newRow("argument") << QStringList{"session"} << QByteArray("too many arguments: 'session'");
+    QTest::newRow("option of other verbs") << QStringList{"--json"} << QByteArray("unknown option 'json'");
+}
+
+void ToolWatchTest::rejectsWrongUsage()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, message);
+    const ToolRun run = ToolProcess::run(QStringList("watch") + arguments);
+    QCOMPARE(run.standardError, "unitmanager: " + message +
+                                    "\nunitmanager: usage: unitmanager watch [options]; more with --help\n");
+    QCOMPARE(run.standardOutput, QByteArray());
+    QCOMPARE(run.exitCode, 2);
+}
+
+QTEST_GUILESS_MAIN(ToolWatchTest)
+#include "ToolWatchTest.moc"

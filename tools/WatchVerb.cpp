@@ -1,0 +1,107 @@
+#include "WatchVerb.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QTimer>
+
+#include <optional>
+
+#include "Console.h"
+#include "ExitCode.h"
+#include "UnitManagerDevice/UnitManagerDevice.h"
+#include "UnitManagerDevice/UnitManagerWrapper.h"
+#include "service/TerminationSignal.h"
+
+namespace {
+
+const char* const busOption = "bus";
+const int pollMilliseconds = 20;
+
+/// What is known about the service, and the lines that say what has become of it.
+class Watch
+{
+public:
+    Watch()
+        : units("DeviceManager", "DependencyConfiguration", "UnitManager/Dependency", "DeviceManager",
+                "DefaultUnitConfiguration", "UnitManager/DefaultUnit", true, true)
+    {}
+
+    /// Goes one step further and prints what is new. @return false when the output cannot be written
+    bool advance()
+    {
+        const bool isReady = units.checkInitialized();
+        if (wasReady != isReady)
+            Console::printLine(isReady ? "ready" : "waiting");
+        wasReady = isReady;
+        if (isReady && units.hasUnitManagerConfigurationChanged())
+            Console::printLine(adoptionText());
+        return Console::flush();
+    }
+
+private:
+    QString adoptionText() const
+    {
+        if (!units)
+            return "adopted; no usable units";
+        const QStringList unitTypes = units.getUnitManager()->getListofUnitTypes();
+        int unitCount = 0;
+        for (const QString& unitType : unitTypes)
+            unitCount += units.getUnitManager()->getListofUnits(unitType).size();
+        return QString("adopted; unit types: %1, units: %2").arg(unitTypes.size()).arg(unitCount);
+    }
+
+    UnitManagerWrapper units;
+    /// Empty until the first step.
+    std::optional<bool> wasReady;
+};
+
+bool isBus(const QString& text)
+{
+    return text == "session" || text == "system" || text.contains(':');
+}
+
+} // namespace
+
+WatchVerb::WatchVerb()
+    : Verb({"watch",
+            "Follows the running configuration service until it is interrupted.",
+            "",
+            0,
+            {},
+            "Prints a line when something happens: 'waiting' when there is no configuration\n"
+            "yet or a changed one is being read, 'ready' when that is done, and 'adopted'\n"
+            "with the numbers of unit types and units for every configuration taken up.\n"
+            "Without service it waits for one. SIGINT and SIGTERM end it with exit code 0.\n\n"
+            "Example:\n"
+            "  unitmanager watch --bus system"})
+{}
+
+void WatchVerb::addOptions(QCommandLineParser& parser) const
+{
+    parser.addOption({busOption,
+                      "The bus: session, system or a D-Bus address; when not given, what the variable "
+                      "DEVICE_BUS names, or the session bus.",
+                      "BUS"});
+}
+
+int WatchVerb::run(const QCommandLineParser& options, const QStringList& /*arguments*/)
+{
+    if (options.isSet(busOption)) {
+        const QString bus = options.value(busOption);
+        if (!isBus(bus))
+            return usageError(Console::quoted(bus) + " is no bus: session, system or a D-Bus address");
+        qputenv("DEVICE_BUS", bus.toLocal8Bit());
+    }
+
+    const TerminationSignal termination;
+    QObject::connect(&termination, &TerminationSignal::received, &QCoreApplication::quit);
+    Watch watch;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&watch] {
+        if (!watch.advance())
+            QCoreApplication::quit();
+    });
+    timer.start(pollMilliseconds);
+    QCoreApplication::exec();
+    return Succeeded;
+}
