@@ -9,7 +9,6 @@
 #include "ConfigurationAndProcessDataParser.h"
 #include "Documents.h"
 #include "Floors.h"
-#include "Peers.h"
 #include "ProcessDataValue.h"
 #include "PropertyManagerConst.h"
 #include "Themes.h"
@@ -168,49 +167,12 @@ void addArrays(unsigned int columns)
         });
 }
 
-/// The loops over plain numbers: by hand, and by the peer that has a call for it.
-template <typename Convert>
-void addLoop(const std::string& name, std::size_t count, const Convert& convert)
-{
-    benchmark::RegisterBenchmark((name + "/" + std::to_string(count)).c_str(), [=](benchmark::State& state) {
-        std::vector<double> in(count);
-        for (std::size_t index = 0; index < count; ++index)
-            in[index] = static_cast<double>(index) + 0.5;
-        std::vector<double> out(count);
-        convert(in.data(), out.data());
-        bool isRight = true;
-        for (std::size_t index = 0; index < count; ++index)
-            isRight = isRight && std::abs(out[index] - in[index] * 1000.0) <= in[index] * 1e-9;
-        if (!check(state, isRight))
-            return;
-        for (auto iteration : state) {
-            Q_UNUSED(iteration)
-            convert(in.data(), out.data());
-            benchmark::ClobberMemory();
-        }
-    });
-}
-
-void addLoops(std::size_t count)
-{
-    const std::vector<double> coefficients =
-        Floors::instance().find(Documents::pressure(), Documents::hectoPascal())->polynomial;
-    addLoop("floor/plain loop", count, [coefficients, count](const double* in, double* out) {
-        Floors::polynomials(coefficients, in, out, count);
-    });
-    const auto converter = std::make_shared<const Peers::UdunitsConverter>("bar", "hPa");
-    addLoop("peer/UDUNITS array", count,
-            [converter, count](const double* in, double* out) { converter->convert(in, out, count); });
-}
-
 } // namespace
 
 void Themes::addNodes()
 {
     addTreeNodes();
     addProcessData();
-    for (const unsigned int columns : {10U, 1000U}) {
+    for (const unsigned int columns : {10U, 1000U})
         addArrays(columns);
-        addLoops(columns);
-    }
 }

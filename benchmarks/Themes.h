@@ -5,6 +5,7 @@ namespace Themes {
 
 void addConversions();
 void addNodes();
+void addHotLoops();
 void addLabels();
 void addLoading();
 void addStart();

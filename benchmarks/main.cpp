@@ -53,6 +53,7 @@ void addAll()
 {
     Themes::addConversions();
     Themes::addNodes();
+    Themes::addHotLoops();
     Themes::addLabels();
     Themes::addLoading();
     Themes::addStart();

@@ -88,6 +88,16 @@ def node_rows():
                       [Against("UDUNITS array", Value(f"peer/UDUNITS array/{columns}"))])
 
 
+def hot_loop_rows():
+    for count in (10, 1000, 100000):
+        for title, name, goal in (("a run", "run", 2.0 if count > 10 else None),
+                                  ("the conversion taken once", "conversion taken once", None),
+                                  ("single conversions", "single conversions", None)):
+            yield Row(f"{count:,} numbers, {title}", Value(f"hot loop/{name}/{count}"),
+                      [Against("plain loop", Value(f"floor/plain loop/{count}"), goal)],
+                      [Against("UDUNITS array", Value(f"peer/UDUNITS array/{count}"))])
+
+
 def label_rows():
     for situation in ("unit", "default unit"):
         yield Row(f"`getUnitText`, {situation}", Value(f"label/getUnitText/{situation}"),
@@ -140,6 +150,7 @@ def sharing_rows():
 THEMES = [
     ("Conversion", conversion_rows),
     ("Nodes and arrays", node_rows),
+    ("Hot loops", hot_loop_rows),
     ("Labels", label_rows),
     ("Loading", loading_rows),
     ("Start and change", start_rows),

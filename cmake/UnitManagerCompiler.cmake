@@ -11,7 +11,8 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 # Installed programs and libraries find each other wherever the tree is put.
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}" "$ORIGIN")
 
-add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+# The functions of a library are its own: within it they may be inlined, exported or not. Clang always thinks so.
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -fno-semantic-interposition)
 add_compile_definitions(
     QT_NO_CAST_TO_ASCII
     QT_DEPRECATED_WARNINGS

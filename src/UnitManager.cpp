@@ -1,5 +1,8 @@
 #include "UnitManager.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "Array2dDataTypeWrapper.h"
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataTools.h"
@@ -32,6 +35,35 @@ bool hasCells(const Array2dDataTypeWrapper& array, const QStringList& unitTypes,
 bool isConvertible(const QVariant& cell, const QString& unitType)
 {
     return !unitType.isEmpty() && !ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(cell);
+}
+
+bool isNumberToConvert(const QVariant& value)
+{
+    return ConfigurationAndProcessDataTools::isVariantNumber(value) &&
+           !ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value);
+}
+
+QVariant rounded(double value, const ValueConversionWrapper& conversion)
+{
+    unsigned int decimalPlaces = 0;
+    conversion.getDecimalPlacesForUnit(decimalPlaces);
+    return FloatRound::roundValue(value, decimalPlaces);
+}
+
+using Conversion = double (ValueConversionWrapper::*)(double) const;
+
+void convertRun(const double* values, double* results, std::size_t count,
+                const ValueConversionWrapper& conversion, Conversion convert)
+{
+    const double marker = ConfigurationAndProcessDataTools::getNoInputValueIndicator().toDouble();
+    std::transform(values, values + count, results, [&conversion, convert, marker](double value) {
+        // Asked only about what may be the marker: as a variant each number would cost more than its
+        // conversion.
+        const bool mayBeMarker = std::isnan(value) || value == marker;
+        const bool isMarker =
+            mayBeMarker && ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value);
+        return isMarker ? value : (conversion.*convert)(value);
+    });
 }
 
 } // namespace
@@ -153,11 +185,15 @@ QVariant UnitManager::roundDouble(const QVariant& value, unsigned int decimalPla
 
 QVariant UnitManager::fromBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const
 {
+    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit))
+        return rounded(conversion->convertValue(value.toDouble()), *conversion);
     return roundToUnit(fromBaseUnitRaw(value, unitType, unit), unitType, unit);
 }
 
 QVariant UnitManager::toBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const
 {
+    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit))
+        return rounded(conversion->invertValue(value.toDouble()), *conversion);
     return roundToUnit(toBaseUnitRaw(value, unitType, unit), unitType, unit);
 }
 
@@ -171,14 +207,49 @@ QVariant UnitManager::roundToUnit(const QVariant& value, const QString& unitType
 QVariant UnitManager::fromBaseUnitRaw(const QVariant& value, const QString& unitType,
                                       const QString& unit) const
 {
+    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit))
+        return conversion->convertValue(value.toDouble());
     return core.fromBaseUnit(value, unitType, unit);
 }
 
 QVariant UnitManager::toBaseUnitRaw(const QVariant& value, const QString& unitType, const QString& unit) const
 {
+    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit))
+        return conversion->invertValue(value.toDouble());
     QVariant converted = value;
     core.toBaseUnit(converted, unitType, unit);
     return converted;
+}
+
+const ValueConversionWrapper* UnitManager::findConversion(const QVariant& value, const QString& unitType,
+                                                          const QString& unit) const
+{
+    return isNumberToConvert(value) ? core.findConversion(unitType, unit) : nullptr;
+}
+
+ValueConversionWrapper UnitManager::getConversion(const QString& unitType, const QString& unit) const
+{
+    if (const ValueConversionWrapper* const conversion = core.findConversion(unitType, unit))
+        return *conversion;
+    // Nothing to convert, or a failure: the single call knows, and logs the failure.
+    core.fromBaseUnit(0.0, unitType, unit);
+    return {};
+}
+
+void UnitManager::fromBaseUnitRaw(const double* values, double* results, std::size_t count,
+                                  const QString& unitType, const QString& unit) const
+{
+    convertRun(values, results, count, getConversion(unitType, unit), &ValueConversionWrapper::convertValue);
+}
+
+void UnitManager::toBaseUnitRaw(const double* values, double* results, std::size_t count,
+                                const QString& unitType, const QString& unit) const
+{
+    const ValueConversionWrapper* const conversion = core.findConversion(unitType, unit);
+    if (!conversion)
+        toBaseUnitRaw(0.0, unitType, unit); // logs a failure
+    convertRun(values, results, count, conversion ? *conversion : ValueConversionWrapper(),
+               &ValueConversionWrapper::invertValue);
 }
 
 QVariant UnitManager::getValue(const QVariant& value, const QString& unitType, const QString& unit) const

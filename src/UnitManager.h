@@ -5,6 +5,8 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
+#include <cstddef>
+
 #include "ConfigurationAndProcessDataBase.h"
 #include "UnitManagerCore.h"
 #include "UnitManagerExport.h"
@@ -111,6 +113,26 @@ public:
     /// toBaseUnit() without rounding; @p value as it is when it cannot be converted. A warning says why,
     /// except for an empty unit type.
     QVariant toBaseUnitRaw(const QVariant& value, const QString& unitType, const QString& unit) const;
+    /// The conversion of a unit, to convert many values without looking the unit up for each:
+    /// `convertValue()` is fromBaseUnitRaw() and `invertValue()` is toBaseUnitRaw() of a number. It must be
+    /// kept from the no-input marker by its user.
+    ///
+    /// A handle of its own: it stays as it is when something else is loaded, and may outlive this manager.
+    ///
+    /// @return a handle without converter, which leaves every number as it is, where fromBaseUnitRaw() does
+    /// so too: for a fixed unit, "NoUnit" and an empty unit type silently, for what is not known with the
+    /// same warnings.
+    ValueConversionWrapper getConversion(const QString& unitType, const QString& unit) const;
+    /// fromBaseUnitRaw() of a run of numbers, each result bit by bit the same. The unit is looked up, and
+    /// warned about, once.
+    ///
+    /// @param values @p count numbers in the base unit, no-input markers among them
+    /// @param results room for @p count numbers; may be @p values itself, but not overlap it otherwise
+    void fromBaseUnitRaw(const double* values, double* results, std::size_t count, const QString& unitType,
+                         const QString& unit) const;
+    /// toBaseUnitRaw() of a run of numbers; everything else as for the run of fromBaseUnitRaw().
+    void toBaseUnitRaw(const double* values, double* results, std::size_t count, const QString& unitType,
+                       const QString& unit) const;
     /// fromBaseUnitRaw(), but invalid for an invalid value.
     QVariant getValue(const QVariant& value, const QString& unitType, const QString& unit) const;
 
@@ -161,6 +183,8 @@ protected:
 
 private:
     QVariant roundToUnit(const QVariant& value, const QString& unitType, const QString& unit) const;
+    const ValueConversionWrapper* findConversion(const QVariant& value, const QString& unitType,
+                                                 const QString& unit) const;
 
     UnitManagerCore core;
 };

@@ -1,8 +1,10 @@
 #include "UnitManagerCore.h"
 
 #include "ConfigurationAndProcessDataDefinitions.h"
+#include "ConfigurationAndProcessDataParser.h"
 #include "Diagnostics.h"
 #include "FixedUnit.h"
+#include "PropertyManagerConst.h"
 
 namespace {
 
@@ -21,8 +23,11 @@ bool UnitManagerCore::updateUnitConversionByJsonString(const QString& json)
         unitTexts.reset();
         return false;
     }
-    const bool hasConversions = conversionLookUp.initByJsonString(json);
-    const bool hasTexts = unitTexts.initByJsonString(json);
+    // Once for both: parsing is the larger part of loading.
+    const BaseClassSharedPointer root = ConfigurationAndProcessDataParser().parseFromJson(
+        json, PropertyManagerConst::getConfigFileExtension());
+    const bool hasConversions = conversionLookUp.initByDocument(root, json);
+    const bool hasTexts = unitTexts.initByDocument(root);
     return hasConversions && hasTexts;
 }
 
@@ -168,6 +173,18 @@ QVariant UnitManagerCore::fromBaseUnit(const QSharedPointer<ConfigurationAndProc
     QString unused;
     getUnitProperties(node, unitType, unused);
     return fromBaseUnit(value, unitType, unit);
+}
+
+const ValueConversionWrapper* UnitManagerCore::findConversion(const QString& unitType,
+                                                              const QString& unit) const
+{
+    if (unitType.isEmpty() || isFixedUnitType(unitType))
+        return nullptr;
+    if (!unit.isEmpty())
+        return conversionLookUp.findConversion(unitType, unit);
+    return defaultUnits.hasDefaultUnit(unitType)
+               ? conversionLookUp.findConversion(unitType, defaultUnits.getDefaultUnit(unitType))
+               : nullptr;
 }
 
 bool UnitManagerCore::getDecimalPlacesForUnit(const QString& unitType, const QString& unit,

@@ -77,8 +77,8 @@ public:
     /// Converts @p value in place from @p unit to the base unit. An empty unit type with an empty unit and a
     /// fixed unit leave it as it is and succeed.
     ///
-    /// @return false, with the value untouched, when the conversion is not known; warnings say why, except for
-    /// an empty unit type.
+    /// @return false, with the value untouched, when the conversion is not known; warnings say why, except
+    /// for an empty unit type.
     bool toBaseUnit(QVariant& value, const QString& unitType, const QString& unit) const;
     /// @return @p value converted from the base unit to @p unit; @p value itself when the conversion is not
     /// known.
@@ -89,6 +89,12 @@ public:
     /// fromBaseUnit() with the unit type that @p node names.
     QVariant fromBaseUnit(const QSharedPointer<ConfigurationAndProcessDataBase>& node, const QVariant& value,
                           const QString& unit) const;
+
+    /// The conversion by which toBaseUnit() and fromBaseUnit() convert values of a unit type; an empty
+    /// @p unit means the default unit. It lives until something is loaded or the core is destroyed.
+    ///
+    /// @return null, with nothing logged, where they convert nothing or fail.
+    const ValueConversionWrapper* findConversion(const QString& unitType, const QString& unit) const;
 
     /// Stores the number of decimal places with which values of a unit are shown; of a fixed unit its own,
     /// whatever @p unit says.

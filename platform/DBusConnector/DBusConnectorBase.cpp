@@ -1,30 +1,15 @@
 #include "DBusConnectorBase.h"
 
 #include "DBusConnection.h"
+#include "ServiceOwner.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QEvent>
 #include <QtDBus/QDBusMessage>
-#include <QtDBus/QDBusServiceWatcher>
-
-namespace {
-
-// A message of its own, because QDBusConnectionInterface asks without a time-out that we can set.
-bool hasOwner(const QDBusConnection& connection, const QString& serviceName)
-{
-    QDBusMessage question = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
-    question.setArguments({serviceName});
-    const DBusReply reply(connection.call(question, QDBus::Block, DBusConnection::getCallTimeout()));
-    return reply.getValue().toBool();
-}
-
-} // namespace
 
 bool DBusConnectorBase::isServiceAvailable(const QString& service)
 {
-    return hasOwner(DBusConnection::getQDBusConnection(), DBusConnection::getServiceName(service));
+    const QString serviceName = DBusConnection::getServiceName(service);
+    const QSharedPointer<ServiceOwner> owner = ServiceOwner::watched(serviceName);
+    return owner ? owner->isPresent() : ServiceOwner::isOnBus(serviceName);
 }
 
 DBusConnectorBase::DBusConnectorBase(const QString& service, const QString& object, const QString& interface)
@@ -32,23 +17,14 @@ DBusConnectorBase::DBusConnectorBase(const QString& service, const QString& obje
       m_objectPath(DBusConnection::getObjectPath(object)),
       m_interface(interface),
       m_connection(DBusConnection::getQDBusConnection()),
-      m_ownerWatch(new QDBusServiceWatcher(m_serviceName, m_connection,
-                                           QDBusServiceWatcher::WatchForOwnerChange, this)),
-      m_hasOwner(hasOwner(m_connection, m_serviceName))
-{
-    connect(m_ownerWatch, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString&, const QString&, const QString& newOwner) {
-                m_hasOwner = !newOwner.isEmpty();
-            });
-}
+      m_owner(ServiceOwner::watch(m_serviceName))
+{}
 
 DBusConnectorBase::~DBusConnectorBase() = default;
 
 bool DBusConnectorBase::isDBusInterfaceValid() const
 {
-    // In a thread without an event loop the owner's changes wait in the queue of the watch.
-    QCoreApplication::sendPostedEvents(m_ownerWatch, QEvent::MetaCall);
-    return m_hasOwner && m_connection.isConnected();
+    return m_owner->isPresent();
 }
 
 DBusReply DBusConnectorBase::call(const QString& method, const QVariantList& arguments) const

@@ -11,7 +11,7 @@
 #include <QtDBus/QDBusConnection>
 
 class QDBusMessage;
-class QDBusServiceWatcher;
+class ServiceOwner;
 
 /// One interface of one object of a module on the device's bus. Starts no service and introspects nothing.
 /// Belongs for life to the bus connection that it was built on: when that is lost it stays invalid. Used from
@@ -28,11 +28,12 @@ public:
     bool isDBusInterfaceValid() const;
 
 protected:
-    /// Whether somebody owns the module's name on the bus now. One question to the bus; false when there is
-    /// none.
+    /// Whether somebody owns the module's name on the bus. One question to the bus, or none while this thread
+    /// has a connector to the module already; false when there is no bus.
     static bool isServiceAvailable(const QString& service);
 
-    /// Watches the module's name, then asks whether it is owned.
+    /// Watches the module's name, then asks whether it is owned, unless a connector of this thread has done
+    /// so.
     /// @param service the module's name, without the device's prefix.
     /// @param object the object's name, without "/".
     /// @param interface the full D-Bus interface name.
@@ -53,6 +54,5 @@ private:
     const QString m_objectPath;
     const QString m_interface;
     QDBusConnection m_connection;
-    QDBusServiceWatcher* const m_ownerWatch;
-    bool m_hasOwner;
+    const QSharedPointer<ServiceOwner> m_owner;
 };

@@ -29,6 +29,9 @@ public:
     /// unless it is the unit-less type.
     QString getDefaultUnit(const QString& unitType) const;
 
+    /// Whether the unit type has a default unit. Nothing is logged.
+    bool hasDefaultUnit(const QString& unitType) const;
+
     /// Empties the table.
     void reset();
 

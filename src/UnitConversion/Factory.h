@@ -31,10 +31,10 @@ QString createFactoryKey()
 /// Process-wide registry of creators for classes derived from @p Base, keyed by text.
 ///
 /// There is one registry per instantiation and process, shared by all shared libraries, when one library
-/// exports an explicit instantiation (`extern template class EXPORT Factory<...>;` in a header, the definition
-/// in one source): an implicit one is exported only when `Base` and every class among `Args` are, template
-/// arguments included. The registry is filled by static initialisers when a library is loaded and only read
-/// afterwards; it takes no locks.
+/// exports an explicit instantiation (`extern template class EXPORT Factory<...>;` in a header, the
+/// definition in one source): an implicit one is exported only when `Base` and every class among `Args` are,
+/// template arguments included. The registry is filled by static initialisers when a library is loaded and
+/// only read afterwards; it takes no locks.
 template <typename Base, typename... Args>
 class Q_DECL_EXPORT Factory
 {

@@ -11,6 +11,9 @@ namespace {
 
 const char* const sourceName = "UnitConversion/UnitConversionLookUp";
 
+// Device logs are searched by this function, whoever has parsed the text.
+const char* const loadingFunction = "bool UnitConversionLookUp::initByJsonString(const QString&)";
+
 void warnUnknownType(const LogContext& context, const QString& unitType)
 {
     context.warning() << "No conversion function given for unitType " << unitType;
@@ -32,11 +35,16 @@ bool UnitConversionLookUp::initByJsonString(const QString& json)
     reset();
     if (json.isEmpty())
         return false;
+    return initByDocument(ConfigurationAndProcessDataParser().parseFromJson(
+                              json, PropertyManagerConst::getConfigFileExtension()),
+                          json);
+}
 
-    const BaseClassSharedPointer root = ConfigurationAndProcessDataParser().parseFromJson(
-        json, PropertyManagerConst::getConfigFileExtension());
+bool UnitConversionLookUp::initByDocument(const BaseClassSharedPointer& root, const QString& json)
+{
+    reset();
     if (!root) {
-        LogContext{sourceName, 75, Q_FUNC_INFO}.warning() << "Conversion configuration invalid" << json;
+        LogContext{sourceName, 75, loadingFunction}.warning() << "Conversion configuration invalid" << json;
         return false;
     }
     const QHash<QString, BaseClassSharedPointer>& children = root->getChildMap();
@@ -86,6 +94,13 @@ QString UnitConversionLookUp::getBaseUnit(const QString& unitType) const
         return handler->getBaseUnit(unitType);
     LogContext{sourceName, 122, Q_FUNC_INFO}.warning() << "No base unit given for unitType " << unitType;
     return {};
+}
+
+const ValueConversionWrapper* UnitConversionLookUp::findConversion(const QString& unitType,
+                                                                   const QString& unit) const
+{
+    const UnitConversionUnitTypeHandler* const handler = findHandler(unitType);
+    return handler ? handler->findConversion(unit) : nullptr;
 }
 
 bool UnitConversionLookUp::getDecimalPlacesForUnit(const QString& unitType, const QString& unit,

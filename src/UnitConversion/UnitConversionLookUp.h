@@ -27,6 +27,11 @@ public:
     /// document without unit types.
     bool initByJsonString(const QString& json);
 
+    /// initByJsonString() for a text that has been parsed already.
+    ///
+    /// @param root what the parser has made of @p json: null for a text that does not parse
+    bool initByDocument(const BaseClassSharedPointer& root, const QString& json);
+
     /// initByJsonString() with the text of the file @p path; an unreadable file counts as empty.
     bool initByJsonFile(const QString& path);
 
@@ -45,6 +50,10 @@ public:
     /// @return the base unit as a fixed unit (unit type, "/", unit); empty, with a warning, for an unknown
     /// unit type.
     QString getBaseUnit(const QString& unitType) const;
+
+    /// @return the conversion of a unit, which lives as long as this catalogue is neither changed nor
+    /// destroyed; null, with nothing logged, for an unknown unit type or unit and for "NoUnit".
+    const ValueConversionWrapper* findConversion(const QString& unitType, const QString& unit) const;
 
     /// Stores the number of decimal places with which values of @p unit are shown.
     ///

@@ -83,11 +83,10 @@ bool UnitConversionUnitTypeHandler::convert(QVariant& value, const QString& unit
     if (unit == UnitManagerDefinitions::getUnitTypeNoUnit())
         return true;
 
-    const auto wrapper = conversions.constFind(unit);
-    if (wrapper != conversions.constEnd()) {
+    if (const ValueConversionWrapper* const wrapper = findConversion(unit)) {
         if (ConfigurationAndProcessDataTools::isVariantNumber(value)) {
             if (!ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value))
-                value = QVariant(((*wrapper).*conversion)(value.toDouble()));
+                value = QVariant((wrapper->*conversion)(value.toDouble()));
             return true;
         }
         invalidType.warning() << "Invalid type given for conversion" << value.typeName();
@@ -98,13 +97,18 @@ bool UnitConversionUnitTypeHandler::convert(QVariant& value, const QString& unit
     return false;
 }
 
+const ValueConversionWrapper* UnitConversionUnitTypeHandler::findConversion(const QString& unit) const
+{
+    // "NoUnit" is never among them.
+    const auto wrapper = conversions.constFind(unit);
+    return wrapper == conversions.constEnd() ? nullptr : &*wrapper;
+}
+
 bool UnitConversionUnitTypeHandler::getDecimalPlacesForUnit(const QString& unit,
                                                             unsigned int& decimalPlaces) const
 {
-    if (unit == UnitManagerDefinitions::getUnitTypeNoUnit())
-        return false;
-    const auto wrapper = conversions.constFind(unit);
-    return wrapper != conversions.constEnd() && wrapper->getDecimalPlacesForUnit(decimalPlaces);
+    const ValueConversionWrapper* const wrapper = findConversion(unit);
+    return wrapper && wrapper->getDecimalPlacesForUnit(decimalPlaces);
 }
 
 QString UnitConversionUnitTypeHandler::getBaseUnit(const QString& unitTypeName) const

@@ -45,6 +45,10 @@ public:
     /// Converts @p value in place from the base unit to @p unit; everything else as for toBaseUnit().
     bool fromBaseUnit(QVariant& value, const QString& unit) const;
 
+    /// @return the conversion of @p unit, which lives as long as this handler is neither changed nor
+    /// destroyed; null, with nothing logged, for "NoUnit" and an unknown unit.
+    const ValueConversionWrapper* findConversion(const QString& unit) const;
+
     /// Stores the number of decimal places with which values of @p unit are shown.
     ///
     /// @return false, with @p decimalPlaces untouched and nothing logged, for "NoUnit" and an unknown unit.

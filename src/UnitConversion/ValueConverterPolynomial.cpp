@@ -10,6 +10,15 @@
 
 namespace {
 
+/// Highest power first.
+double horner(double x, const QVector<double>& coefficients)
+{
+    double result = 0.0;
+    for (const double coefficient : coefficients)
+        result = std::fma(x, result, coefficient);
+    return result;
+}
+
 void prependColumn(const QList<QVariant>& column, QVector<double>& coefficients, int& degree)
 {
     QVector<double> reversed;
@@ -54,18 +63,15 @@ bool ValueConverterPolynomial::resetPolynom(const QList<QVariant>& coefficients,
 
 double ValueConverterPolynomial::evaluatePolynom(double x, QVector<double> coefficients) const
 {
-    double result = 0.0;
-    for (const double coefficient : qAsConst(coefficients))
-        result = std::fma(x, result, coefficient);
-    return result;
+    return horner(x, coefficients);
 }
 
 double ValueConverterPolynomial::convertValue(double x) const
 {
-    return evaluatePolynom(x, polynomial);
+    return horner(x, polynomial);
 }
 
 double ValueConverterPolynomial::invertValue(double x) const
 {
-    return evaluatePolynom(x, inversePolynomial);
+    return horner(x, inversePolynomial);
 }

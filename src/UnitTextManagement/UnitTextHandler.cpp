@@ -16,10 +16,14 @@ namespace {
 
 const char* const sourceName = "UnitTextManagement/UnitTextHandler";
 
+// Device logs are searched by this function, whoever has parsed the text.
+const char* const loadingFunction = "bool UnitTextHandler::initByJsonString(const QString&)";
+
 bool isNoUnitType(const QString& unitType)
 {
-    return unitType ==
-           PropertyManagerConst::getUnitTypeNamePrefix() + UnitManagerDefinitions::getUnitTypeNoUnit();
+    static const QString noUnitType =
+        PropertyManagerConst::getUnitTypeNamePrefix() + UnitManagerDefinitions::getUnitTypeNoUnit();
+    return unitType == noUnitType;
 }
 
 void warnUnknownUnitType(const LogContext& context, const QString& unitType)
@@ -59,12 +63,17 @@ bool UnitTextHandler::initByJsonString(const QString& json)
     reset();
     if (json.isEmpty())
         return false;
-    const BaseClassSharedPointer root = ConfigurationAndProcessDataParser().parseFromJson(
-        json, PropertyManagerConst::getConfigFileExtension());
+    return initByDocument(ConfigurationAndProcessDataParser().parseFromJson(
+        json, PropertyManagerConst::getConfigFileExtension()));
+}
+
+bool UnitTextHandler::initByDocument(const BaseClassSharedPointer& root)
+{
+    reset();
     if (!root)
         return false;
 
-    const LogContext context{sourceName, __LINE__, Q_FUNC_INFO};
+    const LogContext context{sourceName, __LINE__, loadingFunction};
     const QHash<QString, BaseClassSharedPointer>& children = root->getChildMap();
     for (auto child = children.begin(); child != children.end(); ++child)
         addUnitType(PropertyManagerConst::getUnitTypeNamePrefix() + child.key(), child.value(), context);

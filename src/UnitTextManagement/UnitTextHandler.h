@@ -32,6 +32,9 @@ public:
     /// not parse.
     bool initByJsonString(const QString& json);
 
+    /// initByJsonString() for a text that has been parsed already; null for one that does not parse.
+    bool initByDocument(const BaseClassSharedPointer& root);
+
     /// initByJsonString() with the text of the file @p path; an unreadable file counts as empty.
     bool initByJsonFile(const QString& path);
 

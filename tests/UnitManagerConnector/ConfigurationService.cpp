@@ -113,11 +113,11 @@ bool ConfigurationService::announce(const QString& object, const QVariant& param
            settle(serviceName);
 }
 
-bool ConfigurationService::settle(const QString& serviceName)
+bool ConfigurationService::settle(const QString& answeringName)
 {
     // What a peer sends arrives in the order in which it was sent.
     const QDBusMessage call = QDBusMessage::createMethodCall(
-        serviceName, QStringLiteral("/"), QStringLiteral("org.example.Test"), settlingMember);
+        answeringName, QStringLiteral("/"), QStringLiteral("org.example.Test"), settlingMember);
     return DBusConnection::getQDBusConnection().call(call).type() == QDBusMessage::ReplyMessage;
 }
 

@@ -73,7 +73,7 @@ public:
 
     /// Waits until the bus and a service have seen everything that this process has sent them, and this
     /// process everything that the service has sent.
-    static bool settle(const QString& serviceName);
+    static bool settle(const QString& answeringName);
 
 private:
     QDBusMessage answerTo(const QDBusMessage& call) const;

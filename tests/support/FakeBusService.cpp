@@ -54,6 +54,8 @@ FakeBusService::FakeBusService(const QString& address, const QString& serviceNam
 
 FakeBusService::~FakeBusService()
 {
+    // While it closes, the connection may still look for the object.
+    QDBusConnection(m_connectionName).unregisterObject(QStringLiteral("/"), QDBusConnection::UnregisterTree);
     QDBusConnection::disconnectFromBus(m_connectionName);
     m_thread.quit();
     m_thread.wait();

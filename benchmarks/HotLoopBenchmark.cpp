@@ -1,0 +1,69 @@
+#include <cmath>
+#include <memory>
+#include <vector>
+
+#include "BenchmarkSupport.h"
+#include "Documents.h"
+#include "Floors.h"
+#include "Peers.h"
+#include "Themes.h"
+#include "UnitManager.h"
+
+namespace {
+
+/// Registers @p convert(in, out) on a run of @p count numbers in bar, to hectopascal.
+template <typename Convert>
+void addLoop(const std::string& name, std::size_t count, const Convert& convert)
+{
+    benchmark::RegisterBenchmark((name + "/" + std::to_string(count)).c_str(), [=](benchmark::State& state) {
+        std::vector<double> in(count);
+        for (std::size_t index = 0; index < count; ++index)
+            in[index] = static_cast<double>(index) + 0.5;
+        std::vector<double> out(count);
+        convert(in.data(), out.data());
+        bool isRight = true;
+        for (std::size_t index = 0; index < count; ++index)
+            isRight = isRight && std::abs(out[index] - in[index] * 1000.0) <= in[index] * 1e-9;
+        if (!BenchmarkSupport::check(state, isRight))
+            return;
+        for (auto iteration : state) {
+            Q_UNUSED(iteration)
+            convert(in.data(), out.data());
+            benchmark::ClobberMemory();
+        }
+    });
+}
+
+void addLoops(std::size_t count)
+{
+    const QString unitType = Documents::pressure();
+    const QString unit = Documents::hectoPascal();
+    const UnitManager manager = Documents::shippedManager();
+    addLoop("hot loop/run", count,
+            [=](const double* in, double* out) { manager.fromBaseUnitRaw(in, out, count, unitType, unit); });
+    addLoop("hot loop/conversion taken once", count, [=](const double* in, double* out) {
+        const ValueConversionWrapper conversion = manager.getConversion(unitType, unit);
+        for (std::size_t index = 0; index < count; ++index)
+            out[index] = conversion.convertValue(in[index]);
+    });
+    addLoop("hot loop/single conversions", count, [=](const double* in, double* out) {
+        for (std::size_t index = 0; index < count; ++index)
+            out[index] = manager.fromBaseUnitRaw(in[index], unitType, unit).toDouble();
+    });
+
+    const std::vector<double> coefficients = Floors::instance().find(unitType, unit)->polynomial;
+    addLoop("floor/plain loop", count, [coefficients, count](const double* in, double* out) {
+        Floors::polynomials(coefficients, in, out, count);
+    });
+    const auto converter = std::make_shared<const Peers::UdunitsConverter>("bar", "hPa");
+    addLoop("peer/UDUNITS array", count,
+            [converter, count](const double* in, double* out) { converter->convert(in, out, count); });
+}
+
+} // namespace
+
+void Themes::addHotLoops()
+{
+    for (const std::size_t count : {std::size_t{10}, std::size_t{1000}, std::size_t{100000}})
+        addLoops(count);
+}

@@ -1,0 +1,70 @@
+#include "ServiceOwner.h"
+
+#include "DBusConnection.h"
+#include "DBusReply.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
+#include <QtCore/QHash>
+#include <QtCore/QWeakPointer>
+#include <QtDBus/QDBusMessage>
+#include <QtDBus/QDBusServiceWatcher>
+
+namespace {
+
+QWeakPointer<ServiceOwner>& entry(const QString& serviceName)
+{
+    thread_local QHash<QString, QWeakPointer<ServiceOwner>> owners;
+    return owners[DBusConnection::getQDBusConnection().name() + QLatin1Char(' ') + serviceName];
+}
+
+} // namespace
+
+bool ServiceOwner::isOnBus(const QString& serviceName)
+{
+    // A message of its own, because QDBusConnectionInterface asks without a time-out that we can set.
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
+    question.setArguments({serviceName});
+    const DBusReply reply(
+        DBusConnection::getQDBusConnection().call(question, QDBus::Block, DBusConnection::getCallTimeout()));
+    return reply.getValue().toBool();
+}
+
+QSharedPointer<ServiceOwner> ServiceOwner::watched(const QString& serviceName)
+{
+    const QSharedPointer<ServiceOwner> owner = entry(serviceName);
+    return owner && owner->m_connection.isConnected() ? owner : QSharedPointer<ServiceOwner>();
+}
+
+QSharedPointer<ServiceOwner> ServiceOwner::watch(const QString& serviceName)
+{
+    QSharedPointer<ServiceOwner> owner = watched(serviceName);
+    if (!owner) {
+        owner.reset(new ServiceOwner(serviceName));
+        entry(serviceName) = owner;
+    }
+    return owner;
+}
+
+ServiceOwner::ServiceOwner(const QString& serviceName)
+    : m_connection(DBusConnection::getQDBusConnection()),
+      m_watcher(
+          new QDBusServiceWatcher(serviceName, m_connection, QDBusServiceWatcher::WatchForOwnerChange, this)),
+      m_hasOwner(isOnBus(serviceName))
+{
+    connect(m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString&, const QString&, const QString& newOwner) {
+                m_hasOwner = !newOwner.isEmpty();
+            });
+}
+
+ServiceOwner::~ServiceOwner() = default;
+
+bool ServiceOwner::isPresent() const
+{
+    // In a thread without an event loop the owner's changes wait in the queue of the watch.
+    QCoreApplication::sendPostedEvents(m_watcher, QEvent::MetaCall);
+    return m_hasOwner && m_connection.isConnected();
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+
+#include "Mode.h"
+#include "PrivateBus.h"
+#include "Situation.h"
+
+/// The frame of the tests that play situations on a bus of their own: each situation in every mode that it is
+/// meant for.
+///
+/// How changes are heard of and when states are entered is fixed for a program: LIVE_CHANGES and LIVE_ENTRY
+/// name the values, so that where changes are polled no event loop has ever run in the process.
+class LiveTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    virtual QList<Situation> situations() const = 0;
+
+private Q_SLOTS:
+    void initTestCase();
+    void situation_data();
+    void situation();
+    void cleanupTestCase();
+
+private:
+    PrivateBus m_bus;
+    PrivateBus m_neverStartedBus;
+    int m_eventLoopRuns = 0;
+};
