@@ -170,6 +170,8 @@ void UnitManagerConnectionDataOpeningTest::anAbsentServiceDropsTheConnector()
     QCOMPARE(data.openConnector(Definitions::UnitSwitch), Definitions::Connected);
     const QWeakPointer<Connector> connector = data.connectors().value(Definitions::UnitSwitch);
     m_service->stop();
+    // The bus tells it in its own time.
+    QVERIFY(waitUntil([&connector] { return !connector.toStrongRef()->isDBusInterfaceValid(); }));
     QCOMPARE(data.openConnector(Definitions::UnitSwitch), Definitions::ConnectionFailed);
     QVERIFY(connector.isNull());
     QCOMPARE(data.connectors().keys(), QList<Type>{Definitions::UnitSwitch});
