@@ -54,10 +54,10 @@ bool hasAdopted(UnitManagerWrapper& wrapper)
     return wrapper.checkInitialized() && wrapper.hasUnitManagerConfigurationChanged();
 }
 
-/// The same, repeated in an event loop. @return false when ten seconds were not enough.
+/// The same, repeated in an event loop. @return false when a minute was not enough.
 bool waitForAdoption(UnitManagerWrapper& wrapper)
 {
-    return QTest::qWaitFor([&wrapper] { return hasAdopted(wrapper); }, 10000);
+    return QTest::qWaitFor([&wrapper] { return hasAdopted(wrapper); }, 60000);
 }
 
 QString defaultUnit(const UnitManagerWrapper& wrapper)
@@ -81,7 +81,7 @@ void UnitManagerWrapperChangeTest::init()
     m_bus = std::make_unique<PrivateBus>();
     QVERIFY(m_bus->start());
     qputenv("DEVICE_BUS", m_bus->address().toLocal8Bit());
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "10000");
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "60000");
     m_service = std::make_unique<DocumentService>(m_bus->address());
     QVERIFY(m_service->isRunning());
 }
@@ -209,7 +209,7 @@ void UnitManagerWrapperChangeTest::badDocumentReplacesGoodUnits()
     QVERIFY(m_service->announce(DocumentService::Units));
     QVERIFY(QTest::qWaitFor(
         [&] { return !wrapper->checkInitialized() && wrapper->hasUnitManagerConfigurationChanged(); },
-        10000));
+        60000));
     QVERIFY(!*wrapper);
     QVERIFY(wrapper->getUnitManager());
     QVERIFY(!wrapper->getUnitManager()->isValid());

@@ -72,7 +72,7 @@ void UnitManagerWrapperDependencyTest::initTestCase()
 {
     QVERIFY(m_bus.start());
     qputenv("DEVICE_BUS", m_bus.address().toLocal8Bit());
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "10000");
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "60000");
     m_service = std::make_unique<DocumentService>(m_bus.address());
     QVERIFY(m_service->isRunning());
 }

@@ -38,7 +38,7 @@ bool init(UnitManagerWrapper& wrapper, Reading reading);
 /// Calls init() with no names. @return its result.
 bool initWithoutNames(UnitManagerWrapper& wrapper, Reading reading);
 
-/// Calls checkInitialized() until it is true, without an event loop. @return false when ten seconds were not
+/// Calls checkInitialized() until it is true, without an event loop. @return false when a minute was not
 /// enough.
 bool waitForUnits(UnitManagerWrapper& wrapper);
 

@@ -67,7 +67,7 @@ Situation replyThatNeverComes()
     Situation situation =
         failingFirstRead("reply that never comes", Answer::of(Answer::Never), "[blocking] " + unitsUnread);
     situation.world.callTimeout = 500;
-    situation.script.insert(2, callTimeout(10000));
+    situation.script.insert(2, callTimeout(60000));
     return situation;
 }
 

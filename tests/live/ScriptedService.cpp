@@ -10,7 +10,7 @@
 
 namespace {
 
-const int synchronizationLimit = 10000;
+const int synchronizationLimit = 60000;
 
 QString busName(const QString& module)
 {

@@ -16,7 +16,7 @@
 #include "World.h"
 
 /// Where a situation is played: the world on the bus, the applications, and the record of what they show. All
-/// waiting ends after ten seconds.
+/// waiting ends after a minute.
 class Stage
 {
 public:

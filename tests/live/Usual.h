@@ -32,7 +32,7 @@ inline Answer dependencies(const char* key = "Pressure")
 /// The units alone, with the answers to their reads.
 inline World unitsWorld(const QList<Answer>& answers)
 {
-    return {{{Sources::units(), answers}}, {}, true, 10000};
+    return {{{Sources::units(), answers}}, {}, true, 60000};
 }
 
 /// All three sources, with the answers to the reads of each.
@@ -45,7 +45,7 @@ inline World fullWorld(const QList<Answer>& unitAnswers = {units()},
              {Sources::defaultUnits(), defaultUnitAnswers}},
             {},
             true,
-            10000};
+            60000};
 }
 
 /// A world in which every source has something else to say when it is read again.

@@ -71,5 +71,5 @@ struct World
     QList<Source> sources;
     QStringList absentModules; ///< modules that are not on the bus at first
     bool hasBus = true;
-    int callTimeout = 10000; ///< milliseconds after which the application gives up a call
+    int callTimeout = 60000; ///< milliseconds after which the application gives up a call
 };

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int waitLimit = 10000;
+constexpr int waitLimit = 60000;
 
 QStringList callsOf(const QString& sender, const QString& heard)
 {

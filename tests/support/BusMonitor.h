@@ -14,12 +14,12 @@ public:
     BusMonitor(const BusMonitor&) = delete;
     BusMonitor& operator=(const BusMonitor&) = delete;
 
-    /// Starts to listen. @return false when the bus does not let it within ten seconds.
+    /// Starts to listen. @return false when the bus does not let it within a minute.
     bool start();
 
     /// What one connection has called since the last takeCalls(), oldest first: each as "<destination>
     /// <member>", followed by the call's first argument when that is a string.
-    /// @return a list of one empty entry when the monitor has ended or heard nothing for ten seconds.
+    /// @return a list of one empty entry when the monitor has ended or heard nothing for a minute.
     QStringList takeCalls(const QDBusConnection& caller);
 
 private:

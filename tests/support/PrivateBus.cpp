@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int waitLimit = 10000;
+constexpr int waitLimit = 60000;
 
 /// Ends with the test, even when that crashes.
 class Daemon : public QProcess

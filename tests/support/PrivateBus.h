@@ -22,7 +22,7 @@ public:
     PrivateBus& operator=(const PrivateBus&) = delete;
 
     /// Starts the daemon, unless it runs, and waits until it listens. @return false when it does not come up
-    /// in ten seconds.
+    /// in a minute.
     bool start();
     /// Ends the daemon and waits for its end; the bus is gone for everybody on it.
     void stop();

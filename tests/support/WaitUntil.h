@@ -3,12 +3,12 @@
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QThread>
 
-/// Waits until `condition()` holds, without running an event loop. @return false when it does not within ten
-/// seconds.
+/// Waits until `condition()` holds, without running an event loop. @return false when it does not within a
+/// minute.
 template <typename Condition>
 bool waitUntil(Condition condition)
 {
-    const QDeadlineTimer deadline(10000);
+    const QDeadlineTimer deadline(60000);
     while (!condition()) {
         if (deadline.hasExpired())
             return false;

@@ -1,0 +1,92 @@
+#include "UnitManagerDevice/UnitManagerWrapper.h"
+
+#include <QtTest/QtTest>
+
+#include "BusMonitor.h"
+#include "DBusConnection.h"
+#include "DocumentService.h"
+#include "LogCapture.h"
+#include "PrivateBus.h"
+#include "WrapperSetup.h"
+
+using namespace WrapperSetup;
+
+/// All that a start says on the bus: no introspection, no activation, and nothing twice.
+class UnitManagerWrapperTrafficTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void blockingStart();
+    void attemptWithoutService();
+};
+
+namespace {
+
+const QString service = QStringLiteral("org.measuringdevice.DeviceManager");
+
+QString toBus(const QString& call)
+{
+    return QStringLiteral("org.freedesktop.DBus ") + call;
+}
+
+const QString ownerRule = toBus(
+    QStringLiteral("AddMatch type='signal',sender='org.freedesktop.DBus',interface='org.freedesktop.DBus',"
+                   "member='NameOwnerChanged',arg0='%1'")
+        .arg(service));
+
+QString changeRule(const char* object)
+{
+    return toBus(QStringLiteral("AddMatch type='signal',sender='%1',path='/%2',member='configurationChanged'")
+                     .arg(service, QLatin1String(object)));
+}
+
+} // namespace
+
+void UnitManagerWrapperTrafficTest::blockingStart()
+{
+    PrivateBus bus;
+    QVERIFY(bus.start());
+    qputenv("DEVICE_BUS", bus.address().toLocal8Bit());
+    const DocumentService documents(bus.address());
+    QVERIFY(documents.isRunning());
+    BusMonitor monitor(bus.address());
+    QVERIFY(monitor.start());
+    monitor.takeCalls(DBusConnection::getQDBusConnection());
+
+    const auto wrapper = create(AllNames, Blocking, Delivered);
+    QVERIFY(*wrapper);
+    const QString whoOwnsIt = toBus(QStringLiteral("NameHasOwner ") + service);
+    QCOMPARE(
+        monitor.takeCalls(DBusConnection::getQDBusConnection()),
+        (QStringList{// Asked, watched, and asked again, because the owner may have left before the watch.
+                     whoOwnsIt, ownerRule, whoOwnsIt,
+                     // The subscriptions; with the first of them Qt looks after the name on its own.
+                     changeRule("UnitManagerConfiguration"), ownerRule,
+                     toBus(QStringLiteral("GetNameOwner ") + service), changeRule("DependencyConfiguration"),
+                     changeRule("DefaultUnitConfiguration"),
+                     // The documents.
+                     service + " getConfiguration UnitManager/UnitType",
+                     service + " getConfigurationDependency UnitManager/Dependency",
+                     service + " getConfiguration UnitManager/DefaultUnit"}));
+}
+
+void UnitManagerWrapperTrafficTest::attemptWithoutService()
+{
+    PrivateBus bus;
+    QVERIFY(bus.start());
+    qputenv("DEVICE_BUS", bus.address().toLocal8Bit());
+    BusMonitor monitor(bus.address());
+    QVERIFY(monitor.start());
+    monitor.takeCalls(DBusConnection::getQDBusConnection());
+
+    LogCapture log;
+    const auto wrapper = create(AllNames, Asynchronous, Delivered);
+    QVERIFY(!*wrapper);
+    QCOMPARE(monitor.takeCalls(DBusConnection::getQDBusConnection()),
+             QStringList{toBus(QStringLiteral("NameHasOwner ") + service)});
+}
+
+QTEST_GUILESS_MAIN(UnitManagerWrapperTrafficTest)
+
+#include "UnitManagerWrapperTrafficTest.moc"
