@@ -6,7 +6,10 @@
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "RecordingNode.h"
+#include "TextDocument.h"
 #include "UnitTextManagement/UnitTextHandler.h"
+
+using namespace TextDocument;
 
 namespace {
 
@@ -14,51 +17,11 @@ static_assert(std::has_virtual_destructor_v<UnitTextHandler>);
 static_assert(std::is_copy_constructible_v<UnitTextHandler> && std::is_copy_assignable_v<UnitTextHandler>);
 static_assert(std::is_convertible_v<const UnitTextHandler&, bool>);
 
-const QString prefix = QStringLiteral("UnitManager/UnitType/");
-const QString pressure = prefix + "Pressure";
-
-/// "Bare" has no label; "Headless" has no base unit, "Tailless" one without label; "Unlabelled" has no label.
-const QString document = QStringLiteral(R"({
-    "Pressure": {
-        "Bar": {"@displayPosition": 0, "UnitLabel": {"@value": {"en": "bar", "de": "Bar", "fr_CH": "bar suisse"}}},
-        "HectoPascal": {"@displayPosition": 1, "UnitLabel": "hPa"},
-        "Bare": {"@displayPosition": 2}
-    },
-    "Time": {"Seconds": {"@displayPosition": 0, "UnitLabel": {"@value": {"es": "segundos", "it": "secondi"}}}},
-    "NoUnit": {"NoUnit": {"@displayPosition": 0, "UnitLabel": "none"}},
-    "Headless": {"Only": {"@displayPosition": 1, "UnitLabel": "only"}},
-    "Tailless": {"Base": {"@displayPosition": 0}, "Other": {"@displayPosition": 1, "UnitLabel": "other"}},
-    "Unlabelled": {"Base": {"@displayPosition": 0}}
-})");
-
-/// Labels of the document; what loading says is not of interest here.
-UnitTextHandler documentHandler()
-{
-    LogCapture log;
-    return UnitTextHandler(document);
-}
-
 QString textWarning(const QString& text)
 {
     return warningText(
         "UnitTextManagement/UnitTextHandler", anyLine,
         "QString UnitTextHandler::getUnitText(const QString&, const QString&, const QString&) const", text);
-}
-
-QString mapWarning(const QString& text)
-{
-    return warningText("UnitTextManagement/UnitTextHandler", anyLine,
-                       "QVariant UnitTextHandler::getUnitTextJsonMap(const QString&) const", text);
-}
-
-QString unknownType(const QString& unitType)
-{
-    return QStringLiteral(R"(Unknown unit type given "%1")").arg(unitType);
-}
-
-QString unknownUnit(const QString& unit, const QString& unitType)
-{
-    return QStringLiteral(R"(Unknown unit given "%1" for unittype "%2")").arg(unit, unitType);
 }
 
 } // namespace
@@ -82,10 +45,6 @@ private slots:
     void textOfNode_data();
     void textOfNode();
     void textOfNullNodeIsEmpty();
-    void textMap_data();
-    void textMap();
-    void unknownNamesInTextMapWarn_data();
-    void unknownNamesInTextMapWarn();
     void fixedUnitTypes_data();
     void fixedUnitTypes();
     void resetForgetsEverything();
@@ -143,7 +102,7 @@ void UnitTextHandlerTest::findsText()
 {
     QFETCH(QString, unitType);
     QFETCH(QString, unit);
-    const UnitTextHandler handler = documentHandler();
+    const UnitTextHandler handler = load();
     LogCapture log;
     QTEST(handler.getUnitText(unitType, "en", unit), "expected");
     QCOMPARE(log.takeTexts(), QStringList());
@@ -177,7 +136,7 @@ void UnitTextHandlerTest::findsLanguage()
 {
     QFETCH(QString, unitType);
     QFETCH(QString, language);
-    QTEST(documentHandler().getUnitText(unitType, language, QString()), "expected");
+    QTEST(load().getUnitText(unitType, language, QString()), "expected");
 }
 
 void UnitTextHandlerTest::emptyTextSilently_data()
@@ -203,7 +162,7 @@ void UnitTextHandlerTest::emptyTextSilently()
 {
     QFETCH(QString, unitType);
     QFETCH(QString, unit);
-    const UnitTextHandler handler = documentHandler();
+    const UnitTextHandler handler = load();
     LogCapture log;
     QCOMPARE(handler.getUnitText(unitType, "en", unit), QString());
     QCOMPARE(log.takeTexts(), QStringList());
@@ -245,7 +204,7 @@ void UnitTextHandlerTest::unknownNamesWarn()
     QFETCH(QString, unitType);
     QFETCH(QString, unit);
     QFETCH(QString, text);
-    const UnitTextHandler handler = documentHandler();
+    const UnitTextHandler handler = load();
     LogCapture log;
     QCOMPARE(handler.getUnitText(unitType, "en", unit), QString());
     QCOMPARE(messageTexts(log.take(), LineNumbers::Any), QStringList(textWarning(text)));
@@ -299,7 +258,7 @@ void UnitTextHandlerTest::textOfNode()
     QFETCH(QString, unit);
     QFETCH(QString, expected);
     QFETCH(QStringList, messages);
-    const UnitTextHandler handler = documentHandler();
+    const UnitTextHandler handler = load();
     const auto calls = RecordingNode::Calls::create();
     const QSharedPointer<RecordingNode> node =
         recordingNodeFromJson(R"({"Value": )" + json + '}', QStringLiteral("node"), calls);
@@ -316,7 +275,7 @@ void UnitTextHandlerTest::textOfNode()
 
 void UnitTextHandlerTest::textOfNullNodeIsEmpty()
 {
-    const UnitTextHandler handler = documentHandler();
+    const UnitTextHandler handler = load();
     const BaseClassSharedPointer none;
     const BaseClassSharedPointer node =
         nodeFromJson(R"({"Value": null, "@unitType": "UnitManager/UnitType/Pressure"})");
@@ -326,59 +285,6 @@ void UnitTextHandlerTest::textOfNullNodeIsEmpty()
     QCOMPARE(handler.getUnitText("Value", node, "en", "Bar"), QString());
     QCOMPARE(handler.getUnitText("Missing", node, "en", "Bar"), QString());
     QCOMPARE(log.takeTexts(), QStringList());
-}
-
-void UnitTextHandlerTest::textMap_data()
-{
-    QTest::addColumn<QString>("unitType");
-    QTest::addColumn<QVariant>("expected");
-
-    const QVariant bar = QVariantMap{{"en", "bar"}, {"de", "Bar"}, {"fr_CH", "bar suisse"}};
-    QTest::newRow("plain type gives the base unit") << pressure << bar;
-    QTest::newRow("fixed unit") << pressure + "/Bar" << bar;
-    QTest::newRow("fixed unit without name gives the base unit") << pressure + "/" << bar;
-    QTest::newRow("one text for every language") << pressure + "/HectoPascal" << QVariant("hPa");
-    QTest::newRow("type without unit") << prefix + "NoUnit" << QVariant(QVariantMap{{"en", ""}});
-    QTest::newRow("fixed unit of the type without unit") << prefix + "NoUnit/NoUnit" << QVariant("none");
-    QTest::newRow("no base unit") << prefix + "Headless" << QVariant();
-    QTest::newRow("base unit without label") << prefix + "Tailless" << QVariant();
-}
-
-void UnitTextHandlerTest::textMap()
-{
-    QFETCH(QString, unitType);
-    QFETCH(QVariant, expected);
-    const UnitTextHandler handler = documentHandler();
-    LogCapture log;
-    QCOMPARE(exactText(handler.getUnitTextJsonMap(unitType)), exactText(expected));
-    QCOMPARE(log.takeTexts(), QStringList());
-}
-
-void UnitTextHandlerTest::unknownNamesInTextMapWarn_data()
-{
-    QTest::addColumn<QString>("unitType");
-    QTest::addColumn<QString>("text");
-
-    const QString nopeUnit = pressure + "/Nope";
-    const QString bareUnit = pressure + "/Bare";
-    QTest::newRow("unknown type") << prefix + "Nope" << unknownType(prefix + "Nope");
-    QTest::newRow("fixed unit of an unknown type is named whole")
-        << prefix + "Nope/Bar" << unknownType(prefix + "Nope/Bar");
-    QTest::newRow("type without labels") << prefix + "Unlabelled" << unknownType(prefix + "Unlabelled");
-    QTest::newRow("no unit without prefix") << "NoUnit" << unknownType("NoUnit");
-    QTest::newRow("empty type") << "" << unknownType("");
-    QTest::newRow("unknown unit") << nopeUnit << unknownUnit("Nope", nopeUnit);
-    QTest::newRow("unit without label") << bareUnit << unknownUnit("Bare", bareUnit);
-}
-
-void UnitTextHandlerTest::unknownNamesInTextMapWarn()
-{
-    QFETCH(QString, unitType);
-    QFETCH(QString, text);
-    const UnitTextHandler handler = documentHandler();
-    LogCapture log;
-    QCOMPARE(exactText(handler.getUnitTextJsonMap(unitType)), exactText(QVariant()));
-    QCOMPARE(messageTexts(log.take(), LineNumbers::Any), QStringList(mapWarning(text)));
 }
 
 void UnitTextHandlerTest::fixedUnitTypes_data()
@@ -410,7 +316,7 @@ void UnitTextHandlerTest::fixedUnitTypes()
 
 void UnitTextHandlerTest::resetForgetsEverything()
 {
-    UnitTextHandler handler = documentHandler();
+    UnitTextHandler handler = load();
     handler.reset();
     QVERIFY(!handler.isValid());
     LogCapture log;
@@ -420,7 +326,7 @@ void UnitTextHandlerTest::resetForgetsEverything()
 
 void UnitTextHandlerTest::copiesAreIndependent()
 {
-    UnitTextHandler original = documentHandler();
+    UnitTextHandler original = load();
     const UnitTextHandler copy = original;
     original.reset();
     QVERIFY(copy.isValid());

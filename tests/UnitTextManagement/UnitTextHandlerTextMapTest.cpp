@@ -1,0 +1,87 @@
+#include <QtTest/QtTest>
+
+#include "ExactText.h"
+#include "LogCapture.h"
+#include "MessageText.h"
+#include "TextDocument.h"
+
+using namespace TextDocument;
+
+namespace {
+
+QString mapWarning(const QString& text)
+{
+    return warningText("UnitTextManagement/UnitTextHandler", anyLine,
+                       "QVariant UnitTextHandler::getUnitTextJsonMap(const QString&) const", text);
+}
+
+} // namespace
+
+/// Look-ups of labels in all languages.
+class UnitTextHandlerTextMapTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void textMap_data();
+    void textMap();
+    void unknownNamesInTextMapWarn_data();
+    void unknownNamesInTextMapWarn();
+};
+
+void UnitTextHandlerTextMapTest::textMap_data()
+{
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QVariant>("expected");
+
+    const QVariant bar = QVariantMap{{"en", "bar"}, {"de", "Bar"}, {"fr_CH", "bar suisse"}};
+    QTest::newRow("plain type gives the base unit") << pressure << bar;
+    QTest::newRow("fixed unit") << pressure + "/Bar" << bar;
+    QTest::newRow("fixed unit without name gives the base unit") << pressure + "/" << bar;
+    QTest::newRow("one text for every language") << pressure + "/HectoPascal" << QVariant("hPa");
+    QTest::newRow("type without unit") << prefix + "NoUnit" << QVariant(QVariantMap{{"en", ""}});
+    QTest::newRow("fixed unit of the type without unit") << prefix + "NoUnit/NoUnit" << QVariant("none");
+    QTest::newRow("no base unit") << prefix + "Headless" << QVariant();
+    QTest::newRow("base unit without label") << prefix + "Tailless" << QVariant();
+}
+
+void UnitTextHandlerTextMapTest::textMap()
+{
+    QFETCH(QString, unitType);
+    QFETCH(QVariant, expected);
+    const UnitTextHandler handler = load();
+    LogCapture log;
+    QCOMPARE(exactText(handler.getUnitTextJsonMap(unitType)), exactText(expected));
+    QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitTextHandlerTextMapTest::unknownNamesInTextMapWarn_data()
+{
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QString>("text");
+
+    const QString nopeUnit = pressure + "/Nope";
+    const QString bareUnit = pressure + "/Bare";
+    QTest::newRow("unknown type") << prefix + "Nope" << unknownType(prefix + "Nope");
+    QTest::newRow("fixed unit of an unknown type is named whole")
+        << prefix + "Nope/Bar" << unknownType(prefix + "Nope/Bar");
+    QTest::newRow("type without labels") << prefix + "Unlabelled" << unknownType(prefix + "Unlabelled");
+    QTest::newRow("no unit without prefix") << "NoUnit" << unknownType("NoUnit");
+    QTest::newRow("empty type") << "" << unknownType("");
+    QTest::newRow("unknown unit") << nopeUnit << unknownUnit("Nope", nopeUnit);
+    QTest::newRow("unit without label") << bareUnit << unknownUnit("Bare", bareUnit);
+}
+
+void UnitTextHandlerTextMapTest::unknownNamesInTextMapWarn()
+{
+    QFETCH(QString, unitType);
+    QFETCH(QString, text);
+    const UnitTextHandler handler = load();
+    LogCapture log;
+    QCOMPARE(exactText(handler.getUnitTextJsonMap(unitType)), exactText(QVariant()));
+    QCOMPARE(messageTexts(log.take(), LineNumbers::Any), QStringList(mapWarning(text)));
+}
+
+QTEST_GUILESS_MAIN(UnitTextHandlerTextMapTest)
+
+#include "UnitTextHandlerTextMapTest.moc"
