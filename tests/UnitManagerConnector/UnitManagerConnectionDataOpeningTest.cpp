@@ -331,14 +331,14 @@ void UnitManagerConnectionDataOpeningTest::anUpdateForgetsTheNotedChanges()
 
 void UnitManagerConnectionDataOpeningTest::resetsForgetTheNotedChanges_data()
 {
-    QTest::addColumn<bool>("all");
+    QTest::addColumn<bool>("everything");
     QTest::newRow("of the cached objects, which keeps connector and subscription") << false;
     QTest::newRow("of everything") << true;
 }
 
 void UnitManagerConnectionDataOpeningTest::resetsForgetTheNotedChanges()
 {
-    QFETCH(const bool, all);
+    QFETCH(const bool, everything);
     LogCapture log;
     ConfiguredData data(true);
     QCOMPARE(data.openConnector(Definitions::UnitSwitch), Definitions::Connected);
@@ -346,13 +346,13 @@ void UnitManagerConnectionDataOpeningTest::resetsForgetTheNotedChanges()
     QVERIFY(m_service->announce(unitSwitchObject, unitSwitchName));
     QVERIFY(hasChanged(data));
 
-    QVERIFY(all ? data.resetObject() : data.resetCachedObjects());
+    QVERIFY(everything ? data.resetObject() : data.resetCachedObjects());
     QVERIFY(!hasChanged(data));
     QCOMPARE(data.getConfigurationChangeMap(), (Changes{{Definitions::UnitSwitch, QString()}}));
     QCOMPARE(data.connectors().keys(), QList<Type>{Definitions::UnitSwitch});
-    QCOMPARE(connector.isNull(), all);
+    QCOMPARE(connector.isNull(), everything);
     QVERIFY(m_service->announce(unitSwitchObject, unitSwitchName));
-    QCOMPARE(hasChanged(data), !all);
+    QCOMPARE(hasChanged(data), !everything);
 }
 
 void UnitManagerConnectionDataOpeningTest::resetObjectClosesThenDropsConnectorsThenTexts()

@@ -1,6 +1,8 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
+#include <cerrno>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -194,7 +196,7 @@ void ConfigurationDataAndProcessDescriptionAccessTest::fileWithoutPermissionIsRe
 void ConfigurationDataAndProcessDescriptionAccessTest::failingReadIsReported()
 {
     // Nothing is mapped at the first address, so the first read of this file fails.
-    expectWarning(QStringLiteral("/proc/self/mem"), QStringLiteral("Input/output error"));
+    expectWarning(QStringLiteral("/proc/self/mem"), qt_error_string(EIO));
 }
 
 void ConfigurationDataAndProcessDescriptionAccessTest::largestFileIsRead()
