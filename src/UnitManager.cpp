@@ -263,8 +263,7 @@ QVariant UnitManager::getValue(const QString& key, const BaseClassSharedPointer&
     const BaseClassSharedPointer child = node ? node->getChild(key) : BaseClassSharedPointer();
     if (!child)
         return {};
-    const QVariant value =
-        child->getProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyValue());
+    QVariant value = child->getProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyValue());
     if (!value.isValid() || !child->isNumberType() || child->isNumberNoInput())
         return value;
     return core.fromBaseUnit(child, value, unit);
