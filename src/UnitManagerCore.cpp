@@ -132,10 +132,11 @@ bool UnitManagerCore::extractUnitTypeAndUnit(const QString& fixedUnit, QString& 
             << "Unable to get unit type for unit:" << fixedUnit << "!";
         return false;
     }
-    // A caller may pass one string as input and output.
-    const QString fixedUnitCopy = fixedUnit;
-    unit = FixedUnit::unitOf(fixedUnitCopy);
-    unitType = FixedUnit::unitTypeOf(fixedUnitCopy);
+    // Taken before either is written: a caller may pass one string as input and output.
+    const QString plainType = FixedUnit::unitTypeOf(fixedUnit);
+    const QString plainUnit = FixedUnit::unitOf(fixedUnit);
+    unitType = plainType;
+    unit = plainUnit;
     return true;
 }
 

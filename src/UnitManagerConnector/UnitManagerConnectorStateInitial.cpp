@@ -43,7 +43,7 @@ bool UnitManagerConnectorStateInitial::openSource(ConnectorType type, QList<Conn
         context.warning() << "Unable to find handling for file type";
         return true;
     }
-    const QString configuration = settings.at(ConnectorSettings::Configuration);
+    const QString& configuration = settings.at(ConnectorSettings::Configuration);
     const bool isMandatory = settings.at(ConnectorSettings::Necessity) == QLatin1String("mandatory");
     const bool isOptional = settings.at(ConnectorSettings::Necessity) == QLatin1String("optional");
     if (!isMandatory && !isOptional)
