@@ -1,8 +1,6 @@
 #include "FixedUnit.h"
 
 #include <algorithm>
-#include <cstddef>
-#include <cstring>
 
 #include "PropertyManagerConst.h"
 
@@ -10,19 +8,14 @@ namespace {
 
 const QLatin1Char separator('/');
 
-// Asked in every conversion: QString's own startsWith() and count() would take longer than the arithmetic.
-
-bool hasOneSeparator(const QChar* begin, const QChar* end)
+/// Asked in every conversion: compilers make vectors of this loop, which they cannot of QString's own
+/// count().
+int countSeparators(const QString& text)
 {
-    const QChar* const first = std::find(begin, end, separator);
-    return first != end && std::find(first + 1, end, separator) == end;
-}
-
-bool startsWith(const QString& text, const QString& start)
-{
-    return text.size() >= start.size() &&
-           std::memcmp(text.constData(), start.constData(),
-                       static_cast<std::size_t>(start.size()) * sizeof(QChar)) == 0;
+    int count = 0;
+    for (const QChar character : text)
+        count += static_cast<int>(character == separator);
+    return count;
 }
 
 } // namespace
@@ -31,11 +24,8 @@ namespace FixedUnit {
 
 bool isFixedUnit(const QString& unitType)
 {
-    static const QString prefix = PropertyManagerConst::getUnitTypeNamePrefix();
-    // Nearly every unit type begins with the prefix, whose separators need not be counted again.
-    if (startsWith(unitType, prefix))
-        return hasOneSeparator(unitType.cbegin() + prefix.size(), unitType.cend());
-    return unitType.count(separator) == prefix.count(separator) + 1;
+    static const int separators = countSeparators(PropertyManagerConst::getUnitTypeNamePrefix()) + 1;
+    return countSeparators(unitType) == separators;
 }
 
 QString unitTypeOf(const QString& fixedUnit)
