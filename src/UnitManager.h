@@ -183,8 +183,8 @@ protected:
 
 private:
     QVariant roundToUnit(const QVariant& value, const QString& unitType, const QString& unit) const;
-    const ValueConversionWrapper* findConversion(const QVariant& value, const QString& unitType,
-                                                 const QString& unit) const;
+    UNITMANAGER_NO_EXPORT const ValueConversionWrapper*
+    findConversion(const QVariant& value, const QString& unitType, const QString& unit) const;
 
     UnitManagerCore core;
 };

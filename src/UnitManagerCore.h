@@ -94,7 +94,8 @@ public:
     /// @p unit means the default unit. It lives until something is loaded or the core is destroyed.
     ///
     /// @return null, with nothing logged, where they convert nothing or fail.
-    const ValueConversionWrapper* findConversion(const QString& unitType, const QString& unit) const;
+    UNITMANAGER_NO_EXPORT const ValueConversionWrapper* findConversion(const QString& unitType,
+                                                                       const QString& unit) const;
 
     /// Stores the number of decimal places with which values of a unit are shown; of a fixed unit its own,
     /// whatever @p unit says.

@@ -30,7 +30,7 @@ public:
     QString getDefaultUnit(const QString& unitType) const;
 
     /// Whether the unit type has a default unit. Nothing is logged.
-    bool hasDefaultUnit(const QString& unitType) const;
+    UNITMANAGER_NO_EXPORT bool hasDefaultUnit(const QString& unitType) const;
 
     /// Empties the table.
     void reset();

@@ -30,7 +30,7 @@ public:
     /// initByJsonString() for a text that has been parsed already.
     ///
     /// @param root what the parser has made of @p json: null for a text that does not parse
-    bool initByDocument(const BaseClassSharedPointer& root, const QString& json);
+    UNITMANAGER_NO_EXPORT bool initByDocument(const BaseClassSharedPointer& root, const QString& json);
 
     /// initByJsonString() with the text of the file @p path; an unreadable file counts as empty.
     bool initByJsonFile(const QString& path);
@@ -53,7 +53,8 @@ public:
 
     /// @return the conversion of a unit, which lives as long as this catalogue is neither changed nor
     /// destroyed; null, with nothing logged, for an unknown unit type or unit and for "NoUnit".
-    const ValueConversionWrapper* findConversion(const QString& unitType, const QString& unit) const;
+    UNITMANAGER_NO_EXPORT const ValueConversionWrapper* findConversion(const QString& unitType,
+                                                                       const QString& unit) const;
 
     /// Stores the number of decimal places with which values of @p unit are shown.
     ///

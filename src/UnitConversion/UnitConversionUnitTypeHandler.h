@@ -47,7 +47,7 @@ public:
 
     /// @return the conversion of @p unit, which lives as long as this handler is neither changed nor
     /// destroyed; null, with nothing logged, for "NoUnit" and an unknown unit.
-    const ValueConversionWrapper* findConversion(const QString& unit) const;
+    UNITMANAGER_NO_EXPORT const ValueConversionWrapper* findConversion(const QString& unit) const;
 
     /// Stores the number of decimal places with which values of @p unit are shown.
     ///

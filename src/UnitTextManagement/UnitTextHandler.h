@@ -33,7 +33,7 @@ public:
     bool initByJsonString(const QString& json);
 
     /// initByJsonString() for a text that has been parsed already; null for one that does not parse.
-    bool initByDocument(const BaseClassSharedPointer& root);
+    UNITMANAGER_NO_EXPORT bool initByDocument(const BaseClassSharedPointer& root);
 
     /// initByJsonString() with the text of the file @p path; an unreadable file counts as empty.
     bool initByJsonFile(const QString& path);
