@@ -59,7 +59,8 @@ int ConfigurationAndProcessDataTools::setConfigValueWithStatus(const QString& ke
 
 bool ConfigurationAndProcessDataTools::isVariantNumber(const QVariant& value)
 {
-    return isFloatingType(value.userType()) || isIntegerType(value.userType());
+    const int type = value.userType();
+    return isFloatingType(type) || isIntegerType(type);
 }
 
 QVariant ConfigurationAndProcessDataTools::getNoInputValueIndicator()
