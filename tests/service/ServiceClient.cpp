@@ -1,5 +1,7 @@
 #include "ServiceClient.h"
 
+#include "ConfigurationFileHandlerProxy.h"
+
 #include <QtCore/QUuid>
 #include <QtDBus/QDBusConnection>
 
@@ -8,26 +10,6 @@ namespace {
 const int waitLimit = 10000;
 const char* const service = "org.measuringdevice.DeviceManager";
 const char* const interfaceName = "org.measuringdevice.ConfigurationFileHandler";
-
-struct Question
-{
-    const char* object;
-    const char* method;
-    QStringList arguments;
-};
-
-Question questionTo(const QString& object)
-{
-    for (const Question& question :
-         {Question{"UnitManagerConfiguration", "getConfiguration", {"UnitManager/UnitType", "Test", ""}},
-          Question{"DefaultUnitConfiguration", "getConfiguration", {"UnitManager/DefaultUnit", "Test", ""}},
-          Question{
-              "DependencyConfiguration", "getConfigurationDependency", {"UnitManager/Dependency", "Test"}}}) {
-        if (object == question.object)
-            return question;
-    }
-    return {};
-}
 
 QVariantList variants(const QStringList& texts)
 {
@@ -67,11 +49,17 @@ QDBusMessage ServiceClient::call(const QString& program, const QString& object, 
 
 QString ServiceClient::text(const QString& object) const
 {
-    const Question question = questionTo(object);
-    const QDBusMessage reply = call(object, question.method, question.arguments);
-    if (reply.type() != QDBusMessage::ReplyMessage)
-        return "error: " + reply.errorName();
-    return reply.arguments().value(0).toString();
+    ConfigurationFileHandlerProxy proxy(service, '/' + object, QDBusConnection(m_connectionName));
+    proxy.setTimeout(waitLimit);
+    QDBusPendingReply<QString> reply;
+    if (object == "UnitManagerConfiguration")
+        reply = proxy.getConfiguration("UnitManager/UnitType", "Test", "");
+    else if (object == "DefaultUnitConfiguration")
+        reply = proxy.getConfiguration("UnitManager/DefaultUnit", "Test", "");
+    else
+        reply = proxy.getConfigurationDependency("UnitManager/Dependency", "Test");
+    reply.waitForFinished();
+    return reply.isError() ? "error: " + reply.error().name() : reply.value();
 }
 
 QStringList ServiceClient::announcements() const
