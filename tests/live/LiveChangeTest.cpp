@@ -107,13 +107,25 @@ Situation wrongArgument()
             firstReads + QStringList{readUnits, unitsChanged});
 }
 
+// A slot hears signals of exactly its own signature, the polling handler whatever comes.
+Situation oneArgumentMore()
+{
+    return Usual::afterStart(
+        "change with one argument more", Usual::changingWorld(),
+        {changeWith(Sources::units(), {"UnitManager/UnitType", "more"}), untilSettled(), changed(),
+         convert()},
+        QStringList{"[delivered] " + quiet, "[delivered] changed: false", "[delivered] " + converts(1000),
+                    "[polled] " + takenUpInPassing, "[polled] changed: true", "[polled] " + converts(2000)} +
+            firstReads + QStringList{"[polled] " + readUnits, "[polled] " + unitsChanged});
+}
+
 } // namespace
 
 QList<Situation> LiveChangeTest::situations() const
 {
     return {unitsChange(),      defaultUnitsChange(), dependenciesChange(),
             twoSourcesChange(), threeSourcesChange(), severalChangesOneAfterTheOther(),
-            anotherName(),      wrongArgument()};
+            anotherName(),      wrongArgument(),      oneArgumentMore()};
 }
 
 QTEST_GUILESS_MAIN(LiveChangeTest)
