@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QtCore/QtNumeric>
+
 #include "Array2dDataTypeWrapper.h"
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataTools.h"
@@ -55,11 +57,11 @@ using Conversion = double (ValueConversionWrapper::*)(double) const;
 void convertRun(const double* values, double* results, std::size_t count,
                 const ValueConversionWrapper& conversion, Conversion convert)
 {
-    const double marker = ConfigurationAndProcessDataTools::getNoInputValueIndicator().toDouble();
-    std::transform(values, values + count, results, [&conversion, convert, marker](double value) {
-        // Asked only about what may be the marker: as a variant each number would cost more than its
-        // conversion.
-        const bool mayBeMarker = std::isnan(value) || value == marker;
+    // The platform has one marker: where that is no number, numbers need not be asked about one by one, which
+    // would cost more than their conversion.
+    const bool isMarkerNan = ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(qQNaN());
+    std::transform(values, values + count, results, [&conversion, convert, isMarkerNan](double value) {
+        const bool mayBeMarker = std::isnan(value) || !isMarkerNan;
         const bool isMarker =
             mayBeMarker && ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value);
         return isMarker ? value : (conversion.*convert)(value);
