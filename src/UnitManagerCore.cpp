@@ -135,8 +135,8 @@ bool UnitManagerCore::extractUnitTypeAndUnit(const QString& fixedUnit, QString& 
     // Taken before either is written: a caller may pass one string as input and output.
     const QString plainType = FixedUnit::unitTypeOf(fixedUnit);
     const QString plainUnit = FixedUnit::unitOf(fixedUnit);
-    unitType = plainType;
     unit = plainUnit;
+    unitType = plainType;
     return true;
 }
 

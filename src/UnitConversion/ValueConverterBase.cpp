@@ -8,7 +8,7 @@ ValueConverterBase::~ValueConverterBase() = default;
 
 bool ValueConverterBase::loadTable(const QList<QVariant>& data, ConversionTable& table)
 {
-    const Array2dDataTypeWrapper array(data, {});
+    Array2dDataTypeWrapper array(data, {});
     const QVector<unsigned int> dimensions = array.getArrayType();
     const unsigned int rowCount = dimensions.at(0);
     const unsigned int columnCount = dimensions.at(1);

@@ -160,6 +160,10 @@ void UnitManagerCoreTest::splittingMayOverwriteItsInput()
     QVERIFY(m_core.extractUnitTypeAndUnit(intoUnit, unitType, intoUnit));
     QCOMPARE(unitType, T::pressure);
     QCOMPARE(intoUnit, QStringLiteral("Bar"));
+
+    QString intoBoth;
+    QVERIFY(m_core.extractUnitTypeAndUnit(T::pressure + QStringLiteral("/Bar"), intoBoth, intoBoth));
+    QCOMPARE(intoBoth, T::pressure);
 }
 
 void UnitManagerCoreTest::unitTypeOfNode_data()
