@@ -11,6 +11,7 @@
 #include "DBusConnection.h"
 #include "LogCapture.h"
 #include "ObjectSlots.h"
+#include "WaitLimit.h"
 
 using Handling = DBusConfigurationChangeSignalHandling;
 using Definitions = UnitManagerConnectorDefinitions;
@@ -293,7 +294,7 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnyInterfaceCounts()
     // The answer says that the bus has the subscription by now.
     QVERIFY(DBusConnection::getQDBusConnection().interface()->isServiceRegistered(sender.baseService()));
     QVERIFY(sender.send(signal));
-    QTRY_VERIFY(handling.pollChangeFlags());
+    QTRY_VERIFY_WITH_TIMEOUT(handling.pollChangeFlags(), waitLimit);
     QDBusConnection::disconnectFromBus("sender");
 }
 

@@ -8,6 +8,7 @@
 #include "ConfigurationService.h"
 #include "DBusConnection.h"
 #include "LogCapture.h"
+#include "WaitLimit.h"
 
 using Handling = DBusConfigurationChangeSignalHandling;
 using Definitions = UnitManagerConnectorDefinitions;
@@ -152,7 +153,7 @@ void DBusConfigurationChangeSubscriptionTest::closingWarnsOfWhatTheBusDoesNotKno
     QVERIFY(subscribeAll(handling));
     m_service->stop();
     m_service->bus().stop();
-    QTRY_VERIFY(!DBusConnection::getQDBusConnection().isConnected());
+    QTRY_VERIFY_WITH_TIMEOUT(!DBusConnection::getQDBusConnection().isConnected(), waitLimit);
     log.take();
 
     QVERIFY(handling.closeDbusConnections());

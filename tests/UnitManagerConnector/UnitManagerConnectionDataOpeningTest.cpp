@@ -10,6 +10,7 @@
 #include "ConfigurationService.h"
 #include "DBusConnection.h"
 #include "LogCapture.h"
+#include "WaitLimit.h"
 #include "WaitUntil.h"
 
 using Data = UnitManagerConnectionData;
@@ -363,7 +364,7 @@ void UnitManagerConnectionDataOpeningTest::resetObjectClosesThenDropsConnectorsT
     data.configurations()[Definitions::UnitSwitch] = QStringLiteral("text");
     m_service->stop();
     m_service->bus().stop();
-    QTRY_VERIFY(!DBusConnection::getQDBusConnection().isConnected());
+    QTRY_VERIFY_WITH_TIMEOUT(!DBusConnection::getQDBusConnection().isConnected(), waitLimit);
     log.take();
 
     QStringList loggedBefore;

@@ -6,6 +6,7 @@
 #include "PrivateBus.h"
 #include "TestDocuments.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
+#include "WaitLimit.h"
 #include "WaitUntil.h"
 #include "WrapperSetup.h"
 
@@ -57,7 +58,7 @@ bool hasAdopted(UnitManagerWrapper& wrapper)
 /// The same, repeated in an event loop. @return false when a minute was not enough.
 bool waitForAdoption(UnitManagerWrapper& wrapper)
 {
-    return QTest::qWaitFor([&wrapper] { return hasAdopted(wrapper); }, 60000);
+    return QTest::qWaitFor([&wrapper] { return hasAdopted(wrapper); }, waitLimit);
 }
 
 QString defaultUnit(const UnitManagerWrapper& wrapper)
@@ -157,7 +158,8 @@ void UnitManagerWrapperChangeTest::changeIsTakenUpByTheCheck()
     m_service->replace(DocumentService::DefaultUnits, milliBarAsDefault);
     QVERIFY(m_service->announce(DocumentService::DefaultUnits));
 
-    QTRY_VERIFY(wrapper->checkInitialized() && defaultUnit(*wrapper) == QLatin1String("MilliBar"));
+    QTRY_VERIFY_WITH_TIMEOUT(
+        wrapper->checkInitialized() && defaultUnit(*wrapper) == QLatin1String("MilliBar"), waitLimit);
     const auto units = wrapper->getUnitManager();
     QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
     QCOMPARE(wrapper->getUnitManager(), units);
@@ -209,7 +211,7 @@ void UnitManagerWrapperChangeTest::badDocumentReplacesGoodUnits()
     QVERIFY(m_service->announce(DocumentService::Units));
     QVERIFY(QTest::qWaitFor(
         [&] { return !wrapper->checkInitialized() && wrapper->hasUnitManagerConfigurationChanged(); },
-        60000));
+        waitLimit));
     QVERIFY(!*wrapper);
     QVERIFY(wrapper->getUnitManager());
     QVERIFY(!wrapper->getUnitManager()->isValid());

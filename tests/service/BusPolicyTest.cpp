@@ -11,6 +11,7 @@
 #include "ServiceProcess.h"
 #include "SystemBus.h"
 #include "TestFiles.h"
+#include "WaitLimit.h"
 
 namespace {
 
@@ -156,7 +157,8 @@ void BusPolicyTest::everybodyMayListen()
     QVERIFY(startService());
     QVERIFY(changeRules(policy(anotherUser())));
     QVERIFY(TestFiles::replace(m_directory.filePath("units.json"), TestFiles::units("next")));
-    QTRY_COMPARE(m_client->announcements(), QStringList{"UnitManagerConfiguration UnitManager/UnitType"});
+    QTRY_COMPARE_WITH_TIMEOUT(m_client->announcements(),
+                              QStringList{"UnitManagerConfiguration UnitManager/UnitType"}, waitLimit);
     QCOMPARE(m_client->text(object), QString(TestFiles::units("next")));
 }
 

@@ -3,12 +3,14 @@
 #include <csignal>
 #include <sys/prctl.h>
 
+#include "WaitLimit.h"
+
 ChildProcess::~ChildProcess()
 {
     if (state() == NotRunning)
         return;
     kill();
-    waitForFinished(10000);
+    waitForFinished(waitLimit);
 }
 
 void ChildProcess::setupChildProcess()

@@ -4,6 +4,7 @@
 #include <QtTest/QTest>
 
 #include "TestFiles.h"
+#include "WaitLimit.h"
 
 ServedDirectory::ServedDirectory()
 {
@@ -39,7 +40,7 @@ QStringList ServedDirectory::settledAnnouncements()
     if (!TestFiles::replace(path("dependencies.json"), text))
         return {"the dependencies could not be replaced"};
     const bool isHeard = QTest::qWaitFor(
-        [this, &marker] { return m_client->announcements().mid(m_known).contains(marker); }, 10000);
+        [this, &marker] { return m_client->announcements().mid(m_known).contains(marker); }, waitLimit);
     QStringList news = m_client->announcements().mid(m_known);
     m_known += news.size();
     if (!isHeard)

@@ -7,6 +7,7 @@
 
 #include "ServedDirectory.h"
 #include "TestFiles.h"
+#include "WaitLimit.h"
 
 using Action = std::function<bool(const ServedDirectory& served, const QByteArray& text)>;
 Q_DECLARE_METATYPE(Action)
@@ -116,13 +117,13 @@ void ServiceAnnouncementsTest::changeIsAnnouncedOnce()
 
     const QByteArray next = TestFiles::units("next");
     QVERIFY(change(served, next));
-    QTRY_COMPARE(served.client().text(object), QString(next));
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(next), waitLimit);
     QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
 
     // Whatever the change has made of the file, it is still watched.
     const QByteArray last = TestFiles::units("last");
     QVERIFY(overwriteInPlace(served, last));
-    QTRY_COMPARE(served.client().text(object), QString(last));
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(last), waitLimit);
     QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
 }
 
@@ -136,8 +137,10 @@ void ServiceAnnouncementsTest::eachDocumentIsAnnouncedByItsObject()
     QCOMPARE(served.client().text("DefaultUnitConfiguration"), QString(TestFiles::defaultUnits("next")));
 
     QVERIFY(TestFiles::replace(served.path("dependencies.json"), TestFiles::dependencies("next")));
-    QTRY_COMPARE(served.client().text("DependencyConfiguration"), QString(TestFiles::dependencies("next")));
-    QTRY_COMPARE(served.client().announcements().last(), "DependencyConfiguration UnitManager/Dependency");
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text("DependencyConfiguration"),
+                              QString(TestFiles::dependencies("next")), waitLimit);
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().announcements().last(),
+                              "DependencyConfiguration UnitManager/Dependency", waitLimit);
 }
 
 // The documents are links through a link that is turned from one version to the next.
@@ -152,12 +155,13 @@ void ServiceAnnouncementsTest::swappedVersionsAreAnnounced()
     QCOMPARE(served.client().text(object), QString(TestFiles::units("one")));
 
     QVERIFY(TestFiles::link("..2", served.path("..data")));
-    QTRY_COMPARE(served.client().text(object), QString(TestFiles::units("two")));
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(TestFiles::units("two")), waitLimit);
     QVERIFY(QDir(served.path("..1")).removeRecursively());
     QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
 
     QVERIFY(TestFiles::write(served.path("..2/units.json"), TestFiles::units("two, corrected")));
-    QTRY_COMPARE(served.client().text(object), QString(TestFiles::units("two, corrected")));
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(TestFiles::units("two, corrected")),
+                              waitLimit);
     QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
 }
 
@@ -206,7 +210,7 @@ void ServiceAnnouncementsTest::burstIsAnnouncedOnce()
         QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units(QString::number(count))));
     QVERIFY(served.service().send(SIGCONT));
 
-    QTRY_COMPARE(served.client().text(object), QString(TestFiles::units("50")));
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(TestFiles::units("50")), waitLimit);
     QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
 }
 

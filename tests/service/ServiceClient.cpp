@@ -1,13 +1,13 @@
 #include "ServiceClient.h"
 
 #include "ConfigurationFileHandlerProxy.h"
+#include "WaitLimit.h"
 
 #include <QtCore/QUuid>
 #include <QtDBus/QDBusConnection>
 
 namespace {
 
-const int waitLimit = 10000;
 const char* const service = "org.measuringdevice.DeviceManager";
 const char* const interfaceName = "org.measuringdevice.ConfigurationFileHandler";
 

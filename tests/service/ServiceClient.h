@@ -14,7 +14,7 @@ public:
     explicit ServiceClient(const QString& address);
     ~ServiceClient() override;
 
-    /// Calls a method of the service's interface. @return the reply, an error after ten seconds.
+    /// Calls a method of the service's interface. @return the reply, an error after a minute.
     QDBusMessage call(const QString& object, const QString& method, const QStringList& arguments) const;
     /// The same for any interface and any program on the bus.
     QDBusMessage call(const QString& program, const QString& object, const QString& interface,

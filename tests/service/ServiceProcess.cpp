@@ -4,11 +4,7 @@
 
 #include <csignal>
 
-namespace {
-
-const int waitLimit = 10000;
-
-} // namespace
+#include "WaitLimit.h"
 
 ServiceProcess::ServiceProcess()
 {

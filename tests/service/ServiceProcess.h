@@ -13,7 +13,7 @@ public:
     /// Not started. What the environment says about Qt's own messages stays with the test.
     ServiceProcess();
 
-    /// Starts the program. @return whether it says, within ten seconds, that it serves.
+    /// Starts the program. @return whether it says, within a minute, that it serves.
     bool start(const QStringList& arguments);
     /// The same on a bus. @param bus as the program's option takes it
     bool serve(const QString& directory, const QString& bus);

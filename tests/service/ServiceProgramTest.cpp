@@ -7,6 +7,7 @@
 #include "ConfigurationFileService.h"
 #include "ServedDirectory.h"
 #include "TestFiles.h"
+#include "WaitLimit.h"
 
 /// How the program starts and ends.
 class ServiceProgramTest : public QObject
@@ -124,7 +125,8 @@ void ServiceProgramTest::directoryMayHaveAnyName()
     const ServiceClient client(served.bus().address());
     QCOMPARE(client.text("UnitManagerConfiguration"), QString(TestFiles::units("first")));
     QVERIFY(TestFiles::replace(directory + "/units.json", TestFiles::units("next")));
-    QTRY_COMPARE(client.text("UnitManagerConfiguration"), QString(TestFiles::units("next")));
+    QTRY_COMPARE_WITH_TIMEOUT(client.text("UnitManagerConfiguration"), QString(TestFiles::units("next")),
+                              waitLimit);
 }
 
 void ServiceProgramTest::directoryMayBeRelative()
@@ -139,7 +141,8 @@ void ServiceProgramTest::directoryMayBeRelative()
     const ServiceClient client(served.bus().address());
     QCOMPARE(client.text("UnitManagerConfiguration"), QString(TestFiles::units("first")));
     QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units("next")));
-    QTRY_COMPARE(client.text("UnitManagerConfiguration"), QString(TestFiles::units("next")));
+    QTRY_COMPARE_WITH_TIMEOUT(client.text("UnitManagerConfiguration"), QString(TestFiles::units("next")),
+                              waitLimit);
 }
 
 void ServiceProgramTest::busStartsIt()

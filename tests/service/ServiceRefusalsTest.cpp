@@ -5,6 +5,7 @@
 #include "ConfigurationDocument.h"
 #include "ServedDirectory.h"
 #include "TestFiles.h"
+#include "WaitLimit.h"
 
 namespace {
 
@@ -60,7 +61,8 @@ void ServiceRefusalsTest::badTextIsRefused()
     const QString message = "configuration-file-service: warning: UnitManager/UnitType: cannot use " +
                             served.path("units.json") + ": " + reason +
                             "; the last good document stays in force\n";
-    QTRY_VERIFY2(served.service().log().contains(message), qPrintable(served.service().log()));
+    QTRY_VERIFY2_WITH_TIMEOUT(served.service().log().contains(message), qPrintable(served.service().log()),
+                              waitLimit);
 
     QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units("first")));
     QCOMPARE(served.settledAnnouncements(), QStringList());
@@ -91,13 +93,13 @@ void ServiceRefusalsTest::removedDocumentStaysInForce()
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QCOMPARE(served.client().text(object), QString(TestFiles::units("first")));
     const QString message = "units.json: No such file or directory; the last good document stays in force\n";
-    QTRY_COMPARE(served.service().log().count(message), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count(message), 1, waitLimit);
 
     QVERIFY(TestFiles::write(served.path("units.json"), TestFiles::units("first")));
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QVERIFY(QFile::remove(served.path("units.json")));
     QCOMPARE(served.settledAnnouncements(), QStringList());
-    QTRY_COMPARE(served.service().log().count(message), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count(message), 2, waitLimit);
 }
 
 void ServiceRefusalsTest::eachRefusalIsLoggedOnce()
@@ -109,11 +111,11 @@ void ServiceRefusalsTest::eachRefusalIsLoggedOnce()
     QVERIFY(TestFiles::replace(served.path("units.json"), "{a"));
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QCOMPARE(served.settledAnnouncements(), QStringList());
-    QTRY_COMPARE(served.service().log().count(message), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count(message), 1, waitLimit);
 
     QVERIFY(TestFiles::replace(served.path("units.json"), "{b"));
     QCOMPARE(served.settledAnnouncements(), QStringList());
-    QTRY_COMPARE(served.service().log().count(message), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count(message), 2, waitLimit);
 }
 
 void ServiceRefusalsTest::documentMayComeLater_data()
@@ -138,11 +140,11 @@ void ServiceRefusalsTest::documentMayComeLater()
         QVERIFY(TestFiles::write(served.path("units.json"), broken.toUtf8()));
     QVERIFY(served.start());
     QCOMPARE(served.client().text(object), noDocument);
-    QTRY_COMPARE(served.service().log().count("; there is none to serve\n"), 3);
+    QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count("; there is none to serve\n"), 3, waitLimit);
 
     QVERIFY(QDir().mkpath(served.directory()));
     QVERIFY(TestFiles::write(served.path("units.json"), TestFiles::units("first")));
-    QTRY_COMPARE(served.client().text(object), QString(TestFiles::units("first")));
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(TestFiles::units("first")), waitLimit);
     QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
 }
 

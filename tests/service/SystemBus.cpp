@@ -1,10 +1,9 @@
 #include "SystemBus.h"
 
 #include "TestFiles.h"
+#include "WaitLimit.h"
 
 namespace {
-
-const int waitLimit = 10000;
 
 const char* const rulesOfTheSystem =
     R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"

@@ -15,7 +15,7 @@ public:
     /// @return whether they were written.
     bool setRules(const QString& rules);
 
-    /// Starts the bus and waits until it listens. @return false when it does not come up in ten seconds.
+    /// Starts the bus and waits until it listens. @return false when it does not come up in a minute.
     bool start();
 
     QString address() const;

@@ -4,9 +4,9 @@
 #include <QtCore/QRegularExpression>
 #include <QtDBus/QDBusMessage>
 
-namespace {
+#include "WaitLimit.h"
 
-constexpr int waitLimit = 60000;
+namespace {
 
 QStringList callsOf(const QString& sender, const QString& heard)
 {

@@ -6,9 +6,9 @@
 #include <csignal>
 #include <sys/prctl.h>
 
-namespace {
+#include "WaitLimit.h"
 
-constexpr int waitLimit = 60000;
+namespace {
 
 /// Ends with the test, even when that crashes.
 class Daemon : public QProcess

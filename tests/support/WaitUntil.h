@@ -3,12 +3,14 @@
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QThread>
 
+#include "WaitLimit.h"
+
 /// Waits until `condition()` holds, without running an event loop. @return false when it does not within a
 /// minute.
 template <typename Condition>
 bool waitUntil(Condition condition)
 {
-    const QDeadlineTimer deadline(60000);
+    const QDeadlineTimer deadline(waitLimit);
     while (!condition()) {
         if (deadline.hasExpired())
             return false;

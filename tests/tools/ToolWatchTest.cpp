@@ -8,6 +8,7 @@
 #include "ServedDirectory.h"
 #include "TestFiles.h"
 #include "ToolProcess.h"
+#include "WaitLimit.h"
 
 /// The verb that follows the configuration service: what it prints, and how it ends.
 class ToolWatchTest : public QObject
@@ -31,7 +32,6 @@ private slots:
 
 namespace {
 
-const int waitLimit = 10000;
 const QByteArray threeUnits = R"({
     "Pressure": { "Bar": { "@displayPosition": 0, "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]] },
                   "Pascal": { "@displayPosition": 1, "Polynomial": [[0], [1e5]],

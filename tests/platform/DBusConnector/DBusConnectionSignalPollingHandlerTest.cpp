@@ -1,6 +1,7 @@
 #include "DBusConnectionSignalPollingHandler.h"
 #include "FakeBusService.h"
 #include "PrivateBus.h"
+#include "WaitLimit.h"
 #include "WaitUntil.h"
 
 #include <QtDBus/QDBusArgument>
@@ -127,7 +128,7 @@ void DBusConnectionSignalPollingHandlerTest::aSignalIsRecordedWithARunningEventL
 {
     Handler handler;
     QVERIFY(send("units"));
-    QTRY_VERIFY(handler.isSignalOccured());
+    QTRY_VERIFY_WITH_TIMEOUT(handler.isSignalOccured(), waitLimit);
     QCOMPARE(handler.getSignalParameter(), QVariant("units"));
 }
 

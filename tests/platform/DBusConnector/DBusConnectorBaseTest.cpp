@@ -2,6 +2,7 @@
 #include "DBusConnection.h"
 #include "FakeBusService.h"
 #include "PrivateBus.h"
+#include "WaitLimit.h"
 #include "WaitUntil.h"
 
 #include <QtTest/QtTest>
@@ -119,9 +120,9 @@ void DBusConnectorBaseTest::theOwnerIsFollowedWithAnEventLoop()
     const Connector connector;
     QVERIFY(connector.isDBusInterfaceValid());
     service.reset();
-    QTRY_VERIFY(!connector.isDBusInterfaceValid());
+    QTRY_VERIFY_WITH_TIMEOUT(!connector.isDBusInterfaceValid(), waitLimit);
     service = startService();
-    QTRY_VERIFY(connector.isDBusInterfaceValid());
+    QTRY_VERIFY_WITH_TIMEOUT(connector.isDBusInterfaceValid(), waitLimit);
 }
 
 void DBusConnectorBaseTest::onlyItsOwnEventsAreDelivered()
