@@ -1,7 +1,5 @@
 #include "FixedUnit.h"
 
-#include <algorithm>
-
 #include "PropertyManagerConst.h"
 
 namespace {

@@ -6,8 +6,8 @@
 
 bool InstalledService::install()
 {
-    return QProcess::execute(CMAKE_PROGRAM, {"--install", SERVICE_BINARY_DIR, "--prefix", m_prefix.path(),
-                                             "--component", "runtime"}) == 0;
+    return QProcess::execute(CMAKE_PROGRAM, {"--install", SERVICE_BINARY_DIR, "--prefix", m_prefix.path()}) ==
+           0;
 }
 
 QStringList InstalledService::files() const

@@ -9,6 +9,7 @@ namespace {
 const QString program = "bin/configuration-file-service";
 const QString unit = "lib/systemd/system/configuration-file-service.service";
 const QString users = "lib/sysusers.d/configuration-file-service.conf";
+const QString interface = "share/dbus-1/interfaces/org.measuringdevice.ConfigurationFileHandler.xml";
 const QString activation = "share/dbus-1/system-services/org.measuringdevice.DeviceManager.service";
 const QString policy = "share/dbus-1/system.d/org.measuringdevice.DeviceManager.conf";
 
@@ -40,7 +41,7 @@ void InstalledServiceTest::initTestCase()
 
 void InstalledServiceTest::filesAreInstalled()
 {
-    QCOMPARE(m_installed.files(), (QStringList{program, unit, users, activation, policy}));
+    QCOMPARE(m_installed.files(), (QStringList{program, unit, users, interface, activation, policy}));
 }
 
 void InstalledServiceTest::nothingIsLeftToFillIn()

@@ -13,21 +13,19 @@ import re
 import sys
 from pathlib import Path
 
-from project import Project, finish, run
+from project import SPECIAL_PREFIX, Project, differences, dynamic_symbols, finish
 
 LIST = Path(__file__).parent / "data" / "exported-symbols.txt"
 LISTED_WEAK = re.compile(r"(vtable|typeinfo|typeinfo name) for (?!VESKFactories::)|"
                          r"VESKFactories::Factory<.*>::instance\(\)::factory$")
-SPECIAL_PREFIX = re.compile(
-    r"^(vtable|VTT|typeinfo|typeinfo name|guard variable|(non-virtual |virtual )?thunk) (for|to) ")
 COVERAGE_COUNTER = re.compile(r"__gcov_|mangle_path$")
 QT_OR_STANDARD = re.compile(r"^(\w+ )?(std::|__gnu_cxx::|Q[A-Za-z]+(::|<))")
 
 
 def exported_symbols(library):
     """(whether others may define it too, demangled name) of every symbol that can be linked to."""
-    lines = run(["nm", "-D", "--defined-only", "-C", library]).splitlines()
-    return {(line[17] in "VWuvw", line[19:]) for line in lines if not COVERAGE_COUNTER.match(line[19:])}
+    return {(letter in "VWuvw", name) for letter, name in dynamic_symbols(library, "--defined-only")
+            if not COVERAGE_COUNTER.match(name)}
 
 
 def is_listed(weak, name, own):
@@ -40,17 +38,12 @@ def main():
     classes = sorted(Path(header).stem for header in project.installed_headers)
     own = re.compile(rf"({'|'.join(classes)}|VESKFactories)(::|$)")
     listed = sorted({name for weak, name in symbols if is_listed(weak, name, own)})
-    if "--update" in sys.argv[2:]:
-        LIST.write_text("\n".join(listed) + "\n", encoding="utf-8")
-
-    expected = LIST.read_text(encoding="utf-8").splitlines()
-    problems = [f"listed, but not exported: {name}" for name in expected if name not in listed]
-    problems += [f"exported, but not listed: {name}" for name in listed if name not in expected]
+    problems = differences(listed, LIST, "exported")
     for weak, name in sorted(symbols):
         scope = SPECIAL_PREFIX.sub("", name)
         if not own.match(scope) and not (weak and QT_OR_STANDARD.match(scope)):
             problems.append(f"exported, but of no exported class: {name}")
-    finish(problems, f"{len(listed)} symbols, {len(expected)} listed; {len(symbols)} exported in all")
+    finish(problems, f"{len(listed)} symbols listed, {len(symbols)} exported in all")
 
 
 main()

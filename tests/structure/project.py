@@ -2,9 +2,15 @@
 
 import json
 import os
+import re
 import subprocess
 import sys
 from pathlib import Path
+
+
+# What compilers make of classes.
+SPECIAL_PREFIX = re.compile(
+    r"^(vtable|VTT|typeinfo|typeinfo name|guard variable|(non-virtual |virtual )?thunk) (for|to) ")
 
 
 class Project:
@@ -44,6 +50,22 @@ def run(command, **options):
     if result.returncode != 0:
         sys.exit(f"{' '.join(map(str, command))}\nfailed with {result.returncode}\n{result.stdout}{result.stderr}")
     return result.stdout
+
+
+def dynamic_symbols(library, kind):
+    """(nm's letter, demangled name) of the symbols that a library defines ("--defined-only") or takes from others
+    ("--undefined-only")."""
+    return [(line[17], line[19:]) for line in run(["nm", "-D", "-C", kind, library]).splitlines()]
+
+
+def differences(found, list_file, verb):
+    """What is found but not in the list under version control, and the other way round. With `--update` as the check's
+    last argument the list is written anew first."""
+    if "--update" in sys.argv[2:]:
+        list_file.write_text("\n".join(found) + "\n", encoding="utf-8")
+    listed = list_file.read_text(encoding="utf-8").splitlines()
+    return ([f"listed, but not {verb}: {name}" for name in listed if name not in found] +
+            [f"{verb}, but not listed: {name}" for name in found if name not in listed])
 
 
 def finish(problems, summary):
