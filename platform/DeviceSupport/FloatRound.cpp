@@ -12,15 +12,23 @@ constexpr std::array<double, 18> powersOfTen = {1e0, 1e1,  1e2,  1e3,  1e4,  1e5
 // From here on every double is a whole number.
 constexpr double wholeNumbers = 4503599627370496.0;
 
+/// For each number of places, from where on a double has no digit to round off.
+constexpr std::array<double, powersOfTen.size()> exactNumbers = [] {
+    std::array<double, powersOfTen.size()> bounds{};
+    for (std::size_t places = 0; places < bounds.size(); ++places)
+        bounds[places] = wholeNumbers / powersOfTen[places];
+    return bounds;
+}();
+
 } // namespace
 
 double FloatRound::roundValue(double value, unsigned int decimalPlaces)
 {
     if (decimalPlaces >= powersOfTen.size())
         return value;
-    const double scale = powersOfTen[decimalPlaces];
     // Written so that a NaN comes out of it as well.
-    if (!(std::abs(value) < wholeNumbers / scale))
+    if (!(std::abs(value) < exactNumbers[decimalPlaces]))
         return value;
+    const double scale = powersOfTen[decimalPlaces];
     return std::round(value * scale) / scale;
 }
