@@ -39,10 +39,29 @@ bool isConvertible(const QVariant& cell, const QString& unitType)
     return !unitType.isEmpty() && !ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(cell);
 }
 
-bool isNumberToConvert(const QVariant& value)
+/// Whether only a NaN can be the platform's marker of no input. The platform has one marker, always the same:
+/// where that is a NaN, other numbers need not be asked about, which would cost more than their conversion.
+bool isMarkerNan()
 {
-    return ConfigurationAndProcessDataTools::isVariantNumber(value) &&
-           !ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value);
+    static const bool isNan = ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(qQNaN());
+    return isNan;
+}
+
+/// Stores the number that @p value holds.
+///
+/// @return false, with @p number perhaps written, for the marker of no input and for what is no number.
+bool readNumber(const QVariant& value, double& number)
+{
+    if (value.userType() == QMetaType::Double) {
+        number = *static_cast<const double*>(value.constData());
+        const bool mayBeMarker = std::isnan(number) || !isMarkerNan();
+        return !mayBeMarker || !ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value);
+    }
+    if (!ConfigurationAndProcessDataTools::isVariantNumber(value) ||
+        ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value))
+        return false;
+    number = value.toDouble();
+    return true;
 }
 
 QVariant rounded(double value, const ValueConversionWrapper& conversion)
@@ -57,11 +76,9 @@ using Conversion = double (ValueConversionWrapper::*)(double) const;
 void convertRun(const double* values, double* results, std::size_t count,
                 const ValueConversionWrapper& conversion, Conversion convert)
 {
-    // The platform has one marker: where that is no number, numbers need not be asked about one by one, which
-    // would cost more than their conversion.
-    const bool isMarkerNan = ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(qQNaN());
-    std::transform(values, values + count, results, [&conversion, convert, isMarkerNan](double value) {
-        const bool mayBeMarker = std::isnan(value) || !isMarkerNan;
+    const bool isNan = isMarkerNan();
+    std::transform(values, values + count, results, [&conversion, convert, isNan](double value) {
+        const bool mayBeMarker = std::isnan(value) || !isNan;
         const bool isMarker =
             mayBeMarker && ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value);
         return isMarker ? value : (conversion.*convert)(value);
@@ -187,15 +204,17 @@ QVariant UnitManager::roundDouble(const QVariant& value, unsigned int decimalPla
 
 QVariant UnitManager::fromBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const
 {
-    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit))
-        return rounded(conversion->convertValue(value.toDouble()), *conversion);
+    double number = 0.0;
+    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit, number))
+        return rounded(conversion->convertValue(number), *conversion);
     return roundToUnit(fromBaseUnitRaw(value, unitType, unit), unitType, unit);
 }
 
 QVariant UnitManager::toBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const
 {
-    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit))
-        return rounded(conversion->invertValue(value.toDouble()), *conversion);
+    double number = 0.0;
+    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit, number))
+        return rounded(conversion->invertValue(number), *conversion);
     return roundToUnit(toBaseUnitRaw(value, unitType, unit), unitType, unit);
 }
 
@@ -209,24 +228,26 @@ QVariant UnitManager::roundToUnit(const QVariant& value, const QString& unitType
 QVariant UnitManager::fromBaseUnitRaw(const QVariant& value, const QString& unitType,
                                       const QString& unit) const
 {
-    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit))
-        return conversion->convertValue(value.toDouble());
+    double number = 0.0;
+    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit, number))
+        return conversion->convertValue(number);
     return core.fromBaseUnit(value, unitType, unit);
 }
 
 QVariant UnitManager::toBaseUnitRaw(const QVariant& value, const QString& unitType, const QString& unit) const
 {
-    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit))
-        return conversion->invertValue(value.toDouble());
+    double number = 0.0;
+    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit, number))
+        return conversion->invertValue(number);
     QVariant converted = value;
     core.toBaseUnit(converted, unitType, unit);
     return converted;
 }
 
 const ValueConversionWrapper* UnitManager::findConversion(const QVariant& value, const QString& unitType,
-                                                          const QString& unit) const
+                                                          const QString& unit, double& number) const
 {
-    return isNumberToConvert(value) ? core.findConversion(unitType, unit) : nullptr;
+    return readNumber(value, number) ? core.findConversion(unitType, unit) : nullptr;
 }
 
 ValueConversionWrapper UnitManager::getConversion(const QString& unitType, const QString& unit) const

@@ -183,8 +183,11 @@ protected:
 
 private:
     QVariant roundToUnit(const QVariant& value, const QString& unitType, const QString& unit) const;
+    /// The conversion of a value that is a number to convert, which is stored in @p number.
+    ///
+    /// @return null, with @p number perhaps written and nothing logged, when there is no such conversion.
     UNITMANAGER_NO_EXPORT const ValueConversionWrapper*
-    findConversion(const QVariant& value, const QString& unitType, const QString& unit) const;
+    findConversion(const QVariant& value, const QString& unitType, const QString& unit, double& number) const;
 
     UnitManagerCore core;
 };

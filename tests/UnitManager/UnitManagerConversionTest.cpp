@@ -22,6 +22,10 @@ private slots:
     void toBaseUnit();
     void rawFormsDoNotRound_data();
     void rawFormsDoNotRound();
+    void everyTypeOfNumber_data();
+    void everyTypeOfNumber();
+    void namesWithSeparators_data();
+    void namesWithSeparators();
     void getValue_data();
     void getValue();
 
@@ -286,6 +290,89 @@ void UnitManagerConversionTest::rawFormsDoNotRound()
     QTEST(described(m_manager.fromBaseUnitRaw(value, unitType, unit)), "fromBase");
     QTEST(described(m_manager.toBaseUnitRaw(value, unitType, unit)), "toBase");
     QCOMPARE(described(value), given);
+    QTEST(describedMessages(log), "messages");
+}
+
+void UnitManagerConversionTest::everyTypeOfNumber_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("fromBase");
+    QTest::addColumn<QString>("toBase");
+
+    QTest::newRow("double") << QVariant(2.5) << "double 2500" << described(2.5 * 0.001);
+    QTest::newRow("double that is null") << QVariant(QVariant::Double) << "double 0"
+                                         << "double 0";
+    QTest::newRow("negative zero") << QVariant(-0.0) << described(-0.0 + 0.0) << described(-0.0 + 0.0);
+    QTest::newRow("infinity, of which the polynomial takes nothing") << QVariant(-infinity) << "double nan"
+                                                                     << "double nan";
+    QTest::newRow("float") << QVariant(2.5F) << "double 2500" << described(2.5 * 0.001);
+    QTest::newRow("float marker") << QVariant(std::numeric_limits<float>::quiet_NaN()) << "float nan"
+                                  << "float nan";
+    QTest::newRow("int") << QVariant(-2) << "double -2000" << described(-2 * 0.001);
+    QTest::newRow("unsigned int") << QVariant(4294967295U) << "double 4294967295000"
+                                  << described(4294967295.0 * 0.001);
+    QTest::newRow("long long") << QVariant(-4294967296LL) << "double -4294967296000"
+                               << described(-4294967296.0 * 0.001);
+    QTest::newRow("unsigned long long")
+        << QVariant(4294967296ULL) << "double 4294967296000" << described(4294967296.0 * 0.001);
+    QTest::newRow("short") << QVariant::fromValue(short(-2)) << "double -2000" << described(-2 * 0.001);
+    QTest::newRow("signed char") << QVariant::fromValue<signed char>(-2) << "double -2000"
+                                 << described(-2 * 0.001);
+}
+
+void UnitManagerConversionTest::everyTypeOfNumber()
+{
+    QFETCH(QVariant, value);
+    LogCapture log;
+
+    QTEST(described(m_manager.fromBaseUnitRaw(value, T::pressure, "HectoPascal")), "fromBase");
+    QTEST(described(m_manager.toBaseUnitRaw(value, T::pressure, "HectoPascal")), "toBase");
+    QCOMPARE(
+        described(m_manager.fromBaseUnit(value, T::pressure, "HectoPascal")),
+        described(m_manager.roundDouble(m_manager.fromBaseUnitRaw(value, T::pressure, "HectoPascal"), 1)));
+    QCOMPARE(described(m_manager.toBaseUnit(value, T::pressure, "HectoPascal")),
+             described(m_manager.roundDouble(m_manager.toBaseUnitRaw(value, T::pressure, "HectoPascal"), 1)));
+    QCOMPARE(describedMessages(log), QStringList());
+}
+
+void UnitManagerConversionTest::namesWithSeparators_data()
+{
+    QTest::addColumn<QString>("unitType");
+    QTest::addColumn<QString>("raw");
+    QTest::addColumn<QString>("rounded");
+    QTest::addColumn<QString>("toBase");
+    QTest::addColumn<QStringList>("messages");
+
+    const QStringList none;
+    const QString parent = QStringLiteral("UnitManager/UnitType/Gauge");
+    QTest::newRow("none") << parent << described(1.23456 * 1000.0) << described(1234.6)
+                          << described(1.23456 * 0.001) << none;
+    QTest::newRow("one is a fixed unit")
+        << parent + "/Low" << described(1.23456) << described(1.23456) << described(1.23456) << none;
+    QTest::newRow("one at the end is a fixed unit")
+        << parent + "/" << described(1.23456) << described(1.23456) << described(1.23456) << none;
+    QTest::newRow("two are none") << parent + "/Low/Er" << described(1.23456 * 1000.0) << described(1234.6)
+                                  << described(1.23456 * 0.001) << none;
+}
+
+void UnitManagerConversionTest::namesWithSeparators()
+{
+    QFETCH(QString, unitType);
+    const QString unit =
+        QStringLiteral("{\"Milli\": {\"Polynomial\": [[0], [1000]], \"InversePolynomial\": [[0], [0.001]], "
+                       "\"DecimalPlaces\": 1, \"UnitLabel\": {\"@value\": \"m\"}}}");
+    UnitManager manager;
+    QVERIFY(manager.initByJsonString(
+        QStringLiteral("{\"Gauge\": %1, \"Gauge/\": %1, \"Gauge/Low\": %1, \"Gauge/Low/Er\": %1}").arg(unit),
+        QString()));
+    LogCapture log;
+
+    QTEST(described(manager.fromBaseUnitRaw(1.23456, unitType, "Milli")), "raw");
+    QTEST(described(manager.fromBaseUnit(1.23456, unitType, "Milli")), "rounded");
+    QTEST(described(manager.toBaseUnitRaw(1.23456, unitType, "Milli")), "toBase");
+    double value = 1.23456;
+    manager.fromBaseUnitRaw(&value, &value, 1, unitType, "Milli");
+    QTEST(described(value), "raw");
     QTEST(describedMessages(log), "messages");
 }
 

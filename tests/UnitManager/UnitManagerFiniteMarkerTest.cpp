@@ -1,0 +1,93 @@
+#include "UnitManager.h"
+
+#include <QtTest/QtTest>
+
+#include <limits>
+
+#include "ConfigurationAndProcessDataTools.h"
+#include "Described.h"
+#include "LogCapture.h"
+#include "TestDocuments.h"
+
+namespace {
+
+const double marker = -999.0;
+
+} // namespace
+
+// A program's own function comes before that of a library: this is a platform whose marker is an ordinary
+// number.
+bool ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(const QVariant& value)
+{
+    return value.userType() == QMetaType::Double && value.toDouble() == marker;
+}
+
+/// Conversions on a platform whose marker of no input is no NaN.
+class UnitManagerFiniteMarkerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void singleConversions_data();
+    void singleConversions();
+    void runs();
+
+private:
+    UnitManager m_manager;
+};
+
+namespace {
+
+namespace T = TestUnitType;
+
+const double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+} // namespace
+
+void UnitManagerFiniteMarkerTest::initTestCase()
+{
+    QVERIFY(m_manager.initByJsonString(TestDocuments::units(), TestDocuments::defaultUnits()));
+}
+
+void UnitManagerFiniteMarkerTest::singleConversions_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("fromBase");
+    QTest::addColumn<QString>("toBase");
+
+    QTest::newRow("marker") << QVariant(marker) << "double -999"
+                            << "double -999";
+    QTest::newRow("the same number of another type")
+        << QVariant(-999) << "double -999000" << described(-999 * 0.001);
+    QTest::newRow("another number") << QVariant(2.0) << "double 2000" << described(2.0 * 0.001);
+    QTest::newRow("NaN") << QVariant(notANumber) << "double nan"
+                         << "double nan";
+}
+
+void UnitManagerFiniteMarkerTest::singleConversions()
+{
+    QFETCH(QVariant, value);
+    LogCapture log;
+
+    QTEST(described(m_manager.fromBaseUnitRaw(value, T::pressure, "HectoPascal")), "fromBase");
+    QTEST(described(m_manager.toBaseUnitRaw(value, T::pressure, "HectoPascal")), "toBase");
+    QTEST(described(m_manager.fromBaseUnit(value, T::pressure, "HectoPascal")), "fromBase");
+    QCOMPARE(describedMessages(log), QStringList());
+}
+
+void UnitManagerFiniteMarkerTest::runs()
+{
+    const double values[] = {marker, 2.0, notANumber};
+    double results[3] = {};
+    m_manager.fromBaseUnitRaw(values, results, 3, T::pressure, "HectoPascal");
+    QCOMPARE(described(QVariantList{results[0], results[1], results[2]}),
+             (QStringList{"double -999", "double 2000", "double nan"}));
+    m_manager.toBaseUnitRaw(values, results, 3, T::pressure, "HectoPascal");
+    QCOMPARE(described(QVariantList{results[0], results[1], results[2]}),
+             (QStringList{"double -999", described(2.0 * 0.001), "double nan"}));
+}
+
+QTEST_GUILESS_MAIN(UnitManagerFiniteMarkerTest)
+
+#include "UnitManagerFiniteMarkerTest.moc"
