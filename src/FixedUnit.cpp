@@ -26,6 +26,11 @@ bool isFixedUnit(const QString& unitType)
     return countSeparators(unitType) == separators;
 }
 
+bool isFixedUnitBehindPrefix(const QString& name)
+{
+    return countSeparators(name) == 1;
+}
+
 QString unitTypeOf(const QString& fixedUnit)
 {
     return fixedUnit.left(fixedUnit.lastIndexOf(separator));

@@ -179,12 +179,13 @@ QVariant UnitManagerCore::fromBaseUnit(const QSharedPointer<ConfigurationAndProc
 const ValueConversionWrapper* UnitManagerCore::findConversion(const QString& unitType,
                                                               const QString& unit) const
 {
-    if (unitType.isEmpty() || isFixedUnitType(unitType))
+    const UnitConversionUnitTypeHandler* const handler = conversionLookUp.findHandler(unitType);
+    if (!handler || handler->isFixedUnit())
         return nullptr;
     if (!unit.isEmpty())
-        return conversionLookUp.findConversion(unitType, unit);
+        return handler->findConversion(unit);
     return defaultUnits.hasDefaultUnit(unitType)
-               ? conversionLookUp.findConversion(unitType, defaultUnits.getDefaultUnit(unitType))
+               ? handler->findConversion(defaultUnits.getDefaultUnit(unitType))
                : nullptr;
 }
 

@@ -96,13 +96,6 @@ QString UnitConversionLookUp::getBaseUnit(const QString& unitType) const
     return {};
 }
 
-const ValueConversionWrapper* UnitConversionLookUp::findConversion(const QString& unitType,
-                                                                   const QString& unit) const
-{
-    const UnitConversionUnitTypeHandler* const handler = findHandler(unitType);
-    return handler ? handler->findConversion(unit) : nullptr;
-}
-
 bool UnitConversionLookUp::getDecimalPlacesForUnit(const QString& unitType, const QString& unit,
                                                    unsigned int& decimalPlaces) const
 {

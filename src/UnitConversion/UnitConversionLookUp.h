@@ -51,10 +51,9 @@ public:
     /// unit type.
     QString getBaseUnit(const QString& unitType) const;
 
-    /// @return the conversion of a unit, which lives as long as this catalogue is neither changed nor
-    /// destroyed; null, with nothing logged, for an unknown unit type or unit and for "NoUnit".
-    UNITMANAGER_NO_EXPORT const ValueConversionWrapper* findConversion(const QString& unitType,
-                                                                       const QString& unit) const;
+    /// @return what is known of a unit type, which lives as long as this catalogue is neither changed nor
+    /// destroyed; null, with nothing logged, for an unknown or invalid one.
+    UNITMANAGER_NO_EXPORT const UnitConversionUnitTypeHandler* findHandler(const QString& unitType) const;
 
     /// Stores the number of decimal places with which values of @p unit are shown.
     ///
@@ -73,9 +72,6 @@ public:
     bool fromBaseUnit(QVariant& value, const QString& unitType, const QString& unit) const;
 
 private:
-    /// The valid handler of a unit type; null when there is none.
-    const UnitConversionUnitTypeHandler* findHandler(const QString& unitType) const;
-
     QHash<QString, UnitConversionUnitTypeHandler> conversions;
     QList<QString> unitTypes;
 };

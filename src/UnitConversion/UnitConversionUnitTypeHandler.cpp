@@ -3,6 +3,7 @@
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataTools.h"
 #include "Diagnostics.h"
+#include "FixedUnit.h"
 #include "UnitManagerDefinitions.h"
 
 namespace {
@@ -102,6 +103,11 @@ const ValueConversionWrapper* UnitConversionUnitTypeHandler::findConversion(cons
     // "NoUnit" is never among them.
     const auto wrapper = conversions.constFind(unit);
     return wrapper == conversions.constEnd() ? nullptr : &*wrapper;
+}
+
+bool UnitConversionUnitTypeHandler::isFixedUnit() const
+{
+    return FixedUnit::isFixedUnitBehindPrefix(unitType);
 }
 
 bool UnitConversionUnitTypeHandler::getDecimalPlacesForUnit(const QString& unit,

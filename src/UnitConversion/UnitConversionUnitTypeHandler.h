@@ -49,6 +49,9 @@ public:
     /// destroyed; null, with nothing logged, for "NoUnit" and an unknown unit.
     UNITMANAGER_NO_EXPORT const ValueConversionWrapper* findConversion(const QString& unit) const;
 
+    /// Whether the unit type's name makes its full name, with the prefix, a fixed unit.
+    UNITMANAGER_NO_EXPORT bool isFixedUnit() const;
+
     /// Stores the number of decimal places with which values of @p unit are shown.
     ///
     /// @return false, with @p decimalPlaces untouched and nothing logged, for "NoUnit" and an unknown unit.
