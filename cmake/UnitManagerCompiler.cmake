@@ -13,6 +13,9 @@ set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}" "$ORIGIN")
 
 # The functions of a library are its own: within it they may be inlined, exported or not. Clang always thinks so.
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -fno-semantic-interposition)
+# On x86 calls from one library into another take the short way. Functions begin with a cache line of 64 bytes, so that
+# what stands before a short one does not slow it down.
+add_compile_options(-fno-plt -falign-functions=64)
 add_compile_definitions(
     QT_NO_CAST_TO_ASCII
     QT_DEPRECATED_WARNINGS
