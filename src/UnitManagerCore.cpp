@@ -180,7 +180,7 @@ const ValueConversionWrapper* UnitManagerCore::findConversion(const QString& uni
                                                               const QString& unit) const
 {
     const UnitConversionUnitTypeHandler* const handler = conversionLookUp.findHandler(unitType);
-    if (!handler || handler->isFixedUnit())
+    if (!handler || FixedUnit::isFixedUnitBehindPrefix(handler->getUnitType()))
         return nullptr;
     if (!unit.isEmpty())
         return handler->findConversion(unit);

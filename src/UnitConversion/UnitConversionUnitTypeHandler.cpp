@@ -3,7 +3,6 @@
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataTools.h"
 #include "Diagnostics.h"
-#include "FixedUnit.h"
 #include "UnitManagerDefinitions.h"
 
 namespace {
@@ -103,11 +102,6 @@ const ValueConversionWrapper* UnitConversionUnitTypeHandler::findConversion(cons
     // "NoUnit" is never among them.
     const auto wrapper = conversions.constFind(unit);
     return wrapper == conversions.constEnd() ? nullptr : &*wrapper;
-}
-
-bool UnitConversionUnitTypeHandler::isFixedUnit() const
-{
-    return FixedUnit::isFixedUnitBehindPrefix(unitType);
 }
 
 bool UnitConversionUnitTypeHandler::getDecimalPlacesForUnit(const QString& unit,

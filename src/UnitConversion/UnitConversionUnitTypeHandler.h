@@ -49,8 +49,11 @@ public:
     /// destroyed; null, with nothing logged, for "NoUnit" and an unknown unit.
     UNITMANAGER_NO_EXPORT const ValueConversionWrapper* findConversion(const QString& unit) const;
 
-    /// Whether the unit type's name makes its full name, with the prefix, a fixed unit.
-    UNITMANAGER_NO_EXPORT bool isFixedUnit() const;
+    /// The unit type's name, without the prefix.
+    UNITMANAGER_NO_EXPORT const QString& getUnitType() const
+    {
+        return unitType;
+    }
 
     /// Stores the number of decimal places with which values of @p unit are shown.
     ///
