@@ -11,8 +11,9 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 # Installed programs and libraries find each other wherever the tree is put.
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}" "$ORIGIN")
 
-# The functions of a library are its own: within it they may be inlined, exported or not. Clang always thinks so.
+# The functions of a library are its own: within it they are inlined and called directly, exported or not.
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -fno-semantic-interposition)
+add_link_options(-Wl,-Bsymbolic-functions)
 # On x86 calls from one library into another take the short way. Functions begin with a cache line of 64 bytes, so that
 # what stands before a short one does not slow it down.
 add_compile_options(-fno-plt -falign-functions=64)
