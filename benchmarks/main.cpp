@@ -40,8 +40,9 @@ void describeMachine()
 /// command line says comes later and counts.
 std::vector<char*> withOwnDefaults(int argc, char* argv[])
 {
-    static char defaults[][64] = {"--benchmark_repetitions=101", "--benchmark_enable_random_interleaving=true",
-                                  "--benchmark_min_time=0.005", "--benchmark_display_aggregates_only=true"};
+    static char defaults[][64] = {"--benchmark_repetitions=101",
+                                  "--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.005",
+                                  "--benchmark_display_aggregates_only=true"};
     std::vector<char*> arguments = {argv[0]};
     for (char* argument : defaults)
         arguments.push_back(argument);
