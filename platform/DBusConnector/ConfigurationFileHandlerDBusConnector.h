@@ -14,10 +14,11 @@ class DBUSCONNECTOR_EXPORT ConfigurationFileHandlerDBusConnector : public DBusCo
 
 public:
     /// A connector to one object of a module that is on the bus now. Answers at once: the bus is asked for
-    /// the name's owner, nothing is introspected, started or waited for.
+    /// the name's owner, nothing is introspected, started or waited for. A bus that does not answer costs one
+    /// time-out (DBusConnection::getCallTimeout()) for any number of attempts, until it answers again.
     /// @param service the module's name, without the device's prefix.
     /// @param object the object's name, without "/".
-    /// @return null when there is no bus, or nobody owns the module's name on it.
+    /// @return null when there is no bus, the bus does not answer, or nobody owns the module's name on it.
     static QSharedPointer<ConfigurationFileHandlerDBusConnector> createAndConnect(const QString& service,
                                                                                   const QString& object);
 

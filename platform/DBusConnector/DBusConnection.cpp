@@ -1,44 +1,19 @@
 #include "DBusConnection.h"
 
+#include "DeviceBus.h"
 #include "PropertyManagerConst.h"
 
-#include <QtCore/QMutex>
-#include <QtCore/QMutexLocker>
 #include <QtCore/QtGlobal>
 
 namespace {
 
 constexpr int defaultCallTimeout = 5000;
 
-// Qt keeps connections by name; one of this name and bus is ours, and no signal of it waits for the main
-// thread's event loop as those of QDBusConnection::sessionBus() do.
-QDBusConnection openConnection(const QString& bus, const QString& name)
-{
-    if (bus == QLatin1String("session"))
-        return QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
-    if (bus == QLatin1String("system"))
-        return QDBusConnection::connectToBus(QDBusConnection::SystemBus, name);
-    return QDBusConnection::connectToBus(bus, name);
-}
-
 } // namespace
 
 QDBusConnection DBusConnection::getQDBusConnection()
 {
-    static QMutex mutex;
-    const QMutexLocker locker(&mutex);
-
-    QString bus = qEnvironmentVariable("DEVICE_BUS");
-    if (bus.isEmpty())
-        bus = QStringLiteral("session");
-
-    const QString name = QLatin1String("device-bus ") + bus;
-    QDBusConnection connection(name);
-    if (connection.isConnected())
-        return connection;
-
-    QDBusConnection::disconnectFromBus(name);
-    return openConnection(bus, name);
+    return DeviceBus::current().connection();
 }
 
 int DBusConnection::getCallTimeout()

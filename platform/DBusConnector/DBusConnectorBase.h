@@ -29,7 +29,9 @@ public:
 
 protected:
     /// Whether somebody owns the module's name on the bus. One question to the bus, or none while this thread
-    /// has a connector to the module already; false when there is no bus.
+    /// has a connector to the module already. When the bus does not answer within the time-out
+    /// (DBusConnection::getCallTimeout()), further questions fail at once until it answers.
+    /// @return false when there is no bus, or the bus does not answer.
     static bool isServiceAvailable(const QString& service);
 
     /// Watches the module's name, then asks whether it is owned, unless a connector of this thread has done
@@ -39,7 +41,8 @@ protected:
     /// @param interface the full D-Bus interface name.
     DBusConnectorBase(const QString& service, const QString& object, const QString& interface);
 
-    /// Calls a method and blocks until its reply or the time-out (DBusConnection::getCallTimeout()).
+    /// Calls a method and blocks until its reply or the time-out (DBusConnection::getCallTimeout()). A
+    /// service that does not reply in time says nothing about the bus: isServiceAvailable() still asks it.
     DBusReply call(const QString& method, const QVariantList& arguments) const;
 
     /// Calls a method and returns at once.

@@ -2,12 +2,12 @@
 
 #include "DBusConnection.h"
 #include "DBusReply.h"
+#include "DeviceBus.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtCore/QHash>
 #include <QtCore/QWeakPointer>
-#include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusServiceWatcher>
 
 namespace {
@@ -22,13 +22,7 @@ QWeakPointer<ServiceOwner>& entry(const QString& serviceName)
 
 bool ServiceOwner::isOnBus(const QString& serviceName)
 {
-    // A message of its own, because QDBusConnectionInterface asks without a time-out that we can set.
-    QDBusMessage question = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
-    question.setArguments({serviceName});
-    const DBusReply reply(
-        DBusConnection::getQDBusConnection().call(question, QDBus::Block, DBusConnection::getCallTimeout()));
+    const DBusReply reply(DeviceBus::current().ask(QStringLiteral("NameHasOwner"), {serviceName}));
     return reply.getValue().toBool();
 }
 

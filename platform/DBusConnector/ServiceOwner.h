@@ -14,7 +14,8 @@ class ServiceOwner : public QObject
     Q_OBJECT
 
 public:
-    /// Asks the bus, without watching anything. @return false when there is no bus.
+    /// Asks the bus, without watching anything. @return false when there is no bus, or the bus does not
+    /// answer; see BusQuestions for how long that takes.
     static bool isOnBus(const QString& serviceName);
 
     /// The one that somebody in this thread holds for the name on the present connection; null for nobody.

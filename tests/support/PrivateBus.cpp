@@ -28,7 +28,7 @@ bool writeFile(const QString& path, const QString& text)
 }
 
 // The limits are those of the usual session bus: the ones built into the daemon are meant for the system bus.
-QString configuration(const QString& socket, const QString& serviceDirectory)
+QString configuration(const QString& socket, const QString& serviceDirectory, const QString& denied)
 {
     return QStringLiteral(R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
@@ -41,6 +41,7 @@ QString configuration(const QString& socket, const QString& serviceDirectory)
     <allow send_destination="*" eavesdrop="true"/>
     <allow eavesdrop="true"/>
     <allow own="*"/>
+    %3
   </policy>
   <limit name="max_incoming_bytes">1000000000</limit>
   <limit name="max_outgoing_bytes">1000000000</limit>
@@ -49,7 +50,7 @@ QString configuration(const QString& socket, const QString& serviceDirectory)
   <limit name="max_replies_per_connection">50000</limit>
 </busconfig>
 )")
-        .arg(socket, serviceDirectory);
+        .arg(socket, serviceDirectory, denied);
 }
 
 } // namespace
@@ -77,7 +78,8 @@ bool PrivateBus::start()
 
     const QString services = path(QStringLiteral("services"));
     if (!QDir().mkpath(services) ||
-        !writeFile(path(QStringLiteral("bus.conf")), configuration(path(QStringLiteral("socket")), services)))
+        !writeFile(path(QStringLiteral("bus.conf")),
+                   configuration(path(QStringLiteral("socket")), services, m_denied)))
         return false;
 
     m_daemon->start(QIODevice::ReadOnly);
@@ -119,6 +121,12 @@ bool PrivateBus::addActivatableService(const QString& serviceName, const QString
     return QDir().mkpath(services) &&
            writeFile(services + QLatin1Char('/') + serviceName + QStringLiteral(".service"),
                      QStringLiteral("[D-BUS Service]\nName=%1\nExec=%2\n").arg(serviceName, command));
+}
+
+void PrivateBus::deny(const QString& member)
+{
+    m_denied =
+        QStringLiteral("<deny send_interface=\"org.freedesktop.DBus\" send_member=\"%1\"/>").arg(member);
 }
 
 QString PrivateBus::path(const QString& name) const

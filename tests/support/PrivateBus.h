@@ -32,6 +32,10 @@ public:
 
     /// The D-Bus address, whether or not the daemon runs.
     QString address() const;
+    /// Lets the bus answer every call of its own operation `member` with the error AccessDenied. Before
+    /// start().
+    void deny(const QString& member);
+
     /// A directory for the test's files; removed with this object.
     QString directory() const;
 
@@ -44,5 +48,6 @@ private:
     QString path(const QString& name) const;
 
     QTemporaryDir m_directory;
+    QString m_denied;
     const std::unique_ptr<QProcess> m_daemon;
 };

@@ -28,6 +28,12 @@ private Q_SLOTS:
     void aHundredAttemptsWaitForNothing_data();
     void aHundredAttemptsWaitForNothing();
     void anAttemptWithoutServiceIsOneQuestion();
+    void aHundredAttemptsOnAFrozenBusWaitForOneQuestion();
+    void aFrozenBusIsUsableWhenItAnswersAgain();
+    void aFrozenBusThatIsReplacedIsUsable();
+    void aFrozenBusLeavesAnotherBusUsable();
+    void anErrorIsAnAnswerOfTheBus();
+    void aServiceThatDoesNotReplyLeavesTheBusUsable();
     void anAttemptWithServiceWatchesItsName();
     void theServiceIsFoundWhenItAppears();
     void noServiceIsStarted();
@@ -146,6 +152,115 @@ void ConfigurationFileHandlerDBusConnectorTest::anAttemptWithoutServiceIsOneQues
     QVERIFY(create().isNull());
     QCOMPARE(monitor.takeCalls(DBusConnection::getQDBusConnection()),
              QStringList{"org.freedesktop.DBus NameHasOwner " + serviceName});
+}
+
+void ConfigurationFileHandlerDBusConnectorTest::aHundredAttemptsOnAFrozenBusWaitForOneQuestion()
+{
+    constexpr int attempts = 100;
+    QVERIFY(m_bus->start());
+    BusMonitor monitor(m_bus->address());
+    QVERIFY(monitor.start());
+    const QDBusConnection connection = DBusConnection::getQDBusConnection();
+    monitor.takeCalls(connection);
+
+    // A time-out for each attempt would take longer than the limit.
+    qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(2 * waitLimit / attempts));
+    const QDeadlineTimer deadline(waitLimit);
+    m_bus->halt();
+    for (int attempt = 0; attempt < attempts && !deadline.hasExpired(); ++attempt)
+        QVERIFY(create().isNull());
+    QVERIFY(!deadline.hasExpired());
+
+    m_bus->resume();
+    // The one that was waited for, and the one that stays outstanding.
+    const QString question = "org.freedesktop.DBus NameHasOwner " + serviceName;
+    QCOMPARE(monitor.takeCalls(connection), (QStringList{question, question}));
+}
+
+void ConfigurationFileHandlerDBusConnectorTest::aFrozenBusIsUsableWhenItAnswersAgain()
+{
+    startService(FakeBusService::withValue("text"));
+    QVERIFY(!create().isNull());
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "200");
+    for (int freeze = 0; freeze < 2; ++freeze) {
+        m_bus->halt();
+        QVERIFY(create().isNull());
+        m_bus->resume();
+        QVERIFY(waitUntil([] { return !create().isNull(); }));
+    }
+}
+
+void ConfigurationFileHandlerDBusConnectorTest::aFrozenBusThatIsReplacedIsUsable()
+{
+    QVERIFY(m_bus->start());
+    const QDBusConnection lost = DBusConnection::getQDBusConnection();
+    QVERIFY(lost.isConnected());
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "200");
+    m_bus->halt();
+    QVERIFY(create().isNull());
+    m_bus->stop();
+    QVERIFY(waitUntil([&lost] { return !lost.isConnected(); }));
+
+    qunsetenv("DEVICE_BUS_TIMEOUT_MS");
+    startService(FakeBusService::withValue("text"));
+    QVERIFY(!create().isNull());
+}
+
+void ConfigurationFileHandlerDBusConnectorTest::aFrozenBusLeavesAnotherBusUsable()
+{
+    PrivateBus frozenBus;
+    QVERIFY(frozenBus.start());
+    BusMonitor monitor(frozenBus.address());
+    QVERIFY(monitor.start());
+    const QByteArray frozenAddress = frozenBus.address().toLocal8Bit();
+    qputenv("DEVICE_BUS", frozenAddress);
+    const QDBusConnection frozenConnection = DBusConnection::getQDBusConnection();
+    monitor.takeCalls(frozenConnection);
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "200");
+    frozenBus.halt();
+    QVERIFY(create().isNull());
+
+    qunsetenv("DEVICE_BUS_TIMEOUT_MS");
+    qputenv("DEVICE_BUS", m_bus->address().toLocal8Bit());
+    startService(FakeBusService::withValue("text"));
+    QVERIFY(!create().isNull());
+    // The answers of this bus do not end the silence of the other.
+    qputenv("DEVICE_BUS", frozenAddress);
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "200");
+    QVERIFY(create().isNull());
+    QVERIFY(create().isNull());
+    frozenBus.resume();
+    const QString question = "org.freedesktop.DBus NameHasOwner " + serviceName;
+    QCOMPARE(monitor.takeCalls(frozenConnection), (QStringList{question, question}));
+}
+
+void ConfigurationFileHandlerDBusConnectorTest::anErrorIsAnAnswerOfTheBus()
+{
+    constexpr int attempts = 3;
+    m_bus->deny("NameHasOwner");
+    QVERIFY(m_bus->start());
+    BusMonitor monitor(m_bus->address());
+    QVERIFY(monitor.start());
+    monitor.takeCalls(DBusConnection::getQDBusConnection());
+
+    for (int attempt = 0; attempt < attempts; ++attempt)
+        QVERIFY(create().isNull());
+    const QStringList questions = monitor.takeCalls(DBusConnection::getQDBusConnection());
+    QCOMPARE(questions.size(), attempts);
+    QCOMPARE(questions.count("org.freedesktop.DBus NameHasOwner " + serviceName), attempts);
+}
+
+void ConfigurationFileHandlerDBusConnectorTest::aServiceThatDoesNotReplyLeavesTheBusUsable()
+{
+    startService(FakeBusService::never());
+    ConnectorPointer connector = create();
+    QVERIFY(!connector.isNull());
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "200");
+    QVERIFY(connector->getConfiguration("name", "module", "extra").isError());
+    qunsetenv("DEVICE_BUS_TIMEOUT_MS");
+    // Without this connector the bus is asked again.
+    connector.reset();
+    QVERIFY(!create().isNull());
 }
 
 void ConfigurationFileHandlerDBusConnectorTest::anAttemptWithServiceWatchesItsName()

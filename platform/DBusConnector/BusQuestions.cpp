@@ -1,0 +1,59 @@
+#include "BusQuestions.h"
+
+#include "DBusConnection.h"
+
+#include <QtCore/QMutexLocker>
+
+#include <limits>
+
+namespace {
+
+// D-Bus takes this time-out as none.
+constexpr int withoutTimeout = std::numeric_limits<int>::max();
+
+QDBusMessage createQuestion(const QString& member, const QVariantList& arguments)
+{
+    QDBusMessage question = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+                                                           QStringLiteral("/org/freedesktop/DBus"),
+                                                           QStringLiteral("org.freedesktop.DBus"), member);
+    question.setArguments(arguments);
+    return question;
+}
+
+bool isTimeout(const QDBusMessage& reply)
+{
+    return reply.errorName() == QDBusError::errorString(QDBusError::NoReply);
+}
+
+} // namespace
+
+QDBusMessage BusQuestions::ask(const QDBusConnection& connection, const QString& member,
+                               const QVariantList& arguments)
+{
+    if (hasUnanswered())
+        return {};
+
+    // A message of its own, because QDBusConnectionInterface asks without a time-out that we can set.
+    const QDBusMessage question = createQuestion(member, arguments);
+    const QDBusMessage reply = connection.call(question, QDBus::Block, DBusConnection::getCallTimeout());
+    if (isTimeout(reply))
+        setOutstanding(connection.asyncCall(question, withoutTimeout));
+    return reply;
+}
+
+bool BusQuestions::hasUnanswered() const
+{
+    const QMutexLocker locker(&m_mutex);
+    return !m_outstanding.isFinished();
+}
+
+void BusQuestions::forget()
+{
+    setOutstanding(QDBusPendingCall::fromError(QDBusError()));
+}
+
+void BusQuestions::setOutstanding(const QDBusPendingCall& question)
+{
+    const QMutexLocker locker(&m_mutex);
+    m_outstanding = question;
+}
