@@ -16,6 +16,18 @@ QString environmentOr(const char* variable, const QString& fallback)
     return value.isEmpty() ? fallback : value;
 }
 
+// Where a bus is looked for, by the rules of D-Bus.
+QString addressOf(const QString& bus)
+{
+    if (bus == sessionBus)
+        return environmentOr("DBUS_SESSION_BUS_ADDRESS",
+                             QStringLiteral("unix:path=%1/bus").arg(qEnvironmentVariable("XDG_RUNTIME_DIR")));
+    if (bus == systemBus)
+        return environmentOr("DBUS_SYSTEM_BUS_ADDRESS",
+                             QStringLiteral("unix:path=/var/run/dbus/system_bus_socket"));
+    return bus;
+}
+
 // Qt keeps connections by name; one of this name and bus is ours, and no signal of it waits for the main
 // thread's event loop as those of QDBusConnection::sessionBus() do.
 QDBusConnection openConnection(const QString& bus, const QString& name)
@@ -39,7 +51,11 @@ DeviceBus& DeviceBus::current()
     return buses.try_emplace(bus, bus).first->second;
 }
 
-DeviceBus::DeviceBus(const QString& bus) : m_bus(bus), m_connectionName(QLatin1String("device-bus ") + bus) {}
+DeviceBus::DeviceBus(const QString& bus)
+    : m_bus(bus),
+      m_connectionName(QLatin1String("device-bus ") + bus),
+      m_greetingName(QLatin1String("device-bus-greeting ") + bus)
+{}
 
 QDBusConnection DeviceBus::connection()
 {
@@ -50,10 +66,27 @@ QDBusConnection DeviceBus::connection()
 
     QDBusConnection::disconnectFromBus(m_connectionName);
     m_questions.forget();
-    return openConnection(m_bus, m_connectionName);
+    return answers() ? openConnection(m_bus, m_connectionName) : connection;
 }
 
 QDBusMessage DeviceBus::ask(const QString& member, const QVariantList& arguments)
 {
     return m_questions.ask(connection(), member, arguments);
+}
+
+// Asks on a connection that is opened for this only. connectToBus() waits for its first answer without a
+// limit, and every connection of the process waits with it.
+bool DeviceBus::answers()
+{
+    if (m_greeting.hasUnanswered())
+        return false;
+
+    QDBusConnection::disconnectFromPeer(m_greetingName);
+    m_greeting.ask(QDBusConnection::connectToPeer(addressOf(m_bus), m_greetingName), QStringLiteral("Hello"),
+                   {});
+    if (m_greeting.hasUnanswered())
+        return false;
+
+    QDBusConnection::disconnectFromPeer(m_greetingName);
+    return true;
 }

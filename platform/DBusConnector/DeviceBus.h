@@ -26,8 +26,13 @@ public:
     QDBusMessage ask(const QString& member, const QVariantList& arguments);
 
 private:
+    /// Whether the bus is worth opening: false when it accepts connections, but has not answered in time.
+    bool answers();
+
     const QString m_bus;
     const QString m_connectionName;
+    const QString m_greetingName;
     QMutex m_openingMutex;
+    BusQuestions m_greeting;
     BusQuestions m_questions;
 };

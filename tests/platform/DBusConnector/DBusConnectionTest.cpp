@@ -24,12 +24,19 @@ private Q_SLOTS:
     void aBusThatIsNotThereGivesAConnectionThatIsNotConnected_data();
     void aBusThatIsNotThereGivesAConnectionThatIsNotConnected();
     void aBusThatCameBackIsConnectedAgain();
+    void openingAFrozenBusWaitsOnce_data();
+    void openingAFrozenBusWaitsOnce();
+    void aFrozenBusIsOpenedWhenItAnswers();
+    void aFrozenBusThatIsReplacedIsOpened();
+    void aFrozenBusLeavesAnotherBusUsable();
     void theTimeOutCanBeSet_data();
     void theTimeOutCanBeSet();
     void aModuleIsAddressedByPrefixAndName();
     void anObjectIsAddressedByASlashAndItsName();
 
 private:
+    PrivateBus& busOf(const QString& deviceBus);
+
     PrivateBus m_sessionBus;
     PrivateBus m_systemBus;
     PrivateBus m_otherBus;
@@ -74,6 +81,17 @@ std::vector<QString> askAtOnce(std::size_t count)
     return names;
 }
 
+// Freezes the bus while nobody is connected to it. The bus is the one that DEVICE_BUS names.
+bool restartAndHalt(PrivateBus& bus)
+{
+    const QDBusConnection lost = DBusConnection::getQDBusConnection();
+    bus.stop();
+    if (!waitUntil([&lost] { return !lost.isConnected(); }) || !bus.start())
+        return false;
+    bus.halt();
+    return true;
+}
+
 } // namespace
 
 void DBusConnectionTest::initTestCase()
@@ -89,6 +107,14 @@ void DBusConnectionTest::initTestCase()
 void DBusConnectionTest::init()
 {
     qputenv("DEVICE_BUS", m_otherBus.address().toLocal8Bit());
+    qunsetenv("DEVICE_BUS_TIMEOUT_MS");
+}
+
+PrivateBus& DBusConnectionTest::busOf(const QString& deviceBus)
+{
+    if (deviceBus == "session")
+        return m_sessionBus;
+    return deviceBus == "system" ? m_systemBus : m_otherBus;
 }
 
 void DBusConnectionTest::theEnvironmentNamesTheBus_data()
@@ -163,6 +189,80 @@ void DBusConnectionTest::aBusThatCameBackIsConnectedAgain()
     QVERIFY(DBusConnection::getQDBusConnection().isConnected());
     QCOMPARE(busId(), busId(m_otherBus));
     QVERIFY(!lost.isConnected());
+}
+
+void DBusConnectionTest::openingAFrozenBusWaitsOnce_data()
+{
+    QTest::addColumn<QString>("deviceBus");
+    QTest::newRow("the session bus") << QStringLiteral("session");
+    QTest::newRow("the system bus") << QStringLiteral("system");
+    QTest::newRow("an address") << m_otherBus.address();
+}
+
+void DBusConnectionTest::openingAFrozenBusWaitsOnce()
+{
+    QFETCH(const QString, deviceBus);
+    qputenv("DEVICE_BUS", deviceBus.toLocal8Bit());
+    PrivateBus& bus = busOf(deviceBus);
+    QVERIFY(restartAndHalt(bus));
+
+    constexpr int attempts = 100;
+    // A time-out for each attempt would take longer than the limit.
+    qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(2 * waitLimit / attempts));
+    std::atomic<int> attempted = 0;
+    std::atomic<int> connected = 0;
+    std::thread thread([&attempted, &connected] {
+        for (int attempt = 0; attempt < attempts; ++attempt) {
+            connected += DBusConnection::getQDBusConnection().isConnected() ? 1 : 0;
+            ++attempted;
+        }
+    });
+    const bool ended = waitUntil([&attempted] { return attempted == attempts; });
+    const int connectedToFrozenBus = connected;
+    bus.resume(); // lets an attempt end that has no limit
+    thread.join();
+    QVERIFY(ended);
+    QCOMPARE(connectedToFrozenBus, 0);
+}
+
+void DBusConnectionTest::aFrozenBusIsOpenedWhenItAnswers()
+{
+    for (int freeze = 0; freeze < 2; ++freeze) {
+        QVERIFY(restartAndHalt(m_otherBus));
+        qputenv("DEVICE_BUS_TIMEOUT_MS", "200");
+        QVERIFY(!DBusConnection::getQDBusConnection().isConnected());
+        qunsetenv("DEVICE_BUS_TIMEOUT_MS");
+        m_otherBus.resume();
+        QVERIFY(waitUntil([] { return DBusConnection::getQDBusConnection().isConnected(); }));
+        QCOMPARE(busId(), busId(m_otherBus));
+    }
+}
+
+void DBusConnectionTest::aFrozenBusThatIsReplacedIsOpened()
+{
+    QVERIFY(restartAndHalt(m_otherBus));
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "200");
+    QVERIFY(!DBusConnection::getQDBusConnection().isConnected());
+    qunsetenv("DEVICE_BUS_TIMEOUT_MS");
+    m_otherBus.stop();
+    QVERIFY(m_otherBus.start());
+    QVERIFY(waitUntil([] { return DBusConnection::getQDBusConnection().isConnected(); }));
+    QCOMPARE(busId(), busId(m_otherBus));
+}
+
+void DBusConnectionTest::aFrozenBusLeavesAnotherBusUsable()
+{
+    QVERIFY(restartAndHalt(m_otherBus));
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "200");
+    QVERIFY(!DBusConnection::getQDBusConnection().isConnected());
+    qunsetenv("DEVICE_BUS_TIMEOUT_MS");
+
+    PrivateBus anotherBus;
+    QVERIFY(anotherBus.start());
+    qputenv("DEVICE_BUS", anotherBus.address().toLocal8Bit());
+    QVERIFY(DBusConnection::getQDBusConnection().isConnected());
+    QCOMPARE(busId(), busId(anotherBus));
+    m_otherBus.resume();
 }
 
 void DBusConnectionTest::theTimeOutCanBeSet_data()
