@@ -1,5 +1,6 @@
 #include "UnitManagerDevice/UnitManagerWrapper.h"
 
+#include <QtCore/QDeadlineTimer>
 #include <QtTest/QtTest>
 
 #include "BusMonitor.h"
@@ -7,6 +8,7 @@
 #include "DocumentService.h"
 #include "LogCapture.h"
 #include "PrivateBus.h"
+#include "WaitLimit.h"
 #include "WrapperSetup.h"
 
 using namespace WrapperSetup;
@@ -19,6 +21,7 @@ class UnitManagerWrapperTrafficTest : public QObject
 private slots:
     void blockingStart();
     void attemptWithoutService();
+    void blockingStartOnFrozenBus();
 };
 
 namespace {
@@ -85,6 +88,34 @@ void UnitManagerWrapperTrafficTest::attemptWithoutService()
     QVERIFY(!*wrapper);
     QCOMPARE(monitor.takeCalls(DBusConnection::getQDBusConnection()),
              QStringList{toBus(QStringLiteral("NameHasOwner ") + service)});
+}
+
+void UnitManagerWrapperTrafficTest::blockingStartOnFrozenBus()
+{
+    PrivateBus bus;
+    QVERIFY(bus.start());
+    qputenv("DEVICE_BUS", bus.address().toLocal8Bit());
+    const DocumentService documents(bus.address());
+    QVERIFY(documents.isRunning());
+    BusMonitor monitor(bus.address());
+    QVERIFY(monitor.start());
+    monitor.takeCalls(DBusConnection::getQDBusConnection());
+
+    // A start makes a hundred attempts: with a time-out for each it would take longer than the limit.
+    qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(waitLimit / 50));
+    const QDeadlineTimer deadline(waitLimit);
+    LogCapture log;
+    bus.halt();
+    const auto wrapper = create(AllNames, Blocking, Delivered);
+    QVERIFY(!*wrapper);
+    QVERIFY(!deadline.hasExpired());
+
+    bus.resume();
+    qunsetenv("DEVICE_BUS_TIMEOUT_MS");
+    // The question that was waited for, and the one that stays outstanding.
+    const QString whoOwnsIt = toBus(QStringLiteral("NameHasOwner ") + service);
+    QCOMPARE(monitor.takeCalls(DBusConnection::getQDBusConnection()), (QStringList{whoOwnsIt, whoOwnsIt}));
+    QVERIFY(waitForUnits(*wrapper));
 }
 
 QTEST_GUILESS_MAIN(UnitManagerWrapperTrafficTest)
