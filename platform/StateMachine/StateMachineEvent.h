@@ -11,7 +11,7 @@ class STATEMACHINE_EXPORT StateMachineEvent
 public:
     /// An event without a name and without data.
     StateMachineEvent();
-    explicit StateMachineEvent(const QString& name, const QVariant& data = QVariant());
+    StateMachineEvent(const QString& name, const QVariant& data = QVariant());
 
     QString getName() const;
     void setName(const QString& name);

@@ -14,7 +14,7 @@ class STATEMACHINE_EXPORT StateMachineStateBase : public QObject
 
 public:
     /// @param parent the QObject parent; a state that belongs to a machine passes none on.
-    explicit StateMachineStateBase(QObject* parent);
+    StateMachineStateBase(QObject* parent);
 
     /// Called once when the machine enters the state, with the event that selected it. Does nothing here.
     virtual void postInitialEvent(const StateMachineEvent& event);

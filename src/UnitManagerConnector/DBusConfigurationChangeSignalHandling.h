@@ -26,7 +26,7 @@ public:
     using ConnectionStatus = UnitManagerConnectorDefinitions::ConnectionStatus;
 
     /// @param useSignalPolling whether signals are polled instead of delivered by the event loop
-    explicit DBusConfigurationChangeSignalHandling(bool useSignalPolling);
+    DBusConfigurationChangeSignalHandling(bool useSignalPolling);
     ~DBusConfigurationChangeSignalHandling() override;
 
     /// Takes over the settings (0 service name, 1 object name, 2 configuration name of each source), forgets

@@ -31,7 +31,7 @@ public:
     };
 
     /// @param parent ignored: the object belongs to its holder
-    explicit UnitManagerConnectorDefinitions(QObject* parent);
+    UnitManagerConnectorDefinitions(QObject* parent);
 
     /// Key of a source that may be missing.
     static const QString& getKeyOptional();

@@ -25,7 +25,7 @@ public:
 
     /// @param parent the wrapper; anything else gives a state without wrapper. It does not become the QObject
     /// parent.
-    explicit UnitManagerConnectorStateBase(QObject* parent);
+    UnitManagerConnectorStateBase(QObject* parent);
     ~UnitManagerConnectorStateBase() override;
 
     /// Whether there is no wrapper.

@@ -11,7 +11,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateError : public UnitManagerConn
     Q_OBJECT
 
 public:
-    explicit UnitManagerConnectorStateError(QObject* parent);
+    UnitManagerConnectorStateError(QObject* parent);
     ~UnitManagerConnectorStateError() override;
 
     /// Entering the state does nothing.

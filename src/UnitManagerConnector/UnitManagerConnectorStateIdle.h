@@ -11,7 +11,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateIdle : public UnitManagerConne
     Q_OBJECT
 
 public:
-    explicit UnitManagerConnectorStateIdle(QObject* parent);
+    UnitManagerConnectorStateIdle(QObject* parent);
     ~UnitManagerConnectorStateIdle() override;
 
     /// Entering the state does nothing.

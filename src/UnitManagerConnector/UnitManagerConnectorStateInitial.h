@@ -13,7 +13,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateInitial : public UnitManagerCo
     Q_OBJECT
 
 public:
-    explicit UnitManagerConnectorStateInitial(QObject* parent);
+    UnitManagerConnectorStateInitial(QObject* parent);
     ~UnitManagerConnectorStateInitial() override;
 
     /// Entering the state does nothing.

@@ -12,5 +12,5 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateMachine : public StateMachineB
 
 public:
     /// @param parent the wrapper, which every state is made with
-    explicit UnitManagerConnectorStateMachine(QObject* parent);
+    UnitManagerConnectorStateMachine(QObject* parent);
 };

@@ -12,7 +12,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateReadConfigurationASynchron
     Q_OBJECT
 
 public:
-    explicit UnitManagerConnectorStateReadConfigurationASynchron(QObject* parent);
+    UnitManagerConnectorStateReadConfigurationASynchron(QObject* parent);
     ~UnitManagerConnectorStateReadConfigurationASynchron() override;
 
     /// Entering the state does nothing.

@@ -12,7 +12,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateReadConfigurationSynchron
     Q_OBJECT
 
 public:
-    explicit UnitManagerConnectorStateReadConfigurationSynchron(QObject* parent);
+    UnitManagerConnectorStateReadConfigurationSynchron(QObject* parent);
     ~UnitManagerConnectorStateReadConfigurationSynchron() override;
 
     /// Entering the state does nothing.

@@ -11,7 +11,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateUpdate : public UnitManagerCon
     Q_OBJECT
 
 public:
-    explicit UnitManagerConnectorStateUpdate(QObject* parent);
+    UnitManagerConnectorStateUpdate(QObject* parent);
     ~UnitManagerConnectorStateUpdate() override;
 
     /// Entering the state does nothing.

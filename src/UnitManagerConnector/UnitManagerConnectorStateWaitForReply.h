@@ -15,7 +15,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateWaitForReply : public UnitMana
     Q_OBJECT
 
 public:
-    explicit UnitManagerConnectorStateWaitForReply(QObject* parent);
+    UnitManagerConnectorStateWaitForReply(QObject* parent);
     ~UnitManagerConnectorStateWaitForReply() override;
 
     /// Entering the state does nothing.

@@ -17,7 +17,7 @@ class UNITMANAGER_EXPORT UnitManipulatorMeasurementRange : public UnitManipulato
 {
 public:
     /// @param wrapper must outlive the manipulator
-    explicit UnitManipulatorMeasurementRange(UnitManagerWrapper& wrapper);
+    UnitManipulatorMeasurementRange(UnitManagerWrapper& wrapper);
     ~UnitManipulatorMeasurementRange() override;
 
     /// Writes base unit and unit texts of @p unitType into the first measurement range of @p node. The

@@ -20,7 +20,7 @@ public:
     /// No labels.
     UnitTextHandler();
     /// The labels of the document @p json; test with isValid().
-    explicit UnitTextHandler(const QString& json);
+    UnitTextHandler(const QString& json);
     virtual ~UnitTextHandler();
 
     /// Replaces the labels by those of the document. The old ones are gone also when this fails.

@@ -5,6 +5,7 @@
 #include <QtTest/QtTest>
 
 #include <memory>
+#include <type_traits>
 
 #include "ChangeSources.h"
 #include "ConfigurationService.h"
@@ -16,6 +17,8 @@
 using Handling = DBusConfigurationChangeSignalHandling;
 using Definitions = UnitManagerConnectorDefinitions;
 using namespace ChangeSources;
+
+static_assert(std::is_convertible_v<bool, Handling>);
 
 class DBusConfigurationChangeSignalHandlingTest : public QObject
 {

@@ -13,6 +13,7 @@ using Types = QList<Definitions::ConnectorType>;
 Q_DECLARE_METATYPE(Getter)
 
 static_assert(std::is_base_of_v<QObject, Definitions>);
+static_assert(std::is_convertible_v<QObject*, Definitions>);
 static_assert(sizeof(Definitions::ConnectorType) == 4 && sizeof(Definitions::ConnectionStatus) == 4);
 static_assert(Definitions::UnitSwitch == 0 && Definitions::DependencyFile == 1 &&
               Definitions::DefaultUnit == 2);

@@ -2,6 +2,8 @@
 
 #include <QtTest/QtTest>
 
+#include <type_traits>
+
 #include "LogCapture.h"
 #include "ObjectSlots.h"
 #include "RecordingWrapper.h"
@@ -17,6 +19,27 @@
 
 using Base = UnitManagerConnectorStateBase;
 using StateFactory = VESKFactories::Factory<StateMachineStateBase, QObject*>;
+
+namespace {
+
+/// The base, which is abstract, with its own constructor.
+class PlainState : public Base
+{
+public:
+    using Base::Base;
+    void postEvent(const StateMachineEvent& /*event*/) override {}
+};
+
+static_assert(std::is_convertible_v<QObject*, PlainState>);
+static_assert(std::is_convertible_v<QObject*, UnitManagerConnectorStateInitial>);
+static_assert(std::is_convertible_v<QObject*, UnitManagerConnectorStateReadConfigurationASynchron>);
+static_assert(std::is_convertible_v<QObject*, UnitManagerConnectorStateReadConfigurationSynchron>);
+static_assert(std::is_convertible_v<QObject*, UnitManagerConnectorStateError>);
+static_assert(std::is_convertible_v<QObject*, UnitManagerConnectorStateIdle>);
+static_assert(std::is_convertible_v<QObject*, UnitManagerConnectorStateUpdate>);
+static_assert(std::is_convertible_v<QObject*, UnitManagerConnectorStateWaitForReply>);
+
+} // namespace
 
 /// What the seven states have in common.
 class UnitManagerConnectorStateBaseTest : public QObject

@@ -2,6 +2,8 @@
 
 #include <QtTest/QtTest>
 
+#include <type_traits>
+
 #include "ObjectSlots.h"
 #include "StateMachineStateBase.h"
 #include "UnitConversion/Factory.h"
@@ -9,6 +11,8 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateInitial.h"
 
 using StatePointer = QSharedPointer<StateMachineStateBase>;
+
+static_assert(std::is_convertible_v<QObject*, UnitManagerConnectorStateMachine>);
 
 namespace {
 

@@ -22,7 +22,7 @@ static_assert(std::is_base_of_v<UnitManipulatorBase, UnitManipulatorMeasurementR
 static_assert(std::is_convertible_v<UnitManipulatorMeasurementRange*, UnitManipulatorBase*>,
               "the base is public");
 static_assert(std::has_virtual_destructor_v<UnitManipulatorMeasurementRange>);
-static_assert(std::is_constructible_v<UnitManipulatorMeasurementRange, UnitManagerWrapper&>);
+static_assert(std::is_convertible_v<UnitManagerWrapper&, UnitManipulatorMeasurementRange>);
 static_assert(sizeof(UnitManipulatorMeasurementRange) ==
                   sizeof(UnitManipulatorBase) + sizeof(UnitManagerWrapper*),
               "one member, a reference");

@@ -16,6 +16,7 @@ namespace {
 static_assert(std::has_virtual_destructor_v<UnitTextHandler>);
 static_assert(std::is_copy_constructible_v<UnitTextHandler> && std::is_copy_assignable_v<UnitTextHandler>);
 static_assert(std::is_convertible_v<const UnitTextHandler&, bool>);
+static_assert(std::is_convertible_v<QString, UnitTextHandler>);
 
 QString textWarning(const QString& text)
 {

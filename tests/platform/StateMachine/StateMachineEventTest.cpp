@@ -2,6 +2,10 @@
 
 #include <QtTest/QtTest>
 
+#include <type_traits>
+
+static_assert(std::is_convertible_v<QString, StateMachineEvent>);
+
 class StateMachineEventTest : public QObject
 {
     Q_OBJECT

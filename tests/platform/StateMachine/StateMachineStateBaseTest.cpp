@@ -2,6 +2,8 @@
 
 #include <QtTest/QtTest>
 
+#include <type_traits>
+
 class StateThatCounts : public StateMachineStateBase
 {
     Q_OBJECT
@@ -16,6 +18,8 @@ public:
 
     int steps = 0;
 };
+
+static_assert(std::is_convertible_v<QObject*, StateThatCounts>);
 
 class StateMachineStateBaseTest : public QObject
 {
