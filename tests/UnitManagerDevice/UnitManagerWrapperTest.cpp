@@ -22,10 +22,22 @@ static_assert(!std::is_default_constructible_v<UnitManagerWrapper>);
 static_assert(!std::is_copy_constructible_v<UnitManagerWrapper> &&
               !std::is_copy_assignable_v<UnitManagerWrapper>);
 static_assert(std::is_convertible_v<UnitManagerWrapper, bool>);
-static_assert(sizeof(UnitManagerWrapper) == sizeof(void*) + sizeof(UnitManagerDBusConnector) +
-                                                sizeof(QSharedPointer<DependencyWalker>) +
-                                                sizeof(QSharedPointer<UnitManagerDevice>),
-              "connector by value, walker, manager");
+
+namespace {
+
+/// The members that the wrapper has; the compiler pads them as it pads the wrapper's.
+struct SameMembers
+{
+    virtual ~SameMembers();
+    UnitManagerDBusConnector connector;
+    QSharedPointer<DependencyWalker> dependencyWalker;
+    QSharedPointer<UnitManagerDevice> unitManager;
+};
+
+static_assert(sizeof(UnitManagerWrapper) == sizeof(SameMembers), "connector by value, walker, manager");
+static_assert(alignof(UnitManagerWrapper) == alignof(SameMembers));
+
+} // namespace
 
 using namespace WrapperSetup;
 
