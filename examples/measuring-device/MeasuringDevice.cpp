@@ -86,7 +86,7 @@ void MeasuringDevice::setUpOnce()
 
 QString MeasuringDevice::shown(const ProcessEntry& entry)
 {
-    const QSharedPointer<UnitManagerDevice> units = m_units.getUnitManager();
+    const QSharedPointer<const UnitManagerDevice> units = m_units.getUnitManager();
     if (!units)
         return QStringLiteral("-");
     const QVariant value = units->getValueNoLock(entry.value, QString()).getValue();
@@ -99,7 +99,7 @@ QString MeasuringDevice::shown(const ProcessEntry& entry)
 
 void MeasuringDevice::printTable()
 {
-    const QSharedPointer<UnitManagerDevice> units = m_units.getUnitManager();
+    const QSharedPointer<const UnitManagerDevice> units = m_units.getUnitManager();
     for (const ProcessEntry& entry : qAsConst(m_entries)) {
         unsigned int places = 0;
         units->getDecimalPlacesForUnit(entry.unitType, QString(), places);

@@ -93,7 +93,7 @@ UnitManagerWrapper::operator bool() const
     return m_unitManager && m_unitManager->isValid();
 }
 
-QSharedPointer<UnitManagerDevice> UnitManagerWrapper::getUnitManager() const
+QSharedPointer<const UnitManagerDevice> UnitManagerWrapper::getUnitManager() const
 {
     return m_unitManager;
 }

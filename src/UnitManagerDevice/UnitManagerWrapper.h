@@ -90,10 +90,11 @@ public:
     /// The unit manager of the configuration taken up last, for all that it knows beyond the operations
     /// below.
     ///
-    /// Later changes replace it by another object: whoever keeps it keeps the units of this moment.
+    /// The connector shares the object, which is therefore not to be changed. A later configuration comes as
+    /// another object: a caller that keeps this one keeps the units of this moment.
     ///
     /// @return null as long as there is none; it may be invalid after a configuration that did not load.
-    QSharedPointer<UnitManagerDevice> getUnitManager() const;
+    QSharedPointer<const UnitManagerDevice> getUnitManager() const;
 
     /// The value of the child @p key of @p node, converted to @p unit (empty: the default unit). Without unit
     /// manager as it is stored.

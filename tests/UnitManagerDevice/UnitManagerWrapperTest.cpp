@@ -4,6 +4,7 @@
 
 #include <cstring>
 #include <type_traits>
+#include <utility>
 
 #include "DependencyWalker.h"
 #include "Described.h"
@@ -22,6 +23,8 @@ static_assert(!std::is_default_constructible_v<UnitManagerWrapper>);
 static_assert(!std::is_copy_constructible_v<UnitManagerWrapper> &&
               !std::is_copy_assignable_v<UnitManagerWrapper>);
 static_assert(std::is_convertible_v<UnitManagerWrapper, bool>);
+static_assert(std::is_same_v<decltype(std::declval<const UnitManagerWrapper&>().getUnitManager()),
+                             QSharedPointer<const UnitManagerDevice>>);
 
 namespace {
 

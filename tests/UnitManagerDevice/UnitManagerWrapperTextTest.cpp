@@ -176,7 +176,7 @@ void UnitManagerWrapperTextTest::textMapAndBaseUnit()
 
 void UnitManagerWrapperTextTest::unitManagerIsTheOneInUse()
 {
-    const QSharedPointer<UnitManagerDevice> units = m_units->getUnitManager();
+    const QSharedPointer<const UnitManagerDevice> units = m_units->getUnitManager();
     unsigned int places = 77;
 
     QVERIFY(units->isValid());

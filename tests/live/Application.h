@@ -35,7 +35,7 @@ public:
     /// Whether the configuration has changed since the last call; nothing at a level that does not know.
     virtual std::optional<bool> hasChanged() = 0;
     /// The unit manager in use; null when there is none.
-    virtual QSharedPointer<UnitManagerDevice> units() = 0;
+    virtual QSharedPointer<const UnitManagerDevice> units() = 0;
     /// What is converted and said of two bar.
     virtual QString converted() = 0;
     /// The keys that depend on "PressureUnit"; nothing at a level that does not tell.

@@ -38,7 +38,7 @@ std::optional<bool> ConnectorApplication::hasChanged()
     return m_connector.hasConfigurationChanged();
 }
 
-QSharedPointer<UnitManagerDevice> ConnectorApplication::units()
+QSharedPointer<const UnitManagerDevice> ConnectorApplication::units()
 {
     QSharedPointer<UnitManagerDevice> units;
     m_connector.initializeUnitManager(units);

@@ -13,7 +13,7 @@ public:
     void reset() override;
     bool check() override;
     std::optional<bool> hasChanged() override;
-    QSharedPointer<UnitManagerDevice> units() override;
+    QSharedPointer<const UnitManagerDevice> units() override;
     QString converted() override;
     std::optional<QString> dependents() override;
 

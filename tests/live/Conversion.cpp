@@ -28,7 +28,7 @@ QString Conversion::by(UnitManagerWrapper& wrapper)
                 wrapper.getValue(twoBar, pressure, QString()), wrapper.getUnitText(pressure, language));
 }
 
-QString Conversion::by(const QSharedPointer<UnitManagerDevice>& units)
+QString Conversion::by(const QSharedPointer<const UnitManagerDevice>& units)
 {
     if (!units || !units->isValid())
         return line(false, twoBar, twoBar, QString());

@@ -15,7 +15,7 @@ namespace Conversion {
 QString by(UnitManagerWrapper& wrapper);
 
 /// The same; null and invalid @p units convert nothing and know no label
-QString by(const QSharedPointer<UnitManagerDevice>& units);
+QString by(const QSharedPointer<const UnitManagerDevice>& units);
 
 /// The keys that depend on "PressureUnit" by the walker; "none" when that is null or knows none.
 QString dependentsBy(const QSharedPointer<DependencyWalker>& walker);

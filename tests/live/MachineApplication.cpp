@@ -34,7 +34,7 @@ std::optional<bool> MachineApplication::hasChanged()
     return std::nullopt;
 }
 
-QSharedPointer<UnitManagerDevice> MachineApplication::units()
+QSharedPointer<const UnitManagerDevice> MachineApplication::units()
 {
     QSharedPointer<UnitManagerDevice> units;
     m_machine.initializeUnitManager(units);

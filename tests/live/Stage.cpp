@@ -133,7 +133,7 @@ void Stage::keepUnits()
 void Stage::convertByKept()
 {
     m_journal.update();
-    for (const QSharedPointer<UnitManagerDevice>& units : qAsConst(m_kept))
+    for (const QSharedPointer<const UnitManagerDevice>& units : qAsConst(m_kept))
         m_journal.addAnswer(QStringLiteral("kept"), Conversion::by(units));
     m_journal.dropMessages();
 }

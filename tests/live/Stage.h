@@ -78,5 +78,5 @@ private:
     ScriptedService m_service;
     std::vector<std::unique_ptr<Application>> m_applications;
     int m_acting = -1;
-    QList<QSharedPointer<UnitManagerDevice>> m_kept;
+    QList<QSharedPointer<const UnitManagerDevice>> m_kept;
 };

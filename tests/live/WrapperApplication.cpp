@@ -32,7 +32,7 @@ std::optional<bool> WrapperApplication::hasChanged()
     return m_wrapper.hasUnitManagerConfigurationChanged();
 }
 
-QSharedPointer<UnitManagerDevice> WrapperApplication::units()
+QSharedPointer<const UnitManagerDevice> WrapperApplication::units()
 {
     return m_wrapper.getUnitManager();
 }
