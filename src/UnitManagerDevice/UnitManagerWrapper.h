@@ -43,10 +43,12 @@ public:
     /// Units only. Change signals are always delivered by the event loop here; @p useSignalPolling only
     /// suppresses the first attempt.
     ///
-    /// Give the flags as `bool`: two string literals would compile, as flags.
-    ///
     /// @param useAsynchronInterface whether configurations are read without blocking
     UnitManagerWrapper(bool useAsynchronInterface, bool useSignalPolling);
+
+    /// Not available: two string literals would be taken for the two flags.
+    template <typename Character>
+    UnitManagerWrapper(const Character*, const Character*) = delete;
 
     /// Units and default units; the names are service, object and configuration of the default units.
     ///

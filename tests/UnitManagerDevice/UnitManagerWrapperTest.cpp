@@ -40,6 +40,17 @@ struct SameMembers
 static_assert(sizeof(UnitManagerWrapper) == sizeof(SameMembers), "connector by value, walker, manager");
 static_assert(alignof(UnitManagerWrapper) == alignof(SameMembers));
 
+template <typename... Arguments>
+constexpr bool isBuiltFrom = std::is_constructible_v<UnitManagerWrapper, Arguments...>;
+
+using Literal = decltype(("literal"));
+static_assert(isBuiltFrom<bool, bool>);
+static_assert(isBuiltFrom<Literal, Literal, Literal, bool, bool>);
+static_assert(isBuiltFrom<Literal, Literal, Literal, Literal, Literal, Literal, bool, bool>);
+static_assert(!isBuiltFrom<Literal, Literal>, "two names are not two flags");
+static_assert(!isBuiltFrom<const char*, const char*>);
+static_assert(!isBuiltFrom<char*, char*>);
+
 } // namespace
 
 using namespace WrapperSetup;
