@@ -60,7 +60,7 @@ bool UnitManagerStateMachineWrapper::moveToNextState(const QString& nextStateKey
     return true;
 }
 
-bool UnitManagerStateMachineWrapper::postEvent()
+UnitManagerStateMachineWrapper::StepResult UnitManagerStateMachineWrapper::postEvent()
 {
     return m_stateMachine.postEvent(m_pendingEvent);
 }

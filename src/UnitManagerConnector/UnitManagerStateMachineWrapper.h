@@ -4,6 +4,8 @@
 #include <QtCore/QSharedPointer>
 #include <QtCore/QString>
 
+#include <utility>
+
 #include "StateMachineEvent.h"
 #include "UnitManagerConnector/UnitManagerConnectionData.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateMachine.h"
@@ -19,6 +21,10 @@ class UNITMANAGER_EXPORT UnitManagerStateMachineWrapper : public QObject
     Q_OBJECT
 
 public:
+    /// What the platform's state machine returns from a step; `void` where it returns nothing.
+    using StepResult = decltype(std::declval<UnitManagerConnectorStateMachine&>().postEvent(
+        std::declval<const StateMachineEvent&>()));
+
     /// The initial state is selected. The six names are service, object and configuration of the dependency
     /// file and of the default units; a source with an empty name is not configured.
     ///
@@ -42,9 +48,10 @@ public:
     /// true.
     virtual bool moveToNextState(const QString& nextStateKey, const StateMachineEvent& event);
 
-    /// One step of the machine with the event that the last state handed over. @return what the machine
-    /// reports.
-    bool postEvent();
+    /// One step of the machine with the event that the last state handed over.
+    ///
+    /// @return what the platform's state machine returns from the step.
+    StepResult postEvent();
 
     /// The class name of the current state.
     QString getCurrentStateIdentifier() const;

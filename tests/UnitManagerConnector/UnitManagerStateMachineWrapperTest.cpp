@@ -2,6 +2,9 @@
 
 #include <QtTest/QtTest>
 
+#include <type_traits>
+#include <utility>
+
 #include "ConfigurationFileHandlerDBusConnector.h"
 #include "ConfigurationService.h"
 #include "DependencyWalker.h"
@@ -17,6 +20,9 @@
 using Definitions = UnitManagerConnectorDefinitions;
 using Wrapper = UnitManagerStateMachineWrapper;
 using StateFactory = VESKFactories::Factory<StateMachineStateBase, QObject*>;
+
+static_assert(std::is_same_v<decltype(std::declval<Wrapper&>().postEvent()),
+                             decltype(std::declval<StateMachineBase&>().postEvent(StateMachineEvent()))>);
 
 namespace {
 
