@@ -16,6 +16,9 @@ namespace {
 
 const char* const sourceName = "UnitTextManagement/UnitTextHandler";
 
+/// The result without a text: empty, and not null.
+const QLatin1String noText("");
+
 // Device logs are searched by this function, whoever has parsed the text.
 const char* const loadingFunction = "bool UnitTextHandler::initByJsonString(const QString&)";
 
@@ -119,7 +122,7 @@ QString UnitTextHandler::getUnitText(const QString& unitType, const QString& lan
                                      const QString& unit) const
 {
     if (isNoUnitType(unitType))
-        return {};
+        return noText;
     const bool isFixed = FixedUnit::isFixedUnit(unitType);
     const QString plainType = isFixed ? FixedUnit::unitTypeOf(unitType) : unitType;
     const QString plainUnit = isFixed ? FixedUnit::unitOf(unitType) : unit;
@@ -127,18 +130,18 @@ QString UnitTextHandler::getUnitText(const QString& unitType, const QString& lan
     const auto texts = unitTexts.constFind(plainType);
     if (texts == unitTexts.constEnd()) {
         warnUnknownUnitType({sourceName, __LINE__, Q_FUNC_INFO}, unitType);
-        return {};
+        return noText;
     }
     auto text = texts->constFind(plainUnit);
     if (text == texts->constEnd()) {
         if (!plainUnit.isEmpty()) {
             warnUnknownUnit({sourceName, __LINE__, Q_FUNC_INFO}, unit, unitType);
-            return {};
+            return noText;
         }
         text = texts->constFind(baseUnitLabels.value(plainType));
     }
     if (text == texts->constEnd() || !text->isValid())
-        return {};
+        return noText;
     TranslateableTextHelper helper(language);
     helper.setTranslateableTextObject(*text);
     return helper.getText(language);
@@ -148,25 +151,24 @@ QString UnitTextHandler::getUnitText(const QSharedPointer<ConfigurationAndProces
                                      const QString& language, const QString& unit) const
 {
     if (!node)
-        return {};
+        return noText;
     const QVariant unitType =
         node->getProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyUnitType());
-    return unitType.canConvert(QVariant::String) ? getUnitText(unitType.toString(), language, unit)
-                                                 : QString();
+    return unitType.canConvert(QVariant::String) ? getUnitText(unitType.toString(), language, unit) : noText;
 }
 
 QString UnitTextHandler::getUnitText(const QString& key,
                                      const QSharedPointer<ConfigurationAndProcessDataBase>& node,
                                      const QString& language, const QString& unit) const
 {
-    return node ? getUnitText(node->getChild(key), language, unit) : QString();
+    return node ? getUnitText(node->getChild(key), language, unit) : noText;
 }
 
 QVariant UnitTextHandler::getUnitTextJsonMap(const QString& unitType) const
 {
     if (isNoUnitType(unitType)) {
-        TranslateableTextHelper helper{QString()};
-        helper.setText(QString(), helper.getLastFallbackLanguage());
+        TranslateableTextHelper helper(noText);
+        helper.setText(noText, helper.getLastFallbackLanguage());
         return helper.getTranslateableTextObject();
     }
     const bool isFixed = FixedUnit::isFixedUnit(unitType);

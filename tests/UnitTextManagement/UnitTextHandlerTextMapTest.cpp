@@ -1,5 +1,6 @@
 #include <QtTest/QtTest>
 
+#include "EmptyText.h"
 #include "ExactText.h"
 #include "LogCapture.h"
 #include "MessageText.h"
@@ -25,6 +26,7 @@ class UnitTextHandlerTextMapTest : public QObject
 private slots:
     void textMap_data();
     void textMap();
+    void textOfTheTypeWithoutUnitIsEmpty();
     void unknownNamesInTextMapWarn_data();
     void unknownNamesInTextMapWarn();
 };
@@ -53,6 +55,12 @@ void UnitTextHandlerTextMapTest::textMap()
     LogCapture log;
     QCOMPARE(exactText(handler.getUnitTextJsonMap(unitType)), exactText(expected));
     QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void UnitTextHandlerTextMapTest::textOfTheTypeWithoutUnitIsEmpty()
+{
+    const QVariantMap texts = load().getUnitTextJsonMap(prefix + "NoUnit").toMap();
+    QVERIFY(isEmptyText(texts.value("en").toString()));
 }
 
 void UnitTextHandlerTextMapTest::unknownNamesInTextMapWarn_data()
