@@ -13,6 +13,9 @@ namespace {
 
 const char* const sourceName = "UnitManagerConnector/DBusConfigurationChangeSignalHandling";
 
+/// Signals of any interface count.
+const QLatin1String anyInterface("");
+
 QString changeSignal()
 {
     return QStringLiteral("configurationChanged");
@@ -96,8 +99,8 @@ DBusConfigurationChangeSignalHandling::connectSource(const Source& source, const
         return UnitManagerConnectorDefinitions::Connected;
     }
     QDBusConnection bus = DBusConnection::getQDBusConnection();
-    if (!bus.connect(busNameOf(settings), objectPathOf(settings), QString(), changeSignal(), oneString, this,
-                     source.slot)) {
+    if (!bus.connect(busNameOf(settings), objectPathOf(settings), anyInterface, changeSignal(), oneString,
+                     this, source.slot)) {
         context.warning() << "Error cannot connect to module" << service << object;
         return UnitManagerConnectorDefinitions::ConnectionFailed;
     }
@@ -166,7 +169,7 @@ void DBusConfigurationChangeSignalHandling::disconnectSource(const Source& sourc
     if (!ConnectorSettings::areUsable(settings) || !(this->*source.isConnected))
         return;
     QDBusConnection bus = DBusConnection::getQDBusConnection();
-    if (!bus.disconnect(busNameOf(settings), objectPathOf(settings), QString(), changeSignal(), oneString,
+    if (!bus.disconnect(busNameOf(settings), objectPathOf(settings), anyInterface, changeSignal(), oneString,
                         this, source.slot))
         context.warning() << "Unable to disconnect connection" << settings.value(ConnectorSettings::Object);
     this->*source.isConnected = false;

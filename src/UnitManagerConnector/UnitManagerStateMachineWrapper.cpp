@@ -5,6 +5,9 @@
 
 namespace {
 
+/// The name of a source that is not configured: empty, and not null.
+const QLatin1String noName("");
+
 QString initialStateKey()
 {
     return VESKFactories::createFactoryKey<UnitManagerConnectorStateInitial>();
@@ -23,8 +26,8 @@ UnitManagerStateMachineWrapper::UnitManagerStateMachineWrapper(
     const QString& defaultUnitService, const QString& defaultUnitObject,
     const QString& defaultUnitConfiguration)
     : QObject(nullptr),
-      m_connectionData(nullptr, useSignalPolling, false, false, QString(), QString(), QString(), QString(),
-                       QString(), QString()),
+      m_connectionData(nullptr, useSignalPolling, false, false, noName, noName, noName, noName, noName,
+                       noName),
       m_stateMachine(this)
 {
     m_stateMachine.setInitialState(initialStateKey(), initialEvent());

@@ -11,14 +11,18 @@ namespace {
 
 const char* const sourceName = "UnitManagerDevice/UnitManagerWrapper";
 
+/// The name of a source that is not configured, the default unit, and the result without a text: empty, and
+/// not null.
+const QLatin1String noText("");
+
 const int writeFailed = 2;
 
 } // namespace
 
 UnitManagerWrapper::UnitManagerWrapper(bool useAsynchronInterface, bool useSignalPolling)
-    : m_connector(nullptr, false, false, QString(), QString(), QString(), QString(), QString(), QString())
+    : m_connector(nullptr, false, false, noText, noText, noText, noText, noText, noText)
 {
-    m_connector.init(useAsynchronInterface, QString(), QString(), QString(), QString(), QString(), QString());
+    m_connector.init(useAsynchronInterface, noText, noText, noText, noText, noText, noText);
     if (!useSignalPolling)
         checkInitialized();
 }
@@ -26,7 +30,7 @@ UnitManagerWrapper::UnitManagerWrapper(bool useAsynchronInterface, bool useSigna
 UnitManagerWrapper::UnitManagerWrapper(const QString& defaultUnitService, const QString& defaultUnitObject,
                                        const QString& defaultUnitConfiguration, bool useAsynchronInterface,
                                        bool useSignalPolling)
-    : UnitManagerWrapper(QString(), QString(), QString(), defaultUnitService, defaultUnitObject,
+    : UnitManagerWrapper(noText, noText, noText, defaultUnitService, defaultUnitObject,
                          defaultUnitConfiguration, useAsynchronInterface, useSignalPolling)
 {}
 
@@ -35,8 +39,7 @@ UnitManagerWrapper::UnitManagerWrapper(const QString& dependencyService, const Q
                                        const QString& defaultUnitService, const QString& defaultUnitObject,
                                        const QString& defaultUnitConfiguration, bool useAsynchronInterface,
                                        bool useSignalPolling)
-    : m_connector(nullptr, useSignalPolling, false, QString(), QString(), QString(), QString(), QString(),
-                  QString())
+    : m_connector(nullptr, useSignalPolling, false, noText, noText, noText, noText, noText, noText)
 {
     m_connector.init(useAsynchronInterface, dependencyService, dependencyObject, dependencyConfiguration,
                      defaultUnitService, defaultUnitObject, defaultUnitConfiguration);
@@ -150,35 +153,35 @@ QString UnitManagerWrapper::getUnitText(const QString& key,
                                         const QSharedPointer<ConfigurationAndProcessDataBase>& node,
                                         const QString& language)
 {
-    return *this ? m_unitManager->getUnitText(key, node, language, QString()) : QString();
+    return *this ? m_unitManager->getUnitText(key, node, language, noText) : noText;
 }
 
 QString UnitManagerWrapper::getUnitText(const QString& unitType, const QString& language)
 {
     if (!*this)
-        return {};
+        return noText;
     QString plainType;
     QString unit;
     if (m_unitManager->isFixedUnitType(unitType) &&
         m_unitManager->extractUnitTypeAndUnit(unitType, plainType, unit))
         return m_unitManager->getUnitText(plainType, language, unit);
-    return m_unitManager->getUnitText(unitType, language, QString());
+    return m_unitManager->getUnitText(unitType, language, noText);
 }
 
 QString UnitManagerWrapper::getUnitTextArray(const Array2dDataTypeWrapper& array, unsigned int column,
                                              const QString& language)
 {
-    return *this ? m_unitManager->getUnitText(array, language, column, QString()) : QString();
+    return *this ? m_unitManager->getUnitText(array, language, column, noText) : noText;
 }
 
 QVariant UnitManagerWrapper::getUnitTextJsonMap(const QString& unitType) const
 {
-    return *this ? m_unitManager->getUnitTextJsonMap(unitType) : QVariant(QLatin1String(""));
+    return *this ? m_unitManager->getUnitTextJsonMap(unitType) : QVariant(noText);
 }
 
 QString UnitManagerWrapper::getBaseUnit(const QString& unitType) const
 {
-    return *this ? m_unitManager->getBaseUnit(unitType) : QString();
+    return *this ? m_unitManager->getBaseUnit(unitType) : noText;
 }
 
 bool UnitManagerWrapper::resolveDependency(const QString& key,

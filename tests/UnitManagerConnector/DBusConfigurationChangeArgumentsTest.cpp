@@ -1,0 +1,102 @@
+#include "UnitManagerConnector/DBusConfigurationChangeSignalHandling.h"
+
+#include <QtDBus/QDBusConnection>
+#include <QtTest/QtTest>
+
+#include "ChangeSources.h"
+#include "ConfigurationService.h"
+
+using Handling = DBusConfigurationChangeSignalHandling;
+using namespace ChangeSources;
+
+namespace {
+
+QStringList& calls()
+{
+    static QStringList list;
+    return list;
+}
+
+QStringList takeCalls()
+{
+    QStringList taken;
+    taken.swap(calls());
+    return taken;
+}
+
+QString quoted(const QString& text)
+{
+    return text.isNull() ? QStringLiteral("null") : '"' + text + '"';
+}
+
+QString callText(const char* operation, const QStringList& texts, const char* slot)
+{
+    QStringList arguments;
+    for (const QString& text : texts)
+        arguments.append(quoted(text));
+    return QStringLiteral("%1 %2 %3").arg(operation, arguments.join(' '), slot);
+}
+
+/// The call that subscribes to a source, or ends that, for each source in its order.
+QStringList callsOf(const char* operation)
+{
+    const QStringList slotNames{"1unitSwitchConfigurationFileChange(QString)",
+                                "1dependencyFileChanged(QString)", "1defaultUnitFileChange(QString)"};
+    QStringList texts;
+    for (int i = 0; i < slotNames.size(); ++i)
+        texts.append(callText(operation,
+                              {"org.measuringdevice.DeviceManager", '/' + settings()[all[i]].at(1), "",
+                               "configurationChanged", "s"},
+                              slotNames.at(i).toLatin1().constData()));
+    return texts;
+}
+
+} // namespace
+
+// These take the place of Qt's operations.
+
+bool QDBusConnection::connect(const QString& service, const QString& path, const QString& interface,
+                              const QString& name, const QString& signature, QObject* /*receiver*/,
+                              const char* slot)
+{
+    calls().append(callText("connect", {service, path, interface, name, signature}, slot));
+    return true;
+}
+
+bool QDBusConnection::disconnect(const QString& service, const QString& path, const QString& interface,
+                                 const QString& name, const QString& signature, QObject* /*receiver*/,
+                                 const char* slot)
+{
+    calls().append(callText("disconnect", {service, path, interface, name, signature}, slot));
+    return true;
+}
+
+/// With which arguments the handling subscribes to delivered signals.
+class DBusConfigurationChangeArgumentsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void closingNamesWhatWasSubscribed();
+};
+
+void DBusConfigurationChangeArgumentsTest::initTestCase()
+{
+    qputenv("DEVICE_BUS", "unix:path=/nonexistent/bus");
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "1000");
+}
+
+void DBusConfigurationChangeArgumentsTest::closingNamesWhatWasSubscribed()
+{
+    Handling handling(false);
+    handling.init(settings());
+    takeCalls();
+    QVERIFY(subscribeAll(handling));
+    QCOMPARE(takeCalls(), callsOf("connect"));
+    QVERIFY(handling.closeDbusConnections());
+    QCOMPARE(takeCalls(), callsOf("disconnect"));
+}
+
+QTEST_GUILESS_MAIN(DBusConfigurationChangeArgumentsTest)
+#include "DBusConfigurationChangeArgumentsTest.moc"

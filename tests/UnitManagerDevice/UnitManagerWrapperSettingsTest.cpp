@@ -1,0 +1,100 @@
+#include <QtTest/QtTest>
+
+#include <algorithm>
+
+#include "UnitConversion/Factory.h"
+#include "UnitManagerConnector/UnitManagerConnectionData.h"
+#include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
+#include "UnitManagerConnector/UnitManagerConnectorStateInitial.h"
+#include "WrapperSetup.h"
+
+using namespace WrapperSetup;
+
+Q_DECLARE_METATYPE(WrapperSetup::Names)
+
+namespace {
+
+using SettingsMap = QMap<UnitManagerConnectorDefinitions::ConnectorType, QStringList>;
+
+/// The settings of the connector at each selection of the initial state, oldest first.
+QList<SettingsMap>& seenSettings()
+{
+    static QList<SettingsMap> list;
+    return list;
+}
+
+bool hasNullText(const QStringList& settings)
+{
+    return std::any_of(settings.begin(), settings.end(), [](const QString& text) { return text.isNull(); });
+}
+
+QStringList namesOf(const SettingsMap& settings)
+{
+    return settings.value(UnitManagerConnectorDefinitions::DependencyFile).mid(0, 3) +
+           settings.value(UnitManagerConnectorDefinitions::DefaultUnit).mid(0, 3);
+}
+
+} // namespace
+
+/// Stands in for the initial state: the connector selects it whenever it has got new settings.
+class SettingsWitness : public UnitManagerConnectorStateBase
+{
+    Q_OBJECT
+
+public:
+    explicit SettingsWitness(QObject* parent) : UnitManagerConnectorStateBase(parent)
+    {
+        seenSettings().append(connectionData().connectorSettings());
+    }
+
+    void postEvent(const StateMachineEvent& /*event*/) override {}
+};
+
+/// What a wrapper's constructors hand to the connector.
+class UnitManagerWrapperSettingsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void missingNamesAreEmptyTexts_data();
+    void missingNamesAreEmptyTexts();
+};
+
+void UnitManagerWrapperSettingsTest::initTestCase()
+{
+    VESKFactories::Factory<StateMachineStateBase, QObject*>::instance().registerClass<SettingsWitness>(
+        VESKFactories::createFactoryKey<UnitManagerConnectorStateInitial>());
+}
+
+void UnitManagerWrapperSettingsTest::missingNamesAreEmptyTexts_data()
+{
+    QTest::addColumn<Names>("names");
+    QTest::addColumn<QStringList>("expected");
+    const QStringList defaultUnits{"DeviceManager", "DefaultUnitConfiguration", "UnitManager/DefaultUnit"};
+    QTest::newRow("no names") << NoNames << QStringList{"", "", "", "", "", ""};
+    QTest::newRow("names of the default units") << DefaultUnitNames << QStringList{"", "", ""} + defaultUnits;
+    QTest::newRow("all names") << AllNames
+                               << QStringList{"DeviceManager", "DependencyConfiguration",
+                                              "UnitManager/Dependency"} +
+                                      defaultUnits;
+}
+
+void UnitManagerWrapperSettingsTest::missingNamesAreEmptyTexts()
+{
+    QFETCH(Names, names);
+    seenSettings().clear();
+    create(names, Asynchronous, Polled);
+
+    // The connector's data is built without names, then the connector is, then it gets the wrapper's.
+    QCOMPARE(seenSettings().size(), 3);
+    QCOMPARE(namesOf(seenSettings().at(0)), QStringList({"", "", "", "", "", ""}));
+    QCOMPARE(namesOf(seenSettings().at(1)), QStringList({"", "", "", "", "", ""}));
+    QTEST(namesOf(seenSettings().at(2)), "expected");
+    for (const SettingsMap& settings : qAsConst(seenSettings()))
+        QVERIFY(!hasNullText(namesOf(settings)));
+}
+
+QTEST_GUILESS_MAIN(UnitManagerWrapperSettingsTest)
+
+#include "UnitManagerWrapperSettingsTest.moc"
