@@ -19,8 +19,9 @@ const char* const sourceName = "UnitTextManagement/UnitTextHandler";
 /// The result without a text: empty, and not null.
 const QLatin1String noText("");
 
-// Device logs are searched by this function, whoever has parsed the text.
-const char* const loadingFunction = "bool UnitTextHandler::initByJsonString(const QString&)";
+/// Where the messages about a document come from. Device logs are searched by this function, whoever has
+/// parsed the text.
+const LogContext loading{sourceName, __LINE__, "bool UnitTextHandler::initByJsonString(const QString&)"};
 
 bool isNoUnitType(const QString& unitType)
 {
@@ -40,13 +41,13 @@ void warnUnknownUnit(const LogContext& context, const QString& unit, const QStri
 }
 
 /// Whether the unit stands at display position 0.
-bool isBaseUnit(const ConfigurationAndProcessDataBase& node, const LogContext& context)
+bool isBaseUnit(const ConfigurationAndProcessDataBase& node)
 {
     const QVariant position =
         node.getProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyDisplayPosition());
     if (position.canConvert(QVariant::Int))
         return position.toInt() == 0;
-    context.warning() << "Cannot convert displayPosition to int:" << position << "!";
+    loading.warning() << "Cannot convert displayPosition to int:" << position << "!";
     return false;
 }
 
@@ -76,24 +77,21 @@ bool UnitTextHandler::initByDocument(const BaseClassSharedPointer& root)
     if (!root)
         return false;
 
-    const LogContext context{sourceName, __LINE__, loadingFunction};
     const QHash<QString, BaseClassSharedPointer>& children = root->getChildMap();
     for (auto child = children.begin(); child != children.end(); ++child)
-        addUnitType(PropertyManagerConst::getUnitTypeNamePrefix() + child.key(), child.value(), context);
+        addUnitType(PropertyManagerConst::getUnitTypeNamePrefix() + child.key(), child.value());
     return isValid();
 }
 
-void UnitTextHandler::addUnitType(const QString& unitType, const BaseClassSharedPointer& node,
-                                  const LogContext& context)
+void UnitTextHandler::addUnitType(const QString& unitType, const BaseClassSharedPointer& node)
 {
     if (node)
-        addUnits(unitType, node->getChildMap(), context);
+        addUnits(unitType, node->getChildMap());
     if (!baseUnitLabels.contains(unitType))
-        context.warning() << "No Base unit label given for" << unitType;
+        loading.warning() << "No Base unit label given for" << unitType;
 }
 
-void UnitTextHandler::addUnits(const QString& unitType, const QHash<QString, BaseClassSharedPointer>& units,
-                               const LogContext& context)
+void UnitTextHandler::addUnits(const QString& unitType, const QHash<QString, BaseClassSharedPointer>& units)
 {
     const QVariant treeNodeType(ConfigurationAndProcessDataDefinitions::getKeyDataTypeTreeNode());
     QHash<QString, QVariant> texts;
@@ -106,7 +104,7 @@ void UnitTextHandler::addUnits(const QString& unitType, const QHash<QString, Bas
             UnitManagerDefinitions::getUnitLabelUrl(), node);
         if (text.isValid())
             texts.insert(unit.key(), text);
-        if (isBaseUnit(*node, context))
+        if (isBaseUnit(*node))
             baseUnitLabels.insert(unitType, unit.key());
     }
     if (!texts.isEmpty())

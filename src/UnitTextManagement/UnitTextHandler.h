@@ -8,7 +8,7 @@
 #include "ConfigurationAndProcessDataBase.h"
 #include "UnitManagerExport.h"
 
-struct LogContext;
+class UnitManagerCore;
 
 /// The translatable labels of units, read from the same document as the conversions.
 ///
@@ -31,9 +31,6 @@ public:
     /// @return whether there is at least one label; false without a message for a text that is empty or does
     /// not parse.
     bool initByJsonString(const QString& json);
-
-    /// initByJsonString() for a text that has been parsed already; null for one that does not parse.
-    UNITMANAGER_NO_EXPORT bool initByDocument(const BaseClassSharedPointer& root);
 
     /// initByJsonString() with the text of the file @p path; an unreadable file counts as empty.
     bool initByJsonFile(const QString& path);
@@ -73,9 +70,13 @@ public:
     operator bool() const;
 
 private:
-    void addUnitType(const QString& unitType, const BaseClassSharedPointer& node, const LogContext& context);
-    void addUnits(const QString& unitType, const QHash<QString, BaseClassSharedPointer>& units,
-                  const LogContext& context);
+    friend class UnitManagerCore;
+
+    /// initByJsonString() for a text that has been parsed already; null for one that does not parse.
+    UNITMANAGER_NO_EXPORT bool initByDocument(const BaseClassSharedPointer& root);
+    UNITMANAGER_NO_EXPORT void addUnitType(const QString& unitType, const BaseClassSharedPointer& node);
+    UNITMANAGER_NO_EXPORT void addUnits(const QString& unitType,
+                                        const QHash<QString, BaseClassSharedPointer>& units);
 
     QHash<QString, QHash<QString, QVariant>> unitTexts;
     QHash<QString, QString> baseUnitLabels;

@@ -1,6 +1,9 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
+#include <type_traits>
+#include <utility>
+
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "UnitTextManagement/UnitTextHandler.h"
@@ -36,6 +39,14 @@ QString documentAt(const QString& position)
 {
     return documentOf(QStringLiteral(R"({"U": {"@displayPosition": %1, "UnitLabel": "u"}})").arg(position));
 }
+
+template <typename Handler, typename = void>
+constexpr bool takesParsedDocuments = false;
+template <typename Handler>
+constexpr bool takesParsedDocuments<
+    Handler, std::void_t<decltype(std::declval<Handler&>().initByDocument(BaseClassSharedPointer()))>> = true;
+
+static_assert(!takesParsedDocuments<UnitTextHandler>, "the library does not export it");
 
 /// The messages of the class under test; reading a file may add the platform's own.
 QStringList takeOwnMessages(LogCapture& log)
