@@ -41,20 +41,111 @@ QString objectPathOf(const QStringList& settings)
 
 } // namespace
 
-const DBusConfigurationChangeSignalHandling::Source DBusConfigurationChangeSignalHandling::unitSwitch = {
-    UnitManagerConnectorDefinitions::UnitSwitch, "1unitSwitchConfigurationFileChange(QString)",
-    &Handling::unitSwitchConfigurationFileChange, &Handling::m_unitSwitchConnected,
-    &Handling::m_unitSwitchPollingHandler};
+/// A configuration source: what differs between the three, and what is done for each.
+struct DBusConfigurationChangeSignalHandling::Source
+{
+    using Handling = DBusConfigurationChangeSignalHandling;
 
-const DBusConfigurationChangeSignalHandling::Source DBusConfigurationChangeSignalHandling::dependencyFile = {
-    UnitManagerConnectorDefinitions::DependencyFile, "1dependencyFileChanged(QString)",
-    &Handling::dependencyFileChanged, &Handling::m_dependencyConnected,
-    &Handling::m_dependencyPollingHandler};
+    static const Source unitSwitch;
+    static const Source dependencyFile;
+    static const Source defaultUnit;
 
-const DBusConfigurationChangeSignalHandling::Source DBusConfigurationChangeSignalHandling::defaultUnit = {
-    UnitManagerConnectorDefinitions::DefaultUnit, "1defaultUnitFileChange(QString)",
-    &Handling::defaultUnitFileChange, &Handling::m_defaultUnitConnected,
-    &Handling::m_defaultUnitPollingHandler};
+    ConnectorType type;
+    const char* slot;
+    const char* changeMessage;
+    void (Handling::*report)(const QString&);
+    bool Handling::*isConnected;
+    PollingHandler Handling::*pollingHandler;
+
+    ConnectionStatus subscribe(Handling& handling, const LogContext& context) const;
+    void unsubscribe(Handling& handling, const LogContext& context) const;
+    void poll(Handling& handling) const;
+    void recordChange(Handling& handling, const QString& instanceName, const LogContext& context) const;
+};
+
+const DBusConfigurationChangeSignalHandling::Source
+    DBusConfigurationChangeSignalHandling::Source::unitSwitch = {
+        UnitManagerConnectorDefinitions::UnitSwitch,
+        "1unitSwitchConfigurationFileChange(QString)",
+        "unit manager configuration has been changed",
+        &Handling::unitSwitchConfigurationFileChange,
+        &Handling::m_unitSwitchConnected,
+        &Handling::m_unitSwitchPollingHandler};
+
+const DBusConfigurationChangeSignalHandling::Source
+    DBusConfigurationChangeSignalHandling::Source::dependencyFile = {
+        UnitManagerConnectorDefinitions::DependencyFile,
+        "1dependencyFileChanged(QString)",
+        "dependency file has been changed",
+        &Handling::dependencyFileChanged,
+        &Handling::m_dependencyConnected,
+        &Handling::m_dependencyPollingHandler};
+
+const DBusConfigurationChangeSignalHandling::Source
+    DBusConfigurationChangeSignalHandling::Source::defaultUnit = {
+        UnitManagerConnectorDefinitions::DefaultUnit,
+        "1defaultUnitFileChange(QString)",
+        "default unit configuration has been changed",
+        &Handling::defaultUnitFileChange,
+        &Handling::m_defaultUnitConnected,
+        &Handling::m_defaultUnitPollingHandler};
+
+DBusConfigurationChangeSignalHandling::ConnectionStatus
+DBusConfigurationChangeSignalHandling::Source::subscribe(Handling& handling, const LogContext& context) const
+{
+    const QStringList settings = handling.m_connectorSettings.value(type);
+    const QString service = settings.value(ConnectorSettings::Service);
+    const QString object = settings.value(ConnectorSettings::Object);
+    if (handling.m_useSignalPolling) {
+        handling.*pollingHandler = QSharedPointer<DBusConnectionSignalPollingHandler>::create(
+            service, object, changeSignal(), oneStringArgument);
+        return UnitManagerConnectorDefinitions::Connected;
+    }
+    QDBusConnection bus = DBusConnection::getQDBusConnection();
+    if (!bus.connect(busNameOf(settings), objectPathOf(settings), anyInterface, changeSignal(), oneString,
+                     &handling, slot)) {
+        context.warning() << "Error cannot connect to module" << service << object;
+        return UnitManagerConnectorDefinitions::ConnectionFailed;
+    }
+    handling.*isConnected = true;
+    return UnitManagerConnectorDefinitions::Connected;
+}
+
+void DBusConfigurationChangeSignalHandling::Source::unsubscribe(Handling& handling,
+                                                                const LogContext& context) const
+{
+    const QStringList settings = handling.m_connectorSettings.value(type);
+    if (!ConnectorSettings::areUsable(settings) || !(handling.*isConnected))
+        return;
+    QDBusConnection bus = DBusConnection::getQDBusConnection();
+    if (!bus.disconnect(busNameOf(settings), objectPathOf(settings), anyInterface, changeSignal(), oneString,
+                        &handling, slot))
+        context.warning() << "Unable to disconnect connection" << settings.value(ConnectorSettings::Object);
+    handling.*isConnected = false;
+}
+
+void DBusConfigurationChangeSignalHandling::Source::poll(Handling& handling) const
+{
+    const PollingHandler& signal = handling.*pollingHandler;
+    if (!signal || !signal->isSignalOccured())
+        return;
+    const QVariant parameter = signal->getSignalParameter();
+    if (parameter.canConvert(QVariant::String))
+        (handling.*report)(parameter.toString());
+    signal->resetLastSignal();
+}
+
+void DBusConfigurationChangeSignalHandling::Source::recordChange(Handling& handling,
+                                                                 const QString& instanceName,
+                                                                 const LogContext& context) const
+{
+    const QStringList settings = handling.m_connectorSettings.value(type);
+    if (instanceName != settings.value(ConnectorSettings::Configuration))
+        return;
+    handling.m_changeMap[type] = instanceName;
+    handling.m_changed = true;
+    context.debug() << changeMessage;
+}
 
 DBusConfigurationChangeSignalHandling::DBusConfigurationChangeSignalHandling(bool useSignalPolling)
     : QObject(nullptr), m_useSignalPolling(useSignalPolling)
@@ -72,61 +163,29 @@ bool DBusConfigurationChangeSignalHandling::init(const QMap<ConnectorType, QStri
 DBusConfigurationChangeSignalHandling::ConnectionStatus
 DBusConfigurationChangeSignalHandling::connectUnitSwitchChangeFlag()
 {
-    return connectSource(unitSwitch, {sourceName, __LINE__, Q_FUNC_INFO});
+    return Source::unitSwitch.subscribe(*this, {sourceName, __LINE__, Q_FUNC_INFO});
 }
 
 DBusConfigurationChangeSignalHandling::ConnectionStatus
 DBusConfigurationChangeSignalHandling::connectDependencyFileChangeFlag()
 {
-    return connectSource(dependencyFile, {sourceName, __LINE__, Q_FUNC_INFO});
+    return Source::dependencyFile.subscribe(*this, {sourceName, __LINE__, Q_FUNC_INFO});
 }
 
 DBusConfigurationChangeSignalHandling::ConnectionStatus
 DBusConfigurationChangeSignalHandling::connectDefaultUnitChangeFlag()
 {
-    return connectSource(defaultUnit, {sourceName, __LINE__, Q_FUNC_INFO});
-}
-
-DBusConfigurationChangeSignalHandling::ConnectionStatus
-DBusConfigurationChangeSignalHandling::connectSource(const Source& source, const LogContext& context)
-{
-    const QStringList settings = m_connectorSettings.value(source.type);
-    const QString service = settings.value(ConnectorSettings::Service);
-    const QString object = settings.value(ConnectorSettings::Object);
-    if (m_useSignalPolling) {
-        this->*source.pollingHandler = QSharedPointer<DBusConnectionSignalPollingHandler>::create(
-            service, object, changeSignal(), oneStringArgument);
-        return UnitManagerConnectorDefinitions::Connected;
-    }
-    QDBusConnection bus = DBusConnection::getQDBusConnection();
-    if (!bus.connect(busNameOf(settings), objectPathOf(settings), anyInterface, changeSignal(), oneString,
-                     this, source.slot)) {
-        context.warning() << "Error cannot connect to module" << service << object;
-        return UnitManagerConnectorDefinitions::ConnectionFailed;
-    }
-    this->*source.isConnected = true;
-    return UnitManagerConnectorDefinitions::Connected;
+    return Source::defaultUnit.subscribe(*this, {sourceName, __LINE__, Q_FUNC_INFO});
 }
 
 bool DBusConfigurationChangeSignalHandling::pollChangeFlags()
 {
     if (m_useSignalPolling) {
-        pollSource(unitSwitch);
-        pollSource(defaultUnit);
-        pollSource(dependencyFile);
+        Source::unitSwitch.poll(*this);
+        Source::defaultUnit.poll(*this);
+        Source::dependencyFile.poll(*this);
     }
     return m_changed;
-}
-
-void DBusConfigurationChangeSignalHandling::pollSource(const Source& source)
-{
-    const PollingHandler& handler = this->*source.pollingHandler;
-    if (!handler || !handler->isSignalOccured())
-        return;
-    const QVariant parameter = handler->getSignalParameter();
-    if (parameter.canConvert(QVariant::String))
-        (this->*source.report)(parameter.toString());
-    handler->resetLastSignal();
 }
 
 QMap<DBusConfigurationChangeSignalHandling::ConnectorType, QString>
@@ -157,49 +216,23 @@ bool DBusConfigurationChangeSignalHandling::closeDbusConnections()
         return true;
     }
     const LogContext context{sourceName, __LINE__, Q_FUNC_INFO};
-    disconnectSource(unitSwitch, context);
-    disconnectSource(dependencyFile, context);
-    disconnectSource(defaultUnit, context);
+    Source::unitSwitch.unsubscribe(*this, context);
+    Source::dependencyFile.unsubscribe(*this, context);
+    Source::defaultUnit.unsubscribe(*this, context);
     return true;
-}
-
-void DBusConfigurationChangeSignalHandling::disconnectSource(const Source& source, const LogContext& context)
-{
-    const QStringList settings = m_connectorSettings.value(source.type);
-    if (!ConnectorSettings::areUsable(settings) || !(this->*source.isConnected))
-        return;
-    QDBusConnection bus = DBusConnection::getQDBusConnection();
-    if (!bus.disconnect(busNameOf(settings), objectPathOf(settings), anyInterface, changeSignal(), oneString,
-                        this, source.slot))
-        context.warning() << "Unable to disconnect connection" << settings.value(ConnectorSettings::Object);
-    this->*source.isConnected = false;
 }
 
 void DBusConfigurationChangeSignalHandling::unitSwitchConfigurationFileChange(const QString& instanceName)
 {
-    recordChange(UnitManagerConnectorDefinitions::UnitSwitch, instanceName,
-                 "unit manager configuration has been changed", {sourceName, __LINE__, Q_FUNC_INFO});
+    Source::unitSwitch.recordChange(*this, instanceName, {sourceName, __LINE__, Q_FUNC_INFO});
 }
 
 void DBusConfigurationChangeSignalHandling::defaultUnitFileChange(const QString& instanceName)
 {
-    recordChange(UnitManagerConnectorDefinitions::DefaultUnit, instanceName,
-                 "default unit configuration has been changed", {sourceName, __LINE__, Q_FUNC_INFO});
+    Source::defaultUnit.recordChange(*this, instanceName, {sourceName, __LINE__, Q_FUNC_INFO});
 }
 
 void DBusConfigurationChangeSignalHandling::dependencyFileChanged(const QString& instanceName)
 {
-    recordChange(UnitManagerConnectorDefinitions::DependencyFile, instanceName,
-                 "dependency file has been changed", {sourceName, __LINE__, Q_FUNC_INFO});
-}
-
-void DBusConfigurationChangeSignalHandling::recordChange(ConnectorType type, const QString& instanceName,
-                                                         const char* message, const LogContext& context)
-{
-    const QStringList settings = m_connectorSettings.value(type);
-    if (instanceName != settings.value(ConnectorSettings::Configuration))
-        return;
-    m_changeMap[type] = instanceName;
-    m_changed = true;
-    context.debug() << message;
+    Source::dependencyFile.recordChange(*this, instanceName, {sourceName, __LINE__, Q_FUNC_INFO});
 }

@@ -10,7 +10,6 @@
 #include "UnitManagerExport.h"
 
 class DBusConnectionSignalPollingHandler;
-struct LogContext;
 
 /// Subscribes to the signal "configurationChanged" of each configuration source and remembers which source
 /// has changed.
@@ -66,27 +65,8 @@ public Q_SLOTS:
     void dependencyFileChanged(const QString& instanceName);
 
 private:
-    using Handling = DBusConfigurationChangeSignalHandling;
     using PollingHandler = QSharedPointer<DBusConnectionSignalPollingHandler>;
-
-    /// What differs between the sources.
-    struct Source
-    {
-        ConnectorType type;
-        const char* slot;
-        void (Handling::*report)(const QString&);
-        bool Handling::*isConnected;
-        PollingHandler Handling::*pollingHandler;
-    };
-    static const Source unitSwitch;
-    static const Source dependencyFile;
-    static const Source defaultUnit;
-
-    ConnectionStatus connectSource(const Source& source, const LogContext& context);
-    void disconnectSource(const Source& source, const LogContext& context);
-    void pollSource(const Source& source);
-    void recordChange(ConnectorType type, const QString& instanceName, const char* message,
-                      const LogContext& context);
+    struct UNITMANAGER_NO_EXPORT Source;
 
     QMap<ConnectorType, QString> m_changeMap;
     QMap<ConnectorType, QStringList> m_connectorSettings;

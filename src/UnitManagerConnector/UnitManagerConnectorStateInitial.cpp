@@ -8,37 +8,16 @@ namespace {
 
 const char* const sourceName = "UnitManagerConnector/UnitManagerConnectorStateInitial";
 
-} // namespace
+using ConnectorType = UnitManagerConnectorDefinitions::ConnectorType;
 
-UnitManagerConnectorStateInitial::UnitManagerConnectorStateInitial(QObject* parent)
-    : UnitManagerConnectorStateBase(parent)
-{}
-
-UnitManagerConnectorStateInitial::~UnitManagerConnectorStateInitial() = default;
-
-void UnitManagerConnectorStateInitial::postInitialEvent(const StateMachineEvent& /*event*/) {}
-
-void UnitManagerConnectorStateInitial::postEvent(const StateMachineEvent& /*event*/)
+/// Opens a source, and adds it to those to read when that worked.
+///
+/// @return whether the attempt goes on with the next source.
+bool openSource(UnitManagerConnectionData& data, ConnectorType type, QList<ConnectorType>& opened,
+                const LogContext& context)
 {
-    if (!m_wrapper)
-        return;
-    const QList<ConnectorType> types = connectionData().connectorSettings().keys();
-    const LogContext context{sourceName, __LINE__, Q_FUNC_INFO};
-    QList<ConnectorType> opened;
-    for (const ConnectorType type : types) {
-        if (!openSource(type, opened, context)) {
-            connectionData().resetObject();
-            return;
-        }
-    }
-    triggerRead(opened);
-}
-
-bool UnitManagerConnectorStateInitial::openSource(ConnectorType type, QList<ConnectorType>& opened,
-                                                  const LogContext& context) const
-{
-    const auto status = connectionData().openConnector(type);
-    const QStringList settings = connectionData().connectorSettings().value(type);
+    const auto status = data.openConnector(type);
+    const QStringList settings = data.connectorSettings().value(type);
     if (settings.size() < ConnectorSettings::EntryCount) {
         context.warning() << "Unable to find handling for file type";
         return true;
@@ -61,4 +40,30 @@ bool UnitManagerConnectorStateInitial::openSource(ConnectorType type, QList<Conn
         return false;
     }
     return true;
+}
+
+} // namespace
+
+UnitManagerConnectorStateInitial::UnitManagerConnectorStateInitial(QObject* parent)
+    : UnitManagerConnectorStateBase(parent)
+{}
+
+UnitManagerConnectorStateInitial::~UnitManagerConnectorStateInitial() = default;
+
+void UnitManagerConnectorStateInitial::postInitialEvent(const StateMachineEvent& /*event*/) {}
+
+void UnitManagerConnectorStateInitial::postEvent(const StateMachineEvent& /*event*/)
+{
+    if (!m_wrapper)
+        return;
+    const QList<ConnectorType> types = connectionData().connectorSettings().keys();
+    const LogContext context{sourceName, __LINE__, Q_FUNC_INFO};
+    QList<ConnectorType> opened;
+    for (const ConnectorType type : types) {
+        if (!openSource(connectionData(), type, opened, context)) {
+            connectionData().resetObject();
+            return;
+        }
+    }
+    triggerRead(opened);
 }

@@ -5,8 +5,6 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
 #include "UnitManagerExport.h"
 
-struct LogContext;
-
 /// Opens a connector for each configuration source and has those that are open read.
 class UNITMANAGER_EXPORT UnitManagerConnectorStateInitial : public UnitManagerConnectorStateBase
 {
@@ -25,7 +23,4 @@ public:
     ///
     /// Logs a warning for each source that ends the attempt and for settings that are no full list.
     void postEvent(const StateMachineEvent& event) override;
-
-private:
-    bool openSource(ConnectorType type, QList<ConnectorType>& opened, const LogContext& context) const;
 };
