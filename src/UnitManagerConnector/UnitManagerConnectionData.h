@@ -88,11 +88,11 @@ public:
     QMap<ConnectorType, QString>& configurations();
 
 private:
-    bool hasValidConnector(ConnectorType type) const;
-    bool hasValidConnectorIfConfigured(ConnectorType type) const;
-    ConnectionStatus connectChangeFlag(ConnectorType type);
-    bool updateUnitManager();
-    bool updateDependencyWalker();
+    UNITMANAGER_NO_EXPORT bool hasValidConnector(ConnectorType type) const;
+    UNITMANAGER_NO_EXPORT bool hasValidConnectorIfConfigured(ConnectorType type) const;
+    UNITMANAGER_NO_EXPORT ConnectionStatus connectChangeFlag(ConnectorType type);
+    UNITMANAGER_NO_EXPORT bool updateUnitManager();
+    UNITMANAGER_NO_EXPORT bool updateDependencyWalker();
 
     QMap<ConnectorType, QSharedPointer<ConfigurationFileHandlerDBusConnector>> m_connectors;
     QMap<ConnectorType, QStringList> m_connectorSettings;

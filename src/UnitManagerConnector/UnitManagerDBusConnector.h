@@ -76,7 +76,7 @@ Q_SIGNALS:
     void unitManagerIsInitialized();
 
 private:
-    bool stepToIdle();
+    UNITMANAGER_NO_EXPORT bool stepToIdle();
 
     UnitManagerStateMachineWrapper m_stateMachineWrapper;
     bool m_configurationChanged = false;

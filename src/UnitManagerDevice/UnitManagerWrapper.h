@@ -145,7 +145,7 @@ public:
                            const QSharedPointer<ConfigurationAndProcessDataBase>& otherNode);
 
 private:
-    bool adoptConfiguration();
+    UNITMANAGER_NO_EXPORT bool adoptConfiguration();
 
     UnitManagerDBusConnector m_connector;
     QSharedPointer<DependencyWalker> m_dependencyWalker;
