@@ -107,9 +107,14 @@ bool ConfigurationService::waitForCalls(int count) const
 
 bool ConfigurationService::announce(const QString& object, const QVariant& parameter)
 {
+    return announceWith(object, {parameter});
+}
+
+bool ConfigurationService::announceWith(const QString& object, const QVariantList& arguments)
+{
     return settle(serviceName) &&
            m_service->sendSignal(QLatin1Char('/') + object, QStringLiteral("configurationChanged"),
-                                 {parameter}) &&
+                                 arguments) &&
            settle(serviceName);
 }
 

@@ -70,6 +70,8 @@ public:
     /// were made before, and waits for them in their threads' event queues.
     /// @return whether it was sent.
     bool announce(const QString& object, const QVariant& parameter);
+    /// The same for a signal with any arguments.
+    bool announceWith(const QString& object, const QVariantList& arguments);
 
     /// Waits until the bus and a service have seen everything that this process has sent them, and this
     /// process everything that the service has sent.

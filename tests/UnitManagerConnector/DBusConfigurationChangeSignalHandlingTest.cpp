@@ -41,6 +41,10 @@ private Q_SLOTS:
     void aSignalOnTheBusIsAChange();
     void aSignalOfAnotherConfigurationIsNone_data();
     void aSignalOfAnotherConfigurationIsNone();
+    void aSignalWithFurtherArgumentsIsOnlyPolled_data();
+    void aSignalWithFurtherArgumentsIsOnlyPolled();
+    void aSignalWithoutAStringIsNoChange_data();
+    void aSignalWithoutAStringIsNoChange();
     void aSignalOfAnyInterfaceCounts();
     void aSignalOfAnotherObjectOrServiceDoesNotCount_data();
     void aSignalOfAnotherObjectOrServiceDoesNotCount();
@@ -280,6 +284,62 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherConfigurationIsN
     QVERIFY(!hasChanged(handling));
     QCOMPARE(handling.getConfigurationChangeMap(), Changes());
     QCOMPARE(log.takeTexts().size(), 1);
+}
+
+void DBusConfigurationChangeSignalHandlingTest::aSignalWithFurtherArgumentsIsOnlyPolled_data()
+{
+    addModesAndSources();
+}
+
+void DBusConfigurationChangeSignalHandlingTest::aSignalWithFurtherArgumentsIsOnlyPolled()
+{
+    QFETCH(const bool, polling);
+    QFETCH(const Type, type);
+    const QStringList source = settings()[type];
+    Handling handling(polling);
+    Handling witness(true);
+    handling.init(settings());
+    witness.init(settings());
+    LogCapture log;
+    QCOMPARE(subscribe(handling, type), Definitions::Connected);
+    QCOMPARE(subscribe(witness, type), Definitions::Connected);
+
+    QVERIFY(m_service->announceWith(source.at(1), {source.at(2), "more"}));
+    QVERIFY(hasChanged(witness));
+    QCOMPARE(hasChanged(handling), polling);
+    QCOMPARE(handling.getConfigurationChangeMap().value(type), polling ? source.at(2) : QString());
+
+    // The subscription goes on.
+    handling.resetCachedObjects();
+    QVERIFY(m_service->announce(source.at(1), source.at(2)));
+    QVERIFY(hasChanged(handling));
+}
+
+void DBusConfigurationChangeSignalHandlingTest::aSignalWithoutAStringIsNoChange_data()
+{
+    QTest::addColumn<bool>("polling");
+    QTest::addColumn<QVariantList>("arguments");
+    const QVariantList map{QVariantMap{{"UnitManager/UnitType", "UnitManager/UnitType"}}};
+    QTest::newRow("map, signals delivered") << false << map;
+    QTest::newRow("map, signals polled") << true << map;
+    QTest::newRow("no argument, signals delivered") << false << QVariantList();
+    QTest::newRow("no argument, signals polled") << true << QVariantList();
+}
+
+void DBusConfigurationChangeSignalHandlingTest::aSignalWithoutAStringIsNoChange()
+{
+    QFETCH(const bool, polling);
+    QFETCH(const QVariantList, arguments);
+    Handling handling(polling);
+    handling.init(settings());
+    LogCapture log;
+    QCOMPARE(handling.connectUnitSwitchChangeFlag(), Definitions::Connected);
+    QVERIFY(m_service->announceWith(TestSource::unitSwitchObject, arguments));
+    QVERIFY(!hasChanged(handling));
+    QCOMPARE(log.takeTexts(), QStringList());
+
+    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
+    QVERIFY(hasChanged(handling));
 }
 
 void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnyInterfaceCounts()
