@@ -21,11 +21,11 @@ QString changeSignal()
     return QStringLiteral("configurationChanged");
 }
 
-/// One string argument, in the words of the bus. Qt ends the process over a signal whose argument it cannot
-/// turn into that of the slot; with this it delivers no other than fitting ones.
+/// One string argument, as the bus writes it. Without this signature Qt delivers signals of any arguments,
+/// and ends the process when it cannot convert one to that of the slot, such as a map.
 const QString oneString = QStringLiteral("s");
 
-/// The same in the words of the polling handler.
+/// The same for the polling handler.
 const auto oneStringArgument = DBusConnectionSignalPollingHandler::SlotSignature(3);
 
 QString busNameOf(const QStringList& settings)

@@ -16,6 +16,10 @@ class DBusConnectionSignalPollingHandler;
 ///
 /// Signals are either delivered by the Qt event loop of the thread that built the object, which must then
 /// run, or polled inside pollChangeFlags(), for threads without one. Used from one thread.
+///
+/// The subscription to delivered signals names their signature, one string. Without it Qt ends the process
+/// when a signal carries a map in place of the name. As a consequence, a delivered signal that carries
+/// further arguments behind the name is not received; a polled one is.
 class UNITMANAGER_EXPORT DBusConfigurationChangeSignalHandling : public QObject
 {
     Q_OBJECT
