@@ -2,6 +2,7 @@
 
 #include "StateMachineEvent.h"
 #include "StateMachineExport.h"
+#include "UnitConversion/Factory.h"
 
 #include <QtCore/QObject>
 
@@ -23,3 +24,6 @@ public:
     /// lives on until the call returns.
     virtual void postEvent(const StateMachineEvent& event) = 0;
 };
+
+// The registry of the states belongs to this library, which serves it to the whole process.
+extern template class STATEMACHINE_EXPORT VESKFactories::Factory<StateMachineStateBase, QObject*>;

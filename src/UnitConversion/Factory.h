@@ -60,11 +60,7 @@ public:
     };
 
     /// The one registry of this instantiation, built on first use and destroyed at process exit.
-    static Factory& instance()
-    {
-        static Factory factory;
-        return factory;
-    }
+    static Factory& instance();
 
     /// Registers class @p T under @p key; a creator already there is destroyed and replaced, silently.
     template <typename T>
@@ -86,5 +82,14 @@ public:
     /// The creators by key.
     std::unordered_map<QString, std::unique_ptr<AbstractCreator>, KeyHasher> creators;
 };
+
+// Not inline: where an explicit instantiation is declared, Clang would otherwise give each library a copy of
+// the static object, and the copies of libraries in scopes of their own stay apart.
+template <typename Base, typename... Args>
+Factory<Base, Args...>& Factory<Base, Args...>::instance()
+{
+    static Factory factory;
+    return factory;
+}
 
 } // namespace VESKFactories

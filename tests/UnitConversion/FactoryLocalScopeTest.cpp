@@ -2,30 +2,65 @@
 
 #include <dlfcn.h>
 
-/// The registry of a process that loads the libraries as plugins do, each in a scope of its own. It links
+/// The registries of a process that loads the libraries as plugins do, each in a scope of its own. It links
 /// none of them.
 class FactoryLocalScopeTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void librariesShareTheRegistryOfStates();
+    void initTestCase();
+    void librariesShareTheRegistries_data();
+    void librariesShareTheRegistries();
+
+private:
+    void* m_stateMachine = nullptr;
+    void* m_unitManager = nullptr;
+    void* m_plugin = nullptr;
 };
 
-void FactoryLocalScopeTest::librariesShareTheRegistryOfStates()
+void FactoryLocalScopeTest::initTestCase()
 {
     QVERIFY(!dlopen(STATE_MACHINE_LIBRARY, RTLD_NOW | RTLD_NOLOAD));
-    void* const stateMachine = dlopen(STATE_MACHINE_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-    QVERIFY2(stateMachine, dlerror());
-    void* const unitManager = dlopen(UNIT_MANAGER_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-    QVERIFY2(unitManager, dlerror());
+    m_stateMachine = dlopen(STATE_MACHINE_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+    QVERIFY2(m_stateMachine, dlerror());
+    m_unitManager = dlopen(UNIT_MANAGER_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+    QVERIFY2(m_unitManager, dlerror());
+    m_plugin = dlopen(FACTORY_PLUGIN, RTLD_NOW | RTLD_LOCAL);
+    QVERIFY2(m_plugin, dlerror());
+}
 
-    // The static object in Factory<StateMachineStateBase, QObject*>::instance(). Each library has a copy, and
-    // the loader lets one of them count.
-    const char* const registry =
-        "_ZZN13VESKFactories7FactoryI21StateMachineStateBaseJP7QObjectEE8instanceEvE7factory";
-    QVERIFY(dlsym(stateMachine, registry));
-    QCOMPARE(dlsym(unitManager, registry), dlsym(stateMachine, registry));
+void FactoryLocalScopeTest::librariesShareTheRegistries_data()
+{
+    QTest::addColumn<bool>("isOfTheStateMachine");
+    QTest::addColumn<QByteArray>("registry");
+    QTest::addColumn<QByteArray>("getter");
+
+    // The static objects in Factory<...>::instance().
+    QTest::newRow("states") << true
+                            << QByteArray("_ZZN13VESKFactories7FactoryI21StateMachineStateBaseJP7QObjectEE8"
+                                          "instanceEvE7factory")
+                            << QByteArray("stateFactoryOfPlugin");
+    QTest::newRow("converters")
+        << false
+        << QByteArray("_ZZN13VESKFactories7FactoryI18ValueConverterBaseJRK14QSharedPointerI31"
+                      "ConfigurationAndProcessDataBaseEEE8instanceEvE7factory")
+        << QByteArray("converterFactoryOfPlugin");
+}
+
+void FactoryLocalScopeTest::librariesShareTheRegistries()
+{
+    QFETCH(bool, isOfTheStateMachine);
+    QFETCH(QByteArray, registry);
+    QFETCH(QByteArray, getter);
+
+    const void* const ofUnitManager = dlsym(m_unitManager, registry.constData());
+    QVERIFY2(ofUnitManager, dlerror());
+    const auto ofPlugin = reinterpret_cast<const void* (*)()>(dlsym(m_plugin, getter.constData()));
+    QVERIFY2(ofPlugin, dlerror());
+    QCOMPARE(ofPlugin(), ofUnitManager);
+    if (isOfTheStateMachine)
+        QCOMPARE(static_cast<const void*>(dlsym(m_stateMachine, registry.constData())), ofUnitManager);
 }
 
 QTEST_APPLESS_MAIN(FactoryLocalScopeTest)

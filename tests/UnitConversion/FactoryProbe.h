@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FactoryProbeExport.h"
+#include "StateMachineStateBase.h"
 #include "UnitConversion/Factory.h"
 #include "UnitConversion/ValueConverterFactory.h"
 
@@ -17,6 +18,7 @@ public:
     virtual int number() const = 0;
 };
 
+using StateFactory = VESKFactories::Factory<StateMachineStateBase, QObject*>;
 using ProbeFactory = VESKFactories::Factory<ProbeBase, int>;
 
 /// The registries as code in another shared library sees them.
@@ -26,5 +28,6 @@ public:
     FactoryProbe() = delete;
 
     static const ValueConverterFactory* converterFactory();
+    static const StateFactory* stateFactory();
     static const ProbeFactory* probeFactory();
 };

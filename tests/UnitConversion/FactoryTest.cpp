@@ -128,15 +128,18 @@ private slots:
 void FactoryTest::oneRegistryForAllLibraries()
 {
     QCOMPARE(FactoryProbe::converterFactory(), &std::as_const(ValueConverterFactory::instance()));
+    QCOMPARE(FactoryProbe::stateFactory(), &std::as_const(StateFactory::instance()));
     QCOMPARE(FactoryProbe::probeFactory(), &std::as_const(ProbeFactory::instance()));
 
     using Address = const void* (*)();
     QLibrary plugin(QStringLiteral(FACTORY_PLUGIN));
     QVERIFY2(plugin.load(), qPrintable(plugin.errorString()));
     const auto converterFactory = reinterpret_cast<Address>(plugin.resolve("converterFactoryOfPlugin"));
+    const auto stateFactory = reinterpret_cast<Address>(plugin.resolve("stateFactoryOfPlugin"));
     const auto probeFactory = reinterpret_cast<Address>(plugin.resolve("probeFactoryOfPlugin"));
-    QVERIFY(converterFactory && probeFactory);
+    QVERIFY(converterFactory && stateFactory && probeFactory);
     QCOMPARE(converterFactory(), static_cast<const void*>(&ValueConverterFactory::instance()));
+    QCOMPARE(stateFactory(), static_cast<const void*>(&StateFactory::instance()));
     QCOMPARE(probeFactory(), static_cast<const void*>(&ProbeFactory::instance()));
 }
 
