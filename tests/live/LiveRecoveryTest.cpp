@@ -21,7 +21,7 @@ namespace {
 const QString notConnected = "warning Unitswitch connector: Cannot call method configuration get via DBus";
 
 /// A failing read of changed sources.
-const QString failedRead = "until Error: {read} Error = true";
+const QString failedRead = "until Error: {noticed} {read} Error = true";
 
 // A document that does not load replaces the good one, for the wrapper when it takes it up. The start that
 // follows reads everything again.
@@ -33,10 +33,10 @@ Situation goodThenBrokenThenGood()
         "good document, then a broken one, then a good one", world,
         {change(Sources::units()), untilEntered("Error"), convert(), changed(), convert(), kept(),
          dependents(), keep(), untilIdle(), convert(), changed(), kept(), untilSettled()},
-        QStringList{"until Error: {read} Update *changed Error = true", "[wrapper] " + converts(1000),
-                    "[connector] " + raw, "changed: true", raw, keptConverts(1000),
-                    "[connector] dependents: Pressure", secondStart, converts(3000), "changed: true",
-                    keptConverts(1000), keptIsRaw, quiet} +
+        QStringList{"until Error: {noticed} {read} Update *changed Error = true",
+                    "[wrapper] " + converts(1000), "[connector] " + raw, "changed: true", raw,
+                    keptConverts(1000), "[connector] dependents: Pressure", secondStart, converts(3000),
+                    "changed: true", keptConverts(1000), keptIsRaw, quiet} +
             firstReads + QStringList{readUnits} + firstReads + QStringList{unitsChanged, brokenUnits});
 }
 
@@ -53,17 +53,23 @@ Situation changeThatCannotBeRead()
             QStringList{unitsChanged, "[blocking] " + unitsUnread});
 }
 
-// A check that blocks leaves the error state with its first step and makes attempts with the other 99.
+/// The attempts of one check after an error, while the service is away. The step of the error state makes
+/// none; with deferred entry it has been made when the state was entered, and else it is the check's first.
+const QStringList attemptsAfterError{"[blocking immediate] 99 x " + unitsUnreachable,
+                                     "[blocking deferred] 100 x " + unitsUnreachable,
+                                     "[asynchronous deferred] " + unitsUnreachable};
+
 Situation deathDuringTheFirstRead()
 {
     return {"service that dies during the first read and comes back",
             Usual::unitsWorld({Answer::of(Answer::Death), Usual::units(2000)}),
             {start(Usual::unitsOnly()), untilEntered("Error"), convert(), check(),
              startModule("DeviceManager"), untilIdle(), convert(), changed()},
-            {failedStart, raw, "check: Initial = false",
-             "until idle: {read} Update *changed Idle *initialized = true", convertsWithoutDefault(2000),
-             "changed: true", readUnits, readUnits, "[blocking] " + unitsUnread,
-             "[blocking] 99 x " + unitsUnreachable}};
+            QStringList{failedStart, raw, "check: Initial = false",
+                        "until idle: {read} Update *changed Idle *initialized = true",
+                        convertsWithoutDefault(2000), "changed: true", readUnits, readUnits,
+                        "[blocking] " + unitsUnread} +
+                attemptsAfterError};
 }
 
 Situation deathDuringALaterRead()
@@ -77,7 +83,7 @@ Situation deathDuringALaterRead()
                     "until idle: {read} Update *changed Idle *initialized = true", converts(3000),
                     "changed: true", keptConverts(1000)} +
             firstReads + QStringList{readUnits} + firstReads +
-            QStringList{unitsChanged, "[blocking] " + unitsUnread, "[blocking] 99 x " + unitsUnreachable});
+            QStringList{unitsChanged, "[blocking] " + unitsUnread} + attemptsAfterError);
 }
 
 Situation restartWhileIdle()
@@ -99,9 +105,9 @@ Situation deathBetweenChangeAndRead()
         {change(Sources::units()), stopModule("DeviceManager"), untilEntered("Error"), convert(), changed(),
          startModule("DeviceManager"), untilIdle(), convert(), changed()},
         QStringList{"[blocking] " + failedRead,
-                    "[asynchronous] until Error: ReadConfigurationASynchron Error = true", converts(1000),
-                    "changed: false", secondStart, "convert: usable: 4000 HectoPascal, 2 bar by default",
-                    "changed: true"} +
+                    "[asynchronous] until Error: {noticed} ReadConfigurationASynchron Error = true",
+                    converts(1000), "changed: false", secondStart,
+                    "convert: usable: 4000 HectoPascal, 2 bar by default", "changed: true"} +
             firstReads + firstReads + QStringList{unitsChanged, notConnected});
 }
 
@@ -118,7 +124,7 @@ Situation optionalModuleGone()
              stopModule("DefaultUnitManager"), change(Sources::units()), untilEntered("Error"), convert(),
              startModule("DefaultUnitManager"), untilIdle(), convert(), changed()},
             {firstStart, "changed: true", "[blocking] " + failedRead,
-             "[asynchronous] until Error: ReadConfigurationASynchron Error = true", converts(1000),
+             "[asynchronous] until Error: {noticed} ReadConfigurationASynchron Error = true", converts(1000),
              secondStart, converts(2000), "changed: true", readUnits, readRemote, readUnits, readRemote,
              unitsChanged, notConnected}};
 }

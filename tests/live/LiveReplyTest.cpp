@@ -43,17 +43,17 @@ Situation unloadableFirstText(const QString& name, const QVariant& value, const 
              secondStart, convertsWithoutDefault(1000), "changed: true", readUnits, readUnits, warning}};
 }
 
-/// A first reply that counts as no text when reading does not block; @p waits are checks that find nothing.
-Situation absentFirstText(const QString& name, const QVariant& value, const QStringList& waits)
+/// A first reply that counts as no text when reading does not block; @p checks are three of them and those
+/// until the library idles.
+Situation absentFirstText(const QString& name, const QVariant& value, const QStringList& checks)
 {
     return {
         name,
         Usual::unitsWorld({Answer::held(value), Usual::units()}),
         {start(Usual::unitsOnly()), untilEntered("WaitForReply"), release(Sources::units()), check(), check(),
          check(), untilIdle(), convert(), changed(), change(Sources::units()), untilChanged(), convert()},
-        QStringList{"until WaitForReply: {start} ReadConfigurationASynchron WaitForReply = true"} + waits +
-            QStringList{"until idle: *initialized = true", raw, "changed: true", takenUp,
-                        convertsWithoutDefault(1000), readUnits, readUnits},
+        QStringList{"until WaitForReply: {start} ReadConfigurationASynchron WaitForReply = true"} + checks +
+            QStringList{raw, "changed: true", takenUp, convertsWithoutDefault(1000), readUnits, readUnits},
         asynchronous};
 }
 
@@ -86,25 +86,44 @@ Situation mapForBlockingRead()
     return situation;
 }
 
-// The update runs at the second check, and a wrapper misses the unit manager at each that idles.
+/// What a wrapper logs that finds no unit manager at @p idleChecks checks, before the units change. With
+/// deferred entry it idles once more after the change, in the check that finds it.
+QStringList missedUnitManager(const char* entry, int idleChecks)
+{
+    const QString times = idleChecks == 1 ? QString() : QStringLiteral("%1 x ").arg(idleChecks);
+    const QString condition = QStringLiteral("[wrapper %1] ").arg(QLatin1String(entry));
+    return {condition + times + notInitialized, condition + notChanged};
+}
+
+const QString idlesOnceMore = "[wrapper deferred] " + notInitialized;
+
+// The first check collects the reply, the second one updates.
 Situation emptyTextForAsynchronousRead()
 {
     Situation situation = absentFirstText(
         "empty text", "",
-        {"check: Update = false", "check: *changed Idle *initialized = true", "check: *initialized = true"});
-    situation.record +=
-        QStringList{"[wrapper] 3 x " + notInitialized, "[wrapper] " + notChanged, unitsChanged};
+        {"[immediate] check: Update = false", "[immediate] check: *changed Idle *initialized = true",
+         "[immediate] check: *initialized = true", "[immediate] until idle: *initialized = true",
+         "[deferred] check: = false", "[deferred] check: Update = false",
+         "[deferred] check: *changed Idle *initialized = true",
+         "[deferred] until idle: *initialized = true"});
+    situation.record += missedUnitManager("immediate", 3) + missedUnitManager("deferred", 2) +
+                        QStringList{unitsChanged, idlesOnceMore};
     return situation;
 }
 
 // A reply that is no text costs one more check.
 Situation mapForAsynchronousRead()
 {
-    Situation situation = absentFirstText(
-        "a map as reply", QVariantMap{{"text", "{}"}},
-        {"check: = false", "check: Update = false", "check: *changed Idle *initialized = true"});
-    situation.record +=
-        QStringList{"[wrapper] 2 x " + notInitialized, "[wrapper] " + notChanged, unitsChanged};
+    Situation situation =
+        absentFirstText("a map as reply", QVariantMap{{"text", "{}"}},
+                        {"[immediate] check: = false", "[immediate] check: Update = false",
+                         "[immediate] check: *changed Idle *initialized = true",
+                         "[immediate] until idle: *initialized = true", "[deferred] check: = false",
+                         "[deferred] check: = false", "[deferred] check: Update = false",
+                         "[deferred] until idle: *changed Idle *initialized = true"});
+    situation.record += missedUnitManager("immediate", 2) + missedUnitManager("deferred", 1) +
+                        QStringList{unitsChanged, idlesOnceMore};
     return situation;
 }
 
@@ -165,11 +184,14 @@ Situation releasedOneByOne(const QString& name, const QList<SourceName>& order)
             Usual::fullWorld({heldUnits}, {heldDependencies}, {heldDefaultUnits}),
             {start(Usual::allSources()), untilEntered("WaitForReply"), checks(20), release(order.at(0)),
              check(), release(order.at(1)), check(), release(order.at(2)), check(), convert(), check(),
-             convert(), dependents(), changed()},
+             untilIdle(), convert(), dependents(), changed()},
             {"until WaitForReply: {start} ReadConfigurationASynchron WaitForReply = true",
-             "20 checks: = 0 true", "check: = false", "check: = false", "check: Update = false", raw,
-             "check: *changed Idle *initialized = true", converts(1000), "[connector] dependents: Pressure",
-             "changed: true", readUnits, readDependencies, readDefaultUnits},
+             "20 checks: = 0 true", "check: = false", "check: = false", "[immediate] check: Update = false",
+             "[deferred] check: = false", raw, "[immediate] check: *changed Idle *initialized = true",
+             "[immediate] until idle: *initialized = true", "[deferred] check: Update = false",
+             "[deferred] until idle: *changed Idle *initialized = true", converts(1000),
+             "[connector] dependents: Pressure", "changed: true", readUnits, readDependencies,
+             readDefaultUnits},
             asynchronous};
 }
 

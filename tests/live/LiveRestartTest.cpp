@@ -25,6 +25,7 @@ const QStringList everyStep{"asynchronous wrapper", "asynchronous connector", "m
 const QStringList beforeTheFirstStep{"polled wrapper", "connector", "machine"};
 
 /// A start that is brought to a state, with what was seen of it; from there the first replies may be held.
+/// With deferred entry the state runs in the step that enters it.
 struct Place
 {
     QString name;
@@ -32,10 +33,28 @@ struct Place
     World world;
     Script way;
     QStringList seen;
-    QStringList reads;             ///< of the way
-    QStringList messages;          ///< of the way
-    QStringList lateMessages = {}; ///< of what was under way to the application and reaches it later
+    QStringList reads;                   ///< of the way
+    QStringList messages;                ///< of the way
+    QStringList lateMessages = {};       ///< of what was under way to the application and reaches it later
+    QStringList converted = {raw};       ///< by what the way has built
+    QStringList restart = {secondStart}; ///< what is seen of another start
+    QStringList restarted = {converts(2000)}; ///< by what that has built
 };
+
+/// Lines that are expected in the modes that fulfil @p condition.
+QStringList under(const char* condition, const QStringList& lines)
+{
+    QStringList conditional;
+    for (const QString& line : lines)
+        conditional.append(QStringLiteral("[%1] %2").arg(QLatin1String(condition), line));
+    return conditional;
+}
+
+/// The conversion after another start: with deferred entry the first answers have been read before it.
+QStringList convertsAfterReadState()
+{
+    return under("immediate", {converts(1000)}) + under("deferred", {converts(2000)});
+}
 
 World heldWorld()
 {
@@ -52,29 +71,39 @@ World plainWorld()
 
 Place initial()
 {
-    return {"the initial state", beforeTheFirstStep, plainWorld(), {}, {}, {}, {}};
+    Place place{"the initial state", beforeTheFirstStep, plainWorld(), {}, {}, {}, {}};
+    // With deferred entry only the last of the selections is entered.
+    place.restart =
+        QStringList{"[immediate] until idle: {start} Initial {read} Update *changed Idle *initialized = true",
+                    "[deferred] " + secondStart};
+    place.restarted = QStringList{converts(1000)};
+    return place;
 }
 
 Place reading()
 {
-    return {"the blocking read",
-            {"blocking machine"},
-            plainWorld(),
-            {untilEntered("ReadConfigurationSynchron")},
-            {"until ReadConfigurationSynchron: {start} ReadConfigurationSynchron = true"},
-            {},
-            {}};
+    Place place{"the blocking read",
+                {"blocking machine"},
+                plainWorld(),
+                {untilEntered("ReadConfigurationSynchron")},
+                {"until ReadConfigurationSynchron: {start} ReadConfigurationSynchron = true"},
+                under("deferred", firstReads),
+                {}};
+    place.restarted = convertsAfterReadState();
+    return place;
 }
 
 Place startingToRead()
 {
-    return {"the start of the reads",
-            {"asynchronous"},
-            plainWorld(),
-            {untilEntered("ReadConfigurationASynchron")},
-            {"until ReadConfigurationASynchron: {start} ReadConfigurationASynchron = true"},
-            {},
-            {}};
+    Place place{"the start of the reads",
+                {"asynchronous"},
+                plainWorld(),
+                {untilEntered("ReadConfigurationASynchron")},
+                {"until ReadConfigurationASynchron: {start} ReadConfigurationASynchron = true"},
+                under("deferred", firstReads),
+                {}};
+    place.restarted = convertsAfterReadState();
+    return place;
 }
 
 Place waiting()
@@ -103,30 +132,38 @@ Place waitingForTheLast()
 
 Place updating()
 {
-    return {"the update",
-            everyStep,
-            plainWorld(),
-            {untilEntered("Update")},
-            {"until Update: {start} {read} Update = true"},
-            firstReads,
-            {}};
+    Place place{"the update",
+                everyStep,
+                plainWorld(),
+                {untilEntered("Update")},
+                {"until Update: {start} {read} Update = true"},
+                firstReads,
+                {}};
+    // With deferred entry the objects are built. A wrapper has not shared them yet: they are announced by the
+    // next step, which begins in the update state although it enters another one.
+    place.converted = under("immediate", {raw}) + under("deferred wrapper", {raw}) +
+                      under("deferred connector", {converts(1000)}) +
+                      under("deferred machine", {converts(1000)});
+    place.restart = QStringList{"[immediate] " + secondStart,
+                                "[deferred] until idle: *changed Initial {read} Update *changed Idle "
+                                "*initialized = true"};
+    return place;
 }
 
 Place idling()
 {
-    return {"the idle state", everyLevel, plainWorld(), {untilIdle()}, {firstStart}, firstReads, {}};
+    Place place{"the idle state", everyLevel, plainWorld(), {untilIdle()}, {firstStart}, firstReads, {}};
+    place.converted = QStringList{converts(1000)};
+    return place;
 }
 
 Place idlingWithAChange()
 {
-    return {"the idle state with a change announced",
-            everyLevel,
-            plainWorld(),
-            {untilIdle(), change(Sources::units())},
-            {firstStart},
-            firstReads,
-            {},
-            {"[delivered] " + unitsChanged}};
+    Place place = idling();
+    place.name = "the idle state with a change announced";
+    place.way << change(Sources::units());
+    place.lateMessages = under("delivered", {unitsChanged});
+    return place;
 }
 
 Place failed()
@@ -150,45 +187,31 @@ QList<Place> places()
 const Script lateReplies{release(Sources::units()), release(Sources::dependencies()),
                          release(Sources::defaultUnits())};
 
-/// The next reads of the place's world, which are its first at some places.
-QString unitsAfter(const Place& place)
-{
-    return place.reads.isEmpty() ? converts(1000) : converts(2000);
-}
-
 Situation resetIn(const Place& place)
 {
     // Nothing that was built gets lost, and what was announced needs no read of its own.
-    const bool isBuilt = place.seen.contains(firstStart);
-    const QStringList afterReset{"[wrapper] changed: false", "[connector] changed: false",
-                                 isBuilt ? converts(1000) : raw};
-    const QStringList afterStart{"until idle: Initial {read} Update *changed Idle *initialized = true",
-                                 unitsAfter(place),
-                                 "[wrapper] changed: true",
-                                 "[connector] changed: true",
-                                 "until settled: *initialized *initialized = true",
-                                 unitsAfter(place)};
-    const QString startFromInitial =
-        "until idle: {start} Initial {read} Update *changed Idle *initialized = true";
-    QStringList record = place.seen + afterReset + afterStart;
-    if (place.way.isEmpty())
-        record.replaceInStrings(afterStart.first(), startFromInitial);
+    const QStringList unchanged{"[wrapper] changed: false", "[connector] changed: false"};
+    const QStringList changedOnce{"[wrapper] changed: true", "[connector] changed: true"};
     return {"reset in " + place.name, place.world,
             Script{start(Usual::allSources())} + place.way +
                 Script{reset(), changed(), convert(), untilIdle()} + Script{convert(), changed()} +
                 lateReplies + Script{untilSettled(), convert()},
-            record + place.reads + firstReads + place.messages + place.lateMessages, place.modes};
+            place.seen + unchanged + place.converted + place.restart + place.restarted + changedOnce +
+                QStringList{"until settled: *initialized *initialized = true"} + place.restarted +
+                place.reads + firstReads + place.messages + place.lateMessages,
+            place.modes};
 }
 
 Situation destructionIn(const Place& place)
 {
-    const bool isBuilt = place.seen.contains(firstStart);
+    QStringList kept = place.converted;
+    kept.replaceInStrings("convert: ", "kept: ");
+    // With deferred entry nothing is entered before the first step.
+    const QStringList end = place.way.isEmpty() ? QStringList{"[immediate] end: {start}"} : QStringList();
     return {"destruction in " + place.name, place.world,
-            Script{start(Usual::allSources())} + place.way + Script{keep(), destroy(), kept()} + lateReplies,
-            place.seen + QStringList{isBuilt ? keptConverts(1000) : keptIsRaw} +
-                (place.way.isEmpty() ? QStringList{"end: {start}"} : QStringList()) + place.reads +
-                place.messages,
-            place.modes};
+            Script{start(Usual::allSources())} + place.way + Script{keep(), destroy(), Steps::kept()} +
+                lateReplies,
+            place.seen + kept + end + place.reads + place.messages, place.modes};
 }
 
 } // namespace
