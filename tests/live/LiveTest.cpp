@@ -9,13 +9,23 @@
 
 namespace {
 
-/// The modes of this program.
+Mode::Changes changesOfProcess()
+{
+    return qgetenv("LIVE_CHANGES") == "Polled" ? Mode::Polled : Mode::Delivered;
+}
+
+Mode::Entry entryOfProcess()
+{
+    return qgetenv("LIVE_ENTRY") == "Deferred" ? Mode::Deferred : Mode::Immediate;
+}
+
+/// The modes of this process.
 QList<Mode> modes()
 {
     QList<Mode> list;
     for (const Mode::Reading reading : {Mode::Blocking, Mode::Asynchronous}) {
         for (const Mode::Level level : {Mode::Wrapper, Mode::Connector, Mode::Machine})
-            list.append({reading, Mode::LIVE_CHANGES, level, Mode::LIVE_ENTRY});
+            list.append({reading, changesOfProcess(), level, entryOfProcess()});
     }
     return list;
 }
@@ -91,6 +101,6 @@ void LiveTest::situation()
 
 void LiveTest::cleanupTestCase()
 {
-    // That event loops are noticed is shown by the programs in which they run.
-    QCOMPARE(m_eventLoopRuns > 0, Mode::LIVE_CHANGES == Mode::Delivered);
+    // That event loops are noticed is shown by the processes in which they run.
+    QCOMPARE(m_eventLoopRuns > 0, changesOfProcess() == Mode::Delivered);
 }

@@ -10,8 +10,10 @@
 /// The frame of the tests that play situations on a bus of their own: each situation in every mode that it is
 /// meant for.
 ///
-/// How changes are heard of and when states are entered is fixed for a program: LIVE_CHANGES and LIVE_ENTRY
-/// name the values, so that where changes are polled no event loop has ever run in the process.
+/// How changes are heard of and when states are entered is fixed for a process, so that where changes are
+/// polled no event loop has ever run in it. The environment names both: LIVE_CHANGES is "Delivered" or
+/// "Polled", LIVE_ENTRY is "Immediate" or "Deferred". Deferred entry needs the state machine that does so in
+/// place of the platform's.
 class LiveTest : public QObject
 {
     Q_OBJECT
