@@ -6,6 +6,7 @@
 #include "ExactText.h"
 #include "LogCapture.h"
 #include "MessageText.h"
+#include "Operation.h"
 #include "RecordingNode.h"
 #include "TextDocument.h"
 #include "UnitTextManagement/UnitTextHandler.h"
@@ -18,6 +19,22 @@ static_assert(std::has_virtual_destructor_v<UnitTextHandler>);
 static_assert(std::is_copy_constructible_v<UnitTextHandler> && std::is_copy_assignable_v<UnitTextHandler>);
 static_assert(std::is_convertible_v<const UnitTextHandler&, bool>);
 static_assert(std::is_convertible_v<QString, UnitTextHandler>);
+
+using Handler = UnitTextHandler;
+using Node = QSharedPointer<ConfigurationAndProcessDataBase>;
+static_assert(hasOperation<Handler, bool(const QString&)>(&Handler::initByJsonString));
+static_assert(hasOperation<Handler, bool(const QString&)>(&Handler::initByJsonFile));
+static_assert(hasOperation<Handler, QString(const QString&, const QString&, const QString&) const>(
+    &Handler::getUnitText));
+static_assert(
+    hasOperation<Handler, QString(const Node&, const QString&, const QString&) const>(&Handler::getUnitText));
+static_assert(hasOperation<Handler, QString(const QString&, const Node&, const QString&, const QString&)
+                                        const>(&Handler::getUnitText));
+static_assert(hasOperation<Handler, QVariant(const QString&) const>(&Handler::getUnitTextJsonMap));
+static_assert(hasOperation<Handler, bool(const QString&) const>(&Handler::isFixedUnitType));
+static_assert(hasOperation<Handler, void()>(&Handler::reset));
+static_assert(hasOperation<Handler, bool() const>(&Handler::isValid));
+static_assert(hasOperation<Handler, bool() const>(&Handler::operator bool));
 
 QString textWarning(const QString& text)
 {
