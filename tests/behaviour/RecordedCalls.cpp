@@ -1,0 +1,82 @@
+#include "RecordedCalls.h"
+
+#include <QtCore/QDebug>
+
+#include <cmath>
+#include <cstring>
+#include <utility>
+
+#include "ExactText.h"
+
+namespace {
+
+QStringList& calls()
+{
+    static QStringList list;
+    return list;
+}
+
+QStringList& questions()
+{
+    static QStringList list;
+    return list;
+}
+
+quint64 bitsOf(double number)
+{
+    quint64 bits = 0;
+    std::memcpy(&bits, &number, sizeof bits);
+    return bits;
+}
+
+// The sign of a NaN that is computed depends on the processor.
+bool isDefaultNan(double number)
+{
+    return std::isnan(number) && (bitsOf(number) << 1U) == 0xFFF0000000000000U;
+}
+
+QString listText(const QVariantList& list)
+{
+    QStringList texts;
+    for (const QVariant& value : list)
+        texts.append(RecordedCalls::exactBits(value));
+    return QLatin1Char('[') + texts.join(QLatin1String(", ")) + QLatin1Char(']');
+}
+
+} // namespace
+
+void RecordedCalls::add(const QString& call)
+{
+    calls().append(call);
+}
+
+void RecordedCalls::addQuestion(const QString& question)
+{
+    questions().append(question);
+}
+
+QStringList RecordedCalls::takeCalls()
+{
+    return std::exchange(calls(), {});
+}
+
+QStringList RecordedCalls::takeQuestions()
+{
+    return std::exchange(questions(), {});
+}
+
+QString RecordedCalls::exactBits(double number)
+{
+    if (std::isnan(number) && !isDefaultNan(number))
+        return QStringLiteral("nan:") + QString::number(bitsOf(number), 16);
+    return exactText(number);
+}
+
+QString RecordedCalls::exactBits(const QVariant& value)
+{
+    if (value.userType() == QMetaType::Double)
+        return exactBits(*static_cast<const double*>(value.constData()));
+    if (value.userType() == QMetaType::QVariantList)
+        return listText(value.toList());
+    return exactText(value);
+}
