@@ -9,9 +9,9 @@ bool isRowList(const QVariant& row)
     return row.canConvert(QVariant::List);
 }
 
-int lengthOf(const QVariant& row)
+QVariantList cellsOf(const QVariant& row)
 {
-    return isRowList(row) ? row.toList().size() : 1;
+    return isRowList(row) ? row.toList() : QVariantList{row};
 }
 
 QVariant cellOf(const QVariant& row, int column)
@@ -38,10 +38,12 @@ QVector<unsigned int> Array2dDataTypeWrapper::getDimensions() const
 void Array2dDataTypeWrapper::reset(const QList<QVariant>& data, const QList<QVariant>& dimensions)
 {
     m_data = data;
-    m_columnUnitTypes = dimensions;
     m_columns = 0;
     for (const QVariant& row : data)
-        m_columns = std::max(m_columns, static_cast<unsigned int>(lengthOf(row)));
+        m_columns = std::max(m_columns, static_cast<unsigned int>(cellsOf(row).size()));
+    m_columnUnitTypes.clear();
+    for (int column = 0; column < static_cast<int>(m_columns); ++column)
+        m_columnUnitTypes.append(dimensions.value(column).toString());
 }
 
 QVector<unsigned int> Array2dDataTypeWrapper::getArrayType() const
@@ -51,10 +53,7 @@ QVector<unsigned int> Array2dDataTypeWrapper::getArrayType() const
 
 QStringList Array2dDataTypeWrapper::getColumnUnitTypes() const
 {
-    QStringList unitTypes;
-    for (int column = 0; column < static_cast<int>(m_columns); ++column)
-        unitTypes.append(m_columnUnitTypes.value(column).toString());
-    return unitTypes;
+    return m_columnUnitTypes;
 }
 
 QList<QVariant> Array2dDataTypeWrapper::getData() const
@@ -70,13 +69,16 @@ QList<QVariant> Array2dDataTypeWrapper::getRowValues(unsigned int row) const
 QList<QVariant> Array2dDataTypeWrapper::getRowValues(unsigned int row, unsigned int firstColumn,
                                                      unsigned int columnCount) const
 {
-    QList<QVariant> values;
     if (!hasCells(row, firstColumn, columnCount))
-        return values;
-    const QVariant& cells = m_data.at(static_cast<int>(row));
+        return {};
+    const QVariantList cells = cellsOf(m_data.at(static_cast<int>(row)));
+    // Shared, where the row is asked for as it is stored.
+    if (firstColumn == 0 && static_cast<int>(columnCount) == cells.size())
+        return cells;
+    QList<QVariant> values;
     values.reserve(static_cast<int>(columnCount));
     for (unsigned int column = firstColumn; column < firstColumn + columnCount; ++column)
-        values.append(cellOf(cells, static_cast<int>(column)));
+        values.append(cells.value(static_cast<int>(column)));
     return values;
 }
 
@@ -105,6 +107,10 @@ bool Array2dDataTypeWrapper::setRowValues(const QList<QVariant>& values, unsigne
     // A table of one column keeps its form, a plain list of values.
     if (m_columns == 1 && !isRowList(stored)) {
         stored = values.value(0, stored);
+        return true;
+    }
+    if (columnCount == m_columns && static_cast<unsigned int>(values.size()) == m_columns) {
+        stored = QVariant(values);
         return true;
     }
     QList<QVariant> cells = getRowValues(row);

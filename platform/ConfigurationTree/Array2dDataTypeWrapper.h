@@ -59,6 +59,6 @@ private:
     bool hasCells(unsigned int row, unsigned int firstColumn, unsigned int columnCount) const;
 
     QList<QVariant> m_data;
-    QList<QVariant> m_columnUnitTypes;
+    QStringList m_columnUnitTypes;
     unsigned int m_columns = 0;
 };

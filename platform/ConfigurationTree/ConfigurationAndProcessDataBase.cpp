@@ -2,6 +2,7 @@
 
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataTools.h"
+#include "PropertyList.h"
 
 namespace {
 
@@ -9,8 +10,11 @@ using Definitions = ConfigurationAndProcessDataDefinitions;
 
 bool isOfNumberType(const ConfigurationAndProcessDataBase& node)
 {
-    return node.getProperty(Definitions::getKeyDataPropertyType()).toString() ==
-           Definitions::getKeyDataTypeNumber();
+    const QVariant type = node.getProperty(Definitions::getKeyDataPropertyType());
+    // Compared in place: a copy would cost more than the comparison.
+    return type.userType() == QMetaType::QString &&
+           PropertyList::isSameKey(*static_cast<const QString*>(type.constData()),
+                                   Definitions::getKeyDataTypeNumber());
 }
 
 } // namespace
@@ -23,6 +27,11 @@ const QHash<QString, BaseClassSharedPointer>& ConfigurationAndProcessDataBase::g
 }
 
 bool ConfigurationAndProcessDataBase::isNumberType() const
+{
+    return isNumber();
+}
+
+bool ConfigurationAndProcessDataBase::isNumber() const
 {
     return ConfigurationAndProcessDataTools::isVariantNumber(
                getProperty(Definitions::getKeyDataPropertyValue())) &&

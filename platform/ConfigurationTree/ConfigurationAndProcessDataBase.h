@@ -54,4 +54,7 @@ protected:
 
     /// What getChildMap() answers with; an empty map unless a derived class says otherwise.
     virtual const QHash<QString, BaseClassSharedPointer>& childMap() const;
+    /// What isNumberType() answers with; reads the value and type properties unless a derived class knows a
+    /// faster way.
+    virtual bool isNumber() const;
 };

@@ -1,79 +1,85 @@
 #include "ConfigurationAndProcessDataDefinitions.h"
 
+namespace {
+
+// Not inside the functions: these are read several times in every access to a node.
+const QString keyDataPropertyValue = QStringLiteral("@value");
+const QString keyDataPropertyUnitType = QStringLiteral("@unitType");
+const QString keyDataPropertyType = QStringLiteral("@type");
+const QString keyDataPropertyDisplayPosition = QStringLiteral("@displayPosition");
+const QString keyDataPropertyMeasurementRangeAttributes = QStringLiteral("@measurementRangeAttributes");
+const QString keyDataPropertyReadOnly = QStringLiteral("@readOnly");
+const QString keyDataTypeTreeNode = QStringLiteral("TreeNode");
+const QString keyDataTypeSelection = QStringLiteral("Selection");
+const QString keyDataTypeNumber = QStringLiteral("Number");
+const QString keyDataTypeText = QStringLiteral("Text");
+const QString keyDataTypeBoolean = QStringLiteral("Boolean");
+const QString keyDataTypeArray = QStringLiteral("Array");
+const QString keyDataTypeTranslateableText = QStringLiteral("TranslateableText");
+
+} // namespace
+
 const QString& ConfigurationAndProcessDataDefinitions::getKeyDataPropertyValue()
 {
-    static const QString key = QStringLiteral("@value");
-    return key;
+    return keyDataPropertyValue;
 }
 
 const QString& ConfigurationAndProcessDataDefinitions::getKeyDataPropertyUnitType()
 {
-    static const QString key = QStringLiteral("@unitType");
-    return key;
+    return keyDataPropertyUnitType;
 }
 
 const QString& ConfigurationAndProcessDataDefinitions::getKeyDataPropertyType()
 {
-    static const QString key = QStringLiteral("@type");
-    return key;
+    return keyDataPropertyType;
 }
 
 const QString& ConfigurationAndProcessDataDefinitions::getKeyDataPropertyDisplayPosition()
 {
-    static const QString key = QStringLiteral("@displayPosition");
-    return key;
+    return keyDataPropertyDisplayPosition;
 }
 
 const QString& ConfigurationAndProcessDataDefinitions::getKeyDataPropertyMeasurementRangeAttributes()
 {
-    static const QString key = QStringLiteral("@measurementRangeAttributes");
-    return key;
+    return keyDataPropertyMeasurementRangeAttributes;
 }
 
 const QString& ConfigurationAndProcessDataDefinitions::getKeyDataPropertyReadOnly()
 {
-    static const QString key = QStringLiteral("@readOnly");
-    return key;
+    return keyDataPropertyReadOnly;
 }
 
 const QString& ConfigurationAndProcessDataDefinitions::getKeyDataTypeTreeNode()
 {
-    static const QString key = QStringLiteral("TreeNode");
-    return key;
+    return keyDataTypeTreeNode;
 }
 
 const QString& ConfigurationAndProcessDataDefinitions::getKeyDataTypeSelection()
 {
-    static const QString key = QStringLiteral("Selection");
-    return key;
+    return keyDataTypeSelection;
 }
 
 const QString& ConfigurationAndProcessDataDefinitions::getKeyDataTypeNumber()
 {
-    static const QString key = QStringLiteral("Number");
-    return key;
+    return keyDataTypeNumber;
 }
 
 const QString& ConfigurationAndProcessDataDefinitions::getKeyDataTypeText()
 {
-    static const QString key = QStringLiteral("Text");
-    return key;
+    return keyDataTypeText;
 }
 
 const QString& ConfigurationAndProcessDataDefinitions::getKeyDataTypeBoolean()
 {
-    static const QString key = QStringLiteral("Boolean");
-    return key;
+    return keyDataTypeBoolean;
 }
 
 const QString& ConfigurationAndProcessDataDefinitions::getKeyDataTypeArray()
 {
-    static const QString key = QStringLiteral("Array");
-    return key;
+    return keyDataTypeArray;
 }
 
 const QString& ConfigurationAndProcessDataDefinitions::getKeyDataTypeTranslateableText()
 {
-    static const QString key = QStringLiteral("TranslateableText");
-    return key;
+    return keyDataTypeTranslateableText;
 }

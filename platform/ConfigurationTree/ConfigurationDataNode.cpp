@@ -1,6 +1,7 @@
 #include "ConfigurationDataNode.h"
 
 #include "ConfigurationAndProcessDataDefinitions.h"
+#include "ConfigurationAndProcessDataTools.h"
 #include "NodeValue.h"
 #include "WriteStatus.h"
 
@@ -22,19 +23,19 @@ BaseClassSharedPointer ConfigurationDataNode::getChild(const QString& key) const
 
 QVariant ConfigurationDataNode::getProperty(const QString& propertyKey) const
 {
-    if (propertyKey == Definitions::getKeyDataPropertyValue())
+    if (PropertyList::isSameKey(propertyKey, Definitions::getKeyDataPropertyValue()))
         return m_value;
-    if (propertyKey == Definitions::getKeyDataPropertyType())
+    if (PropertyList::isSameKey(propertyKey, Definitions::getKeyDataPropertyType()))
         return type();
-    const int index = findProperty(propertyKey);
-    return index < 0 ? QVariant() : m_properties.at(index).value;
+    return m_properties.value(propertyKey);
 }
 
 bool ConfigurationDataNode::hasProperty(const QString& propertyKey) const
 {
-    if (propertyKey == Definitions::getKeyDataPropertyValue())
+    if (PropertyList::isSameKey(propertyKey, Definitions::getKeyDataPropertyValue()))
         return m_value.isValid();
-    return propertyKey == Definitions::getKeyDataPropertyType() || findProperty(propertyKey) >= 0;
+    return PropertyList::isSameKey(propertyKey, Definitions::getKeyDataPropertyType()) ||
+           m_properties.contains(propertyKey);
 }
 
 int ConfigurationDataNode::changeProperty(const QString& propertyKey, const QVariant& value)
@@ -69,11 +70,9 @@ void ConfigurationDataNode::storeProperty(const QString& propertyKey, const QVar
         m_value = value;
         return;
     }
-    const int index = findProperty(propertyKey);
-    if (index >= 0)
-        m_properties.remove(index);
-    if (value.isValid())
-        m_properties.append({propertyKey, value});
+    // The key that is read most often shares its characters with the definition, which makes reads faster.
+    const QString& unitTypeKey = Definitions::getKeyDataPropertyUnitType();
+    m_properties.set(propertyKey == unitTypeKey ? unitTypeKey : propertyKey, value);
 }
 
 const QHash<QString, BaseClassSharedPointer>& ConfigurationDataNode::childMap() const
@@ -81,29 +80,24 @@ const QHash<QString, BaseClassSharedPointer>& ConfigurationDataNode::childMap() 
     return m_children ? m_children->map() : ConfigurationAndProcessDataBase::childMap();
 }
 
-int ConfigurationDataNode::findProperty(const QString& propertyKey) const
+bool ConfigurationDataNode::isNumber() const
 {
-    for (int index = 0; index < m_properties.size(); ++index) {
-        if (m_properties.at(index).key == propertyKey)
-            return index;
-    }
-    return -1;
+    return ConfigurationAndProcessDataTools::isVariantNumber(m_value) &&
+           PropertyList::isSameKey(type(), Definitions::getKeyDataTypeNumber());
 }
 
-QString ConfigurationDataNode::type() const
+const QString& ConfigurationDataNode::type() const
 {
-    const int index = findProperty(Definitions::getKeyDataPropertyType());
-    if (index >= 0 && isType(m_properties.at(index).value))
-        return m_properties.at(index).value.toString();
+    const QVariant* const stored = m_properties.find(Definitions::getKeyDataPropertyType());
+    if (stored && isType(*stored))
+        return *static_cast<const QString*>(stored->constData());
     return NodeValue::typeOf(NodeValue::kindOf(m_value));
 }
 
 bool ConfigurationDataNode::isReadOnly() const
 {
-    const int index = findProperty(Definitions::getKeyDataPropertyReadOnly());
-    if (index < 0 || m_properties.at(index).value.userType() != QMetaType::Bool)
-        return false;
-    return m_properties.at(index).value.toBool();
+    const QVariant* const isSet = m_properties.find(Definitions::getKeyDataPropertyReadOnly());
+    return isSet && isSet->userType() == QMetaType::Bool && isSet->toBool();
 }
 
 bool ConfigurationDataNode::takes(const QString& propertyKey, const QVariant& value) const

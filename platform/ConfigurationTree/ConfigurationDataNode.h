@@ -2,11 +2,11 @@
 
 #include "ChildTable.h"
 #include "ConfigurationAndProcessDataBase.h"
+#include "PropertyList.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
-#include <QtCore/QVector>
 
 #include <memory>
 
@@ -34,20 +34,14 @@ public:
 
 protected:
     const QHash<QString, BaseClassSharedPointer>& childMap() const override;
+    bool isNumber() const override;
 
 private:
-    struct Property
-    {
-        QString key;
-        QVariant value;
-    };
-
-    int findProperty(const QString& propertyKey) const;
-    QString type() const;
+    const QString& type() const;
     bool isReadOnly() const;
     bool takes(const QString& propertyKey, const QVariant& value) const;
 
     QVariant m_value;
-    QVector<Property> m_properties;
+    PropertyList m_properties;
     std::unique_ptr<ChildTable> m_children;
 };

@@ -16,17 +16,18 @@ constexpr int statusRefused = 2;
 
 bool isValueKey(const QString& propertyKey)
 {
-    return propertyKey == ConfigurationAndProcessDataDefinitions::getKeyDataPropertyValue();
+    return PropertyList::isSameKey(propertyKey,
+                                   ConfigurationAndProcessDataDefinitions::getKeyDataPropertyValue());
 }
 
 } // namespace
 
 ProcessDataValue::ProcessDataValue(const QString& unitType)
-    : m_properties{{ConfigurationAndProcessDataDefinitions::getKeyDataPropertyType(),
-                    ConfigurationAndProcessDataDefinitions::getKeyDataTypeNumber()}}
 {
+    m_properties.set(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyType(),
+                     ConfigurationAndProcessDataDefinitions::getKeyDataTypeNumber());
     if (!unitType.isEmpty())
-        m_properties.insert(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyUnitType(), unitType);
+        m_properties.set(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyUnitType(), unitType);
 }
 
 ProcessDataValue::~ProcessDataValue() = default;
@@ -108,7 +109,7 @@ int ProcessDataValue::setProperty(const QString& propertyKey, const QVariant& va
     if (old.userType() == value.userType() && old == value)
         return statusEqualAlready;
 
-    m_properties.insert(propertyKey, value);
+    m_properties.set(propertyKey, value);
     return statusChanged;
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ConfigurationAndProcessDataBase.h"
+#include "PropertyList.h"
 #include "ProcessDataExport.h"
 #include "ProcessValue.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QMutex>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
@@ -52,7 +52,7 @@ private:
     int setNumber(const QVariant& number);
 
     mutable QRecursiveMutex m_mutex;
-    QHash<QString, QVariant> m_properties;
+    PropertyList m_properties;
     ProcessValue m_value;
     QVariant m_lastGood;
 };
