@@ -32,4 +32,13 @@ public:
 
     /// @return whether @p value carries the no-input marker: any NaN of a floating type.
     static bool isNoInputValueIndicatorSet(const QVariant& value);
+
+    /// The test of a value for the no-input marker.
+    using NoInputTest = bool (*)(const QVariant& value);
+    /// Promises that isNoInputValueIndicatorSet() is false for every number except NaN, so that callers need
+    /// not ask about other numbers. A platform that cannot promise this leaves the function out.
+    ///
+    /// @return the function that the promise is made for. Where another one is called under that name, the
+    /// promise does not count.
+    static NoInputTest getNanOnlyNoInputTest();
 };
