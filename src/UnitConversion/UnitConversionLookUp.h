@@ -18,7 +18,7 @@ public:
     /// An empty catalogue.
     UnitConversionLookUp();
     /// A catalogue of the document @p json; test with isValid().
-    explicit UnitConversionLookUp(const QString& json);
+    UnitConversionLookUp(const QString& json);
     virtual ~UnitConversionLookUp();
 
     /// Replaces the catalogue by the unit types of the document. The old one is gone also when this fails.

@@ -14,7 +14,7 @@ public:
     /// A handle without converter.
     ValueConversionWrapper();
     /// A handle on the converter that @p node describes; test with isValid().
-    explicit ValueConversionWrapper(const BaseClassSharedPointer& node);
+    ValueConversionWrapper(const BaseClassSharedPointer& node);
     virtual ~ValueConversionWrapper();
 
     /// Replaces the converter by the one that @p node describes: the first of the children "Polynomial",

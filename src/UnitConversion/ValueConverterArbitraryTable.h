@@ -13,7 +13,7 @@ class UNITMANAGER_EXPORT ValueConverterArbitraryTable : public ValueConverterBas
 {
 public:
     /// Reads "Table" and "InverseTable" from a unit's node. Nothing is reported.
-    explicit ValueConverterArbitraryTable(const BaseClassSharedPointer& node);
+    ValueConverterArbitraryTable(const BaseClassSharedPointer& node);
     ~ValueConverterArbitraryTable() override;
 
     /// Loads both tables; an empty inverse list removes the rows of the inverse table.

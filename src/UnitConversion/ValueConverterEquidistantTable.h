@@ -14,7 +14,7 @@ class UNITMANAGER_EXPORT ValueConverterEquidistantTable : public ValueConverterB
 public:
     /// Reads "Table", "InverseTable", "DistanceBaseTable", "DistanceBaseInverseTable" and, only if
     /// "OrdinateMin" is given, the ordinate limits from a unit's node. Nothing is reported.
-    explicit ValueConverterEquidistantTable(const BaseClassSharedPointer& node);
+    ValueConverterEquidistantTable(const BaseClassSharedPointer& node);
     ~ValueConverterEquidistantTable() override;
 
     /// Loads both tables with their abscissa distances.

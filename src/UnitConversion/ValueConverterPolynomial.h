@@ -16,7 +16,7 @@ public:
     /// Reads "Polynomial", "InversePolynomial" (one-column arrays, constant term first) and "DecimalPlaces"
     /// from a unit's node. Missing or wrongly typed values are not reported; a converter without coefficients
     /// gives 0.0.
-    explicit ValueConverterPolynomial(const BaseClassSharedPointer& node);
+    ValueConverterPolynomial(const BaseClassSharedPointer& node);
     ~ValueConverterPolynomial() override;
 
     /// Puts the coefficients, constant term first, in front of those already held. An empty inverse list

@@ -15,6 +15,7 @@ using LookUp = UnitConversionLookUp;
 static_assert(std::has_virtual_destructor_v<LookUp>);
 static_assert(std::is_copy_constructible_v<LookUp> && std::is_copy_assignable_v<LookUp>);
 static_assert(std::is_convertible_v<const LookUp&, bool>);
+static_assert(std::is_convertible_v<QString, LookUp>);
 
 const QString sourceName = QStringLiteral("UnitConversion/UnitConversionLookUp");
 const QString pressure = QStringLiteral("UnitManager/UnitType/Pressure");

@@ -16,6 +16,7 @@ static_assert(std::has_virtual_destructor_v<ValueConversionWrapper>);
 static_assert(std::is_copy_constructible_v<ValueConversionWrapper> &&
               std::is_copy_assignable_v<ValueConversionWrapper>);
 static_assert(std::is_convertible_v<const ValueConversionWrapper&, bool>);
+static_assert(std::is_convertible_v<BaseClassSharedPointer, ValueConversionWrapper>);
 // The table pointer and the shared pointer, nothing else.
 static_assert(sizeof(ValueConversionWrapper) == sizeof(void*) + sizeof(QSharedPointer<ValueConverterBase>));
 

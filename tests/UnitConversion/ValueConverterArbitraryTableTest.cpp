@@ -13,6 +13,7 @@ namespace {
 using Table = ValueConverterBase::ConversionTable;
 
 static_assert(std::is_base_of_v<ValueConverterBase, ValueConverterArbitraryTable>);
+static_assert(std::is_convertible_v<BaseClassSharedPointer, ValueConverterArbitraryTable>);
 static_assert(
     std::is_same_v<decltype(&ValueConverterArbitraryTable::resetTable),
                    bool (ValueConverterArbitraryTable::*)(const QList<QVariant>&, const QList<QVariant>&)>);

@@ -19,6 +19,7 @@ constexpr bool (Base::*resetWithLimits)(const List&, const double&, const double
 constexpr bool (Base::*resetWithoutLimits)(const List&, const double&, const List&,
                                            const double&) = &Base::resetTable;
 static_assert(std::is_base_of_v<ValueConverterBase, Base>);
+static_assert(std::is_convertible_v<BaseClassSharedPointer, ValueConverterEquidistantTable>);
 
 /// Shows what the converter holds.
 class Converter : public ValueConverterEquidistantTable

@@ -17,6 +17,7 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 static_assert(std::is_base_of_v<ValueConverterBase, ValueConverterPolynomial>);
+static_assert(std::is_convertible_v<BaseClassSharedPointer, ValueConverterPolynomial>);
 static_assert(std::is_same_v<decltype(&ValueConverterPolynomial::evaluatePolynom),
                              double (ValueConverterPolynomial::*)(double, QVector<double>) const>);
 static_assert(
