@@ -1,7 +1,5 @@
 #include "UnitConversion/ValueConverterBase.h"
 
-#include <algorithm>
-
 #include "Array2dDataTypeWrapper.h"
 
 ValueConverterBase::~ValueConverterBase() = default;
@@ -13,11 +11,9 @@ bool ValueConverterBase::loadTable(const QList<QVariant>& data, ConversionTable&
     const unsigned int rowCount = dimensions.at(0);
     const unsigned int columnCount = dimensions.at(1);
     const bool hasAbscissa = columnCount == 2;
-    // No more cells than are used: one long row would make all rows long.
-    const unsigned int usedColumns = std::min(columnCount, 2U);
 
     for (unsigned int row = 0; row < rowCount; ++row) {
-        const QList<QVariant> values = array.getRowValues(row, 0, usedColumns);
+        const QList<QVariant> values = array.getRowValues(row);
         const ConversionTableEntry entry =
             hasAbscissa ? ConversionTableEntry{values.value(0).toDouble(), values.value(1).toDouble()}
                         : ConversionTableEntry{0.0, values.value(0).toDouble()};

@@ -56,7 +56,6 @@ private slots:
     void decimalPlacesStartAtZeroAndAreNotVirtual();
     void loadsTable_data();
     void loadsTable();
-    void oneLongRowDoesNotMakeAllRowsLong();
     void appendsAndStartsTheLimitsAnew();
     void leavesTheTableAloneWithoutRows();
 };
@@ -128,26 +127,6 @@ void ValueConverterBaseTest::loadsTable()
     QVERIFY(Converter().loadTable(data, table));
     QCOMPARE(tableTexts(table), tableTexts(expected));
     QCOMPARE(log.takeTexts(), QStringList());
-}
-
-void ValueConverterBaseTest::oneLongRowDoesNotMakeAllRowsLong()
-{
-    // Copied cell by cell this would be ten thousand million values.
-    const int count = 100000;
-    QVariantList longRow;
-    QVariantList data;
-    longRow.reserve(count);
-    data.reserve(count + 1);
-    for (int index = 0; index < count; ++index)
-        longRow.append(1.5);
-    data.append(QVariant(longRow));
-    for (int index = 0; index < count; ++index)
-        data.append(2.5);
-    Table table;
-    QVERIFY(Converter().loadTable(data, table));
-    QCOMPARE(table.entries.size(), count + 1);
-    QCOMPARE(table.entries.first().y, 1.5);
-    QCOMPARE(table.entries.last().y, 2.5);
 }
 
 void ValueConverterBaseTest::appendsAndStartsTheLimitsAnew()
