@@ -1,7 +1,12 @@
 #include "UnitConversion/ValueConversionWrapper.h"
 
+#include <algorithm>
+#include <cmath>
+#include <typeinfo>
+
 #include "Diagnostics.h"
 #include "UnitConversion/ValueConverterFactory.h"
+#include "UnitConversion/ValueConverterPolynomial.h"
 
 namespace {
 
@@ -17,6 +22,21 @@ QString findConverterKey(const ConfigurationAndProcessDataBase& node)
             return key;
     }
     return {};
+}
+
+/// The converter as a polynomial; null for another class, derived ones included, and for null.
+const ValueConverterPolynomial* asPolynomial(const ValueConverterBase* converter)
+{
+    return converter && typeid(*converter) == typeid(ValueConverterPolynomial)
+               ? static_cast<const ValueConverterPolynomial*>(converter)
+               : nullptr;
+}
+
+template <typename Convert>
+void convertSingly(const double* values, double* results, std::size_t count, const Convert& convert)
+{
+    std::transform(values, values + count, results,
+                   [&convert](double x) { return std::isnan(x) ? x : convert(x); });
 }
 
 } // namespace
@@ -38,14 +58,18 @@ bool ValueConversionWrapper::init(const BaseClassSharedPointer& node)
     return isValid();
 }
 
-double ValueConversionWrapper::convertValue(double x) const
+void ValueConversionWrapper::convertValues(const double* values, double* results, std::size_t count) const
 {
-    return converter ? converter->convertValue(x) : x;
+    if (const ValueConverterPolynomial* const polynomial = asPolynomial(converter.data()))
+        return polynomial->convertValues(values, results, count);
+    convertSingly(values, results, count, [this](double x) { return convertValue(x); });
 }
 
-double ValueConversionWrapper::invertValue(double x) const
+void ValueConversionWrapper::invertValues(const double* values, double* results, std::size_t count) const
 {
-    return converter ? converter->invertValue(x) : x;
+    if (const ValueConverterPolynomial* const polynomial = asPolynomial(converter.data()))
+        return polynomial->invertValues(values, results, count);
+    convertSingly(values, results, count, [this](double x) { return invertValue(x); });
 }
 
 bool ValueConversionWrapper::getDecimalPlacesForUnit(unsigned int& decimalPlaces) const

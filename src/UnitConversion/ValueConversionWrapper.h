@@ -2,6 +2,8 @@
 
 #include <QtCore/QSharedPointer>
 
+#include <cstddef>
+
 #include "ConfigurationAndProcessDataBase.h"
 #include "UnitConversion/ValueConverterBase.h"
 #include "UnitManagerExport.h"
@@ -25,11 +27,29 @@ public:
 
     /// @param x value in the base unit
     /// @return the value in this unit; @p x itself without a converter.
-    double convertValue(double x) const;
+    double convertValue(double x) const
+    {
+        return converter ? converter->convertValue(x) : x;
+    }
 
     /// @param x value in this unit
     /// @return the value in the base unit; @p x itself without a converter.
-    double invertValue(double x) const;
+    double invertValue(double x) const
+    {
+        return converter ? converter->invertValue(x) : x;
+    }
+
+    /// convertValue() of each number in an array, bit by bit the same, except that a NaN is copied with all
+    /// its bits.
+    ///
+    /// @param values @p count numbers in the base unit
+    /// @param results room for @p count numbers in this unit; may be @p values itself, but must not overlap
+    /// it otherwise
+    void convertValues(const double* values, double* results, std::size_t count) const;
+
+    /// invertValue() of each number in an array; parameters and treatment of NaN as for convertValues(), with
+    /// the units exchanged.
+    void invertValues(const double* values, double* results, std::size_t count) const;
 
     /// Stores the number of decimal places with which values of the unit are shown.
     ///

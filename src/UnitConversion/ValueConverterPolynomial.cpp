@@ -1,22 +1,26 @@
 #include "UnitConversion/ValueConverterPolynomial.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 
 #include "Array2dDataTypeWrapper.h"
 #include "ConfigurationAndProcessDataTools.h"
 #include "UnitConversion/ConverterConfiguration.h"
+#include "UnitConversion/PolynomialEvaluation.h"
 
 namespace {
 
-/// Highest power first.
-double horner(double x, const QVector<double>& coefficients)
+double evaluate(const QVector<double>& coefficients, double x)
 {
-    double result = 0.0;
-    for (const double coefficient : coefficients)
-        result = std::fma(x, result, coefficient);
-    return result;
+    return PolynomialEvaluation::evaluate(coefficients.constData(),
+                                          static_cast<std::size_t>(coefficients.size()), x);
+}
+
+void evaluateArray(const QVector<double>& coefficients, const double* values, double* results,
+                   std::size_t count)
+{
+    PolynomialEvaluation::evaluateArray(
+        coefficients.constData(), static_cast<std::size_t>(coefficients.size()), values, results, count);
 }
 
 void prependColumn(const QList<QVariant>& column, QVector<double>& coefficients, int& degree)
@@ -63,15 +67,25 @@ bool ValueConverterPolynomial::resetPolynom(const QList<QVariant>& coefficients,
 
 double ValueConverterPolynomial::evaluatePolynom(double x, QVector<double> coefficients) const
 {
-    return horner(x, coefficients);
+    return evaluate(coefficients, x);
 }
 
 double ValueConverterPolynomial::convertValue(double x) const
 {
-    return horner(x, polynomial);
+    return evaluate(polynomial, x);
 }
 
 double ValueConverterPolynomial::invertValue(double x) const
 {
-    return horner(x, inversePolynomial);
+    return evaluate(inversePolynomial, x);
+}
+
+void ValueConverterPolynomial::convertValues(const double* values, double* results, std::size_t count) const
+{
+    evaluateArray(polynomial, values, results, count);
+}
+
+void ValueConverterPolynomial::invertValues(const double* values, double* results, std::size_t count) const
+{
+    evaluateArray(inversePolynomial, values, results, count);
 }

@@ -4,6 +4,8 @@
 #include <QtCore/QVariant>
 #include <QtCore/QVector>
 
+#include <cstddef>
+
 #include "ConfigurationAndProcessDataBase.h"
 #include "UnitConversion/ValueConverterBase.h"
 #include "UnitManagerExport.h"
@@ -32,6 +34,18 @@ public:
 
     double convertValue(double x) const override;
     double invertValue(double x) const override;
+
+    /// convertValue() of each number in an array, bit by bit the same, except that a NaN is copied with all
+    /// its bits.
+    ///
+    /// @param values @p count numbers in the base unit
+    /// @param results room for @p count numbers in this unit; may be @p values itself, but must not overlap
+    /// it otherwise
+    void convertValues(const double* values, double* results, std::size_t count) const;
+
+    /// invertValue() of each number in an array; parameters and treatment of NaN as for convertValues(), with
+    /// the units exchanged.
+    void invertValues(const double* values, double* results, std::size_t count) const;
 
 protected:
     QVector<double> polynomial; ///< highest power first

@@ -9,7 +9,7 @@ from project import Project, finish
 # From the lowest layer up; a file may include its own layer and those before it. The first match counts.
 LAYERS = [
     ("common", r"Diagnostics|FixedUnit|UnitManagerDefinitions|UnitManagerExport"),
-    ("value conversion", r"UnitConversion/(Factory|ConverterConfiguration|Value\w+)"),
+    ("value conversion", r"UnitConversion/(Factory|ConverterConfiguration|PolynomialEvaluation|Value\w+)"),
     ("catalogue and texts", r"UnitConversion/\w+|UnitTextManagement/\w+"),
     ("core", r"UnitManagerCore"),
     ("facade", r"UnitManager|UnitManagerUnitTypeStringHandling"),
