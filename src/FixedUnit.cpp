@@ -1,19 +1,33 @@
 #include "FixedUnit.h"
 
+#include <algorithm>
+
 #include "PropertyManagerConst.h"
 
 namespace {
 
 const QLatin1Char separator('/');
 
-/// Asked in every conversion: compilers make vectors of this loop, which they cannot of QString's own
-/// count().
+/// Hot path; written so that it vectorises, which QString::count() does not.
 int countSeparators(const QString& text)
 {
     int count = 0;
     for (const QChar character : text)
         count += static_cast<int>(character == separator);
     return count;
+}
+
+/// Heads a string whose characters begin at @p characters, as string literals have it: its reference count
+/// says that it is never freed.
+QStringData headerOf(const QStringData& header, const QChar* characters, int size)
+{
+    const auto offset = reinterpret_cast<qptrdiff>(characters) - reinterpret_cast<qptrdiff>(&header);
+    return {{Q_REFCOUNT_INITIALIZE_STATIC, size, 0, 0, offset}};
+}
+
+QString headedBy(QStringData& header)
+{
+    return QString(QStringDataPtr{&header});
 }
 
 } // namespace
@@ -26,7 +40,7 @@ bool isFixedUnit(const QString& unitType)
     return countSeparators(unitType) == separators;
 }
 
-bool isFixedUnitBehindPrefix(const QString& name)
+bool isFixedUnitName(const QString& name)
 {
     return countSeparators(name) == 1;
 }
@@ -39,6 +53,20 @@ QString unitTypeOf(const QString& fixedUnit)
 QString unitOf(const QString& fixedUnit)
 {
     return fixedUnit.mid(fixedUnit.lastIndexOf(separator) + 1);
+}
+
+Parts::Parts(const QString& fixedUnit)
+    : m_separator(fixedUnit.lastIndexOf(separator)),
+      m_unitTypeHeader(headerOf(m_unitTypeHeader, fixedUnit.constData(), std::max(m_separator, 0))),
+      m_unitHeader(headerOf(m_unitHeader, fixedUnit.constData() + m_separator + 1,
+                            fixedUnit.size() - m_separator - 1)),
+      m_unitType(headedBy(m_unitTypeHeader)),
+      m_unit(headedBy(m_unitHeader))
+{}
+
+bool Parts::areValid() const
+{
+    return m_separator >= 0;
 }
 
 } // namespace FixedUnit

@@ -5,16 +5,45 @@
 /// Fixed units: unit types that name a unit directly, as in "UnitManager/UnitType/Pressure/Bar".
 namespace FixedUnit {
 
-/// Whether @p unitType has exactly one "/" more than the unit-type prefix. Nothing else is looked at.
+/// Whether @p unitType has exactly one "/" more than the unit-type prefix. Nothing else is tested.
 bool isFixedUnit(const QString& unitType);
 
-/// isFixedUnit() of the unit-type prefix followed by @p name, which is cheaper to tell.
-bool isFixedUnitBehindPrefix(const QString& name);
+/// isFixedUnit() of the unit-type prefix followed by @p name; faster.
+bool isFixedUnitName(const QString& name);
 
-/// What stands before the last "/" of a fixed unit.
+/// The part of a fixed unit before its last "/".
 QString unitTypeOf(const QString& fixedUnit);
 
-/// What stands behind the last "/" of a fixed unit.
+/// The part of a fixed unit after its last "/".
 QString unitOf(const QString& fixedUnit);
+
+/// Both parts of a fixed unit, for look-ups. They refer to the characters of the whole: nothing is copied or
+/// allocated. The whole must outlive this object, and this object the parts and copies of them.
+class Parts
+{
+public:
+    explicit Parts(const QString& fixedUnit);
+    Parts(const Parts&) = delete;
+    Parts& operator=(const Parts&) = delete;
+
+    /// Whether there is a "/" to split at.
+    bool areValid() const;
+
+    const QString& unitType() const
+    {
+        return m_unitType;
+    }
+    const QString& unit() const
+    {
+        return m_unit;
+    }
+
+private:
+    const int m_separator;
+    QStringData m_unitTypeHeader;
+    QStringData m_unitHeader;
+    const QString m_unitType;
+    const QString m_unit;
+};
 
 } // namespace FixedUnit

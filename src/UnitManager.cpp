@@ -1,88 +1,55 @@
 #include "UnitManager.h"
 
-#include <algorithm>
-#include <cmath>
-
-#include <QtCore/QtNumeric>
+#include <optional>
 
 #include "Array2dDataTypeWrapper.h"
 #include "ConfigurationAndProcessDataDefinitions.h"
-#include "ConfigurationAndProcessDataTools.h"
 #include "Diagnostics.h"
 #include "FloatRound.h"
 #include "PropertyManagerConst.h"
+#include "RowConversion.h"
+#include "UnitConversion/FoundConversion.h"
 #include "UnitManagerDefinitions.h"
 
 namespace {
 
 const char* const sourceName = "UnitManager";
 
+// Device logs are searched by this function, whichever operation rounds.
+const char* const roundingFunction = "QVariant UnitManager::roundDouble(const QVariant&, unsigned int) const";
+
 const int writeFailed = 2;
 
-/// Whether the array has unit types and cells for every column before @p endColumn.
-bool hasColumns(const Array2dDataTypeWrapper& array, const QStringList& unitTypes, unsigned int endColumn)
+/// The number of rows; none unless unit types and cells cover every column before @p endColumn.
+std::optional<unsigned int> countRows(const Array2dDataTypeWrapper& array, const QStringList& unitTypes,
+                                      unsigned int endColumn)
 {
     if (endColumn > static_cast<unsigned int>(unitTypes.size()))
-        return false;
+        return {};
     const QVector<unsigned int> dimensions = array.getDimensions();
-    return dimensions.size() == 2 && endColumn <= dimensions.at(1);
+    if (dimensions.size() != 2 || endColumn > dimensions.at(1))
+        return {};
+    return dimensions.at(0);
 }
 
-bool hasCells(const Array2dDataTypeWrapper& array, const QStringList& unitTypes, unsigned int row,
-              unsigned int endColumn)
+/// The result is a double.
+void roundInPlace(QVariant& value, unsigned int decimalPlaces)
 {
-    return hasColumns(array, unitTypes, endColumn) && row < array.getDimensions().at(0);
-}
-
-bool isConvertible(const QVariant& cell, const QString& unitType)
-{
-    return !unitType.isEmpty() && !ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(cell);
-}
-
-/// Whether only a NaN can be the platform's marker of no input. The platform has one marker, always the same:
-/// where that is a NaN, other numbers need not be asked about, which would cost more than their conversion.
-bool isMarkerNan()
-{
-    static const bool isNan = ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(qQNaN());
-    return isNan;
-}
-
-/// Stores the number that @p value holds.
-///
-/// @return false, with @p number perhaps written, for the marker of no input and for what is no number.
-bool readNumber(const QVariant& value, double& number)
-{
-    if (value.userType() == QMetaType::Double) {
-        number = *static_cast<const double*>(value.constData());
-        const bool mayBeMarker = std::isnan(number) || !isMarkerNan();
-        return !mayBeMarker || !ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value);
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    if (!isNumber) {
+        LogContext{sourceName, __LINE__, roundingFunction}.warning()
+            << "Error on converting value to double" << value << "!";
     }
-    if (!ConfigurationAndProcessDataTools::isVariantNumber(value) ||
-        ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value))
-        return false;
-    number = value.toDouble();
-    return true;
+    value.setValue(isNumber ? FloatRound::roundValue(number, decimalPlaces) : 0.0);
 }
 
-QVariant rounded(double value, const ValueConversionWrapper& conversion)
+bool convertInPlace(const FoundConversion& found, QVector<double>& values)
 {
-    unsigned int decimalPlaces = 0;
-    conversion.getDecimalPlacesForUnit(decimalPlaces);
-    return FloatRound::roundValue(value, decimalPlaces);
-}
-
-using Conversion = double (ValueConversionWrapper::*)(double) const;
-
-void convertRun(const double* values, double* results, std::size_t count,
-                const ValueConversionWrapper& conversion, Conversion convert)
-{
-    const bool isNan = isMarkerNan();
-    std::transform(values, values + count, results, [&conversion, convert, isNan](double value) {
-        const bool mayBeMarker = std::isnan(value) || !isNan;
-        const bool isMarker =
-            mayBeMarker && ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value);
-        return isMarker ? value : (conversion.*convert)(value);
-    });
+    // Without a conversion shared data stay shared.
+    if (found.conversion)
+        found.convert(values.constData(), values.data(), static_cast<std::size_t>(values.size()));
+    return found.isKnown;
 }
 
 } // namespace
@@ -193,86 +160,77 @@ bool UnitManager::getDecimalPlacesForUnit(const QString& unitType, const QString
 
 QVariant UnitManager::roundDouble(const QVariant& value, unsigned int decimalPlaces) const
 {
-    bool isNumber = false;
-    const double number = value.toDouble(&isNumber);
-    if (isNumber)
-        return FloatRound::roundValue(number, decimalPlaces);
-    LogContext{sourceName, __LINE__, Q_FUNC_INFO}.warning()
-        << "Error on converting value to double" << value << "!";
-    return 0.0;
+    QVariant rounded = value;
+    roundInPlace(rounded, decimalPlaces);
+    return rounded;
 }
 
 QVariant UnitManager::fromBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const
 {
-    double number = 0.0;
-    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit, number))
-        return rounded(conversion->convertValue(number), *conversion);
-    return roundToUnit(fromBaseUnitRaw(value, unitType, unit), unitType, unit);
+    return convertAndRound(value, unitType, unit, ConversionDirection::FromBaseUnit);
 }
 
 QVariant UnitManager::toBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const
 {
-    double number = 0.0;
-    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit, number))
-        return rounded(conversion->invertValue(number), *conversion);
-    return roundToUnit(toBaseUnitRaw(value, unitType, unit), unitType, unit);
+    return convertAndRound(value, unitType, unit, ConversionDirection::ToBaseUnit);
 }
 
-QVariant UnitManager::roundToUnit(const QVariant& value, const QString& unitType, const QString& unit) const
+QVariant UnitManager::convertAndRound(const QVariant& value, const QString& unitType, const QString& unit,
+                                      ConversionDirection direction) const
 {
+    QVariant converted = value;
     unsigned int decimalPlaces = 0;
-    return core.getDecimalPlacesForUnit(unitType, unit, decimalPlaces) ? roundDouble(value, decimalPlaces)
-                                                                       : value;
+    if (core.convertForDisplay(converted, unitType, unit, direction, decimalPlaces))
+        roundInPlace(converted, decimalPlaces);
+    return converted;
 }
 
 QVariant UnitManager::fromBaseUnitRaw(const QVariant& value, const QString& unitType,
                                       const QString& unit) const
 {
-    double number = 0.0;
-    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit, number))
-        return conversion->convertValue(number);
     return core.fromBaseUnit(value, unitType, unit);
 }
 
 QVariant UnitManager::toBaseUnitRaw(const QVariant& value, const QString& unitType, const QString& unit) const
 {
-    double number = 0.0;
-    if (const ValueConversionWrapper* const conversion = findConversion(value, unitType, unit, number))
-        return conversion->invertValue(number);
     QVariant converted = value;
     core.toBaseUnit(converted, unitType, unit);
     return converted;
 }
 
-const ValueConversionWrapper* UnitManager::findConversion(const QVariant& value, const QString& unitType,
-                                                          const QString& unit, double& number) const
+bool UnitManager::getConversion(const QString& unitType, const QString& unit,
+                                ValueConversionWrapper& conversion) const
 {
-    return readNumber(value, number) ? core.findConversion(unitType, unit) : nullptr;
+    const FoundConversion found = core.find(unitType, unit, ConversionDirection::FromBaseUnit);
+    conversion = found.conversion ? *found.conversion : ValueConversionWrapper();
+    return found.isKnown;
 }
 
-ValueConversionWrapper UnitManager::getConversion(const QString& unitType, const QString& unit) const
+bool UnitManager::fromBaseUnitArray(const double* values, double* results, std::size_t count,
+                                    const QString& unitType, const QString& unit) const
 {
-    if (const ValueConversionWrapper* const conversion = core.findConversion(unitType, unit))
-        return *conversion;
-    // Nothing to convert, or a failure: the single call knows, and logs the failure.
-    core.fromBaseUnit(0.0, unitType, unit);
-    return {};
+    const FoundConversion found = core.find(unitType, unit, ConversionDirection::FromBaseUnit);
+    found.convert(values, results, count);
+    return found.isKnown;
 }
 
-void UnitManager::fromBaseUnitRaw(const double* values, double* results, std::size_t count,
+bool UnitManager::toBaseUnitArray(const double* values, double* results, std::size_t count,
                                   const QString& unitType, const QString& unit) const
 {
-    convertRun(values, results, count, getConversion(unitType, unit), &ValueConversionWrapper::convertValue);
+    const FoundConversion found = core.find(unitType, unit, ConversionDirection::ToBaseUnit);
+    found.convert(values, results, count);
+    return found.isKnown;
 }
 
-void UnitManager::toBaseUnitRaw(const double* values, double* results, std::size_t count,
-                                const QString& unitType, const QString& unit) const
+bool UnitManager::fromBaseUnitArray(QVector<double>& values, const QString& unitType,
+                                    const QString& unit) const
 {
-    const ValueConversionWrapper* const conversion = core.findConversion(unitType, unit);
-    if (!conversion)
-        toBaseUnitRaw(0.0, unitType, unit); // logs a failure
-    convertRun(values, results, count, conversion ? *conversion : ValueConversionWrapper(),
-               &ValueConversionWrapper::invertValue);
+    return convertInPlace(core.find(unitType, unit, ConversionDirection::FromBaseUnit), values);
+}
+
+bool UnitManager::toBaseUnitArray(QVector<double>& values, const QString& unitType, const QString& unit) const
+{
+    return convertInPlace(core.find(unitType, unit, ConversionDirection::ToBaseUnit), values);
 }
 
 QVariant UnitManager::getValue(const QVariant& value, const QString& unitType, const QString& unit) const
@@ -289,7 +247,8 @@ QVariant UnitManager::getValue(const QString& key, const BaseClassSharedPointer&
     QVariant value = child->getProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyValue());
     if (!value.isValid() || !child->isNumberType() || child->isNumberNoInput())
         return value;
-    return core.fromBaseUnit(child, value, unit);
+    core.find(*child, unit, ConversionDirection::FromBaseUnit).convert(value);
+    return value;
 }
 
 int UnitManager::setValueStatus(const QString& key, const BaseClassSharedPointer& node, const QVariant& value,
@@ -299,8 +258,7 @@ int UnitManager::setValueStatus(const QString& key, const BaseClassSharedPointer
     if (!child)
         return writeFailed;
     QVariant converted = value;
-    if (!ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value) &&
-        !core.toBaseUnit(child, converted, unit))
+    if (!core.convertForStorage(*child, converted, unit))
         return writeFailed;
     return child->setProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyValue(), converted);
 }
@@ -325,7 +283,7 @@ QStringList UnitManager::getUnitText(const Array2dDataTypeWrapper& array, const 
     const unsigned int endColumn = firstColumn + columnCount;
     const QStringList unitTypes = array.getColumnUnitTypes();
     QStringList texts;
-    if (columnCount == 0 || !hasColumns(array, unitTypes, endColumn))
+    if (columnCount == 0 || !countRows(array, unitTypes, endColumn))
         return texts;
     for (unsigned int column = firstColumn; column < endColumn; ++column) {
         const QString& unitType = unitTypes.at(static_cast<int>(column));
@@ -348,13 +306,13 @@ QList<QVariant> UnitManager::getValueArray(const Array2dDataTypeWrapper& array, 
     const unsigned int endColumn = firstColumn + columnCount;
     const QStringList unitTypes = array.getColumnUnitTypes();
     QList<QVariant> values;
-    if (!hasCells(array, unitTypes, row, endColumn))
+    if (row >= countRows(array, unitTypes, endColumn).value_or(0))
         return values;
     const QList<QVariant> cells = array.getRowValues(row);
+    RowConversion conversion(core, unit, ConversionDirection::FromBaseUnit);
     for (unsigned int column = firstColumn; column < endColumn; ++column) {
-        const QVariant& cell = cells.at(static_cast<int>(column));
-        const QString& unitType = unitTypes.at(static_cast<int>(column));
-        values.append(isConvertible(cell, unitType) ? core.fromBaseUnit(cell, unitType, unit) : cell);
+        values.append(cells.at(static_cast<int>(column)));
+        conversion.convert(values.last(), unitTypes.at(static_cast<int>(column)));
     }
     return values;
 }
@@ -365,17 +323,16 @@ bool UnitManager::setValueArray(Array2dDataTypeWrapper& array, unsigned int row,
 {
     const unsigned int endColumn = firstColumn + columnCount;
     const QStringList unitTypes = array.getColumnUnitTypes();
-    if (!hasCells(array, unitTypes, row, endColumn))
+    if (row >= countRows(array, unitTypes, endColumn).value_or(0))
         return false;
     QList<QVariant> cells = array.getRowValues(row);
+    RowConversion conversion(core, unit, ConversionDirection::ToBaseUnit);
     bool allConverted = true;
     for (unsigned int column = firstColumn; column < endColumn; ++column) {
         QVariant& cell = cells[static_cast<int>(column)];
-        const QString& unitType = unitTypes.at(static_cast<int>(column));
         cell = values.at(static_cast<int>(column - firstColumn));
-        // Later cells are converted also after a failure: every one of them shall be reported.
-        if (isConvertible(cell, unitType))
-            allConverted = core.toBaseUnit(cell, unitType, unit) && allConverted;
+        // Later cells are converted even after a failure, so that every failure is reported.
+        allConverted = conversion.convert(cell, unitTypes.at(static_cast<int>(column))) && allConverted;
     }
     return allConverted && array.setRowValues(cells, row);
 }

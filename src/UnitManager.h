@@ -4,6 +4,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
+#include <QtCore/QVector>
 
 #include <cstddef>
 
@@ -12,6 +13,7 @@
 #include "UnitManagerExport.h"
 
 class Array2dDataTypeWrapper;
+enum class ConversionDirection;
 
 /// The entry point: loads the unit and default-unit documents, converts values between a unit and the base
 /// unit of its unit type, and knows units, decimal places and labels.
@@ -113,26 +115,50 @@ public:
     /// toBaseUnit() without rounding; @p value as it is when it cannot be converted. A warning says why,
     /// except for an empty unit type.
     QVariant toBaseUnitRaw(const QVariant& value, const QString& unitType, const QString& unit) const;
-    /// The conversion of a unit, to convert many values without looking the unit up for each:
-    /// `convertValue()` is fromBaseUnitRaw() and `invertValue()` is toBaseUnitRaw() of a number. It must be
-    /// kept from the no-input marker by its user.
+    /// Finds the conversion of a unit once, to convert many values with it: `convertValue()` of the stored
+    /// handle is fromBaseUnitRaw() of a number, and `invertValue()` is toBaseUnitRaw(). Callers must not pass
+    /// the no-input marker to the handle.
     ///
-    /// A handle of its own: it stays as it is when something else is loaded, and may outlive this manager.
+    /// The handle is independent of this manager: it stays as it is when something else is loaded, and may
+    /// outlive the manager.
     ///
-    /// @return a handle without converter, which leaves every number as it is, where fromBaseUnitRaw() does
-    /// so too: for a fixed unit, "NoUnit" and an empty unit type silently, for what is not known with the
-    /// same warnings.
-    ValueConversionWrapper getConversion(const QString& unitType, const QString& unit) const;
-    /// fromBaseUnitRaw() of a run of numbers, each result bit by bit the same. The unit is looked up, and
-    /// warned about, once.
+    /// @param unitType unit type with its prefix, or a fixed unit
+    /// @param unit name of a unit; empty for the default unit
+    /// @param conversion receives the handle. It has no converter, and leaves every number as it is, where
+    /// there is nothing to convert (a fixed unit, "NoUnit", an empty unit type without unit) and after a
+    /// failure.
+    /// @return false for an unknown unit or unit type, with a warning, and for a unit without unit type,
+    /// without one; true otherwise, also where there is nothing to convert.
+    bool getConversion(const QString& unitType, const QString& unit,
+                       ValueConversionWrapper& conversion) const;
+
+    /// Converts an array of numbers from the base unit to a unit, without rounding. Each result is bit by bit
+    /// that of fromBaseUnitRaw(); the unit is looked up, and a failure logged, once for the whole array.
     ///
-    /// @param values @p count numbers in the base unit, no-input markers among them
-    /// @param results room for @p count numbers; may be @p values itself, but not overlap it otherwise
-    void fromBaseUnitRaw(const double* values, double* results, std::size_t count, const QString& unitType,
+    /// @param values @p count numbers in the base unit; no-input markers stay as they are
+    /// @param results room for @p count numbers; may be @p values itself, but must not overlap it otherwise
+    /// @param count number of values; may be 0
+    /// @param unitType unit type with its prefix, or a fixed unit, whose values stay as they are
+    /// @param unit name of a unit; empty for the default unit
+    /// @return whether the conversion is known, as for getConversion(). If not, @p results receives @p values
+    /// unchanged.
+    bool fromBaseUnitArray(const double* values, double* results, std::size_t count, const QString& unitType,
+                           const QString& unit) const;
+    /// Converts an array of numbers from a unit to the base unit, without rounding; each result is bit by bit
+    /// that of toBaseUnitRaw(). Parameters and result as for the form of fromBaseUnitArray() with pointers.
+    bool toBaseUnitArray(const double* values, double* results, std::size_t count, const QString& unitType,
                          const QString& unit) const;
-    /// toBaseUnitRaw() of a run of numbers; everything else as for the run of fromBaseUnitRaw().
-    void toBaseUnitRaw(const double* values, double* results, std::size_t count, const QString& unitType,
-                       const QString& unit) const;
+    /// Converts an array of numbers in place from the base unit to a unit, without rounding.
+    ///
+    /// @param values numbers in the base unit, replaced by numbers in @p unit; no-input markers stay as they
+    /// are. Copies that share the data keep theirs.
+    /// @param unitType unit type with its prefix, or a fixed unit, whose values stay as they are
+    /// @param unit name of a unit; empty for the default unit
+    /// @return whether the conversion is known, as for getConversion(). If not, @p values is untouched.
+    bool fromBaseUnitArray(QVector<double>& values, const QString& unitType, const QString& unit) const;
+    /// Converts an array of numbers in place from a unit to the base unit, without rounding. Parameters and
+    /// result as for the form of fromBaseUnitArray() in place, with the units exchanged.
+    bool toBaseUnitArray(QVector<double>& values, const QString& unitType, const QString& unit) const;
     /// fromBaseUnitRaw(), but invalid for an invalid value.
     QVariant getValue(const QVariant& value, const QString& unitType, const QString& unit) const;
 
@@ -182,12 +208,8 @@ protected:
     const UnitManagerCore& unitManagerCore() const;
 
 private:
-    QVariant roundToUnit(const QVariant& value, const QString& unitType, const QString& unit) const;
-    /// The conversion of a value that is a number to convert, which is stored in @p number.
-    ///
-    /// @return null, with @p number perhaps written and nothing logged, when there is no such conversion.
-    UNITMANAGER_NO_EXPORT const ValueConversionWrapper*
-    findConversion(const QVariant& value, const QString& unitType, const QString& unit, double& number) const;
+    UNITMANAGER_NO_EXPORT QVariant convertAndRound(const QVariant& value, const QString& unitType,
+                                                   const QString& unit, ConversionDirection direction) const;
 
     UnitManagerCore core;
 };

@@ -1,14 +1,35 @@
 #include "UnitManagerCore.h"
 
+#include <utility>
+
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataParser.h"
 #include "Diagnostics.h"
 #include "FixedUnit.h"
 #include "PropertyManagerConst.h"
+#include "UnitConversion/FoundConversion.h"
+#include "UnitConversion/NoInputMarker.h"
 
 namespace {
 
 const char* const sourceName = "UnitManagerCore";
+
+bool readUnitType(const ConfigurationAndProcessDataBase& node, QString& unitType)
+{
+    const QString& key = ConfigurationAndProcessDataDefinitions::getKeyDataPropertyUnitType();
+    if (!node.hasProperty(key))
+        return false;
+    QVariant property = node.getProperty(key);
+    // A text is moved out of what was read, because one copy more is noticeable.
+    if (property.userType() == QMetaType::QString) {
+        unitType = std::move(*static_cast<QString*>(property.data()));
+        return true;
+    }
+    if (!property.canConvert(QVariant::String))
+        return false;
+    unitType = property.toString();
+    return true;
+}
 
 } // namespace
 
@@ -104,14 +125,7 @@ QVariant UnitManagerCore::getUnitTextJsonMap(const QString& key) const
 bool UnitManagerCore::getUnitProperties(const QSharedPointer<ConfigurationAndProcessDataBase>& node,
                                         QString& unitType, QString& /*unit*/) const
 {
-    const QString& key = ConfigurationAndProcessDataDefinitions::getKeyDataPropertyUnitType();
-    if (!node || !node->hasProperty(key))
-        return false;
-    const QVariant property = node->getProperty(key);
-    if (!property.canConvert(QVariant::String))
-        return false;
-    unitType = property.toString();
-    return true;
+    return node && readUnitType(*node, unitType);
 }
 
 bool UnitManagerCore::getUnitProperties(const QSharedPointer<ConfigurationAndProcessDataBase>& node,
@@ -142,67 +156,88 @@ bool UnitManagerCore::extractUnitTypeAndUnit(const QString& fixedUnit, QString& 
 
 bool UnitManagerCore::toBaseUnit(QVariant& value, const QString& unitType, const QString& unit) const
 {
-    if (unitType.isEmpty())
-        return unit.isEmpty();
-    if (isFixedUnitType(unitType))
-        return true;
-    return conversionLookUp.toBaseUnit(value, unitType, unitOrDefault(unitType, unit));
+    return find(unitType, unit, ConversionDirection::ToBaseUnit).convert(value);
 }
 
 QVariant UnitManagerCore::fromBaseUnit(const QVariant& value, const QString& unitType,
                                        const QString& unit) const
 {
     QVariant converted = value;
-    if (!unitType.isEmpty() && !isFixedUnitType(unitType))
-        conversionLookUp.fromBaseUnit(converted, unitType, unitOrDefault(unitType, unit));
+    find(unitType, unit, ConversionDirection::FromBaseUnit).convert(converted);
     return converted;
 }
 
 bool UnitManagerCore::toBaseUnit(const QSharedPointer<ConfigurationAndProcessDataBase>& node, QVariant& value,
                                  const QString& unit) const
 {
-    QString unitType;
-    QString unused;
-    getUnitProperties(node, unitType, unused);
-    return toBaseUnit(value, unitType, unit);
+    return node ? find(*node, unit, ConversionDirection::ToBaseUnit).convert(value)
+                : toBaseUnit(value, QString(), unit);
 }
 
 QVariant UnitManagerCore::fromBaseUnit(const QSharedPointer<ConfigurationAndProcessDataBase>& node,
                                        const QVariant& value, const QString& unit) const
 {
-    QString unitType;
-    QString unused;
-    getUnitProperties(node, unitType, unused);
-    return fromBaseUnit(value, unitType, unit);
+    QVariant converted = value;
+    if (node)
+        find(*node, unit, ConversionDirection::FromBaseUnit).convert(converted);
+    return converted;
 }
 
-const ValueConversionWrapper* UnitManagerCore::findConversion(const QString& unitType,
-                                                              const QString& unit) const
+FoundConversion UnitManagerCore::find(const QString& unitType, const QString& unit,
+                                      ConversionDirection direction) const
 {
+    if (unitType.isEmpty())
+        return FoundConversion::none(unit.isEmpty());
     const UnitConversionUnitTypeHandler* const handler = conversionLookUp.findHandler(unitType);
-    if (!handler || FixedUnit::isFixedUnitBehindPrefix(handler->getUnitType()))
-        return nullptr;
-    if (!unit.isEmpty())
-        return handler->findConversion(unit);
-    return defaultUnits.hasDefaultUnit(unitType)
-               ? handler->findConversion(defaultUnits.getDefaultUnit(unitType))
-               : nullptr;
+    // The short name of a known unit type is searched for separators faster than the whole identifier.
+    if (handler ? FixedUnit::isFixedUnitName(handler->unitType) : FixedUnit::isFixedUnit(unitType))
+        return FoundConversion::none(true);
+    if (handler && !unit.isEmpty())
+        return handler->find(unit, direction);
+    const QString unitOfType = unitOrDefault(unitType, unit);
+    FoundConversion found = UnitConversionLookUp::find(handler, unitType, unitOfType, direction);
+    // A missing default unit is reported at each use.
+    found.isReusable = found.isReusable && !unitOfType.isEmpty();
+    return found;
+}
+
+FoundConversion UnitManagerCore::find(const ConfigurationAndProcessDataBase& node, const QString& unit,
+                                      ConversionDirection direction) const
+{
+    QString unitType;
+    readUnitType(node, unitType);
+    return find(unitType, unit, direction);
+}
+
+bool UnitManagerCore::convertForDisplay(QVariant& value, const QString& unitType, const QString& unit,
+                                        ConversionDirection direction, unsigned int& decimalPlaces) const
+{
+    const FoundConversion found = find(unitType, unit, direction);
+    found.convert(value);
+    // Decimal places are a question of their own, which reports its own failure.
+    return found.isReusable ? found.conversion->getDecimalPlacesForUnit(decimalPlaces)
+                            : getDecimalPlacesForUnit(unitType, unit, decimalPlaces);
 }
 
 bool UnitManagerCore::getDecimalPlacesForUnit(const QString& unitType, const QString& unit,
                                               unsigned int& decimalPlaces) const
 {
-    QString plainType = unitType;
-    QString plainUnit = unit;
-    if (isFixedUnitType(unitType)) {
-        if (!extractUnitTypeAndUnit(unitType, plainType, plainUnit)) {
-            LogContext{sourceName, __LINE__, Q_FUNC_INFO}.warning()
-                << "Error on extracting unit type and unit from fixed unit:" << unitType << "!";
-        }
-    } else {
-        plainUnit = unitOrDefault(unitType, unit);
+    if (!isFixedUnitType(unitType))
+        return conversionLookUp.getDecimalPlacesForUnit(unitType, unitOrDefault(unitType, unit),
+                                                        decimalPlaces);
+    const FixedUnit::Parts parts(unitType);
+    if (!parts.areValid()) {
+        LogContext{sourceName, __LINE__, Q_FUNC_INFO}.warning()
+            << "Error on extracting unit type and unit from fixed unit:" << unitType << "!";
+        return conversionLookUp.getDecimalPlacesForUnit(unitType, unit, decimalPlaces);
     }
-    return conversionLookUp.getDecimalPlacesForUnit(plainType, plainUnit, decimalPlaces);
+    return conversionLookUp.getDecimalPlacesForUnit(parts.unitType(), parts.unit(), decimalPlaces);
+}
+
+bool UnitManagerCore::convertForStorage(const ConfigurationAndProcessDataBase& node, QVariant& value,
+                                        const QString& unit) const
+{
+    return NoInputMarker::isSet(value) || find(node, unit, ConversionDirection::ToBaseUnit).convert(value);
 }
 
 QString UnitManagerCore::unitOrDefault(const QString& unitType, const QString& unit) const

@@ -11,6 +11,9 @@
 #include "UnitManagerExport.h"
 #include "UnitTextManagement/UnitTextHandler.h"
 
+enum class ConversionDirection;
+struct FoundConversion;
+
 /// The whole unit knowledge of one configuration, and the rules that combine it: an empty unit means the unit
 /// type's default unit, a fixed unit (unit type, "/", unit) is never converted, and a node carries its unit
 /// type in a property.
@@ -90,13 +93,6 @@ public:
     QVariant fromBaseUnit(const QSharedPointer<ConfigurationAndProcessDataBase>& node, const QVariant& value,
                           const QString& unit) const;
 
-    /// The conversion by which toBaseUnit() and fromBaseUnit() convert values of a unit type; an empty
-    /// @p unit means the default unit. It lives until something is loaded or the core is destroyed.
-    ///
-    /// @return null, with nothing logged, where they convert nothing or fail.
-    UNITMANAGER_NO_EXPORT const ValueConversionWrapper* findConversion(const QString& unitType,
-                                                                       const QString& unit) const;
-
     /// Stores the number of decimal places with which values of a unit are shown; of a fixed unit its own,
     /// whatever @p unit says.
     ///
@@ -109,7 +105,31 @@ public:
     operator bool() const;
 
 private:
-    QString unitOrDefault(const QString& unitType, const QString& unit) const;
+    friend class RowConversion;
+    friend class UnitManager;
+    friend class UnitManagerDevice;
+
+    /// Finds the conversion of a unit, an empty one meaning the default unit. Every conversion of this class
+    /// and of the unit manager uses it. A failure is logged, except for an empty unit type.
+    UNITMANAGER_NO_EXPORT FoundConversion find(const QString& unitType, const QString& unit,
+                                               ConversionDirection direction) const;
+    /// find() for the unit type that @p node names.
+    UNITMANAGER_NO_EXPORT FoundConversion find(const ConfigurationAndProcessDataBase& node,
+                                               const QString& unit, ConversionDirection direction) const;
+    /// Converts @p value in place and stores the decimal places of the unit that @p unit or a fixed unit
+    /// names.
+    ///
+    /// @return false, with @p decimalPlaces untouched, when that unit is not known.
+    UNITMANAGER_NO_EXPORT bool convertForDisplay(QVariant& value, const QString& unitType,
+                                                 const QString& unit, ConversionDirection direction,
+                                                 unsigned int& decimalPlaces) const;
+    /// Converts @p value in place to the base unit of the unit type that @p node names. The no-input marker
+    /// stays as it is, even where that unit type or @p unit is not known.
+    ///
+    /// @return false, with @p value untouched, when it cannot be converted.
+    UNITMANAGER_NO_EXPORT bool convertForStorage(const ConfigurationAndProcessDataBase& node, QVariant& value,
+                                                 const QString& unit) const;
+    UNITMANAGER_NO_EXPORT QString unitOrDefault(const QString& unitType, const QString& unit) const;
 
     UnitConversionLookUp conversionLookUp;
     DefaultUnitHandler defaultUnits;

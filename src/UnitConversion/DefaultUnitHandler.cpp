@@ -64,11 +64,6 @@ QString DefaultUnitHandler::getDefaultUnit(const QString& unitType) const
     return {};
 }
 
-bool DefaultUnitHandler::hasDefaultUnit(const QString& unitType) const
-{
-    return defaultUnits.contains(unitType);
-}
-
 void DefaultUnitHandler::reset()
 {
     defaultUnits.clear();

@@ -29,9 +29,6 @@ public:
     /// unless it is the unit-less type.
     QString getDefaultUnit(const QString& unitType) const;
 
-    /// Whether the unit type has a default unit. Nothing is logged.
-    UNITMANAGER_NO_EXPORT bool hasDefaultUnit(const QString& unitType) const;
-
     /// Empties the table.
     void reset();
 

@@ -6,6 +6,7 @@
 #include "ConfigurationDataAndProcessDescriptionAccess.h"
 #include "Diagnostics.h"
 #include "PropertyManagerConst.h"
+#include "UnitConversion/FoundConversion.h"
 
 namespace {
 
@@ -13,6 +14,19 @@ const char* const sourceName = "UnitConversion/UnitConversionLookUp";
 
 // Device logs are searched by this function, whoever has parsed the text.
 const char* const loadingFunction = "bool UnitConversionLookUp::initByJsonString(const QString&)";
+
+// Device logs are searched by these functions and lines.
+LogContext conversionContext(ConversionDirection direction)
+{
+    return direction == ConversionDirection::ToBaseUnit
+               ? LogContext{sourceName, 137,
+                            "bool UnitConversionLookUp::toBaseUnit(QVariant&, const QString&, const "
+                            "QString&) "
+                            "const"}
+               : LogContext{sourceName, 152,
+                            "bool UnitConversionLookUp::fromBaseUnit(QVariant&, const QString&, const "
+                            "QString&) const"};
+}
 
 void warnUnknownType(const LogContext& context, const QString& unitType)
 {
@@ -107,18 +121,28 @@ bool UnitConversionLookUp::getDecimalPlacesForUnit(const QString& unitType, cons
 
 bool UnitConversionLookUp::toBaseUnit(QVariant& value, const QString& unitType, const QString& unit) const
 {
-    if (const UnitConversionUnitTypeHandler* handler = findHandler(unitType))
-        return handler->toBaseUnit(value, unit);
-    warnUnknownType({sourceName, 137, Q_FUNC_INFO}, unitType);
-    return false;
+    return find(unitType, unit, ConversionDirection::ToBaseUnit).convert(value);
 }
 
 bool UnitConversionLookUp::fromBaseUnit(QVariant& value, const QString& unitType, const QString& unit) const
 {
-    if (const UnitConversionUnitTypeHandler* handler = findHandler(unitType))
-        return handler->fromBaseUnit(value, unit);
-    warnUnknownType({sourceName, 152, Q_FUNC_INFO}, unitType);
-    return false;
+    return find(unitType, unit, ConversionDirection::FromBaseUnit).convert(value);
+}
+
+FoundConversion UnitConversionLookUp::find(const QString& unitType, const QString& unit,
+                                           ConversionDirection direction) const
+{
+    return find(findHandler(unitType), unitType, unit, direction);
+}
+
+FoundConversion UnitConversionLookUp::find(const UnitConversionUnitTypeHandler* handler,
+                                           const QString& unitType, const QString& unit,
+                                           ConversionDirection direction)
+{
+    if (handler)
+        return handler->find(unit, direction);
+    warnUnknownType(conversionContext(direction), unitType);
+    return FoundConversion::none(false);
 }
 
 const UnitConversionUnitTypeHandler* UnitConversionLookUp::findHandler(const QString& unitType) const

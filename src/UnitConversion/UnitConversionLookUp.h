@@ -27,11 +27,6 @@ public:
     /// document without unit types.
     bool initByJsonString(const QString& json);
 
-    /// initByJsonString() for a text that has been parsed already.
-    ///
-    /// @param root what the parser has made of @p json: null for a text that does not parse
-    UNITMANAGER_NO_EXPORT bool initByDocument(const BaseClassSharedPointer& root, const QString& json);
-
     /// initByJsonString() with the text of the file @p path; an unreadable file counts as empty.
     bool initByJsonFile(const QString& path);
 
@@ -51,10 +46,6 @@ public:
     /// unit type.
     QString getBaseUnit(const QString& unitType) const;
 
-    /// @return what is known of a unit type, which lives as long as this catalogue is neither changed nor
-    /// destroyed; null, with nothing logged, for an unknown or invalid one.
-    UNITMANAGER_NO_EXPORT const UnitConversionUnitTypeHandler* findHandler(const QString& unitType) const;
-
     /// Stores the number of decimal places with which values of @p unit are shown.
     ///
     /// @return false, with @p decimalPlaces untouched, for an unknown unit type (a warning is logged), an
@@ -72,6 +63,20 @@ public:
     bool fromBaseUnit(QVariant& value, const QString& unitType, const QString& unit) const;
 
 private:
+    friend class UnitManagerCore;
+
+    /// initByJsonString() for a text that has been parsed already; @p root is null where that failed.
+    UNITMANAGER_NO_EXPORT bool initByDocument(const BaseClassSharedPointer& root, const QString& json);
+    /// The handler of a unit type; null, with nothing logged, for an unknown or invalid one.
+    UNITMANAGER_NO_EXPORT const UnitConversionUnitTypeHandler* findHandler(const QString& unitType) const;
+    /// Finds the conversion of a unit; logs a warning for an unknown unit type or unit.
+    UNITMANAGER_NO_EXPORT FoundConversion find(const QString& unitType, const QString& unit,
+                                               ConversionDirection direction) const;
+    /// find() with the result of findHandler() for the unit type.
+    UNITMANAGER_NO_EXPORT static FoundConversion find(const UnitConversionUnitTypeHandler* handler,
+                                                      const QString& unitType, const QString& unit,
+                                                      ConversionDirection direction);
+
     QHash<QString, UnitConversionUnitTypeHandler> conversions;
     QList<QString> unitTypes;
 };

@@ -1,13 +1,35 @@
 #include "UnitConversion/UnitConversionUnitTypeHandler.h"
 
+#include <algorithm>
+
 #include "ConfigurationAndProcessDataDefinitions.h"
-#include "ConfigurationAndProcessDataTools.h"
 #include "Diagnostics.h"
+#include "UnitConversion/FoundConversion.h"
 #include "UnitManagerDefinitions.h"
 
 namespace {
 
 const char* const sourceName = "UnitConversion/UnitConversionUnitTypeHandler";
+
+// Device logs are searched by these functions and lines.
+const char* const toBaseUnitFunction =
+    "bool UnitConversionUnitTypeHandler::toBaseUnit(QVariant&, const QString&) const";
+const char* const fromBaseUnitFunction =
+    "bool UnitConversionUnitTypeHandler::fromBaseUnit(QVariant&, const QString&) const";
+
+LogContext invalidTypeContext(ConversionDirection direction)
+{
+    return direction == ConversionDirection::ToBaseUnit ? LogContext{sourceName, 114, toBaseUnitFunction}
+                                                        : LogContext{sourceName, 162, fromBaseUnitFunction};
+}
+
+void warnUnknownUnit(ConversionDirection direction, const QString& unit, const QString& unitType)
+{
+    const LogContext context = direction == ConversionDirection::ToBaseUnit
+                                   ? LogContext{sourceName, 132, toBaseUnitFunction}
+                                   : LogContext{sourceName, 180, fromBaseUnitFunction};
+    context.warning() << "Unknown unit" << unit << "given for unitType" << unitType;
+}
 
 } // namespace
 
@@ -66,49 +88,45 @@ void UnitConversionUnitTypeHandler::addUnit(const QString& unit, const Configura
 
 bool UnitConversionUnitTypeHandler::toBaseUnit(QVariant& value, const QString& unit) const
 {
-    return convert(value, unit, &ValueConversionWrapper::invertValue, {sourceName, 114, Q_FUNC_INFO},
-                   {sourceName, 132, Q_FUNC_INFO});
+    return find(unit, ConversionDirection::ToBaseUnit).convert(value);
 }
 
 bool UnitConversionUnitTypeHandler::fromBaseUnit(QVariant& value, const QString& unit) const
 {
-    return convert(value, unit, &ValueConversionWrapper::convertValue, {sourceName, 162, Q_FUNC_INFO},
-                   {sourceName, 180, Q_FUNC_INFO});
+    return find(unit, ConversionDirection::FromBaseUnit).convert(value);
 }
 
-bool UnitConversionUnitTypeHandler::convert(QVariant& value, const QString& unit, Conversion conversion,
-                                            const LogContext& invalidType,
-                                            const LogContext& unknownUnit) const
+FoundConversion UnitConversionUnitTypeHandler::find(const QString& unit, ConversionDirection direction) const
 {
-    if (unit == UnitManagerDefinitions::getUnitTypeNoUnit())
-        return true;
+    const auto conversion = conversions.constFind(unit);
+    if (conversion != conversions.constEnd())
+        return {this, &*conversion, direction, true, true};
+    // "NoUnit" is never stored.
+    if (unit.isEmpty() || unit == UnitManagerDefinitions::getUnitTypeNoUnit())
+        return FoundConversion::none(true);
+    warnUnknownUnit(direction, unit, unitType);
+    return FoundConversion::none(false);
+}
 
-    if (const ValueConversionWrapper* const wrapper = findConversion(unit)) {
-        if (ConfigurationAndProcessDataTools::isVariantNumber(value)) {
-            if (!ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value))
-                value = QVariant((wrapper->*conversion)(value.toDouble()));
-            return true;
-        }
-        invalidType.warning() << "Invalid type given for conversion" << value.typeName();
-    }
+bool UnitConversionUnitTypeHandler::reportInvalidValue(const QVariant& value,
+                                                       const FoundConversion& found) const
+{
+    invalidTypeContext(found.direction).warning() << "Invalid type given for conversion" << value.typeName();
+    const auto conversion =
+        std::find_if(conversions.keyValueBegin(), conversions.keyValueEnd(),
+                     [&found](const auto& entry) { return &entry.second == found.conversion; });
+    const QString& unit = (*conversion).first;
     if (unit.isEmpty())
         return true;
-    unknownUnit.warning() << "Unknown unit" << unit << "given for unitType" << unitType;
+    warnUnknownUnit(found.direction, unit, unitType);
     return false;
-}
-
-const ValueConversionWrapper* UnitConversionUnitTypeHandler::findConversion(const QString& unit) const
-{
-    // "NoUnit" is never among them.
-    const auto wrapper = conversions.constFind(unit);
-    return wrapper == conversions.constEnd() ? nullptr : &*wrapper;
 }
 
 bool UnitConversionUnitTypeHandler::getDecimalPlacesForUnit(const QString& unit,
                                                             unsigned int& decimalPlaces) const
 {
-    const ValueConversionWrapper* const wrapper = findConversion(unit);
-    return wrapper && wrapper->getDecimalPlacesForUnit(decimalPlaces);
+    const auto conversion = conversions.constFind(unit);
+    return conversion != conversions.constEnd() && conversion->getDecimalPlacesForUnit(decimalPlaces);
 }
 
 QString UnitConversionUnitTypeHandler::getBaseUnit(const QString& unitTypeName) const

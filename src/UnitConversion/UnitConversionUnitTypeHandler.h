@@ -9,7 +9,8 @@
 #include "UnitConversion/ValueConversionWrapper.h"
 #include "UnitManagerExport.h"
 
-struct LogContext;
+enum class ConversionDirection;
+struct FoundConversion;
 
 /// Everything known about the conversions of one unit type: its units, its base unit, their conversions and
 /// decimal places.
@@ -45,16 +46,6 @@ public:
     /// Converts @p value in place from the base unit to @p unit; everything else as for toBaseUnit().
     bool fromBaseUnit(QVariant& value, const QString& unit) const;
 
-    /// @return the conversion of @p unit, which lives as long as this handler is neither changed nor
-    /// destroyed; null, with nothing logged, for "NoUnit" and an unknown unit.
-    UNITMANAGER_NO_EXPORT const ValueConversionWrapper* findConversion(const QString& unit) const;
-
-    /// The unit type's name, without the prefix.
-    UNITMANAGER_NO_EXPORT const QString& getUnitType() const
-    {
-        return unitType;
-    }
-
     /// Stores the number of decimal places with which values of @p unit are shown.
     ///
     /// @return false, with @p decimalPlaces untouched and nothing logged, for "NoUnit" and an unknown unit.
@@ -71,12 +62,16 @@ public:
     operator bool() const;
 
 private:
-    using Conversion = double (ValueConversionWrapper::*)(double) const;
+    friend struct FoundConversion;
+    friend class UnitConversionLookUp;
+    friend class UnitManagerCore;
 
-    void addUnit(const QString& unit, const ConfigurationAndProcessDataBase& node,
-                 const ValueConversionWrapper& wrapper);
-    bool convert(QVariant& value, const QString& unit, Conversion conversion, const LogContext& invalidType,
-                 const LogContext& unknownUnit) const;
+    UNITMANAGER_NO_EXPORT void addUnit(const QString& unit, const ConfigurationAndProcessDataBase& node,
+                                       const ValueConversionWrapper& wrapper);
+    /// Finds the conversion of @p unit; logs a warning for an unknown one.
+    UNITMANAGER_NO_EXPORT FoundConversion find(const QString& unit, ConversionDirection direction) const;
+    /// Logs that @p value is not a number. @return false, but true for the conversion of an empty unit.
+    UNITMANAGER_NO_EXPORT bool reportInvalidValue(const QVariant& value, const FoundConversion& found) const;
 
     QHash<QString, ValueConversionWrapper> conversions;
     QList<QString> unitList;

@@ -1,6 +1,7 @@
 #include "UnitManagerDevice/UnitManagerDevice.h"
 
 #include "ProcessDataValue.h"
+#include "UnitConversion/FoundConversion.h"
 
 namespace {
 
@@ -20,8 +21,11 @@ ProcessValue UnitManagerDevice::getValueNoLock(const QSharedPointer<ProcessDataV
     if (!processDataValue)
         return result;
     processDataValue->getValueNoLock(result, false);
-    if (result.getErrorType() == noError)
-        result.setValue(unitManagerCore().fromBaseUnit(processDataValue, result.getValue(), unit));
+    if (result.getErrorType() != noError)
+        return result;
+    QVariant converted = result.getValue();
+    convertInPlace(*processDataValue, converted, unit, ConversionDirection::FromBaseUnit);
+    result.setValue(converted);
     return result;
 }
 
@@ -33,10 +37,16 @@ bool UnitManagerDevice::setValueNoLock(const QSharedPointer<ProcessDataValue>& p
     ProcessValue stored = value;
     if (stored.getErrorType() == noError) {
         QVariant converted = stored.getValue();
-        if (!unitManagerCore().toBaseUnit(processDataValue, converted, unit))
+        if (!convertInPlace(*processDataValue, converted, unit, ConversionDirection::ToBaseUnit))
             return false;
         stored.setValue(converted);
     }
     processDataValue->setValueNoLock(stored);
     return true;
+}
+
+bool UnitManagerDevice::convertInPlace(const ConfigurationAndProcessDataBase& node, QVariant& value,
+                                       const QString& unit, ConversionDirection direction) const
+{
+    return unitManagerCore().find(node, unit, direction).convert(value);
 }

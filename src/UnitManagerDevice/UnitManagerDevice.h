@@ -32,4 +32,8 @@ public:
     /// converted.
     bool setValueNoLock(const QSharedPointer<ProcessDataValue>& processDataValue, const ProcessValue& value,
                         const QString& unit) const;
+
+private:
+    UNITMANAGER_NO_EXPORT bool convertInPlace(const ConfigurationAndProcessDataBase& node, QVariant& value,
+                                              const QString& unit, ConversionDirection direction) const;
 };

@@ -127,7 +127,7 @@ void UnitManagerAllocationTest::runAllocatesNothing()
     double values[] = {1.0, 2.0, 3.0};
     const QString unit = QStringLiteral("HectoPascal");
     const auto call = [&] {
-        m_manager.fromBaseUnitRaw(values, values, 3, T::pressure, unit);
+        m_manager.fromBaseUnitArray(values, values, 3, T::pressure, unit);
     };
     call();
     QCOMPARE(allocationsIn(call), 0);

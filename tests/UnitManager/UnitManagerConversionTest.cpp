@@ -371,7 +371,7 @@ void UnitManagerConversionTest::namesWithSeparators()
     QTEST(described(manager.fromBaseUnit(1.23456, unitType, "Milli")), "rounded");
     QTEST(described(manager.toBaseUnitRaw(1.23456, unitType, "Milli")), "toBase");
     double value = 1.23456;
-    manager.fromBaseUnitRaw(&value, &value, 1, unitType, "Milli");
+    QVERIFY(manager.fromBaseUnitArray(&value, &value, 1, unitType, "Milli"));
     QTEST(described(value), "raw");
     QTEST(describedMessages(log), "messages");
 }

@@ -80,10 +80,10 @@ void UnitManagerFiniteMarkerTest::runs()
 {
     const double values[] = {marker, 2.0, notANumber};
     double results[3] = {};
-    m_manager.fromBaseUnitRaw(values, results, 3, T::pressure, "HectoPascal");
+    m_manager.fromBaseUnitArray(values, results, 3, T::pressure, "HectoPascal");
     QCOMPARE(described(QVariantList{results[0], results[1], results[2]}),
              (QStringList{"double -999", "double 2000", "double nan"}));
-    m_manager.toBaseUnitRaw(values, results, 3, T::pressure, "HectoPascal");
+    m_manager.toBaseUnitArray(values, results, 3, T::pressure, "HectoPascal");
     QCOMPARE(described(QVariantList{results[0], results[1], results[2]}),
              (QStringList{"double -999", described(2.0 * 0.001), "double nan"}));
 }

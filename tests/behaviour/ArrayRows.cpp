@@ -149,17 +149,19 @@ BehaviourRows numberRows(const NamedManager& manager, const UnitNames& names)
     return {{QLatin1String("numbers.fromBaseUnit") + suffix,
              [=] {
                  std::vector<double> list = samples();
-                 units->fromBaseUnitRaw(list.data(), list.data(), list.size(), names.fullType(), names.unit);
+                 units->fromBaseUnitArray(list.data(), list.data(), list.size(), names.fullType(),
+                                          names.unit);
                  return numbersText(list);
              }},
             {QLatin1String("numbers.toBaseUnit") + suffix,
              [=] {
                  std::vector<double> list = samples();
-                 units->toBaseUnitRaw(list.data(), list.data(), list.size(), names.fullType(), names.unit);
+                 units->toBaseUnitArray(list.data(), list.data(), list.size(), names.fullType(), names.unit);
                  return numbersText(list);
              }},
             {QLatin1String("getConversion") + suffix, [=] {
-                 const ValueConversionWrapper conversion = units->getConversion(names.fullType(), names.unit);
+                 ValueConversionWrapper conversion;
+                 units->getConversion(names.fullType(), names.unit, conversion);
                  return QStringLiteral("%1 %2 %3")
                      .arg(QString::number(conversion.isValid()), exactBits(conversion.convertValue(1.5)),
                           exactBits(conversion.invertValue(1.5)));

@@ -11,7 +11,7 @@ LAYERS = [
     ("common", r"Diagnostics|FixedUnit|UnitManagerDefinitions|UnitManagerExport"),
     ("value conversion", r"UnitConversion/(Factory|ConverterConfiguration|PolynomialEvaluation|Value\w+)"),
     ("catalogue and texts", r"UnitConversion/\w+|UnitTextManagement/\w+"),
-    ("core", r"UnitManagerCore"),
+    ("core", r"UnitManagerCore|RowConversion"),
     ("facade", r"UnitManager|UnitManagerUnitTypeStringHandling"),
     ("device unit manager", r"UnitManagerDevice/UnitManagerDevice"),
     ("connector", r"UnitManagerConnector/\w+"),
@@ -54,6 +54,20 @@ def check_library_file(name, includes, sources, platform_headers):
             yield f"src/{name} ({LAYERS[layer][0]}): reaches up to \"{include}\" ({LAYERS[layer_of(include)][0]})"
 
 
+def check_installed_header(name, text):
+    """What a header offers to users that they cannot use."""
+    if "LogContext" in text:
+        yield f"src/{name}: is installed and mentions the internal LogContext"
+    access = "public"
+    for line in text.splitlines():
+        if match := re.fullmatch(r"\s*(public|protected|private)( Q_SLOTS)?:", line):
+            access = match[1]
+        elif re.match(r"(class|struct) ", line):
+            access = "private" if line.startswith("class") else "public"
+        if "_NO_EXPORT" in line and access != "private":
+            yield f"src/{name}: offers a function that is not exported: {line.strip()}"
+
+
 def main():
     project = Project(sys.argv[1])
     source_root, platform_root = project.source / "src", project.source / "platform"
@@ -74,6 +88,7 @@ def main():
         includes = includes_of(source_root / name)
         problems += check_library_file(name, includes, {*sources, export_header}, platform_headers)
         if name in project.installed_headers:
+            problems += check_installed_header(name, (source_root / name).read_text(encoding="utf-8"))
             internal = {header for header in sources if header not in project.installed_headers}
             problems += [f"src/{name}: is installed and includes the internal \"{include}\""
                          for _, include in includes if include in internal]

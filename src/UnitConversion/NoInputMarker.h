@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QtCore/QVariant>
+
+#include <cmath>
+
+#include "ConfigurationAndProcessDataTools.h"
+
+/// The platform's marker for values that were not entered. Values that carry it are never converted.
+namespace NoInputMarker {
+
+/// Whether only a NaN can carry the marker, as far as the platform promises it. Other numbers then need no
+/// question to the platform, which takes longer than a conversion.
+extern const bool isAlwaysNan;
+
+/// What a value holds.
+enum class Content
+{
+    Number,
+    Marker,
+    Other
+};
+
+/// Whether @p number carries the marker.
+inline bool isSet(double number)
+{
+    return (!isAlwaysNan || std::isnan(number)) &&
+           ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(number);
+}
+
+/// Whether @p value carries the marker.
+inline bool isSet(const QVariant& value)
+{
+    return value.userType() == QMetaType::Double
+               ? isSet(*static_cast<const double*>(value.constData()))
+               : ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value);
+}
+
+/// Tells what @p value holds; @p number receives the number or marker, unless the result is Other.
+inline Content read(const QVariant& value, double& number)
+{
+    if (value.userType() == QMetaType::Double) {
+        number = *static_cast<const double*>(value.constData());
+        return isSet(number) ? Content::Marker : Content::Number;
+    }
+    if (!ConfigurationAndProcessDataTools::isVariantNumber(value))
+        return Content::Other;
+    number = value.toDouble();
+    return ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value) ? Content::Marker
+                                                                               : Content::Number;
+}
+
+} // namespace NoInputMarker
