@@ -105,6 +105,8 @@ void addFloors()
     const QString& unit = Documents::hectoPascal();
     const std::vector<double> coefficients = floors.find(type, unit)->polynomial;
     add("floor/polynomial", hectoPascals, [=] { return Floors::polynomial(coefficients, bars); });
+    add("floor/polynomial with hardware fma", hectoPascals,
+        [=] { return Floors::hardwarePolynomial(coefficients, bars); });
     add("floor/hash of both keys", qHash(type, 1) ^ qHash(unit, 1),
         [&] { return Floors::hashKeys(type, unit); });
     add("floor/nested look-up", hectoPascals, [&] { return floors.nested(bars, type, unit); });
@@ -119,6 +121,10 @@ void addFloors()
     const Situation named = situations().front();
     addFloor("one-look-up fromBaseUnit", &Floors::resolvedFromBaseUnit, bars, named, named.from);
     addFloor("one-look-up toBaseUnit", &Floors::resolvedToBaseUnit, hectoPascals, named, named.to);
+    const Situation fixed = situations().at(2);
+    addFloor("one-look-up fromBaseUnit", &Floors::resolvedFixedUnit, bars, fixed, fixed.from);
+    addFloor("one-look-up toBaseUnit", &Floors::resolvedFixedUnit, hectoPascals, fixed, fixed.to);
+    add("floor/default unit", QStringLiteral("HectoPascal"), [&] { return floors.defaultUnit(type); });
 
     addEveryUnit("floor/literal fromBaseUnit",
                  [&floors](const QVariant& number, const QString& unitType, const QString& toUnit) {
@@ -142,10 +148,19 @@ void addPeers()
     add("peer/UDUNITS converter", Near{hectoPascals}, [converter] { return converter->convert(bars); });
 }
 
+/// One value through a conversion that was found before.
+void addResolved()
+{
+    ValueConversionWrapper conversion;
+    Documents::shippedManager().getConversion(Documents::pressure(), Documents::hectoPascal(), conversion);
+    add("conversion/resolved", hectoPascals, [conversion] { return conversion.convertValue(bars); });
+}
+
 } // namespace
 
 void Themes::addConversions()
 {
+    addResolved();
     for (const Situation& situation : situations()) {
         addOperation("fromBaseUnit", &UnitManager::fromBaseUnit, bars, situation, situation.from);
         addOperation("fromBaseUnitRaw", &UnitManager::fromBaseUnitRaw, bars, situation, situation.fromRaw);

@@ -77,6 +77,39 @@ double Floors::polynomial(const std::vector<double>& coefficients, double x)
     return result;
 }
 
+namespace {
+
+double fusedPolynomial(const std::vector<double>& coefficients, double x)
+{
+    return Floors::polynomial(coefficients, x);
+}
+
+#ifdef __x86_64__
+
+__attribute__((target("fma"))) double inlineFmaPolynomial(const std::vector<double>& coefficients, double x)
+{
+    double result = 0.0;
+    for (const double coefficient : coefficients)
+        result = std::fma(x, result, coefficient);
+    return result;
+}
+
+const bool hasFma = __builtin_cpu_supports("fma");
+const auto hardware = hasFma ? &inlineFmaPolynomial : &fusedPolynomial;
+
+#else
+
+const auto hardware = &fusedPolynomial;
+
+#endif
+
+} // namespace
+
+double Floors::hardwarePolynomial(const std::vector<double>& coefficients, double x)
+{
+    return hardware(coefficients, x);
+}
+
 void Floors::polynomials(const std::vector<double>& coefficients, const double* in, double* out,
                          std::size_t count)
 {
@@ -162,6 +195,24 @@ QVariant Floors::resolved(const QVariant& value, const QString& unitType, const 
     if (found == m_resolved.constEnd())
         return value;
     return FloatRound::roundValue(polynomial((*found).*coefficients, value.toDouble()), found->decimalPlaces);
+}
+
+QVariant Floors::resolvedFixedUnit(const QVariant& value, const QString& unitType,
+                                   const QString& /*unit*/) const
+{
+    if (unitType.count(separator) != separatorsOfFixedUnit)
+        return value;
+    const QStringView whole(unitType);
+    const int last = unitType.lastIndexOf(separator);
+    const auto found = m_resolved.constFind({whole.left(last), whole.mid(last + 1)});
+    return found == m_resolved.constEnd()
+               ? value
+               : QVariant(FloatRound::roundValue(value.toDouble(), found->decimalPlaces));
+}
+
+QString Floors::defaultUnit(const QString& unitType) const
+{
+    return m_defaultUnits.value(unitType);
 }
 
 QString Floors::label(const QString& unitType, const QString& language, const QString& unit) const

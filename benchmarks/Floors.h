@@ -29,6 +29,9 @@ public:
 
     /// The fused polynomial alone. @p coefficients highest degree first
     static double polynomial(const std::vector<double>& coefficients, double x);
+    /// The polynomial with the processor's own fused multiply-add in line, where it has one; otherwise as
+    /// polynomial().
+    static double hardwarePolynomial(const std::vector<double>& coefficients, double x);
     /// The plain loop of it over @p count values.
     static void polynomials(const std::vector<double>& coefficients, const double* in, double* out,
                             std::size_t count);
@@ -49,6 +52,12 @@ public:
     /// The same result with everything resolved by one look-up. @p unit is not empty.
     QVariant resolvedFromBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const;
     QVariant resolvedToBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const;
+
+    /// A fixed unit, recognised, split without a copy, and rounded after one look-up.
+    QVariant resolvedFixedUnit(const QVariant& value, const QString& unitType, const QString& unit) const;
+
+    /// The name of a unit type's default unit.
+    QString defaultUnit(const QString& unitType) const;
 
     /// Two nested look-ups and the language; the default unit is looked up where none is given.
     QString label(const QString& unitType, const QString& language, const QString& unit) const;

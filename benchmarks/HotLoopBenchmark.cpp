@@ -1,4 +1,5 @@
 #include <cmath>
+#include <cstring>
 #include <memory>
 #include <vector>
 
@@ -34,15 +35,33 @@ void addLoop(const std::string& name, std::size_t count, const Convert& convert)
     });
 }
 
+/// The least that any operation on an array takes.
+void addCopy(std::size_t count)
+{
+    benchmark::RegisterBenchmark(("floor/memcpy/" + std::to_string(count)).c_str(),
+                                 [=](benchmark::State& state) {
+                                     const std::vector<double> in(count, 0.5);
+                                     std::vector<double> out(count);
+                                     for (auto iteration : state) {
+                                         Q_UNUSED(iteration)
+                                         std::memcpy(out.data(), in.data(), count * sizeof(double));
+                                         benchmark::ClobberMemory();
+                                     }
+                                     BenchmarkSupport::check(state, out == in);
+                                 });
+}
+
 void addLoops(std::size_t count)
 {
     const QString unitType = Documents::pressure();
     const QString unit = Documents::hectoPascal();
     const UnitManager manager = Documents::shippedManager();
-    addLoop("hot loop/run", count,
-            [=](const double* in, double* out) { manager.fromBaseUnitRaw(in, out, count, unitType, unit); });
+    addLoop("hot loop/run", count, [=](const double* in, double* out) {
+        manager.fromBaseUnitArray(in, out, count, unitType, unit);
+    });
     addLoop("hot loop/conversion taken once", count, [=](const double* in, double* out) {
-        const ValueConversionWrapper conversion = manager.getConversion(unitType, unit);
+        ValueConversionWrapper conversion;
+        manager.getConversion(unitType, unit, conversion);
         for (std::size_t index = 0; index < count; ++index)
             out[index] = conversion.convertValue(in[index]);
     });
@@ -55,6 +74,7 @@ void addLoops(std::size_t count)
     addLoop("floor/plain loop", count, [coefficients, count](const double* in, double* out) {
         Floors::polynomials(coefficients, in, out, count);
     });
+    addCopy(count);
     const auto converter = std::make_shared<const Peers::UdunitsConverter>("bar", "hPa");
     addLoop("peer/UDUNITS array", count,
             [converter, count](const double* in, double* out) { converter->convert(in, out, count); });
@@ -64,6 +84,6 @@ void addLoops(std::size_t count)
 
 void Themes::addHotLoops()
 {
-    for (const std::size_t count : {std::size_t{10}, std::size_t{1000}, std::size_t{100000}})
+    for (const std::size_t count : {std::size_t{10}, std::size_t{1000}, std::size_t{1000000}})
         addLoops(count);
 }

@@ -31,11 +31,18 @@ class Value:
 
 
 @dataclass(frozen=True)
+class Sum:
+    """Several figures of a run, each by a factor, added up."""
+
+    parts: list[tuple[float, Value]]
+
+
+@dataclass(frozen=True)
 class Against:
     """What a row is held against. A floor divides the row; a peer is divided by it, so that more is better."""
 
     label: str
-    value: Value
+    value: Value | Sum
     goal: float | None = None
 
 
@@ -58,8 +65,14 @@ def conversion_rows():
             named = situation == "unit"
             goal = 1.3 if named else None
             floors = [Against("literal", Value(f"floor/literal {operation}/{situation}"), goal)]
+            one_look_up = Value(f"floor/one-look-up {operation}/unit")
             if named:
-                floors.append(Against("one look-up", Value(f"floor/one-look-up {operation}/unit")))
+                floors.append(Against("one look-up", one_look_up))
+            if situation == "default unit":
+                floors.append(Against("1.5 one look-up + default unit",
+                                      Sum([(1.5, one_look_up), (1.0, Value("floor/default unit"))]), 1.0))
+            if situation == "fixed unit":
+                floors.append(Against("one look-up", Value(f"floor/one-look-up {operation}/fixed unit"), 1.5))
             yield Row(f"`{operation}`, {situation}", Value(f"conversion/{operation}/{situation}"), floors,
                       by_names if named else [])
             raw_floors = [
@@ -74,28 +87,38 @@ def conversion_rows():
 
 
 def node_rows():
-    for title, name, floor in (
-            ("`getValue` of a node", "node/getValue", "node read"),
-            ("`setValueStatus` of a node", "node/setValueStatus", "node write"),
-            ("`getValueNoLock`", "process data/getValueNoLock", "process data read"),
-            ("`setValueNoLock`", "process data/setValueNoLock", "process data write")):
-        yield Row(title, Value(name), [Against("unconverted", Value(f"floor/{floor}"))])
+    for title, name, floor, operation in (
+            ("`getValue` of a node", "node/getValue", "node read", "fromBaseUnitRaw"),
+            ("`setValueStatus` of a node", "node/setValueStatus", "node write", "toBaseUnitRaw"),
+            ("`getValueNoLock`", "process data/getValueNoLock", "process data read", "fromBaseUnitRaw"),
+            ("`setValueNoLock`", "process data/setValueNoLock", "process data write", "toBaseUnitRaw")):
+        unconverted = Value(f"floor/{floor}")
+        yield Row(title, Value(name),
+                  [Against("unconverted", unconverted),
+                   Against("unconverted + by names",
+                           Sum([(1.0, unconverted), (1.0, Value(f"conversion/{operation}/unit"))]), 2.0)])
     for columns in (10, 1000):
         for operation in ("getValueArray", "setValueArray"):
             yield Row(f"`{operation}`, {columns} columns", Value(f"array/{operation}/{columns}"),
-                      [Against("list by hand", Value(f"floor/list of variants/{columns}")),
+                      [Against("list by hand", Value(f"floor/list of variants/{columns}"), 1.8),
                        Against("plain loop", Value(f"floor/plain loop/{columns}"))],
                       [Against("UDUNITS array", Value(f"peer/UDUNITS array/{columns}"))])
 
 
 def hot_loop_rows():
-    for count in (10, 1000, 100000):
-        for title, name, goal in (("a run", "run", 2.0 if count > 10 else None),
-                                  ("the conversion taken once", "conversion taken once", None),
-                                  ("single conversions", "single conversions", None)):
+    yield Row("one value, the conversion found before", Value("conversion/resolved"),
+              [Against("polynomial with hardware `fma`", Value("floor/polynomial with hardware fma"), 1.6)],
+              [Against("UDUNITS converter", Value("peer/UDUNITS converter"))])
+    for count in (10, 1000, 1000000):
+        for title, name in (("an array", "run"), ("the conversion found once", "conversion taken once"),
+                            ("single conversions", "single conversions")):
+            is_array = name == "run"
             yield Row(f"{count:,} numbers, {title}", Value(f"hot loop/{name}/{count}"),
-                      [Against("plain loop", Value(f"floor/plain loop/{count}"), goal)],
-                      [Against("UDUNITS array", Value(f"peer/UDUNITS array/{count}"))])
+                      [Against("plain loop", Value(f"floor/plain loop/{count}")),
+                       Against("memcpy", Value(f"floor/memcpy/{count}"),
+                               1.5 if is_array and count == 1000000 else None)],
+                      [Against("UDUNITS array", Value(f"peer/UDUNITS array/{count}"),
+                               2.5 if is_array and count == 1000 else None)])
 
 
 def label_rows():
@@ -174,6 +197,9 @@ class Run:
         self.missing = set()
 
     def get(self, value):
+        if isinstance(value, Sum):
+            parts = [(factor, self.get(part)) for factor, part in value.parts]
+            return None if any(number is None for _, number in parts) else sum(f * number for f, number in parts)
         run = self.medians.get(value.name)
         if run is None:
             self.missing.add(value.name)
@@ -195,7 +221,7 @@ def time_text(nanoseconds):
 
 
 def lead_text(lead):
-    return f"{lead:.3g}" if lead >= 1.0 else f"1/{1.0 / lead:.3g}"
+    return f"{lead:.3g} times faster" if lead >= 1.0 else f"{1.0 / lead:.3g} times slower"
 
 
 def value_text(value, number):
@@ -213,14 +239,14 @@ def line(run, row):
     ratios = [(floor, own / number) for floor, number in floors]
     leads = [(peer, number / own) for peer, number in peers]
     goals = [(f"≤ {floor.goal:g} {floor.label}", ratio <= floor.goal) for floor, ratio in ratios if floor.goal]
-    goals += [(f"≥ {peer.goal:g} {peer.label}", lead >= peer.goal) for peer, lead in leads if peer.goal]
+    goals += [(f"≥ {peer.goal:g} times faster than {peer.label}", lead >= peer.goal) for peer, lead in leads if peer.goal]
     if row.at_most:
         goals.append((f"≤ {value_text(row.value, row.at_most)}", own <= row.at_most))
     return [
         row.title,
         value_text(row.value, own),
         "<br>".join(f"{ratio:.2f} {floor.label}" for floor, ratio in ratios),
-        "<br>".join(f"{lead_text(lead)} {peer.label}" for peer, lead in leads),
+        "<br>".join(f"{lead_text(lead)} than {peer.label}" for peer, lead in leads),
         "<br>".join(text for text, _ in goals),
         "<br>".join("yes" if met else "**no**" for _, met in goals),
     ]
@@ -242,7 +268,7 @@ def figures_text(run):
     for title, rows in THEMES:
         lines = [cells for cells in (line(run, row) for row in rows()) if cells]
         parts.append(f"### {title}")
-        parts.append(markdown(["what", "median", "ratio to floors", "times faster than peers", "goal", "met"], lines))
+        parts.append(markdown(["what", "median", "ratio to floors", "compared with peers", "goal", "met"], lines))
     references = [[name, time_text(run.time(entry))] for name, entry in sorted(run.medians.items())
                   if name.startswith(("floor/", "peer/")) and "memory" not in name]
     parts.append("### Floors and peers")
