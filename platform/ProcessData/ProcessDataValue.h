@@ -1,9 +1,9 @@
 #pragma once
 
 #include "ConfigurationAndProcessDataBase.h"
-#include "PropertyList.h"
 #include "ProcessDataExport.h"
 #include "ProcessValue.h"
+#include "PropertyList.h"
 
 #include <QtCore/QMutex>
 #include <QtCore/QString>
