@@ -44,11 +44,11 @@ void roundInPlace(QVariant& value, unsigned int decimalPlaces)
     value.setValue(isNumber ? FloatRound::roundValue(number, decimalPlaces) : 0.0);
 }
 
-bool convertInPlace(const FoundConversion& found, QVector<double>& values)
+bool convertVector(const FoundConversion& found, QVector<double>& values)
 {
     // Without a conversion shared data stay shared.
     if (found.conversion)
-        found.convert(values.constData(), values.data(), static_cast<std::size_t>(values.size()));
+        found.convertArray(values.constData(), values.data(), static_cast<std::size_t>(values.size()));
     return found.isKnown;
 }
 
@@ -210,7 +210,7 @@ bool UnitManager::fromBaseUnitArray(const double* values, double* results, std::
                                     const QString& unitType, const QString& unit) const
 {
     const FoundConversion found = core.find(unitType, unit, ConversionDirection::FromBaseUnit);
-    found.convert(values, results, count);
+    found.convertArray(values, results, count);
     return found.isKnown;
 }
 
@@ -218,19 +218,19 @@ bool UnitManager::toBaseUnitArray(const double* values, double* results, std::si
                                   const QString& unitType, const QString& unit) const
 {
     const FoundConversion found = core.find(unitType, unit, ConversionDirection::ToBaseUnit);
-    found.convert(values, results, count);
+    found.convertArray(values, results, count);
     return found.isKnown;
 }
 
 bool UnitManager::fromBaseUnitArray(QVector<double>& values, const QString& unitType,
                                     const QString& unit) const
 {
-    return convertInPlace(core.find(unitType, unit, ConversionDirection::FromBaseUnit), values);
+    return convertVector(core.find(unitType, unit, ConversionDirection::FromBaseUnit), values);
 }
 
 bool UnitManager::toBaseUnitArray(QVector<double>& values, const QString& unitType, const QString& unit) const
 {
-    return convertInPlace(core.find(unitType, unit, ConversionDirection::ToBaseUnit), values);
+    return convertVector(core.find(unitType, unit, ConversionDirection::ToBaseUnit), values);
 }
 
 QVariant UnitManager::getValue(const QVariant& value, const QString& unitType, const QString& unit) const

@@ -20,7 +20,7 @@ bool FoundConversion::convert(QVariant& value) const
     double number = 0.0;
     switch (NoInputMarker::read(value, number)) {
     case NoInputMarker::Content::Number:
-        value.setValue(convert(number));
+        value.setValue(convertNumber(number));
         return true;
     case NoInputMarker::Content::Marker:
         return true;
@@ -30,13 +30,13 @@ bool FoundConversion::convert(QVariant& value) const
     return unitType->reportInvalidValue(value, *this);
 }
 
-double FoundConversion::convert(double number) const
+double FoundConversion::convertNumber(double number) const
 {
     return direction == ConversionDirection::FromBaseUnit ? conversion->convertValue(number)
                                                           : conversion->invertValue(number);
 }
 
-void FoundConversion::convert(const double* values, double* results, std::size_t count) const
+void FoundConversion::convertArray(const double* values, double* results, std::size_t count) const
 {
     if (!conversion) {
         std::copy_n(values, count, results);
@@ -44,7 +44,7 @@ void FoundConversion::convert(const double* values, double* results, std::size_t
     }
     if (!NoInputMarker::isAlwaysNan) {
         std::transform(values, values + count, results, [this](double number) {
-            return NoInputMarker::isSet(number) ? number : convert(number);
+            return NoInputMarker::isSet(number) ? number : convertNumber(number);
         });
         return;
     }

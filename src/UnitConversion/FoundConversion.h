@@ -37,10 +37,10 @@ struct FoundConversion
     bool convert(QVariant& value) const;
 
     /// Converts a number that is not the no-input marker.
-    double convert(double number) const;
+    double convertNumber(double number) const;
 
     /// Converts @p count numbers; no-input markers keep all their bits.
     ///
     /// @param results room for @p count numbers; may be @p values itself, but must not overlap it otherwise
-    void convert(const double* values, double* results, std::size_t count) const;
+    void convertArray(const double* values, double* results, std::size_t count) const;
 };
