@@ -21,8 +21,8 @@ int countSeparators(const QString& text)
 /// says that it is never freed.
 QStringData headerOf(const QStringData& header, const QChar* characters, int size)
 {
-    const auto offset = reinterpret_cast<qptrdiff>(characters) - reinterpret_cast<qptrdiff>(&header);
-    return {{Q_REFCOUNT_INITIALIZE_STATIC, size, 0, 0, offset}};
+    const quintptr offset = reinterpret_cast<quintptr>(characters) - reinterpret_cast<quintptr>(&header);
+    return {{Q_REFCOUNT_INITIALIZE_STATIC, size, 0, 0, static_cast<qptrdiff>(offset)}};
 }
 
 QString headedBy(QStringData& header)
