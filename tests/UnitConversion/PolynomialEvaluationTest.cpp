@@ -3,8 +3,9 @@
 #include <QtTest/QTest>
 
 #include <cmath>
-#include <cstring>
 #include <limits>
+
+#include "DoubleBits.h"
 
 using PolynomialEvaluation::Variant;
 
@@ -36,20 +37,6 @@ double expectedValue(const Numbers& coefficients, double x)
     return result;
 }
 
-double fromBits(quint64 bits)
-{
-    double number = 0.0;
-    std::memcpy(&number, &bits, sizeof number);
-    return number;
-}
-
-quint64 bitsOf(double number)
-{
-    quint64 bits = 0;
-    std::memcpy(&bits, &number, sizeof bits);
-    return bits;
-}
-
 /// NaN keep their bits in arrays.
 Numbers expectedValues(const Numbers& coefficients, const Numbers& values)
 {
@@ -67,11 +54,11 @@ Numbers samples(std::size_t count)
                            -0.0,
                            infinity,
                            5e-324,
-                           fromBits(0x7FF8000000000ABCU),
+                           doubleFromBits(0x7FF8000000000ABCU),
                            -273.15,
                            1e308,
                            0.1,
-                           fromBits(0xFFF0000000000001U),
+                           doubleFromBits(0xFFF0000000000001U),
                            -infinity,
                            1.0 / 3.0,
                            0.0,

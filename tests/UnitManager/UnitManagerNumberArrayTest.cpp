@@ -2,12 +2,14 @@
 
 #include <QtTest/QtTest>
 
-#include <cstring>
+#include <algorithm>
+#include <iterator>
 #include <limits>
 #include <type_traits>
 #include <vector>
 
 #include "Described.h"
+#include "DoubleBits.h"
 #include "LogCapture.h"
 #include "TestDocuments.h"
 
@@ -58,8 +60,8 @@ std::vector<double> samples()
 /// Numbers bit by bit, so that NaN and the signs of zero count.
 std::vector<quint64> bits(const std::vector<double>& numbers)
 {
-    std::vector<quint64> result(numbers.size());
-    std::memcpy(result.data(), numbers.data(), numbers.size() * sizeof(double));
+    std::vector<quint64> result;
+    std::transform(numbers.begin(), numbers.end(), std::back_inserter(result), bitsOf);
     return result;
 }
 
@@ -173,8 +175,7 @@ void UnitManagerNumberArrayTest::emptyArray()
 void UnitManagerNumberArrayTest::markerKeepsItsBits()
 {
     const quint64 withPayload = 0x7ff8000000000abcU;
-    double value = 0.0;
-    std::memcpy(&value, &withPayload, sizeof(value));
+    const double value = doubleFromBits(withPayload);
     double result = 0.0;
     m_manager.fromBaseUnitArray(&value, &result, 1, T::pressure, QStringLiteral("HectoPascal"));
     QCOMPARE(bits({result}), std::vector<quint64>{withPayload});

@@ -1,18 +1,11 @@
 #include "BehaviourDocuments.h"
 
-#include <cstring>
 #include <limits>
 
+#include "DoubleBits.h"
 #include "PropertyManagerConst.h"
 
 namespace {
-
-double doubleFromBits(quint64 bits)
-{
-    double number = 0.0;
-    std::memcpy(&number, &bits, sizeof number);
-    return number;
-}
 
 UnitManagerDevice loaded(const QString& units, const QString& defaultUnits)
 {

@@ -3,9 +3,9 @@
 #include <QtCore/QDebug>
 
 #include <cmath>
-#include <cstring>
 #include <utility>
 
+#include "DoubleBits.h"
 #include "ExactText.h"
 
 namespace {
@@ -20,13 +20,6 @@ QStringList& questions()
 {
     static QStringList list;
     return list;
-}
-
-quint64 bitsOf(double number)
-{
-    quint64 bits = 0;
-    std::memcpy(&bits, &number, sizeof bits);
-    return bits;
 }
 
 // The sign of a NaN that is computed depends on the processor.

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+#include <cstring>
+
+/// The bits of a number, which tell every NaN and the signs of zero apart.
+inline quint64 bitsOf(double number)
+{
+    quint64 bits = 0;
+    std::memcpy(&bits, &number, sizeof bits);
+    return bits;
+}
+
+/// The number of given bits.
+inline double doubleFromBits(quint64 bits)
+{
+    double number = 0.0;
+    std::memcpy(&number, &bits, sizeof number);
+    return number;
+}
