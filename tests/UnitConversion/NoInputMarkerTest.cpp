@@ -1,0 +1,79 @@
+#include "UnitConversion/NoInputMarker.h"
+
+#include <QtTest/QTest>
+
+#include <cmath>
+#include <limits>
+
+using NoInputMarker::Content;
+
+namespace {
+
+int markerQuestions = 0;
+
+} // namespace
+
+bool ConfigurationAndProcessDataTools::isVariantNumber(const QVariant& value)
+{
+    return value.userType() == QMetaType::Double || value.userType() == QMetaType::Int;
+}
+
+bool ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(const QVariant& value)
+{
+    ++markerQuestions;
+    return isVariantNumber(value) && (value.toDouble() == -999.0 || std::isnan(value.toDouble()));
+}
+
+/// A platform that does not promise that its marker is a NaN is asked about every number.
+class NoInputMarkerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void nothingIsPromised();
+    void everyNumberIsAskedAbout_data();
+    void everyNumberIsAskedAbout();
+};
+
+void NoInputMarkerTest::nothingIsPromised()
+{
+    QVERIFY(!NoInputMarker::isAlwaysNan);
+}
+
+void NoInputMarkerTest::everyNumberIsAskedAbout_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<bool>("isSet");
+    QTest::addColumn<int>("content");
+
+    const auto row = [](const char* name, const QVariant& value, bool isSet, Content content) {
+        QTest::newRow(name) << value << isSet << static_cast<int>(content);
+    };
+    row("number", 2.5, false, Content::Number);
+    row("marker that is a number", -999.0, true, Content::Marker);
+    row("marker that is a NaN", std::numeric_limits<double>::quiet_NaN(), true, Content::Marker);
+    row("integer", 7, false, Content::Number);
+    row("marker as an integer", -999, true, Content::Marker);
+    row("text", QStringLiteral("-999"), false, Content::Other);
+    row("invalid", QVariant(), false, Content::Other);
+}
+
+void NoInputMarkerTest::everyNumberIsAskedAbout()
+{
+    QFETCH(QVariant, value);
+    QFETCH(bool, isSet);
+    QFETCH(int, content);
+
+    markerQuestions = 0;
+    QCOMPARE(NoInputMarker::isSet(value), isSet);
+    QCOMPARE(markerQuestions, 1);
+    double number = 0.0;
+    QCOMPARE(static_cast<int>(NoInputMarker::read(value, number)), content);
+    QCOMPARE(markerQuestions, content == static_cast<int>(Content::Other) ? 1 : 2);
+    if (content == static_cast<int>(Content::Number))
+        QCOMPARE(number, value.toDouble());
+}
+
+QTEST_GUILESS_MAIN(NoInputMarkerTest)
+
+#include "NoInputMarkerTest.moc"
