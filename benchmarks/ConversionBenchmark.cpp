@@ -1,17 +1,17 @@
 #include <cmath>
 #include <vector>
 
+#include "Baselines.h"
 #include "BenchmarkSupport.h"
+#include "Competitors.h"
 #include "Documents.h"
-#include "Floors.h"
-#include "Peers.h"
 #include "Themes.h"
 
 namespace {
 
 using BenchmarkSupport::add;
 using Operation = QVariant (UnitManager::*)(const QVariant&, const QString&, const QString&) const;
-using Floor = QVariant (Floors::*)(const QVariant&, const QString&, const QString&) const;
+using Baseline = QVariant (Baselines::*)(const QVariant&, const QString&, const QString&) const;
 
 /// One question, and the four answers to it: rounded and raw, from and to the base unit.
 struct Situation
@@ -28,7 +28,7 @@ struct Situation
 const double bars = 1.01325;
 const double hectoPascals = 1013.25;
 
-/// Compares with a peer, whose last digit may differ.
+/// Compares with a competitor, whose last digit may differ.
 struct Near
 {
     double number;
@@ -63,12 +63,12 @@ void addOperation(const std::string& name, Operation operation, const QVariant& 
         });
 }
 
-void addFloor(const std::string& name, Floor floor, const QVariant& value, const Situation& situation,
-              double expected)
+void addBaseline(const std::string& name, Baseline baseline, const QVariant& value,
+                 const Situation& situation, double expected)
 {
-    const Floors& floors = Floors::instance();
-    add("floor/" + name + "/" + situation.name, QVariant(expected),
-        [=, &floors] { return (floors.*floor)(value, situation.unitType, situation.unit); });
+    const Baselines& baselines = Baselines::instance();
+    add("baseline/" + name + "/" + situation.name, QVariant(expected),
+        [=, &baselines] { return (baselines.*baseline)(value, situation.unitType, situation.unit); });
 }
 
 /// One value to every unit in turn, so that no branch and no cache line is the same as before.
@@ -84,7 +84,7 @@ void addEveryUnit(const std::string& name, const Convert& convert)
             for (const QString& unit : manager.getListofUnits(unitType)) {
                 keys.emplace_back(unitType, unit);
                 isRight = isRight && convert(value, unitType, unit) ==
-                                         Floors::instance().literalFromBaseUnit(value, unitType, unit);
+                                         Baselines::instance().literalFromBaseUnit(value, unitType, unit);
             }
         }
         if (!BenchmarkSupport::check(state, isRight && keys.size() > 40))
@@ -98,54 +98,55 @@ void addEveryUnit(const std::string& name, const Convert& convert)
     });
 }
 
-void addFloors()
+void addBaselines()
 {
-    const Floors& floors = Floors::instance();
+    const Baselines& baselines = Baselines::instance();
     const QString& type = Documents::pressure();
     const QString& unit = Documents::hectoPascal();
-    const std::vector<double> coefficients = floors.find(type, unit)->polynomial;
-    add("floor/polynomial", hectoPascals, [=] { return Floors::polynomial(coefficients, bars); });
-    add("floor/polynomial with hardware fma", hectoPascals,
-        [=] { return Floors::hardwarePolynomial(coefficients, bars); });
-    add("floor/hash of both keys", qHash(type, 1) ^ qHash(unit, 1),
-        [&] { return Floors::hashKeys(type, unit); });
-    add("floor/nested look-up", hectoPascals, [&] { return floors.nested(bars, type, unit); });
+    const std::vector<double> coefficients = baselines.find(type, unit)->polynomial;
+    add("baseline/polynomial", hectoPascals, [=] { return Baselines::polynomial(coefficients, bars); });
+    add("baseline/polynomial with hardware fma", hectoPascals,
+        [=] { return Baselines::hardwarePolynomial(coefficients, bars); });
+    add("baseline/hash of both keys", qHash(type, 1) ^ qHash(unit, 1),
+        [&] { return Baselines::hashKeys(type, unit); });
+    add("baseline/nested look-up", hectoPascals, [&] { return baselines.nested(bars, type, unit); });
     const QVariant value(bars);
-    add("floor/nested look-up of variants", QVariant(hectoPascals),
-        [&floors, value, &type, &unit] { return floors.nestedVariant(value, type, unit); });
+    add("baseline/nested look-up of variants", QVariant(hectoPascals),
+        [&baselines, value, &type, &unit] { return baselines.nestedVariant(value, type, unit); });
 
     for (const Situation& situation : situations()) {
-        addFloor("literal fromBaseUnit", &Floors::literalFromBaseUnit, bars, situation, situation.from);
-        addFloor("literal toBaseUnit", &Floors::literalToBaseUnit, hectoPascals, situation, situation.to);
+        addBaseline("literal fromBaseUnit", &Baselines::literalFromBaseUnit, bars, situation, situation.from);
+        addBaseline("literal toBaseUnit", &Baselines::literalToBaseUnit, hectoPascals, situation,
+                    situation.to);
     }
     const Situation named = situations().front();
-    addFloor("one-look-up fromBaseUnit", &Floors::resolvedFromBaseUnit, bars, named, named.from);
-    addFloor("one-look-up toBaseUnit", &Floors::resolvedToBaseUnit, hectoPascals, named, named.to);
+    addBaseline("one-look-up fromBaseUnit", &Baselines::resolvedFromBaseUnit, bars, named, named.from);
+    addBaseline("one-look-up toBaseUnit", &Baselines::resolvedToBaseUnit, hectoPascals, named, named.to);
     const Situation fixed = situations().at(2);
-    addFloor("one-look-up fromBaseUnit", &Floors::resolvedFixedUnit, bars, fixed, fixed.from);
-    addFloor("one-look-up toBaseUnit", &Floors::resolvedFixedUnit, hectoPascals, fixed, fixed.to);
-    add("floor/default unit", QStringLiteral("HectoPascal"), [&] { return floors.defaultUnit(type); });
+    addBaseline("one-look-up fromBaseUnit", &Baselines::resolvedFixedUnit, bars, fixed, fixed.from);
+    addBaseline("one-look-up toBaseUnit", &Baselines::resolvedFixedUnit, hectoPascals, fixed, fixed.to);
+    add("baseline/default unit", QStringLiteral("HectoPascal"), [&] { return baselines.defaultUnit(type); });
 
-    addEveryUnit("floor/literal fromBaseUnit",
-                 [&floors](const QVariant& number, const QString& unitType, const QString& toUnit) {
-                     return floors.literalFromBaseUnit(number, unitType, toUnit);
+    addEveryUnit("baseline/literal fromBaseUnit",
+                 [&baselines](const QVariant& number, const QString& unitType, const QString& toUnit) {
+                     return baselines.literalFromBaseUnit(number, unitType, toUnit);
                  });
-    addEveryUnit("floor/one-look-up fromBaseUnit",
-                 [&floors](const QVariant& number, const QString& unitType, const QString& toUnit) {
-                     return floors.resolvedFromBaseUnit(number, unitType, toUnit);
+    addEveryUnit("baseline/one-look-up fromBaseUnit",
+                 [&baselines](const QVariant& number, const QString& unitType, const QString& toUnit) {
+                     return baselines.resolvedFromBaseUnit(number, unitType, toUnit);
                  });
 }
 
-void addPeers()
+void addCompetitors()
 {
     const QString bar = QStringLiteral("bar");
     const QString hPa = QStringLiteral("hPa");
-    add("peer/KUnitConversion by names", Near{hectoPascals},
-        [=] { return Peers::convertByKUnitConversion(bars, bar, hPa); });
-    add("peer/UDUNITS by names", Near{hectoPascals},
-        [] { return Peers::convertByUdunits(bars, "bar", "hPa"); });
-    const auto converter = std::make_shared<const Peers::UdunitsConverter>("bar", "hPa");
-    add("peer/UDUNITS converter", Near{hectoPascals}, [converter] { return converter->convert(bars); });
+    add("competitor/KUnitConversion by names", Near{hectoPascals},
+        [=] { return Competitors::convertByKUnitConversion(bars, bar, hPa); });
+    add("competitor/UDUNITS by names", Near{hectoPascals},
+        [] { return Competitors::convertByUdunits(bars, "bar", "hPa"); });
+    const auto converter = std::make_shared<const Competitors::UdunitsConverter>("bar", "hPa");
+    add("competitor/UDUNITS converter", Near{hectoPascals}, [converter] { return converter->convert(bars); });
 }
 
 /// One value through a conversion that was found before.
@@ -171,6 +172,6 @@ void Themes::addConversions()
                  [](const QVariant& value, const QString& unitType, const QString& unit) {
                      return Documents::shippedManager().fromBaseUnit(value, unitType, unit);
                  });
-    addFloors();
-    addPeers();
+    addBaselines();
+    addCompetitors();
 }

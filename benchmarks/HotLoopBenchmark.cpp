@@ -3,10 +3,10 @@
 #include <memory>
 #include <vector>
 
+#include "Baselines.h"
 #include "BenchmarkSupport.h"
+#include "Competitors.h"
 #include "Documents.h"
-#include "Floors.h"
-#include "Peers.h"
 #include "Themes.h"
 #include "UnitManager.h"
 
@@ -35,10 +35,10 @@ void addLoop(const std::string& name, std::size_t count, const Convert& convert)
     });
 }
 
-/// The least that any operation on an array takes.
+/// The lower bound of any operation on an array.
 void addCopy(std::size_t count)
 {
-    benchmark::RegisterBenchmark(("floor/memcpy/" + std::to_string(count)).c_str(),
+    benchmark::RegisterBenchmark(("baseline/memcpy/" + std::to_string(count)).c_str(),
                                  [=](benchmark::State& state) {
                                      const std::vector<double> in(count, 0.5);
                                      std::vector<double> out(count);
@@ -70,13 +70,13 @@ void addLoops(std::size_t count)
             out[index] = manager.fromBaseUnitRaw(in[index], unitType, unit).toDouble();
     });
 
-    const std::vector<double> coefficients = Floors::instance().find(unitType, unit)->polynomial;
-    addLoop("floor/plain loop", count, [coefficients, count](const double* in, double* out) {
-        Floors::polynomials(coefficients, in, out, count);
+    const std::vector<double> coefficients = Baselines::instance().find(unitType, unit)->polynomial;
+    addLoop("baseline/plain loop", count, [coefficients, count](const double* in, double* out) {
+        Baselines::polynomials(coefficients, in, out, count);
     });
     addCopy(count);
-    const auto converter = std::make_shared<const Peers::UdunitsConverter>("bar", "hPa");
-    addLoop("peer/UDUNITS array", count,
+    const auto converter = std::make_shared<const Competitors::UdunitsConverter>("bar", "hPa");
+    addLoop("competitor/UDUNITS array", count,
             [converter, count](const double* in, double* out) { converter->convert(in, out, count); });
 }
 

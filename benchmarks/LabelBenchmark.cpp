@@ -1,7 +1,7 @@
+#include "Baselines.h"
 #include "BenchmarkSupport.h"
+#include "Competitors.h"
 #include "Documents.h"
-#include "Floors.h"
-#include "Peers.h"
 #include "Themes.h"
 
 void Themes::addLabels()
@@ -13,10 +13,12 @@ void Themes::addLabels()
         const std::string situation = unit.isEmpty() ? "default unit" : "unit";
         add("label/getUnitText/" + situation, hPa,
             [=] { return Documents::shippedManager().getUnitText(Documents::pressure(), language, unit); });
-        add("floor/label/" + situation, hPa,
-            [=] { return Floors::instance().label(Documents::pressure(), language, unit); });
+        add("baseline/label/" + situation, hPa,
+            [=] { return Baselines::instance().label(Documents::pressure(), language, unit); });
     }
-    add("peer/KUnitConversion symbol", hPa, [hPa] { return Peers::symbolByKUnitConversion(hPa); });
+    add("competitor/KUnitConversion symbol", hPa,
+        [hPa] { return Competitors::symbolByKUnitConversion(hPa); });
     // Its name for the unit is put together from what it knows: "100 Pa".
-    add("peer/UDUNITS symbol", QStringLiteral("100 Pa"), [] { return Peers::symbolByUdunits("hPa"); });
+    add("competitor/UDUNITS symbol", QStringLiteral("100 Pa"),
+        [] { return Competitors::symbolByUdunits("hPa"); });
 }

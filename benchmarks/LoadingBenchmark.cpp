@@ -2,9 +2,9 @@
 #include <QtCore/QJsonObject>
 
 #include "BenchmarkSupport.h"
+#include "Competitors.h"
 #include "Documents.h"
 #include "PeakMemory.h"
-#include "Peers.h"
 #include "Themes.h"
 
 namespace {
@@ -24,12 +24,12 @@ void addShipped()
         return manager.initByJsonString(Documents::shippedUnits(), Documents::shippedDefaultUnits()) &&
                manager.isValid();
     });
-    add("floor/Qt's parser twice/shipped documents", true,
+    add("baseline/Qt's parser twice/shipped documents", true,
         [units = Documents::shippedUnits().toUtf8(), defaults = Documents::shippedDefaultUnits().toUtf8()] {
             return parseByQt(units) && parseByQt(defaults) && parseByQt(units) && parseByQt(defaults);
         });
-    add("peer/UDUNITS loads its database", true, [] {
-        return Peers::loadUdunits();
+    add("competitor/UDUNITS loads its database", true, [] {
+        return Competitors::loadUdunits();
     })->Unit(benchmark::kMillisecond);
 }
 
@@ -95,8 +95,8 @@ void Themes::addLoading()
     addShipped();
     for (const int unitCount : {100, 1000, 10000, 100000}) {
         addGenerated("loading/units", loadGenerated, unitCount);
-        addGenerated("floor/Qt's parser twice", parseGenerated, unitCount);
+        addGenerated("baseline/Qt's parser twice", parseGenerated, unitCount);
         addPeak("memory/units", QStringLiteral("manager"), unitCount);
-        addPeak("floor/memory of Qt's parser", QStringLiteral("qt"), unitCount);
+        addPeak("baseline/memory of Qt's parser", QStringLiteral("qt"), unitCount);
     }
 }

@@ -4,11 +4,11 @@
 #include <vector>
 
 #include "Array2dDataTypeWrapper.h"
+#include "Baselines.h"
 #include "BenchmarkSupport.h"
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataParser.h"
 #include "Documents.h"
-#include "Floors.h"
 #include "ProcessDataValue.h"
 #include "PropertyManagerConst.h"
 #include "Themes.h"
@@ -72,7 +72,7 @@ void addTreeNodes()
     add("node/getValue", QVariant(1013.25), [node = makeNode()] {
         return Documents::shippedManager().getValue(key, node, Documents::hectoPascal());
     });
-    add("floor/node read", QVariant(1.01325),
+    add("baseline/node read", QVariant(1.01325),
         [node = makeNode(), &valueKey] { return node->getChild(key)->getProperty(valueKey); });
     addWrite(
         "node/setValueStatus", 1.5,
@@ -81,7 +81,7 @@ void addTreeNodes()
         },
         read);
     addWrite(
-        "floor/node write", 1500.0,
+        "baseline/node write", 1500.0,
         [node, &valueKey](const QVariant& value) {
             return node->getChild(key)->setProperty(valueKey, value) < 2;
         },
@@ -97,7 +97,7 @@ void addProcessData()
     add("process data/getValueNoLock", QVariant(1013.25), [data = makeProcessData()] {
         return shippedDevice().getValueNoLock(data, Documents::hectoPascal()).getValue();
     });
-    add("floor/process data read", QVariant(1.01325), [data = makeProcessData()] {
+    add("baseline/process data read", QVariant(1.01325), [data = makeProcessData()] {
         ProcessValue value;
         data->getValueNoLock(value, false);
         return value.getValue();
@@ -111,7 +111,7 @@ void addProcessData()
         },
         read);
     addWrite(
-        "floor/process data write", 1500.0,
+        "baseline/process data write", 1500.0,
         [processData](const QVariant& value) {
             processData->setValueNoLock(ProcessValue(value, ProcessDataDefinitions::ErrorTypeNone));
             return true;
@@ -157,12 +157,12 @@ void addArrays(unsigned int columns)
                 benchmark::DoNotOptimize(manager.setValueArray(array, 0, 0, columns, values[next], unit));
             }
         });
-    add("floor/list of variants/" + count, row(columns, 1000.0),
+    add("baseline/list of variants/" + count, row(columns, 1000.0),
         [cells = row(columns, 1.0),
-         coefficients = Floors::instance().find(Documents::pressure(), unit)->polynomial] {
+         coefficients = Baselines::instance().find(Documents::pressure(), unit)->polynomial] {
             QList<QVariant> converted;
             for (const QVariant& cell : cells)
-                converted.append(Floors::polynomial(coefficients, cell.toDouble()));
+                converted.append(Baselines::polynomial(coefficients, cell.toDouble()));
             return converted;
         });
 }

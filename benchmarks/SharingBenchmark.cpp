@@ -1,6 +1,6 @@
+#include "Baselines.h"
 #include "BenchmarkSupport.h"
 #include "Documents.h"
-#include "Floors.h"
 #include "Themes.h"
 
 namespace {
@@ -27,9 +27,9 @@ void Themes::addSharing()
             return Documents::shippedManager().fromBaseUnit(bars, Documents::pressure(),
                                                             Documents::hectoPascal());
         });
-        addReaders("floor/sharing/one look-up", threadCount, [] {
-            return Floors::instance().resolvedFromBaseUnit(bars, Documents::pressure(),
-                                                           Documents::hectoPascal());
+        addReaders("baseline/sharing/one look-up", threadCount, [] {
+            return Baselines::instance().resolvedFromBaseUnit(bars, Documents::pressure(),
+                                                              Documents::hectoPascal());
         });
     }
 }

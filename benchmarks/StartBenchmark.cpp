@@ -135,16 +135,16 @@ bool ignore(const Texts& /*texts*/)
     return true;
 }
 
-void addFloors(const std::string& manner, Texts (*call)(const Calls&))
+void addBaselines(const std::string& manner, Texts (*call)(const Calls&))
 {
     const Calls all = {BusWorld::callForUnits(), BusWorld::callForDefaultUnits(),
                        BusWorld::callForDependencies()};
     const Texts texts = {Documents::shippedUnits(), Documents::shippedDefaultUnits(),
                          Documents::shippedDependencies()};
-    addCalls("floor/one call/" + manner, call, all.mid(0, 1), texts.mid(0, 1), &ignore);
-    addCalls("floor/three calls/" + manner, call, all, texts, &ignore);
-    addCalls("floor/three calls and Qt's parser/" + manner, call, all, texts, &parseByQt);
-    addCalls("floor/three calls and loading/" + manner, call, all, texts, &loadByLibrary);
+    addCalls("baseline/one call/" + manner, call, all.mid(0, 1), texts.mid(0, 1), &ignore);
+    addCalls("baseline/three calls/" + manner, call, all, texts, &ignore);
+    addCalls("baseline/three calls and Qt's parser/" + manner, call, all, texts, &parseByQt);
+    addCalls("baseline/three calls and loading/" + manner, call, all, texts, &loadByLibrary);
 }
 
 } // namespace
@@ -157,6 +157,6 @@ void Themes::addStart()
             ->UseRealTime()
             ->Unit(benchmark::kMicrosecond);
         benchmark::RegisterBenchmark(("start/idle step/" + manner).c_str(), idleStep, isAsynchronous);
-        addFloors(manner, isAsynchronous ? &callAsynchronous : &callBlocking);
+        addBaselines(manner, isAsynchronous ? &callAsynchronous : &callBlocking);
     }
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Turns a run of unitmanager-benchmarks into a table: what each thing costs, how that stands to the floors and to
-the peers measured in the same run, and which goals are met.
+"""Turns a run of unitmanager-benchmarks into a table: what each thing costs, how that stands to the baselines and to
+the competitors measured in the same run, and which goals are met.
 
     table.py RUN.json                              prints the table
     table.py RUN.json --write docs/performance.md  also puts it between the markers of that file
@@ -39,7 +39,7 @@ class Sum:
 
 @dataclass(frozen=True)
 class Against:
-    """What a row is held against. A floor divides the row; a peer is divided by it, so that more is better."""
+    """What a row is held against. A baseline divides the row; a competitor is divided by it, so that more is better."""
 
     label: str
     value: Value | Sum
@@ -50,49 +50,49 @@ class Against:
 class Row:
     title: str
     value: Value
-    floors: list[Against] = field(default_factory=list)
-    peers: list[Against] = field(default_factory=list)
+    baselines: list[Against] = field(default_factory=list)
+    competitors: list[Against] = field(default_factory=list)
     at_most: float | None = None
 
 
 def conversion_rows():
     by_names = [
-        Against("KUnitConversion", Value("peer/KUnitConversion by names"), 20.0),
-        Against("UDUNITS", Value("peer/UDUNITS by names"), 20.0),
+        Against("KUnitConversion", Value("competitor/KUnitConversion by names"), 20.0),
+        Against("UDUNITS", Value("competitor/UDUNITS by names"), 20.0),
     ]
     for operation in ("fromBaseUnit", "toBaseUnit"):
         for situation in ("unit", "default unit", "fixed unit", "unknown unit"):
             named = situation == "unit"
             goal = 1.3 if named else None
-            floors = [Against("literal", Value(f"floor/literal {operation}/{situation}"), goal)]
-            one_look_up = Value(f"floor/one-look-up {operation}/unit")
+            baselines = [Against("literal", Value(f"baseline/literal {operation}/{situation}"), goal)]
+            one_look_up = Value(f"baseline/one-look-up {operation}/unit")
             if named:
-                floors.append(Against("one look-up", one_look_up))
+                baselines.append(Against("one look-up", one_look_up))
             if situation == "default unit":
-                floors.append(Against("1.5 one look-up + default unit",
-                                      Sum([(1.5, one_look_up), (1.0, Value("floor/default unit"))]), 1.0))
+                baselines.append(Against("1.5 one look-up + default unit",
+                                      Sum([(1.5, one_look_up), (1.0, Value("baseline/default unit"))]), 1.0))
             if situation == "fixed unit":
-                floors.append(Against("one look-up", Value(f"floor/one-look-up {operation}/fixed unit"), 1.5))
-            yield Row(f"`{operation}`, {situation}", Value(f"conversion/{operation}/{situation}"), floors,
+                baselines.append(Against("one look-up", Value(f"baseline/one-look-up {operation}/fixed unit"), 1.5))
+            yield Row(f"`{operation}`, {situation}", Value(f"conversion/{operation}/{situation}"), baselines,
                       by_names if named else [])
-            raw_floors = [
-                Against("nested look-up", Value("floor/nested look-up"), 1.5),
-                Against("same, variants", Value("floor/nested look-up of variants")),
+            raw_baselines = [
+                Against("nested look-up", Value("baseline/nested look-up"), 1.5),
+                Against("same, variants", Value("baseline/nested look-up of variants")),
             ]
             yield Row(f"`{operation}Raw`, {situation}", Value(f"conversion/{operation}Raw/{situation}"),
-                      raw_floors if named else [], by_names if named else [])
+                      raw_baselines if named else [], by_names if named else [])
     yield Row("`fromBaseUnit`, every unit in turn", Value("conversion/fromBaseUnit/every unit"),
-              [Against("literal", Value("floor/literal fromBaseUnit/every unit"), 1.3),
-               Against("one look-up", Value("floor/one-look-up fromBaseUnit/every unit"))])
+              [Against("literal", Value("baseline/literal fromBaseUnit/every unit"), 1.3),
+               Against("one look-up", Value("baseline/one-look-up fromBaseUnit/every unit"))])
 
 
 def node_rows():
-    for title, name, floor, operation in (
+    for title, name, baseline, operation in (
             ("`getValue` of a node", "node/getValue", "node read", "fromBaseUnitRaw"),
             ("`setValueStatus` of a node", "node/setValueStatus", "node write", "toBaseUnitRaw"),
             ("`getValueNoLock`", "process data/getValueNoLock", "process data read", "fromBaseUnitRaw"),
             ("`setValueNoLock`", "process data/setValueNoLock", "process data write", "toBaseUnitRaw")):
-        unconverted = Value(f"floor/{floor}")
+        unconverted = Value(f"baseline/{baseline}")
         yield Row(title, Value(name),
                   [Against("unconverted", unconverted),
                    Against("unconverted + by names",
@@ -100,64 +100,64 @@ def node_rows():
     for columns in (10, 1000):
         for operation in ("getValueArray", "setValueArray"):
             yield Row(f"`{operation}`, {columns} columns", Value(f"array/{operation}/{columns}"),
-                      [Against("list by hand", Value(f"floor/list of variants/{columns}"), 1.8),
-                       Against("plain loop", Value(f"floor/plain loop/{columns}"))],
-                      [Against("UDUNITS array", Value(f"peer/UDUNITS array/{columns}"))])
+                      [Against("list by hand", Value(f"baseline/list of variants/{columns}"), 1.8),
+                       Against("plain loop", Value(f"baseline/plain loop/{columns}"))],
+                      [Against("UDUNITS array", Value(f"competitor/UDUNITS array/{columns}"))])
 
 
 def hot_loop_rows():
     yield Row("one value, the conversion found before", Value("conversion/resolved"),
-              [Against("polynomial with hardware `fma`", Value("floor/polynomial with hardware fma"), 1.6)],
-              [Against("UDUNITS converter", Value("peer/UDUNITS converter"))])
+              [Against("polynomial with hardware `fma`", Value("baseline/polynomial with hardware fma"), 1.6)],
+              [Against("UDUNITS converter", Value("competitor/UDUNITS converter"))])
     for count in (10, 1000, 1000000):
         for title, name in (("an array", "run"), ("the conversion found once", "conversion taken once"),
                             ("single conversions", "single conversions")):
             is_array = name == "run"
             yield Row(f"{count:,} numbers, {title}", Value(f"hot loop/{name}/{count}"),
-                      [Against("plain loop", Value(f"floor/plain loop/{count}")),
-                       Against("memcpy", Value(f"floor/memcpy/{count}"),
+                      [Against("plain loop", Value(f"baseline/plain loop/{count}")),
+                       Against("memcpy", Value(f"baseline/memcpy/{count}"),
                                1.5 if is_array and count == 1000000 else None)],
-                      [Against("UDUNITS array", Value(f"peer/UDUNITS array/{count}"),
+                      [Against("UDUNITS array", Value(f"competitor/UDUNITS array/{count}"),
                                2.5 if is_array and count == 1000 else None)])
 
 
 def label_rows():
     for situation in ("unit", "default unit"):
         yield Row(f"`getUnitText`, {situation}", Value(f"label/getUnitText/{situation}"),
-                  [Against("nested look-up", Value(f"floor/label/{situation}"))],
-                  [Against("KUnitConversion", Value("peer/KUnitConversion symbol")),
-                   Against("UDUNITS", Value("peer/UDUNITS symbol"))])
+                  [Against("nested look-up", Value(f"baseline/label/{situation}"))],
+                  [Against("KUnitConversion", Value("competitor/KUnitConversion symbol")),
+                   Against("UDUNITS", Value("competitor/UDUNITS symbol"))])
 
 
 def loading_rows():
     yield Row("loading the shipped documents", Value("loading/shipped documents"),
-              [Against("Qt's parser twice", Value("floor/Qt's parser twice/shipped documents"), 4.0)],
-              [Against("UDUNITS, its own database", Value("peer/UDUNITS loads its database"))])
+              [Against("Qt's parser twice", Value("baseline/Qt's parser twice/shipped documents"), 4.0)],
+              [Against("UDUNITS, its own database", Value("competitor/UDUNITS loads its database"))])
     for count in (100, 1000, 10000, 100000):
         level = [Against("per unit of 1,000", Value("loading/units/1000", per=1000), 1.5)]
         yield Row(f"loading {count:,} units, per unit", Value(f"loading/units/{count}", per=count),
                   (level if count > 1000 else []) +
-                  [Against("Qt's parser twice", Value(f"floor/Qt's parser twice/{count}", per=count))])
+                  [Against("Qt's parser twice", Value(f"baseline/Qt's parser twice/{count}", per=count))])
     for count in (100, 1000, 10000, 100000):
         peak = "peakBytesPerUnit"
         level = [Against("per unit of 1,000", Value("memory/units/1000", peak), 1.5)]
         yield Row(f"peak memory of loading {count:,} units, per unit", Value(f"memory/units/{count}", peak),
                   (level if count > 1000 else []) +
-                  [Against("Qt's document", Value(f"floor/memory of Qt's parser/{count}", peak))],
+                  [Against("Qt's document", Value(f"baseline/memory of Qt's parser/{count}", peak))],
                   at_most=2048.0 if count >= 1000 else None)
     yield Row("memory kept by 100,000 units, per unit", Value("memory/units/100000", "keptBytesPerUnit"),
-              [Against("Qt's document", Value("floor/memory of Qt's parser/100000", "keptBytesPerUnit"))])
+              [Against("Qt's document", Value("baseline/memory of Qt's parser/100000", "keptBytesPerUnit"))])
 
 
 def start_rows():
     for manner in ("blocking", "asynchronous"):
         goal = 1.5 if manner == "blocking" else None
         yield Row(f"start to idle, {manner}", Value(f"start/to idle/{manner}"),
-                  [Against("three calls", Value(f"floor/three calls/{manner}")),
-                   Against("three calls, Qt's parser", Value(f"floor/three calls and Qt's parser/{manner}"), goal),
-                   Against("three calls, loading", Value(f"floor/three calls and loading/{manner}"))])
+                  [Against("three calls", Value(f"baseline/three calls/{manner}")),
+                   Against("three calls, Qt's parser", Value(f"baseline/three calls and Qt's parser/{manner}"), goal),
+                   Against("three calls, loading", Value(f"baseline/three calls and loading/{manner}"))])
         yield Row(f"rebuild after a change, {manner}", Value(f"start/rebuild/{manner}"),
-                  [Against("one call", Value(f"floor/one call/{manner}"))])
+                  [Against("one call", Value(f"baseline/one call/{manner}"))])
         yield Row(f"idle step, {manner}", Value(f"start/idle step/{manner}"), at_most=1000.0)
     for clients in (1, 10, 50):
         yield Row(f"storm of 20 changes, {clients} client processes", Value(f"start/storm/{clients}"))
@@ -167,7 +167,7 @@ def sharing_rows():
     yield Row("copying a `UnitManager`", Value("sharing/copy"))
     for threads in (1, 2):
         yield Row(f"`fromBaseUnit`, {threads} reading at once, wall time by calls", Value(f"sharing/fromBaseUnit/threads:{threads}"),
-                  [Against("one look-up", Value(f"floor/sharing/one look-up/threads:{threads}"))])
+                  [Against("one look-up", Value(f"baseline/sharing/one look-up/threads:{threads}"))])
 
 
 THEMES = [
@@ -231,22 +231,22 @@ def value_text(value, number):
 def line(run, row):
     """The cells of a row; None when the run lacks one of its figures."""
     own = run.get(row.value)
-    floors = [(floor, run.get(floor.value)) for floor in row.floors]
-    peers = [(peer, run.get(peer.value)) for peer in row.peers]
-    if own is None or any(number is None for _, number in floors + peers):
+    baselines = [(baseline, run.get(baseline.value)) for baseline in row.baselines]
+    competitors = [(competitor, run.get(competitor.value)) for competitor in row.competitors]
+    if own is None or any(number is None for _, number in baselines + competitors):
         return None
 
-    ratios = [(floor, own / number) for floor, number in floors]
-    leads = [(peer, number / own) for peer, number in peers]
-    goals = [(f"≤ {floor.goal:g} {floor.label}", ratio <= floor.goal) for floor, ratio in ratios if floor.goal]
-    goals += [(f"≥ {peer.goal:g} times faster than {peer.label}", lead >= peer.goal) for peer, lead in leads if peer.goal]
+    ratios = [(baseline, own / number) for baseline, number in baselines]
+    leads = [(competitor, number / own) for competitor, number in competitors]
+    goals = [(f"≤ {baseline.goal:g} {baseline.label}", ratio <= baseline.goal) for baseline, ratio in ratios if baseline.goal]
+    goals += [(f"≥ {competitor.goal:g} times faster than {competitor.label}", lead >= competitor.goal) for competitor, lead in leads if competitor.goal]
     if row.at_most:
         goals.append((f"≤ {value_text(row.value, row.at_most)}", own <= row.at_most))
     return [
         row.title,
         value_text(row.value, own),
-        "<br>".join(f"{ratio:.2f} {floor.label}" for floor, ratio in ratios),
-        "<br>".join(f"{lead_text(lead)} than {peer.label}" for peer, lead in leads),
+        "<br>".join(f"{ratio:.2f} {baseline.label}" for baseline, ratio in ratios),
+        "<br>".join(f"{lead_text(lead)} than {competitor.label}" for competitor, lead in leads),
         "<br>".join(text for text, _ in goals),
         "<br>".join("yes" if met else "**no**" for _, met in goals),
     ]
@@ -268,10 +268,10 @@ def figures_text(run):
     for title, rows in THEMES:
         lines = [cells for cells in (line(run, row) for row in rows()) if cells]
         parts.append(f"### {title}")
-        parts.append(markdown(["what", "median", "ratio to floors", "compared with peers", "goal", "met"], lines))
+        parts.append(markdown(["what", "median", "ratio to baselines", "compared with competitors", "goal", "met"], lines))
     references = [[name, time_text(run.time(entry))] for name, entry in sorted(run.medians.items())
-                  if name.startswith(("floor/", "peer/")) and "memory" not in name]
-    parts.append("### Floors and peers")
+                  if name.startswith(("baseline/", "competitor/")) and "memory" not in name]
+    parts.append("### Baselines and competitors")
     parts.append(markdown(["what", "median"], references))
     return "\n\n".join(parts)
 

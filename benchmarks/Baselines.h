@@ -8,12 +8,12 @@
 
 #include <vector>
 
-/// The least that a piece of the library's work takes, written by hand on Qt's own containers: what the
-/// library's times are divided by. Holds the shipped documents, read with Qt's own parser.
-class Floors
+/// Hand-written lower bounds for the library's work, on Qt's own containers: the library's times are divided
+/// by theirs. Holds the shipped documents, read with Qt's own parser.
+class Baselines
 {
 public:
-    /// What is known of a unit. Coefficients stand highest degree first.
+    /// Everything known about a unit. Coefficients are ordered from the highest degree to the constant.
     struct Unit
     {
         std::vector<double> polynomial;
@@ -22,15 +22,14 @@ public:
         QVariantMap label;
     };
 
-    Floors();
+    Baselines();
 
     /// The one that all benchmarks use.
-    static const Floors& instance();
+    static const Baselines& instance();
 
     /// The fused polynomial alone. @p coefficients highest degree first
     static double polynomial(const std::vector<double>& coefficients, double x);
-    /// The polynomial with the processor's own fused multiply-add in line, where it has one; otherwise as
-    /// polynomial().
+    /// polynomial() with the processor's own fused multiply-add in line, where it has one.
     static double hardwarePolynomial(const std::vector<double>& coefficients, double x);
     /// The plain loop of it over @p count values.
     static void polynomials(const std::vector<double>& coefficients, const double* in, double* out,

@@ -1,4 +1,4 @@
-#include "Floors.h"
+#include "Baselines.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -23,7 +23,7 @@ std::vector<double> readCoefficients(const QJsonValue& rows)
     return coefficients;
 }
 
-Floors::Unit readUnit(const QJsonObject& object)
+Baselines::Unit readUnit(const QJsonObject& object)
 {
     return {readCoefficients(object.value(QLatin1String("Polynomial"))),
             readCoefficients(object.value(QLatin1String("InversePolynomial"))),
@@ -42,7 +42,7 @@ QJsonObject parse(const QString& text)
 
 } // namespace
 
-Floors::Floors()
+Baselines::Baselines()
 {
     const QString prefix = PropertyManagerConst::getUnitTypeNamePrefix();
     const QJsonObject types = parse(Documents::shippedUnits());
@@ -63,13 +63,13 @@ Floors::Floors()
     }
 }
 
-const Floors& Floors::instance()
+const Baselines& Baselines::instance()
 {
-    static const Floors floors;
-    return floors;
+    static const Baselines baselines;
+    return baselines;
 }
 
-double Floors::polynomial(const std::vector<double>& coefficients, double x)
+double Baselines::polynomial(const std::vector<double>& coefficients, double x)
 {
     double result = 0.0;
     for (const double coefficient : coefficients)
@@ -81,7 +81,7 @@ namespace {
 
 double fusedPolynomial(const std::vector<double>& coefficients, double x)
 {
-    return Floors::polynomial(coefficients, x);
+    return Baselines::polynomial(coefficients, x);
 }
 
 #ifdef __x86_64__
@@ -105,24 +105,24 @@ const auto hardware = &fusedPolynomial;
 
 } // namespace
 
-double Floors::hardwarePolynomial(const std::vector<double>& coefficients, double x)
+double Baselines::hardwarePolynomial(const std::vector<double>& coefficients, double x)
 {
     return hardware(coefficients, x);
 }
 
-void Floors::polynomials(const std::vector<double>& coefficients, const double* in, double* out,
-                         std::size_t count)
+void Baselines::polynomials(const std::vector<double>& coefficients, const double* in, double* out,
+                            std::size_t count)
 {
     for (std::size_t index = 0; index < count; ++index)
         out[index] = polynomial(coefficients, in[index]);
 }
 
-uint Floors::hashKeys(const QString& unitType, const QString& unit)
+uint Baselines::hashKeys(const QString& unitType, const QString& unit)
 {
     return qHash(unitType, 1) ^ qHash(unit, 1);
 }
 
-const Floors::Unit* Floors::find(const QString& unitType, const QString& unit) const
+const Baselines::Unit* Baselines::find(const QString& unitType, const QString& unit) const
 {
     const auto units = m_units.constFind(unitType);
     if (units == m_units.constEnd())
@@ -131,35 +131,36 @@ const Floors::Unit* Floors::find(const QString& unitType, const QString& unit) c
     return found != units->constEnd() ? &*found : nullptr;
 }
 
-double Floors::nested(double value, const QString& unitType, const QString& unit) const
+double Baselines::nested(double value, const QString& unitType, const QString& unit) const
 {
     const Unit* found = find(unitType, unit);
     return found ? polynomial(found->polynomial, value) : value;
 }
 
-QVariant Floors::nestedVariant(const QVariant& value, const QString& unitType, const QString& unit) const
+QVariant Baselines::nestedVariant(const QVariant& value, const QString& unitType, const QString& unit) const
 {
     return nested(value.toDouble(), unitType, unit);
 }
 
-QString Floors::unitOrDefault(const QString& unitType, const QString& unit) const
+QString Baselines::unitOrDefault(const QString& unitType, const QString& unit) const
 {
     return unit.isEmpty() ? m_defaultUnits.value(unitType) : unit;
 }
 
-QVariant Floors::literalFromBaseUnit(const QVariant& value, const QString& unitType,
-                                     const QString& unit) const
+QVariant Baselines::literalFromBaseUnit(const QVariant& value, const QString& unitType,
+                                        const QString& unit) const
 {
     return literal(value, unitType, unit, &Unit::polynomial);
 }
 
-QVariant Floors::literalToBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const
+QVariant Baselines::literalToBaseUnit(const QVariant& value, const QString& unitType,
+                                      const QString& unit) const
 {
     return literal(value, unitType, unit, &Unit::inversePolynomial);
 }
 
-QVariant Floors::literal(const QVariant& value, const QString& unitType, const QString& unit,
-                         Coefficients coefficients) const
+QVariant Baselines::literal(const QVariant& value, const QString& unitType, const QString& unit,
+                            Coefficients coefficients) const
 {
     QVariant converted = value;
     if (unitType.count(separator) != separatorsOfFixedUnit) {
@@ -177,19 +178,20 @@ QVariant Floors::literal(const QVariant& value, const QString& unitType, const Q
     return found ? QVariant(FloatRound::roundValue(converted.toDouble(), found->decimalPlaces)) : converted;
 }
 
-QVariant Floors::resolvedFromBaseUnit(const QVariant& value, const QString& unitType,
-                                      const QString& unit) const
+QVariant Baselines::resolvedFromBaseUnit(const QVariant& value, const QString& unitType,
+                                         const QString& unit) const
 {
     return resolved(value, unitType, unit, &Unit::polynomial);
 }
 
-QVariant Floors::resolvedToBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const
+QVariant Baselines::resolvedToBaseUnit(const QVariant& value, const QString& unitType,
+                                       const QString& unit) const
 {
     return resolved(value, unitType, unit, &Unit::inversePolynomial);
 }
 
-QVariant Floors::resolved(const QVariant& value, const QString& unitType, const QString& unit,
-                          Coefficients coefficients) const
+QVariant Baselines::resolved(const QVariant& value, const QString& unitType, const QString& unit,
+                             Coefficients coefficients) const
 {
     const auto found = m_resolved.constFind({QStringView(unitType), QStringView(unit)});
     if (found == m_resolved.constEnd())
@@ -197,8 +199,8 @@ QVariant Floors::resolved(const QVariant& value, const QString& unitType, const 
     return FloatRound::roundValue(polynomial((*found).*coefficients, value.toDouble()), found->decimalPlaces);
 }
 
-QVariant Floors::resolvedFixedUnit(const QVariant& value, const QString& unitType,
-                                   const QString& /*unit*/) const
+QVariant Baselines::resolvedFixedUnit(const QVariant& value, const QString& unitType,
+                                      const QString& /*unit*/) const
 {
     if (unitType.count(separator) != separatorsOfFixedUnit)
         return value;
@@ -210,12 +212,12 @@ QVariant Floors::resolvedFixedUnit(const QVariant& value, const QString& unitTyp
                : QVariant(FloatRound::roundValue(value.toDouble(), found->decimalPlaces));
 }
 
-QString Floors::defaultUnit(const QString& unitType) const
+QString Baselines::defaultUnit(const QString& unitType) const
 {
     return m_defaultUnits.value(unitType);
 }
 
-QString Floors::label(const QString& unitType, const QString& language, const QString& unit) const
+QString Baselines::label(const QString& unitType, const QString& language, const QString& unit) const
 {
     const Unit* found = find(unitType, unitOrDefault(unitType, unit));
     return found ? found->label.value(language).toString() : QString();

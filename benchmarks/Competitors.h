@@ -6,7 +6,7 @@
 #include <memory>
 
 /// The other unit libraries of the system, on the same work.
-namespace Peers {
+namespace Competitors {
 
 /// KUnitConversion by names, as its users write it.
 double convertByKUnitConversion(double value, const QString& from, const QString& to);
@@ -37,4 +37,4 @@ private:
     const std::unique_ptr<Private> m_private;
 };
 
-} // namespace Peers
+} // namespace Competitors

@@ -1,4 +1,4 @@
-#include "Peers.h"
+#include "Competitors.h"
 
 #include <KUnitConversion/Converter>
 #include <udunits2.h>
@@ -37,7 +37,7 @@ ConverterPointer makeConverter(const char* from, const char* to)
 
 } // namespace
 
-namespace Peers {
+namespace Competitors {
 
 double convertByKUnitConversion(double value, const QString& from, const QString& to)
 {
@@ -89,4 +89,4 @@ void UdunitsConverter::convert(const double* in, double* out, std::size_t count)
     cv_convert_doubles(m_private->converter.get(), in, count, out);
 }
 
-} // namespace Peers
+} // namespace Competitors
