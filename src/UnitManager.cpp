@@ -10,6 +10,7 @@
 #include "RowConversion.h"
 #include "UnitConversion/FoundConversion.h"
 #include "UnitManagerDefinitions.h"
+#include "WriteResult.h"
 
 namespace {
 
@@ -17,8 +18,6 @@ const char* const sourceName = "UnitManager";
 
 // Device logs are searched by this function, whichever operation rounds.
 const char* const roundingFunction = "QVariant UnitManager::roundDouble(const QVariant&, unsigned int) const";
-
-const int writeFailed = 2;
 
 /// The number of rows; none unless unit types and cells cover every column before @p endColumn.
 std::optional<unsigned int> countRows(const Array2dDataTypeWrapper& array, const QStringList& unitTypes,
@@ -256,17 +255,17 @@ int UnitManager::setValueStatus(const QString& key, const BaseClassSharedPointer
 {
     const BaseClassSharedPointer child = node ? node->getChild(key) : BaseClassSharedPointer();
     if (!child)
-        return writeFailed;
+        return WriteResult::failed;
     QVariant converted = value;
     if (!core.convertForStorage(*child, converted, unit))
-        return writeFailed;
+        return WriteResult::failed;
     return child->setProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyValue(), converted);
 }
 
 bool UnitManager::setValue(const QString& key, const BaseClassSharedPointer& node, const QVariant& value,
                            const QString& unit) const
 {
-    return setValueStatus(key, node, value, unit) < writeFailed;
+    return WriteResult::isSuccess(setValueStatus(key, node, value, unit));
 }
 
 QString UnitManager::getUnitText(const QString& key, const BaseClassSharedPointer& node,

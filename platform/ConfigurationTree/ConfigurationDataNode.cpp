@@ -49,7 +49,7 @@ int ConfigurationDataNode::setProperty(const QString& propertyKey, const QVarian
         return WriteStatus::refused;
     const QVariant stored = NodeValue::asStored(value);
     if (NodeValue::isEqual(getProperty(propertyKey), stored))
-        return WriteStatus::equalAlready;
+        return WriteStatus::unchanged;
     const QString typeBefore = type();
     storeProperty(propertyKey, stored);
     if (propertyKey == Definitions::getKeyDataPropertyValue() && type() != typeBefore)

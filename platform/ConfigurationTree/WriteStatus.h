@@ -4,7 +4,7 @@
 namespace WriteStatus {
 
 constexpr int changed = 0;
-constexpr int equalAlready = 1;
+constexpr int unchanged = 1;
 constexpr int refused = 2;
 
 } // namespace WriteStatus

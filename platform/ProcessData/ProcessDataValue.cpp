@@ -2,17 +2,13 @@
 
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataTools.h"
+#include "WriteStatus.h"
 
 #include <mutex>
 
 namespace {
 
 using Guard = std::lock_guard<const ProcessDataValue>;
-
-// What a write to a node answers.
-constexpr int statusChanged = 0;
-constexpr int statusEqualAlready = 1;
-constexpr int statusRefused = 2;
 
 bool isValueKey(const QString& propertyKey)
 {
@@ -92,33 +88,33 @@ bool ProcessDataValue::hasProperty(const QString& propertyKey) const
 int ProcessDataValue::changeProperty(const QString& propertyKey, const QVariant& value)
 {
     const Guard guard(*this);
-    return hasProperty(propertyKey) ? setProperty(propertyKey, value) : statusRefused;
+    return hasProperty(propertyKey) ? setProperty(propertyKey, value) : WriteStatus::refused;
 }
 
 int ProcessDataValue::setProperty(const QString& propertyKey, const QVariant& value)
 {
     const Guard guard(*this);
     if (m_properties.value(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyReadOnly()).toBool())
-        return statusRefused;
+        return WriteStatus::refused;
     if (isValueKey(propertyKey))
         return setNumber(value);
     if (!value.isValid())
-        return statusRefused;
+        return WriteStatus::refused;
 
     const QVariant old = m_properties.value(propertyKey);
     if (old.userType() == value.userType() && old == value)
-        return statusEqualAlready;
+        return WriteStatus::unchanged;
 
     m_properties.set(propertyKey, value);
-    return statusChanged;
+    return WriteStatus::changed;
 }
 
 int ProcessDataValue::setNumber(const QVariant& number)
 {
     if (!ConfigurationAndProcessDataTools::isVariantNumber(number))
-        return statusRefused;
+        return WriteStatus::refused;
     if (m_value.getErrorType() == ProcessDataDefinitions::ErrorTypeNone && m_value.getValue() == number)
-        return statusEqualAlready;
+        return WriteStatus::unchanged;
     setValueNoLock(ProcessValue(number, ProcessDataDefinitions::ErrorTypeNone));
-    return statusChanged;
+    return WriteStatus::changed;
 }

@@ -6,6 +6,7 @@
 #include "Diagnostics.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 #include "UnitManipulatorBase.h"
+#include "WriteResult.h"
 
 namespace {
 
@@ -14,8 +15,6 @@ const char* const sourceName = "UnitManagerDevice/UnitManagerWrapper";
 /// The name of a source that is not configured, the default unit, and the result without a text: empty, and
 /// not null.
 const QLatin1String noText("");
-
-const int writeFailed = 2;
 
 } // namespace
 
@@ -137,16 +136,16 @@ int UnitManagerWrapper::setValueStatus(const QString& key,
 {
     const int status = *this ? m_unitManager->setValueStatus(key, node, value, unit)
                              : ConfigurationAndProcessDataTools::setConfigValueWithStatus(key, node, value);
-    if (status >= writeFailed)
+    if (!WriteResult::isSuccess(status))
         return status;
-    return resolveDependency(key, node, BaseClassSharedPointer()) ? status : writeFailed;
+    return resolveDependency(key, node, BaseClassSharedPointer()) ? status : WriteResult::failed;
 }
 
 bool UnitManagerWrapper::setValue(const QString& key,
                                   const QSharedPointer<ConfigurationAndProcessDataBase>& node,
                                   const QVariant& value, const QString& unit)
 {
-    return setValueStatus(key, node, value, unit) < writeFailed;
+    return WriteResult::isSuccess(setValueStatus(key, node, value, unit));
 }
 
 QString UnitManagerWrapper::getUnitText(const QString& key,

@@ -4,13 +4,11 @@
 #include "Diagnostics.h"
 #include "ProcessMeasurementAttributes.h"
 #include "UnitManagerDevice/UnitManagerWrapper.h"
+#include "WriteResult.h"
 
 namespace {
 
 const char* const sourceName = "UnitManagerDevice/UnitManipulatorMeasurementRange";
-
-const int valueChanged = 0;
-const int valueWasEqual = 1;
 
 } // namespace
 
@@ -39,8 +37,8 @@ void UnitManipulatorMeasurementRange::manipulate(const QSharedPointer<Configurat
     attributes.setUnitText(0, textMap);
 
     const int status = node->changeProperty(key, attributes.getMeasurementAttributeObject());
-    if (status == valueChanged || status == valueWasEqual)
+    if (status == WriteResult::changed || status == WriteResult::unchanged)
         handled = true;
-    if (status == valueChanged)
+    if (status == WriteResult::changed)
         changed = true;
 }

@@ -8,7 +8,7 @@ from project import Project, finish
 
 # From the lowest layer up; a file may include its own layer and those before it. The first match counts.
 LAYERS = [
-    ("common", r"Diagnostics|FixedUnit|UnitManagerDefinitions|UnitManagerExport"),
+    ("common", r"Diagnostics|FixedUnit|WriteResult|UnitManagerDefinitions|UnitManagerExport"),
     ("value conversion", r"UnitConversion/(Factory|ConverterConfiguration|PolynomialEvaluation|Value\w+)"),
     ("catalogue and texts", r"UnitConversion/\w+|UnitTextManagement/\w+"),
     ("core", r"UnitManagerCore|RowConversion"),

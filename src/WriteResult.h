@@ -1,0 +1,17 @@
+#pragma once
+
+/// The status that a node returns for a property write. Every value above WriteResult::unchanged is a
+/// failure.
+namespace WriteResult {
+
+constexpr int changed = 0;
+constexpr int unchanged = 1; ///< written, but equal to the value before
+constexpr int failed = 2;
+
+/// Whether a write with this status stored the value.
+constexpr bool isSuccess(int status)
+{
+    return status <= unchanged;
+}
+
+} // namespace WriteResult
