@@ -56,7 +56,7 @@ ConfigurationFileService::ConfigurationFileService(const QString& directory, QOb
         files.append(document.path());
     }
     // Watched before they are read, so that no change falls between.
-    m_watcher = std::make_unique<DocumentWatcher>(files, DocumentWatcher::Patience());
+    m_watcher = std::make_unique<DocumentWatcher>(files, DocumentWatcher::Debounce());
     connect(m_watcher.get(), &DocumentWatcher::touched, this, &ConfigurationFileService::update);
     update();
 }

@@ -6,8 +6,8 @@
 
 #include <algorithm>
 
-DocumentWatcher::DocumentWatcher(const QStringList& files, Patience patience, QObject* parent)
-    : QObject(parent), m_files(files), m_patience(patience)
+DocumentWatcher::DocumentWatcher(const QStringList& files, Debounce debounce, QObject* parent)
+    : QObject(parent), m_files(files), m_debounce(debounce)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &DocumentWatcher::report);
@@ -79,9 +79,9 @@ void DocumentWatcher::lookAt(const QString& directory)
 void DocumentWatcher::postpone()
 {
     if (!m_timer.isActive())
-        m_deadline.setRemainingTime(m_patience.longest);
+        m_deadline.setRemainingTime(m_debounce.longest);
     const std::chrono::milliseconds left(m_deadline.remainingTime());
-    m_timer.start(std::min(m_patience.quiet, left));
+    m_timer.start(std::min(m_debounce.quiet, left));
 }
 
 void DocumentWatcher::report()

@@ -25,7 +25,7 @@ class DocumentWatcher : public QObject
 
 public:
     /// How long it takes until a burst of changes is reported.
-    struct Patience
+    struct Debounce
     {
         /// Without a further change.
         std::chrono::milliseconds quiet{100};
@@ -36,7 +36,7 @@ public:
     /// Watches from now on. Logs once for each place that cannot be watched.
     ///
     /// @param files absolute paths
-    DocumentWatcher(const QStringList& files, Patience patience, QObject* parent = nullptr);
+    DocumentWatcher(const QStringList& files, Debounce debounce, QObject* parent = nullptr);
     ~DocumentWatcher() override;
 
 signals:
@@ -55,7 +55,7 @@ private:
     void report();
 
     const QStringList m_files;
-    const Patience m_patience;
+    const Debounce m_debounce;
     std::unique_ptr<QFileSystemWatcher> m_watcher;
     QTimer m_timer;
     QDeadlineTimer m_deadline;

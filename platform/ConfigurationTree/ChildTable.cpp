@@ -2,13 +2,13 @@
 
 namespace {
 
-const int longestList = 8;
+const int maxLength = 8;
 
 } // namespace
 
 void ChildTable::insert(const QString& key, const BaseClassSharedPointer& child)
 {
-    if (!m_map.isEmpty() || m_list.size() == longestList) {
+    if (!m_map.isEmpty() || m_list.size() == maxLength) {
         map();
         m_map.insert(key, child);
         return;

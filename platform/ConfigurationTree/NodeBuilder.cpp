@@ -12,7 +12,7 @@ namespace {
 using Definitions = ConfigurationAndProcessDataDefinitions;
 using NodePointer = QSharedPointer<ConfigurationDataNode>;
 
-const std::size_t mostLevels = 1024;
+const std::size_t maxDepth = 1024;
 
 // Keys, languages and units repeat throughout a document. The table's size bounds what is kept for sharing,
 // so that a document full of different strings costs nothing.
@@ -124,7 +124,7 @@ bool NodeBuilder::end_array()
 bool NodeBuilder::open(Kind kind)
 {
     const bool isDocument = m_levels.empty();
-    if (m_levels.size() == mostLevels || (isDocument && kind != Kind::Node))
+    if (m_levels.size() == maxDepth || (isDocument && kind != Kind::Node))
         return false;
     m_levels.push_back({kind, kind == Kind::Node ? NodePointer::create() : NodePointer(), {}, {}, {}});
     return true;

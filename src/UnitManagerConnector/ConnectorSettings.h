@@ -14,7 +14,7 @@ enum Entry
     Object = 1,        ///< object name
     Configuration = 2, ///< name of the configuration that is asked for
     Kind = 3,          ///< which read call serves it
-    Necessity = 4,     ///< mandatory or optional
+    Requirement = 4,     ///< mandatory or optional
     EntryCount = 5
 };
 

@@ -23,8 +23,8 @@ bool openSource(UnitManagerConnectionData& data, ConnectorType type, QList<Conne
         return true;
     }
     const QString& configuration = settings.at(ConnectorSettings::Configuration);
-    const bool isMandatory = settings.at(ConnectorSettings::Necessity) == QLatin1String("mandatory");
-    const bool isOptional = settings.at(ConnectorSettings::Necessity) == QLatin1String("optional");
+    const bool isMandatory = settings.at(ConnectorSettings::Requirement) == QLatin1String("mandatory");
+    const bool isOptional = settings.at(ConnectorSettings::Requirement) == QLatin1String("optional");
     if (!isMandatory && !isOptional)
         return true;
     if (status == UnitManagerConnectorDefinitions::Connected) {

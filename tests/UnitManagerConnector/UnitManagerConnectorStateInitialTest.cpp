@@ -34,8 +34,8 @@ private Q_SLOTS:
     void aFailureDropsWhatIsThere();
     void aShortListIsOpenedButNotRead_data();
     void aShortListIsOpenedButNotRead();
-    void anUnknownNecessityIsOpenedButNotRead_data();
-    void anUnknownNecessityIsOpenedButNotRead();
+    void anUnknownRequirementIsOpenedButNotRead_data();
+    void anUnknownRequirementIsOpenedButNotRead();
     void aBadLastSourceDoesNotHoldTheMachine_data();
     void aBadLastSourceDoesNotHoldTheMachine();
     void withoutSourcesTheListIsEmpty();
@@ -247,20 +247,20 @@ void UnitManagerConnectorStateInitialTest::aShortListIsOpenedButNotRead()
     }
 }
 
-void UnitManagerConnectorStateInitialTest::anUnknownNecessityIsOpenedButNotRead_data()
+void UnitManagerConnectorStateInitialTest::anUnknownRequirementIsOpenedButNotRead_data()
 {
-    QTest::addColumn<QString>("necessity");
+    QTest::addColumn<QString>("requirement");
     QTest::newRow("nothing") << "";
     QTest::newRow("another word") << "desirable";
     QTest::newRow("mandatory in capitals") << "Mandatory";
     QTest::newRow("optional in capitals") << "OPTIONAL";
 }
 
-void UnitManagerConnectorStateInitialTest::anUnknownNecessityIsOpenedButNotRead()
+void UnitManagerConnectorStateInitialTest::anUnknownRequirementIsOpenedButNotRead()
 {
-    QFETCH(const QString, necessity);
+    QFETCH(const QString, requirement);
     RecordingWrapper wrapper;
-    wrapper.data().connectorSettings()[units][4] = necessity;
+    wrapper.data().connectorSettings()[units][4] = requirement;
     State state(&wrapper);
     LogCapture log;
     state.postEvent(StateMachineEvent());
@@ -278,7 +278,7 @@ void UnitManagerConnectorStateInitialTest::aBadLastSourceDoesNotHoldTheMachine_d
     QTest::newRow("a short list, its service absent")
         << QStringList{TestSource::absentModule, "Object", "Name", "configuration.dependency"}
         << QStringList{"Unable to find handling for file type"};
-    QTest::newRow("an unknown necessity, its service absent")
+    QTest::newRow("an unknown requirement, its service absent")
         << QStringList{TestSource::absentModule, "Object", "Name", "configuration.dependency", "any"}
         << QStringList();
 }
