@@ -57,7 +57,7 @@ show_until "unitmanager watch" 6 "adopted"
 echo
 echo "Edit default-units.json: pressure in kilopascal"
 change default-units.json 's/"HectoPascal"/"KiloPascal"/'
-show_until service 4 "took"
+show_until service 4 "loaded"
 show_until device 5 "->"
 show_until "unitmanager watch" 6 "adopted"
 
@@ -69,7 +69,7 @@ show_until service 4 "cannot use"
 echo
 echo "Edit units.json well: temperatures with two decimals"
 change units.json '/"DegreeCelsius"/,/}/ s/"DecimalPlaces": 1/"DecimalPlaces": 2/'
-show_until service 4 "took"
+show_until service 4 "loaded"
 show_until device 5 "->"
 show_until "unitmanager watch" 6 "adopted"
 

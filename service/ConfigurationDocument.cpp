@@ -35,7 +35,7 @@ bool ConfigurationDocument::update()
     }
     const bool isNew = m_text != json.text;
     m_text = json.text;
-    qInfo().noquote() << m_name + ':' << (isNew ? "took" : "unchanged in") << m_path;
+    qInfo().noquote() << m_name + ':' << (isNew ? "loaded" : "unchanged in") << m_path;
     return isNew;
 }
 
@@ -54,5 +54,5 @@ JsonText ConfigurationDocument::check(const DocumentFile::Content& content) cons
 void ConfigurationDocument::logRefusal(const QString& problem) const
 {
     qWarning().noquote() << m_name + ": cannot use" << m_path + ':' << problem + ';'
-                         << (m_text ? "the last good document stays in force" : "there is none to serve");
+                         << (m_text ? "keeping the last valid document" : "no document to serve");
 }

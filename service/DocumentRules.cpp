@@ -48,15 +48,15 @@ QString DocumentRules::unitsProblem(const JsonText& json)
     UnitManager units;
     if (units.updateUnitConversionByJsonString(json.text))
         return {};
-    return units.getListofUnitTypes().isEmpty() ? QStringLiteral("it holds no unit type")
-                                                : QStringLiteral("it holds no unit label");
+    return units.getListofUnitTypes().isEmpty() ? QStringLiteral("it contains no unit type")
+                                                : QStringLiteral("it contains no unit label");
 }
 
 QString DocumentRules::defaultUnitsProblem(const JsonText& json)
 {
     const QStringList keys = json.root.keys();
     if (std::all_of(keys.begin(), keys.end(), isProperty))
-        return QStringLiteral("it holds no default unit");
+        return QStringLiteral("it contains no default unit");
     const QString wrong = wrongEntry(json.root, isSelection);
     return wrong.isEmpty() ? QString() : wrong + QStringLiteral(" is not a selection of a unit");
 }

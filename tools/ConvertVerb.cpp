@@ -28,7 +28,7 @@ ConvertVerb::ConvertVerb()
                   {"TO", "Unit to convert to; the default unit when left out."}},
                  valueRules() +
                      "With - every line of input gives a line of output. Blank lines and lines that\n"
-                     "begin with # are passed over. A line that is no number gives a message with its\n"
+                     "begin with # are skipped. A line that is not a number gives a message with its\n"
                      "line number, and the next line is read; the exit code is then 1.\n\n"
                      "Examples:\n"
                      "  unitmanager convert 1234.56 Pressure HectoPascal Bar\n"

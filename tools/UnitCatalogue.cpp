@@ -47,9 +47,9 @@ Result<UnitCatalogue> UnitCatalogue::load(const QString& unitsPath, const QStrin
     // The result does not matter: it is false also for a document without labels, which is good enough here.
     catalogue.updateUnitConversionByJsonString(units->text);
     if (catalogue.getListofUnitTypes().isEmpty())
-        return Failure{unitsPath + ": holds no unit types that the library can read"};
+        return Failure{unitsPath + ": contains no unit types that the library can read"};
     if (!catalogue.updateDefaultUnitsByJsonString(defaultUnits->text) && defaultUnits->hasContent)
-        return Failure{defaultUnitsPath + ": holds no default units that the library can read"};
+        return Failure{defaultUnitsPath + ": contains no default units that the library can read"};
     return catalogue;
 }
 

@@ -16,7 +16,7 @@ int ValueVerb::answer(const UnitCatalogue& catalogue, const QCommandLineParser& 
                       const QStringList& arguments)
 {
     if (OutputOptions::isRaw(options) && OutputOptions::isJson(options))
-        return usageError("--raw and --json exclude each other");
+        return usageError("--raw and --json cannot be combined");
     const Result<UnitType> type = catalogue.unitType(arguments[1]);
     if (!type)
         return fail(type.error());
@@ -36,7 +36,7 @@ int ValueVerb::valueError(const QString& text) const
 QString ValueVerb::valueRules()
 {
     return "VALUE has a decimal point in every locale and may have a sign and an exponent.\n"
-           "nan stands for no value and is never converted; inf and -inf are taken as they\n"
+           "nan means no value and is never converted; inf and -inf are taken as they\n"
            "are. An empty unit name means the default unit. Values of a fixed unit, such as\n"
            "Pressure/Bar, and of NoUnit are never converted; FROM may then be left out.\n\n";
 }

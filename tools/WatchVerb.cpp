@@ -70,7 +70,7 @@ WatchVerb::WatchVerb()
             {},
             "Prints a line when something happens: 'waiting' when there is no configuration\n"
             "yet or a changed one is being read, 'ready' when that is done, and 'adopted'\n"
-            "with the numbers of unit types and units for every configuration taken up.\n"
+            "with the numbers of unit types and units for every configuration that is loaded.\n"
             "Without service it waits for one. SIGINT and SIGTERM end it with exit code 0.\n\n"
             "Example:\n"
             "  unitmanager watch --bus system"})
@@ -89,7 +89,8 @@ int WatchVerb::run(const QCommandLineParser& options, const QStringList& /*argum
     if (options.isSet(busOption)) {
         const QString bus = options.value(busOption);
         if (!isBus(bus))
-            return usageError(Console::quoted(bus) + " is no bus: session, system or a D-Bus address");
+            return usageError(Console::quoted(bus) +
+                              " is not a valid bus: expected session, system or a D-Bus address");
         qputenv("DEVICE_BUS", bus.toLocal8Bit());
     }
 

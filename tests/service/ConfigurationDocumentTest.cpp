@@ -59,12 +59,12 @@ void ConfigurationDocumentTest::goodTextComesIntoForce()
 {
     QVERIFY(m_document->update());
     QCOMPARE(m_document->text(), QString("{\"a\": 1}"));
-    QCOMPARE(m_log->takeTexts(), QStringList{"Name: took " + m_path});
+    QCOMPARE(m_log->takeTexts(), QStringList{"Name: loaded " + m_path});
 
     QVERIFY(TestFiles::write(m_path, "{\"a\": 2}"));
     QVERIFY(m_document->update());
     QCOMPARE(m_document->text(), QString("{\"a\": 2}"));
-    QCOMPARE(m_log->takeTexts(), QStringList{"Name: took " + m_path});
+    QCOMPARE(m_log->takeTexts(), QStringList{"Name: loaded " + m_path});
 }
 
 void ConfigurationDocumentTest::sameTextChangesNothing()
@@ -103,7 +103,7 @@ void ConfigurationDocumentTest::lastGoodTextStaysInForce()
     QCOMPARE(messages.size(), 1);
     QCOMPARE(messages[0].type, QtWarningMsg);
     QCOMPARE(messages[0].text,
-             "Name: cannot use " + m_path + ": " + reason + "; the last good document stays in force");
+             "Name: cannot use " + m_path + ": " + reason + "; keeping the last valid document");
 }
 
 void ConfigurationDocumentTest::withoutGoodTextThereIsNone()
@@ -111,8 +111,8 @@ void ConfigurationDocumentTest::withoutGoodTextThereIsNone()
     QVERIFY(QFile::remove(m_path));
     QVERIFY(!m_document->update());
     QVERIFY(!m_document->text());
-    QCOMPARE(m_log->takeTexts(), QStringList{"Name: cannot use " + m_path +
-                                             ": No such file or directory; there is none to serve"});
+    QCOMPARE(m_log->takeTexts(),
+             QStringList{"Name: cannot use " + m_path + ": No such file or directory; no document to serve"});
 }
 
 void ConfigurationDocumentTest::emptyFileIsRefusedAtOnce()
@@ -120,7 +120,7 @@ void ConfigurationDocumentTest::emptyFileIsRefusedAtOnce()
     QVERIFY(TestFiles::write(m_path, ""));
     QVERIFY(!m_document->update());
     QCOMPARE(m_log->takeTexts(),
-             QStringList{"Name: cannot use " + m_path + ": it is empty; there is none to serve"});
+             QStringList{"Name: cannot use " + m_path + ": it is empty; no document to serve"});
 }
 
 void ConfigurationDocumentTest::refusalIsLoggedOnce()

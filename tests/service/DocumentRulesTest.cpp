@@ -44,12 +44,12 @@ void DocumentRulesTest::units_data()
 {
     addDocuments({
         {"good", {TestFiles::units("bar"), ""}},
-        {"no unit type", {"{}", "it holds no unit type"}},
-        {"properties only", {R"({"@displayPosition": 0})", "it holds no unit type"}},
-        {"unit type without units", {R"({"Pressure": {}})", "it holds no unit label"}},
+        {"no unit type", {"{}", "it contains no unit type"}},
+        {"properties only", {R"({"@displayPosition": 0})", "it contains no unit type"}},
+        {"unit type without units", {R"({"Pressure": {}})", "it contains no unit label"}},
         {"unit without label",
          {R"({"Pressure": {"Bar": {"@displayPosition": 0, "Polynomial": [[0], [1]]}}})",
-          "it holds no unit label"}},
+          "it contains no unit label"}},
     });
 }
 
@@ -70,7 +70,7 @@ void DocumentRulesTest::defaultUnits_data()
          {R"({"Pressure": {"@type": "Selection", "@value": "UnitManager/UnitType/Pressure/Bar"}})", ""}},
         {"further properties",
          {R"({"Pressure": {"@type": "Selection", "@value": "Bar", "@readOnly": true}})", ""}},
-        {"no entry", {"{}", "it holds no default unit"}},
+        {"no entry", {"{}", "it contains no default unit"}},
         {"unit without selection",
          {R"({"Pressure": "Bar"})", "its entry \"Pressure\" is not a selection of a unit"}},
         {"type missing",

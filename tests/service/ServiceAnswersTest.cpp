@@ -129,7 +129,7 @@ void ServiceAnswersTest::shippedDocumentsAreServed()
         QVERIFY(QFile::copy(QString(UNITMANAGER_SOURCE_DIR "/config/") + name, served.path(name)));
     }
     QVERIFY(served.start());
-    QCOMPARE(served.service().log().count(": took "), 3);
+    QCOMPARE(served.service().log().count(": loaded "), 3);
     QCOMPARE(served.service().log().count('\n'), 3);
     QVERIFY(served.client().text("UnitManagerConfiguration").contains("\"HectoPascal\""));
 }

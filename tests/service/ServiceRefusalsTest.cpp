@@ -45,7 +45,7 @@ void ServiceRefusalsTest::badTextIsRefused_data()
                                << "it is larger than 16777216 bytes";
     QTest::newRow("empty") << QByteArray() << "it is empty";
     QTest::newRow("list") << QByteArray("[]") << "its root is not an object";
-    QTest::newRow("no unit type") << QByteArray("{}") << "it holds no unit type";
+    QTest::newRow("no unit type") << QByteArray("{}") << "it contains no unit type";
 }
 
 void ServiceRefusalsTest::badTextIsRefused()
@@ -59,8 +59,7 @@ void ServiceRefusalsTest::badTextIsRefused()
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QCOMPARE(served.client().text(object), QString(TestFiles::units("first")));
     const QString message = "configuration-file-service: warning: UnitManager/UnitType: cannot use " +
-                            served.path("units.json") + ": " + reason +
-                            "; the last good document stays in force\n";
+                            served.path("units.json") + ": " + reason + "; keeping the last valid document\n";
     QTRY_VERIFY2_WITH_TIMEOUT(served.service().log().contains(message), qPrintable(served.service().log()),
                               waitLimit);
 
@@ -92,7 +91,7 @@ void ServiceRefusalsTest::removedDocumentStaysInForce()
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QCOMPARE(served.client().text(object), QString(TestFiles::units("first")));
-    const QString message = "units.json: No such file or directory; the last good document stays in force\n";
+    const QString message = "units.json: No such file or directory; keeping the last valid document\n";
     QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count(message), 1, waitLimit);
 
     QVERIFY(TestFiles::write(served.path("units.json"), TestFiles::units("first")));
@@ -107,7 +106,7 @@ void ServiceRefusalsTest::eachRefusalIsLoggedOnce()
     ServedDirectory served;
     QVERIFY(served.start());
 
-    const QString message = "line 1, column 2: unterminated object; the last good document stays in force\n";
+    const QString message = "line 1, column 2: unterminated object; keeping the last valid document\n";
     QVERIFY(TestFiles::replace(served.path("units.json"), "{a"));
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QCOMPARE(served.settledAnnouncements(), QStringList());
@@ -140,7 +139,7 @@ void ServiceRefusalsTest::documentMayComeLater()
         QVERIFY(TestFiles::write(served.path("units.json"), broken.toUtf8()));
     QVERIFY(served.start());
     QCOMPARE(served.client().text(object), noDocument);
-    QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count("; there is none to serve\n"), 3, waitLimit);
+    QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count("; no document to serve\n"), 3, waitLimit);
 
     QVERIFY(QDir().mkpath(served.directory()));
     QVERIFY(TestFiles::write(served.path("units.json"), TestFiles::units("first")));

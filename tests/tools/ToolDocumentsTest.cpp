@@ -104,7 +104,7 @@ void ToolDocumentsTest::namesAFileThatIsNoDocument_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QByteArray>("reason");
-    const QByteArray noTypes = "holds no unit types that the library can read";
+    const QByteArray noTypes = "contains no unit types that the library can read";
     QTest::newRow("empty") << QByteArray() << noTypes;
     QTest::newRow("blank") << QByteArray(" \n") << noTypes;
     QTest::newRow("object without types") << QByteArray("{}") << noTypes;
@@ -144,7 +144,7 @@ void ToolDocumentsTest::namesDefaultUnitsThatAreNone()
     const QString path = folder.file("default-units.json", content);
     const ToolRun run = ToolProcess::run({"types", "--default-units", path});
     QCOMPARE(run.standardError,
-             "unitmanager: " + path.toUtf8() + ": holds no default units that the library can read\n");
+             "unitmanager: " + path.toUtf8() + ": contains no default units that the library can read\n");
     QCOMPARE(run.exitCode, 1);
 }
 

@@ -111,7 +111,7 @@ void ToolUsageTest::hintsAtTheRightUsage_data()
     QTest::newRow("table of standard input")
         << QStringList{"table", "-", "Pressure", "Bar"} << "'-'" + rule << table;
     QTest::newRow("raw and JSON") << QStringList{"convert", "1", "Pressure", "Bar", "--raw", "--json"}
-                                  << QByteArray("--raw and --json exclude each other") << convert;
+                                  << QByteArray("--raw and --json cannot be combined") << convert;
     QTest::newRow("unknown option") << QStringList{"convert", "1", "Pressure", "Bar", "--colour"}
                                     << QByteArray("unknown option 'colour'") << convert;
     QTest::newRow("option of another verb")

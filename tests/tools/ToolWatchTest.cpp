@@ -284,7 +284,7 @@ void ToolWatchTest::rejectsWrongUsage_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("message");
-    const QByteArray noBus = " is no bus: session, system or a D-Bus address";
+    const QByteArray noBus = " is not a valid bus: expected session, system or a D-Bus address";
     QTest::newRow("empty bus") << QStringList{"--bus", ""} << "''" + noBus;
     QTest::newRow("unknown bus") << QStringList{"--bus", "Session"} << "'Session'" + noBus;
     QTest::newRow("bus without value") << QStringList{"--bus"} << QByteArray("missing value after '--bus'");
