@@ -29,7 +29,9 @@ def main():
         problems.append(f"listed, but not installed: {sorted(set(listed) - set(seen))}")
 
     flags = project.package_flags("--cflags")
-    compilers = [project.facts["gcc"], project.facts["clang"]]
+    # CMake marks a program that it has not found; Clang is optional.
+    compilers = [compiler for compiler in (project.facts["gcc"], project.facts["clang"])
+                 if not compiler.endswith("-NOTFOUND")]
     jobs = [(compiler, header, flags) for header in seen for compiler in compilers]
     with ThreadPoolExecutor(os.cpu_count()) as pool:
         problems += filter(None, pool.map(lambda job: compile_alone(*job), jobs))
