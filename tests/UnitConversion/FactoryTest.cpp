@@ -1,5 +1,5 @@
 #include <QtCore/QLibrary>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <memory>
 #include <string>

@@ -1,4 +1,5 @@
-#include <QtTest/QtTest>
+#include <QtCore/QRegularExpression>
+#include <QtTest/QTest>
 
 #include <limits>
 #include <type_traits>

@@ -1,6 +1,6 @@
 #include "UnitManagerCore.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include "Described.h"
 #include "LogCapture.h"

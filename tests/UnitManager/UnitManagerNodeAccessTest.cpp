@@ -1,6 +1,6 @@
 #include "UnitManager.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <limits>
 

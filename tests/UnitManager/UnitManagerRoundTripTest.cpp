@@ -3,7 +3,7 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <cmath>
 #include <limits>

@@ -2,7 +2,7 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <type_traits>
 

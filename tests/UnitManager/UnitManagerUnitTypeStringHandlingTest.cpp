@@ -1,6 +1,6 @@
 #include "UnitManagerUnitTypeStringHandling.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include "LogCapture.h"
 #include "TestDocuments.h"

@@ -1,7 +1,7 @@
 #include "UnitManagerConnector/DBusConfigurationChangeSignalHandling.h"
 
 #include <QtDBus/QDBusConnection>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include "ChangeSources.h"
 #include "ConfigurationService.h"

@@ -1,6 +1,6 @@
 #include "UnitManagerConnector/DBusConfigurationChangeSignalHandling.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include "ChangeSources.h"
 #include "ConfigurationService.h"

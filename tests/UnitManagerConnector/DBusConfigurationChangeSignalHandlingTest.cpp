@@ -1,8 +1,9 @@
 #include "UnitManagerConnector/DBusConfigurationChangeSignalHandling.h"
 
+#include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusConnectionInterface>
 #include <QtDBus/QDBusMessage>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <memory>
 #include <type_traits>

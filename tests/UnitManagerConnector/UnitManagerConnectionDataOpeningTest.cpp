@@ -1,6 +1,7 @@
 #include "UnitManagerConnector/UnitManagerConnectionData.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
 
 #include <memory>
 

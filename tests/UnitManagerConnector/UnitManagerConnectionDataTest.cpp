@@ -1,7 +1,8 @@
 #include "UnitManagerConnector/UnitManagerConnectionData.h"
 
+#include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusPendingCall>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include "ConfigurationFileHandlerDBusConnector.h"
 #include "ConfigurationService.h"

@@ -1,7 +1,8 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateError.h"
 
+#include <QtDBus/QDBusError>
 #include <QtDBus/QDBusPendingCall>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include "ConfigurationFileHandlerDBusConnector.h"
 #include "ConfigurationService.h"

@@ -1,6 +1,6 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateIdle.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <memory>
 

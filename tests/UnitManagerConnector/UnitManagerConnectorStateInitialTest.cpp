@@ -1,6 +1,6 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateInitial.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateMachine.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <type_traits>
 

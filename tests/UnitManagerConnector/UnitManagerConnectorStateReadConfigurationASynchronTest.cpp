@@ -1,6 +1,6 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateReadConfigurationASynchron.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateReadConfigurationSynchron.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <memory>
 

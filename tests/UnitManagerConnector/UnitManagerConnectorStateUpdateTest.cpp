@@ -1,6 +1,6 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateUpdate.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include "ConfigurationService.h"
 #include "DependencyWalker.h"

@@ -1,7 +1,8 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateWaitForReply.h"
 
+#include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusPendingCall>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <memory>
 

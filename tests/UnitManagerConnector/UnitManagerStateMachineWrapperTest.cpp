@@ -1,6 +1,6 @@
 #include "UnitManagerConnector/UnitManagerStateMachineWrapper.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <type_traits>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "UnitManagerDevice/UnitManagerDevice.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <mutex>
 #include <type_traits>

@@ -1,6 +1,6 @@
 #include "UnitManagerDevice/UnitManagerWrapper.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <cstring>
 #include <type_traits>

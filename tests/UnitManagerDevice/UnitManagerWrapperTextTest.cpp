@@ -1,4 +1,4 @@
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include "Array2dDataTypeWrapper.h"
 #include "Described.h"

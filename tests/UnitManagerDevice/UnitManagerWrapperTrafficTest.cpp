@@ -1,7 +1,7 @@
 #include "UnitManagerDevice/UnitManagerWrapper.h"
 
 #include <QtCore/QDeadlineTimer>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include "BusMonitor.h"
 #include "DBusConnection.h"

@@ -1,6 +1,6 @@
 #include "UnitManagerDevice/UnitManipulatorMeasurementRange.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <type_traits>
 

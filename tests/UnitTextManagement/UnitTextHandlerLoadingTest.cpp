@@ -1,5 +1,5 @@
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <type_traits>
 #include <utility>

@@ -2,10 +2,11 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
+#include <QtCore/QJsonValue>
 #include <QtCore/QMap>
 #include <QtCore/QSharedPointer>
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <algorithm>
 #include <cmath>

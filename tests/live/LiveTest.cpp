@@ -1,7 +1,7 @@
 #include "LiveTest.h"
 
 #include <QtCore/QAbstractEventDispatcher>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include "ToolProcess.h"
 

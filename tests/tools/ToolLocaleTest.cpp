@@ -1,5 +1,6 @@
+#include <QtCore/QProcessEnvironment>
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include "ToolProcess.h"
 

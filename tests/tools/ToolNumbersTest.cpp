@@ -1,6 +1,7 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtTest/QtTest>
+#include <QtCore/QJsonValue>
+#include <QtTest/QTest>
 
 #include <cmath>
 #include <cstring>

@@ -1,6 +1,7 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtTest/QtTest>
+#include <QtCore/QProcessEnvironment>
+#include <QtTest/QTest>
 
 #include "ToolProcess.h"
 

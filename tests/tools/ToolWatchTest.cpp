@@ -1,4 +1,6 @@
-#include <QtTest/QtTest>
+#include <QtCore/QProcess>
+#include <QtCore/QProcessEnvironment>
+#include <QtTest/QTest>
 
 #include <csignal>
 #include <unistd.h>

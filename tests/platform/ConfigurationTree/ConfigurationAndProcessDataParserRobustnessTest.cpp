@@ -1,5 +1,6 @@
 #include <QtCore/QJsonDocument>
-#include <QtTest/QtTest>
+#include <QtCore/QRegularExpression>
+#include <QtTest/QTest>
 
 #include <random>
 

@@ -7,7 +7,9 @@
 #include "WaitUntil.h"
 
 #include <QtDBus/QDBusArgument>
-#include <QtTest/QtTest>
+#include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusMessage>
+#include <QtTest/QTest>
 
 #include <memory>
 

@@ -5,7 +5,7 @@
 #include "WaitUntil.h"
 
 #include <QtDBus/QDBusArgument>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <memory>
 #include <thread>

@@ -3,8 +3,11 @@
 #include "WaitUntil.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QProcess>
+#include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusConnectionInterface>
-#include <QtTest/QtTest>
+#include <QtDBus/QDBusMessage>
+#include <QtTest/QTest>
 
 #include <atomic>
 #include <thread>

@@ -5,7 +5,8 @@
 #include "WaitLimit.h"
 #include "WaitUntil.h"
 
-#include <QtTest/QtTest>
+#include <QtDBus/QDBusMessage>
+#include <QtTest/QTest>
 
 #include <memory>
 #include <thread>

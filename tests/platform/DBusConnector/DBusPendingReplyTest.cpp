@@ -2,7 +2,8 @@
 
 #include <QtDBus/QDBusError>
 #include <QtDBus/QDBusMessage>
-#include <QtTest/QtTest>
+#include <QtDBus/QDBusPendingCall>
+#include <QtTest/QTest>
 
 // How calls finish on a bus is tested with the connector that makes them; here they have finished.
 class DBusPendingReplyTest : public QObject

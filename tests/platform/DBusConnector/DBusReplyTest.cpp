@@ -1,7 +1,7 @@
 #include "DBusReply.h"
 
 #include <QtDBus/QDBusMessage>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 class DBusReplyTest : public QObject
 {

@@ -1,6 +1,6 @@
 #include "ErrorContainer.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 class ErrorContainerTest : public QObject
 {

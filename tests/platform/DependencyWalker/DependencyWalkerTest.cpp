@@ -2,7 +2,7 @@
 #include "ConfigurationAndProcessDataParser.h"
 #include "LogCapture.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <type_traits>
 

@@ -1,4 +1,5 @@
-#include <QtTest/QtTest>
+#include <QtCore/QPointer>
+#include <QtTest/QTest>
 
 #include "TranslateableTextHelper.h"
 

@@ -2,7 +2,7 @@
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataTools.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <mutex>
 #include <thread>

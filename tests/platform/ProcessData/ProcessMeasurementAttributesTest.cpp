@@ -1,6 +1,6 @@
 #include "ProcessMeasurementAttributes.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 class ProcessMeasurementAttributesTest : public QObject
 {

@@ -1,6 +1,6 @@
 #include "ProcessValue.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <cmath>
 #include <type_traits>

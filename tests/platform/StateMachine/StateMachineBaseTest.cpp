@@ -3,7 +3,7 @@
 #include "UnitConversion/Factory.h"
 
 #include <QtCore/QLoggingCategory>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 using StateFactory = VESKFactories::Factory<StateMachineStateBase, QObject*>;
 using StatePointer = QSharedPointer<StateMachineStateBase>;

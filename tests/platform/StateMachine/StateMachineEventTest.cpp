@@ -1,6 +1,6 @@
 #include "StateMachineEvent.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <type_traits>
 

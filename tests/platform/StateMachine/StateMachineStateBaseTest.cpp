@@ -1,6 +1,7 @@
 #include "StateMachineStateBase.h"
 
-#include <QtTest/QtTest>
+#include <QtCore/QPointer>
+#include <QtTest/QTest>
 
 #include <type_traits>
 
