@@ -17,8 +17,8 @@ int countSeparators(const QString& text)
     return count;
 }
 
-/// Heads a string whose characters begin at @p characters, as string literals have it: its reference count
-/// says that it is never freed.
+/// Header for a static string whose characters begin at @p characters, as in a string literal. Its reference
+/// count marks it as never freed.
 QStringData headerOf(const QStringData& header, const QChar* characters, int size)
 {
     const quintptr offset = reinterpret_cast<quintptr>(characters) - reinterpret_cast<quintptr>(&header);

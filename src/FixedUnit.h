@@ -5,10 +5,10 @@
 /// Fixed units: unit types that name a unit directly, as in "UnitManager/UnitType/Pressure/Bar".
 namespace FixedUnit {
 
-/// Whether @p unitType has exactly one "/" more than the unit-type prefix. Nothing else is tested.
+/// Whether @p unitType has exactly one "/" more than the unit-type prefix. Nothing else is checked.
 bool isFixedUnit(const QString& unitType);
 
-/// isFixedUnit() of the unit-type prefix followed by @p name; faster.
+/// Same result as isFixedUnit() for the unit-type prefix followed by @p name, but faster.
 bool isFixedUnitName(const QString& name);
 
 /// The part of a fixed unit before its last "/".
@@ -17,8 +17,9 @@ QString unitTypeOf(const QString& fixedUnit);
 /// The part of a fixed unit after its last "/".
 QString unitOf(const QString& fixedUnit);
 
-/// Both parts of a fixed unit, for look-ups. They refer to the characters of the whole: nothing is copied or
-/// allocated. The whole must outlive this object, and this object the parts and copies of them.
+/// Both parts of a fixed unit, for look-ups. They refer to the characters of the fixed unit: nothing is
+/// copied or allocated. The fixed unit must outlive this object, and this object must outlive the parts and
+/// their copies.
 class Parts
 {
 public:

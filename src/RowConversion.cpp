@@ -11,7 +11,7 @@ bool RowConversion::convert(QVariant& cell, const QString& unitType)
 {
     if (unitType.isEmpty() || NoInputMarker::isSet(cell))
         return true;
-    // A failure is reported for each cell.
+    // A failed conversion is not reused, so that it is reported for each cell.
     if (!m_found.isReusable || unitType != m_unitType) {
         m_found = m_core.find(unitType, m_unit, m_direction);
         m_unitType = unitType;

@@ -7,19 +7,20 @@
 
 class UnitManagerCore;
 
-/// Converts the cells of one row, cell by cell. Neighbouring columns often have the same unit type: what was
-/// found for one column serves the next ones.
+/// Converts the cells of one row, one by one. Neighbouring columns often have the same unit type, so the
+/// conversion found for one column is reused for the next ones.
 ///
-/// Lives for the duration of one operation on a core that stays as it is, and refers to what it is given.
+/// Lives for the duration of one operation. Refers to the constructor's arguments, which must not change
+/// meanwhile.
 class RowConversion
 {
 public:
     RowConversion(const UnitManagerCore& core, const QString& unit, ConversionDirection direction);
 
-    /// Converts @p cell in place. A column without unit type and the no-input marker leave it as it is and
-    /// succeed.
+    /// Converts @p cell in place. A cell of a column without a unit type and the no-input marker stay
+    /// unchanged; both count as success.
     ///
-    /// @return false, with @p cell untouched and warnings logged, when it cannot be converted.
+    /// @return false, with @p cell unchanged and warnings logged, when it cannot be converted.
     bool convert(QVariant& cell, const QString& unitType);
 
 private:

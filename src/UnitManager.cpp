@@ -16,10 +16,10 @@ namespace {
 
 const char* const sourceName = "UnitManager";
 
-// Device logs are searched by this function, whichever operation rounds.
+// Logged by every operation that rounds: device logs are searched by this function.
 const char* const roundingFunction = "QVariant UnitManager::roundDouble(const QVariant&, unsigned int) const";
 
-/// The number of rows; none unless unit types and cells cover every column before @p endColumn.
+/// The number of rows; empty unless unit types and cells cover every column before @p endColumn.
 std::optional<unsigned int> countRows(const Array2dDataTypeWrapper& array, const QStringList& unitTypes,
                                       unsigned int endColumn)
 {
@@ -31,7 +31,7 @@ std::optional<unsigned int> countRows(const Array2dDataTypeWrapper& array, const
     return dimensions.at(0);
 }
 
-/// The result is a double.
+/// Rounds @p value in place; the result is a double.
 void roundInPlace(QVariant& value, unsigned int decimalPlaces)
 {
     bool isNumber = false;
@@ -45,7 +45,7 @@ void roundInPlace(QVariant& value, unsigned int decimalPlaces)
 
 bool convertVector(const FoundConversion& found, QVector<double>& values)
 {
-    // Without a conversion shared data stay shared.
+    // Without a conversion the data is not accessed for writing, so that it stays shared.
     if (found.conversion)
         found.convertArray(values.constData(), values.data(), static_cast<std::size_t>(values.size()));
     return found.isKnown;

@@ -20,7 +20,7 @@ bool readUnitType(const ConfigurationAndProcessDataBase& node, QString& unitType
     if (!node.hasProperty(key))
         return false;
     QVariant property = node.getProperty(key);
-    // A text is moved out of what was read, because one copy more is noticeable.
+    // The text is moved out of the property; an extra copy costs measurable time.
     if (property.userType() == QMetaType::QString) {
         unitType = std::move(*static_cast<QString*>(property.data()));
         return true;
@@ -44,7 +44,7 @@ bool UnitManagerCore::updateUnitConversionByJsonString(const QString& json)
         unitTexts.reset();
         return false;
     }
-    // Once for both: parsing is the larger part of loading.
+    // Parsed once for both: parsing takes most of the loading time.
     const BaseClassSharedPointer root = ConfigurationAndProcessDataParser().parseFromJson(
         json, PropertyManagerConst::getConfigFileExtension());
     const bool hasConversions = conversionLookUp.initByDocument(root, json);
@@ -146,7 +146,8 @@ bool UnitManagerCore::extractUnitTypeAndUnit(const QString& fixedUnit, QString& 
             << "Unable to get unit type for unit:" << fixedUnit << "!";
         return false;
     }
-    // Taken before either is written: a caller may pass one string as input and output.
+    // Both parts are computed before an output is written: a caller may pass the same string as input and
+    // output.
     const QString plainType = FixedUnit::unitTypeOf(fixedUnit);
     const QString plainUnit = FixedUnit::unitOf(fixedUnit);
     unit = plainUnit;
@@ -189,14 +190,14 @@ FoundConversion UnitManagerCore::find(const QString& unitType, const QString& un
     if (unitType.isEmpty())
         return FoundConversion::none(unit.isEmpty());
     const UnitConversionUnitTypeHandler* const handler = conversionLookUp.findHandler(unitType);
-    // The short name of a known unit type is searched for separators faster than the whole identifier.
+    // A known unit type has a short name, which is scanned faster than the whole identifier.
     if (handler ? FixedUnit::isFixedUnitName(handler->unitType) : FixedUnit::isFixedUnit(unitType))
         return FoundConversion::none(true);
     if (handler && !unit.isEmpty())
         return handler->find(unit, direction);
     const QString unitOfType = unitOrDefault(unitType, unit);
     FoundConversion found = UnitConversionLookUp::find(handler, unitType, unitOfType, direction);
-    // A missing default unit is reported at each use.
+    // Not reusable without a default unit, so that the missing default unit is reported at each use.
     found.isReusable = found.isReusable && !unitOfType.isEmpty();
     return found;
 }
@@ -214,7 +215,7 @@ bool UnitManagerCore::convertForDisplay(QVariant& value, const QString& unitType
 {
     const FoundConversion found = find(unitType, unit, direction);
     found.convert(value);
-    // Decimal places are a question of their own, which reports its own failure.
+    // Otherwise looked up separately, which reports its own failure.
     return found.isReusable ? found.conversion->getDecimalPlacesForUnit(decimalPlaces)
                             : getDecimalPlacesForUnit(unitType, unit, decimalPlaces);
 }

@@ -7,23 +7,23 @@
 /// The fixed identifiers of the library: module name, keys of the unit document, unit types and units that
 /// applications name in code.
 ///
-/// Unit types read "UnitManager/UnitType/" and a type name; units read their unit type's identifier, "/" and
-/// a unit name (fixed units). Every text is built on first use and lives until the process ends; the getters
-/// may be called from any thread.
+/// The identifier of a unit type is "UnitManager/UnitType/" and a type name. The identifier of a unit (a
+/// fixed unit) is the identifier of its unit type, "/" and a unit name. Every text is built on first use and
+/// lives until the process ends; the getters may be called from any thread.
 class UNITMANAGER_EXPORT UnitManagerDefinitions
 {
 public:
-    /// Nothing to construct: all identifiers are static.
+    /// Has no effect: all identifiers are static.
     UnitManagerDefinitions() = default;
     virtual ~UnitManagerDefinitions();
 
     /// The library's name.
     static const QString& getModuleName();
-    /// Key below a unit type that is no unit and is passed over.
+    /// Key below a unit type that is not a unit and is skipped.
     static const QString& getUnitTypeText();
-    /// Key of the unit-less type, and of the unit that converts nothing.
+    /// Key of the unit-less type, and of the unit without a conversion.
     static const QString& getUnitTypeNoUnit();
-    /// The unit-less type's identifier.
+    /// Identifier of the unit-less type.
     static const QString& getUnitTypeUrlNoUnit();
     /// Key of a unit's label.
     static const QString& getUnitLabelUrl();
@@ -52,6 +52,6 @@ public:
     static const QString& getUnitUrlSpecificEnthalpyKiloJoulePerKiloGram();
     /// @}
 
-    /// Number of decimal places by which a user interface is told to place the decimal comma itself.
+    /// Special number of decimal places: the user interface positions the decimal separator itself.
     static int getUiDecimalsAutoComma();
 };

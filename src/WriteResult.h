@@ -1,11 +1,11 @@
 #pragma once
 
-/// The status that a node returns for a property write. Every value above WriteResult::unchanged is a
+/// The status that a node returns for a property write. Every value above WriteResult::unchanged means
 /// failure.
 namespace WriteResult {
 
 constexpr int changed = 0;
-constexpr int unchanged = 1; ///< written, but equal to the value before
+constexpr int unchanged = 1; ///< written, but equal to the previous value
 constexpr int failed = 2;
 
 /// Whether a write with this status stored the value.

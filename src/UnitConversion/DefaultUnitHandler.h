@@ -5,7 +5,7 @@
 
 #include "UnitManagerExport.h"
 
-/// The unit in which values of each unit type are shown when a caller names none.
+/// The default unit of each unit type: the unit in which values are shown when the caller does not name one.
 ///
 /// Const operations may run concurrently with each other, but not with an initialisation.
 class UNITMANAGER_EXPORT DefaultUnitHandler
@@ -15,18 +15,18 @@ public:
     DefaultUnitHandler();
     virtual ~DefaultUnitHandler();
 
-    /// Replaces the table by the selection nodes of the document. The old table is gone also when this fails.
+    /// Replaces the table by the selection nodes of the document. The old table is removed even on failure.
     ///
     /// @return false for an empty text, a text that does not parse (a warning is logged) and a document
     /// without a usable selection node.
     bool initByJsonString(const QString& json);
 
-    /// initByJsonString() with the text of the file @p path; an unreadable file counts as empty.
+    /// Loads the table from the file @p path; see initByJsonString(). An unreadable file counts as empty.
     bool initByJsonFile(const QString& path);
 
     /// @param unitType unit type with its prefix
-    /// @return the default unit's name without its unit type; empty for an unknown type, with a warning
-    /// unless it is the unit-less type.
+    /// @return the name of the default unit without its unit type; empty for an unknown unit type, with a
+    /// warning unless it is the unit-less type.
     QString getDefaultUnit(const QString& unitType) const;
 
     /// Empties the table.

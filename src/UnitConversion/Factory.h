@@ -19,9 +19,9 @@ struct KeyHasher
     }
 };
 
-/// Registry key of a class: the decimal text of its type's hash code.
+/// Registry key of a class: the hash code of its type as decimal text.
 ///
-/// @return the same text on every call within one process; it means nothing outside of it.
+/// @return the same text on every call within one process; it has no meaning outside the process.
 template <typename T>
 QString createFactoryKey()
 {
@@ -30,16 +30,16 @@ QString createFactoryKey()
 
 /// Process-wide registry of creators for classes derived from @p Base, keyed by text.
 ///
-/// There is one registry per instantiation and process, shared by all shared libraries, when one library
+/// There is one registry per instantiation and process, shared by all shared libraries, if one library
 /// exports an explicit instantiation (`extern template class EXPORT Factory<...>;` in a header, the
-/// definition in one source): an implicit one is exported only when `Base` and every class among `Args` are,
-/// template arguments included. The registry is filled by static initialisers when a library is loaded and
-/// only read afterwards; it takes no locks.
+/// definition in one source file). An implicit instantiation is exported only if `Base` and every class among
+/// `Args`, template arguments included, are exported. Static initialisers fill the registry when a library is
+/// loaded; afterwards it is only read. It takes no locks.
 template <typename Base, typename... Args>
 class Q_DECL_EXPORT Factory
 {
 public:
-    /// Makes one class of objects.
+    /// Creates objects of one class.
     class Q_DECL_EXPORT AbstractCreator
     {
     public:
@@ -48,7 +48,7 @@ public:
         virtual ~AbstractCreator() = default;
     };
 
-    /// Makes objects of class @p T.
+    /// Creates objects of class @p T.
     template <typename T>
     class Q_DECL_EXPORT Creator : public AbstractCreator
     {
@@ -59,17 +59,17 @@ public:
         }
     };
 
-    /// The one registry of this instantiation, built on first use and destroyed at process exit.
+    /// The only registry of this instantiation, built on first use and destroyed at process exit.
     static Factory& instance();
 
-    /// Registers class @p T under @p key; a creator already there is destroyed and replaced, silently.
+    /// Registers class @p T under @p key. An existing creator is destroyed and replaced; nothing is logged.
     template <typename T>
     void registerClass(const QString& key)
     {
         creators[key] = std::make_unique<Creator<T>>();
     }
 
-    /// Makes an object of the class registered under @p key from @p args.
+    /// Creates an object of the class registered under @p key from @p args.
     ///
     /// @return the new object, owned by the caller; a null pointer when the key is not registered (nothing is
     /// logged).
@@ -83,8 +83,8 @@ public:
     std::unordered_map<QString, std::unique_ptr<AbstractCreator>, KeyHasher> creators;
 };
 
-// Not inline: where an explicit instantiation is declared, Clang would otherwise give each library a copy of
-// the static object, and the copies of libraries in scopes of their own stay apart.
+// Not inline: with an explicit instantiation declared, Clang would otherwise emit a copy of the static object
+// into each library, and libraries loaded into separate scopes would not share it.
 template <typename Base, typename... Args>
 Factory<Base, Args...>& Factory<Base, Args...>::instance()
 {

@@ -7,40 +7,41 @@
 class UnitConversionUnitTypeHandler;
 class ValueConversionWrapper;
 
-/// Which way values are converted.
+/// Direction of a conversion.
 enum class ConversionDirection
 {
     FromBaseUnit,
     ToBaseUnit
 };
 
-/// The conversion of a unit, found once for one value or many. It points into the catalogue: it is valid
-/// until something is loaded.
+/// The result of looking up the conversion of a unit, for one value or many. It points into the catalogue and
+/// is valid until the next load.
 struct FoundConversion
 {
     const UnitConversionUnitTypeHandler* unitType = nullptr;
-    /// Null where values stay as they are.
+    /// Null when values stay unchanged.
     const ValueConversionWrapper* conversion = nullptr;
     ConversionDirection direction = ConversionDirection::FromBaseUnit;
-    /// False after a failure, which has been logged. Values then stay as they are.
+    /// False after a failure, which has been logged. Values then stay unchanged.
     bool isKnown = false;
-    /// Whether there is a conversion and nothing was logged when it was found: it serves more values.
+    /// True if there is a conversion and the look-up logged nothing; the result may then be reused for other
+    /// values.
     bool isReusable = false;
 
-    /// A result without conversion.
+    /// Creates a result without a conversion.
     static FoundConversion none(bool isKnown);
 
-    /// Converts @p value in place; the result is a double. The no-input marker stays as it is.
+    /// Converts @p value in place; the result is a double. The no-input marker stays unchanged.
     ///
-    /// @return false, with @p value untouched, after a failure and for a value that is not a number, which is
-    /// logged here.
+    /// @return false, with @p value unchanged, after a failed look-up and for a value that is not a number;
+    /// this function logs the latter.
     bool convert(QVariant& value) const;
 
-    /// Converts a number that is not the no-input marker.
+    /// Converts a number. Callers must not pass the no-input marker.
     double convertNumber(double number) const;
 
     /// Converts @p count numbers; no-input markers keep all their bits.
     ///
-    /// @param results room for @p count numbers; may be @p values itself, but must not overlap it otherwise
+    /// @param results room for @p count numbers; may be equal to @p values, but must not overlap it otherwise
     void convertArray(const double* values, double* results, std::size_t count) const;
 };

@@ -5,14 +5,14 @@ namespace {
 using Tools = ConfigurationAndProcessDataTools;
 using Test = bool (*)(const QVariant&);
 
-/// The test that the platform promises to be false for every number except NaN.
+/// The test for which the platform promises false for every number except NaN.
 template <typename Platform>
 auto testOfNanOnly(int /*preferred*/) -> decltype(Platform::getNanOnlyNoInputTest())
 {
     return Platform::getNanOnlyNoInputTest();
 }
 
-/// Null for a platform that makes no such promise.
+/// Null for a platform without that promise.
 template <typename Platform>
 Test testOfNanOnly(long /*otherwise*/)
 {
@@ -21,5 +21,5 @@ Test testOfNanOnly(long /*otherwise*/)
 
 } // namespace
 
-// The promise counts only for the test that is called here, which a program can replace by its own.
+// The promise only covers the platform's own test, and a program can replace the test that is called here.
 const bool NoInputMarker::isAlwaysNan = testOfNanOnly<Tools>(0) == &Tools::isNoInputValueIndicatorSet;

@@ -9,11 +9,11 @@
 /// The platform's marker for values that were not entered. Values that carry it are never converted.
 namespace NoInputMarker {
 
-/// Whether only a NaN can carry the marker, as far as the platform promises it. Other numbers then need no
-/// question to the platform, which takes longer than a conversion.
+/// Whether the platform promises that only a NaN can carry the marker. Other numbers then need no platform
+/// call, which takes longer than a conversion.
 extern const bool isAlwaysNan;
 
-/// What a value holds.
+/// Kind of content of a value.
 enum class Content
 {
     Number,
@@ -36,7 +36,7 @@ inline bool isSet(const QVariant& value)
                : ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value);
 }
 
-/// Tells what @p value holds; @p number receives the number or marker, unless the result is Other.
+/// Determines what @p value holds. @p number receives the number or the marker, unless the result is Other.
 inline Content read(const QVariant& value, double& number)
 {
     if (value.userType() == QMetaType::Double) {

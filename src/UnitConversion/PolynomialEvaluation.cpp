@@ -5,14 +5,14 @@
 #include <cmath>
 #include <utility>
 
-// The function bodies are inlined into one function for each variant, which is compiled for its processor.
+// The bodies are inlined into one function per variant, which is compiled for its processor.
 #define UNITMANAGER_INLINE inline __attribute__((always_inline))
 
 namespace {
 
 /// Polynomials with more coefficients are evaluated in several passes over a block.
 constexpr std::size_t coefficientsPerPass = 4;
-/// Two blocks fit the smallest first-level cache.
+/// Chosen so that two blocks fit into the smallest first-level cache.
 constexpr std::size_t blockLength = 512;
 
 UNITMANAGER_INLINE double valueAt(const double* coefficients, std::size_t coefficientCount, double x)
@@ -23,8 +23,8 @@ UNITMANAGER_INLINE double valueAt(const double* coefficients, std::size_t coeffi
     return result;
 }
 
-/// Continues Horner's scheme with a fixed number of coefficients, without a loop, so that the loop over the
-/// numbers vectorises.
+/// Continues Horner's scheme with a fixed number of coefficients. Has no loop of its own, so that the loop
+/// over the numbers vectorises.
 template <std::size_t... Index>
 UNITMANAGER_INLINE double continued([[maybe_unused]] double x, double result,
                                     const std::array<double, sizeof...(Index)>& coefficients,
@@ -109,7 +109,7 @@ UNITMANAGER_INLINE void valuesAt(const double* coefficients, std::size_t coeffic
                           std::min(blockLength, count - begin));
         return;
     }
-    // Told apart, because a loop over arrays that might overlap does not vectorise.
+    // Separate cases: a loop over arrays that might overlap does not vectorise.
     if (values == results)
         return evaluateUpToFour(coefficients, coefficientCount, results, results, count);
     const double* const __restrict separateValues = values;

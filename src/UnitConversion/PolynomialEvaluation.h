@@ -6,9 +6,9 @@
 /// Evaluates polynomials by Horner's scheme with fused multiply-add.
 ///
 /// Coefficients are ordered from the highest power to the constant term; without coefficients the result is
-/// 0.0. There is one variant for each kind of vector unit that the compiler can address; all variants give
-/// the same bits. The fastest one that the processor supports is selected when the library is loaded. Every
-/// function may be called from several threads at a time.
+/// 0.0. There is one variant for each kind of vector unit that the compiler can target; all variants give
+/// identical bits. The fastest variant that the processor supports is selected when the library is loaded.
+/// All functions are thread-safe.
 namespace PolynomialEvaluation {
 
 /// The value of a polynomial at @p x.
@@ -16,11 +16,11 @@ using Evaluate = double (*)(const double* coefficients, std::size_t coefficientC
 
 /// The values of a polynomial at @p count numbers. A NaN among @p values is copied with all its bits.
 ///
-/// @param results room for @p count numbers; may be @p values itself, but must not overlap it otherwise
+/// @param results room for @p count numbers; may be equal to @p values, but must not overlap it otherwise
 using EvaluateArray = void (*)(const double* coefficients, std::size_t coefficientCount, const double* values,
                                double* results, std::size_t count);
 
-/// The same functions, compiled for one kind of processor.
+/// Both functions, compiled for one kind of processor.
 struct Variant
 {
     const char* name;
@@ -28,10 +28,10 @@ struct Variant
     EvaluateArray evaluateArray;
 };
 
-/// The variants that this processor supports, the fastest one first. The last one runs on every processor.
+/// The variants that this processor supports, fastest first. The last one runs on every processor.
 std::vector<Variant> supportedVariants();
 
-/// The variant that runs on every processor.
+/// The value of a polynomial at @p x, by the variant that runs on every processor.
 double evaluateBaseline(const double* coefficients, std::size_t coefficientCount, double x);
 
 #ifdef __x86_64__
@@ -39,7 +39,7 @@ double evaluateBaseline(const double* coefficients, std::size_t coefficientCount
 /// Whether the processor has AVX2 and FMA.
 extern const bool hasFma;
 
-/// The variant for processors with AVX2 and FMA.
+/// The value of a polynomial at @p x, by the variant for processors with AVX2 and FMA.
 double evaluateFma(const double* coefficients, std::size_t coefficientCount, double x);
 
 #endif
@@ -48,7 +48,7 @@ double evaluateFma(const double* coefficients, std::size_t coefficientCount, dou
 inline double evaluate(const double* coefficients, std::size_t coefficientCount, double x)
 {
 #ifdef __x86_64__
-    // A branch takes less time than a call through a pointer.
+    // A branch is faster than a call through a pointer.
     if (hasFma)
         return evaluateFma(coefficients, coefficientCount, x);
 #endif

@@ -12,7 +12,7 @@ namespace {
 
 const char* const sourceName = "UnitConversion/UnitConversionLookUp";
 
-// Device logs are searched by this function, whoever has parsed the text.
+// Logged no matter which function parsed the text: device logs are searched by this function.
 const char* const loadingFunction = "bool UnitConversionLookUp::initByJsonString(const QString&)";
 
 // Device logs are searched by these functions and lines.

@@ -15,19 +15,20 @@
 class UNITMANAGER_EXPORT UnitConversionLookUp
 {
 public:
-    /// An empty catalogue.
+    /// Creates an empty catalogue.
     UnitConversionLookUp();
-    /// A catalogue of the document @p json; test with isValid().
+    /// Creates the catalogue of the document @p json; check the result with isValid().
     UnitConversionLookUp(const QString& json);
     virtual ~UnitConversionLookUp();
 
-    /// Replaces the catalogue by the unit types of the document. The old one is gone also when this fails.
+    /// Replaces the catalogue by the unit types of the document. The old catalogue is removed even on
+    /// failure.
     ///
-    /// @return false for an empty text, a text that does not parse (a warning carries the whole text) and a
+    /// @return false for an empty text, a text that does not parse (a warning contains the whole text) and a
     /// document without unit types.
     bool initByJsonString(const QString& json);
 
-    /// initByJsonString() with the text of the file @p path; an unreadable file counts as empty.
+    /// Loads the catalogue from the file @p path; see initByJsonString(). An unreadable file counts as empty.
     bool initByJsonFile(const QString& path);
 
     /// Empties the catalogue.
@@ -39,7 +40,7 @@ public:
 
     QList<QString> getListofUnitTypes() const;
 
-    /// @return the units of the type; empty for an unknown one. Nothing is logged.
+    /// @return the units of the unit type; empty for an unknown unit type. Nothing is logged.
     QList<QString> getListofUnits(const QString& unitType) const;
 
     /// @return the base unit as a fixed unit (unit type, "/", unit); empty, with a warning, for an unknown
@@ -48,31 +49,32 @@ public:
 
     /// Stores the number of decimal places with which values of @p unit are shown.
     ///
-    /// @return false, with @p decimalPlaces untouched, for an unknown unit type (a warning is logged), an
+    /// @return false, with @p decimalPlaces unchanged, for an unknown unit type (a warning is logged), an
     /// unknown unit and "NoUnit".
     bool getDecimalPlacesForUnit(const QString& unitType, const QString& unit,
                                  unsigned int& decimalPlaces) const;
 
     /// Converts @p value in place from @p unit to the base unit; the result is a double.
     ///
-    /// @return false, with the value untouched and a warning logged, for an unknown unit type or unit and for
-    /// a value that is no number.
+    /// @return false, with the value unchanged and a warning logged, for an unknown unit type or unit and for
+    /// a value that is not a number.
     bool toBaseUnit(QVariant& value, const QString& unitType, const QString& unit) const;
 
-    /// Converts @p value in place from the base unit to @p unit; everything else as for toBaseUnit().
+    /// Converts @p value in place from the base unit to @p unit; for the result see toBaseUnit().
     bool fromBaseUnit(QVariant& value, const QString& unitType, const QString& unit) const;
 
 private:
     friend class UnitManagerCore;
 
-    /// initByJsonString() for a text that has been parsed already; @p root is null where that failed.
+    /// Loads a document that has already been parsed; see initByJsonString(). @p root is null if parsing
+    /// failed.
     UNITMANAGER_NO_EXPORT bool initByDocument(const BaseClassSharedPointer& root, const QString& json);
-    /// The handler of a unit type; null, with nothing logged, for an unknown or invalid one.
+    /// The handler of a unit type; null for an unknown or invalid unit type. Nothing is logged.
     UNITMANAGER_NO_EXPORT const UnitConversionUnitTypeHandler* findHandler(const QString& unitType) const;
-    /// Finds the conversion of a unit; logs a warning for an unknown unit type or unit.
+    /// Looks up the conversion of a unit; logs a warning for an unknown unit type or unit.
     UNITMANAGER_NO_EXPORT FoundConversion find(const QString& unitType, const QString& unit,
                                                ConversionDirection direction) const;
-    /// find() with the result of findHandler() for the unit type.
+    /// Looks up the conversion of a unit, given the result of findHandler() for its unit type.
     UNITMANAGER_NO_EXPORT static FoundConversion find(const UnitConversionUnitTypeHandler* handler,
                                                       const QString& unitType, const QString& unit,
                                                       ConversionDirection direction);

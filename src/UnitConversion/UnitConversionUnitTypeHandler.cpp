@@ -101,7 +101,7 @@ FoundConversion UnitConversionUnitTypeHandler::find(const QString& unit, Convers
     const auto conversion = conversions.constFind(unit);
     if (conversion != conversions.constEnd())
         return {this, &*conversion, direction, true, true};
-    // "NoUnit" is never stored.
+    // "NoUnit" is never stored in the table.
     if (unit.isEmpty() || unit == UnitManagerDefinitions::getUnitTypeNoUnit())
         return FoundConversion::none(true);
     warnUnknownUnit(direction, unit, unitType);

@@ -12,7 +12,7 @@ namespace {
 
 const char* const sourceName = "UnitConversion/ValueConversionWrapper";
 
-/// The child that names the kind of conversion; empty when the node has none.
+/// The child that gives the kind of conversion; empty when the node has none.
 QString findConverterKey(const ConfigurationAndProcessDataBase& node)
 {
     const QString keys[] = {QStringLiteral("Polynomial"), QStringLiteral("ArbitraryTable"),
@@ -24,7 +24,7 @@ QString findConverterKey(const ConfigurationAndProcessDataBase& node)
     return {};
 }
 
-/// The converter as a polynomial; null for another class, derived ones included, and for null.
+/// The converter if it is exactly a polynomial; null for other classes, including derived ones, and for null.
 const ValueConverterPolynomial* asPolynomial(const ValueConverterBase* converter)
 {
     return converter && typeid(*converter) == typeid(ValueConverterPolynomial)
@@ -53,7 +53,7 @@ ValueConversionWrapper::~ValueConversionWrapper() = default;
 bool ValueConversionWrapper::init(const BaseClassSharedPointer& node)
 {
     const QString key = node ? findConverterKey(*node) : QString();
-    // The converter reads its keys from the unit's node, not from the child that names its kind.
+    // The converter reads its keys from the unit's node, not from the child that gives its kind.
     converter.reset(key.isEmpty() ? nullptr : ValueConverterFactory::instance().create(key, node));
     return isValid();
 }

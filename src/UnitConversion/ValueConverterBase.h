@@ -8,8 +8,8 @@
 
 /// Converts a number between one unit and the base unit of its unit type.
 ///
-/// Converters are made by the factory from a unit's configuration node, are not changed afterwards and may be
-/// read by several threads at a time.
+/// The factory creates converters from a unit's configuration node. They are immutable afterwards, so several
+/// threads may read them concurrently.
 class UNITMANAGER_EXPORT ValueConverterBase
 {
 public:
@@ -45,10 +45,10 @@ public:
         return decimalPlaces;
     }
 
-    /// Appends the rows of @p data to @p table. Rows of two columns are (x, y); of any other row the first
+    /// Appends the rows of @p data to @p table. A row of two columns is (x, y). For any other row the first
     /// value is y, and x is 0.
     ///
-    /// @return false, with the table untouched, when there is no row.
+    /// @return false, with the table unchanged, when there is no row.
     bool loadTable(const QList<QVariant>& data, ConversionTable& table);
 
 protected:

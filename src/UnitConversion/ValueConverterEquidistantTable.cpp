@@ -54,7 +54,7 @@ bool ValueConverterEquidistantTable::resetTable(const QList<QVariant>& data, con
 {
     if (!resetTable(data, dataDistance, inverseData, inverseDataDistance))
         return false;
-    // The boundary entries store the limits crossed: what reads them expects it so.
+    // Swapped on purpose; consumers rely on it.
     table.maxEntry.x = ordinateMin;
     table.minEntry.x = ordinateMax;
     inverseTable.maxEntry.x = ordinateMinInversion;

@@ -7,25 +7,25 @@
 #include "UnitConversion/ValueConverterBase.h"
 #include "UnitManagerExport.h"
 
-/// Holds tables of ordinates at a fixed distance of the abscissa. The tables are loaded and kept; values are
-/// not converted by them: both directions give the argument itself, and there are no decimal places.
+/// Holds tables of ordinates at equidistant abscissae. The tables are loaded but not used: both directions
+/// return the argument unchanged, and there are no decimal places.
 class UNITMANAGER_EXPORT ValueConverterEquidistantTable : public ValueConverterBase
 {
 public:
-    /// Reads "Table", "InverseTable", "DistanceBaseTable", "DistanceBaseInverseTable" and, only if
-    /// "OrdinateMin" is given, the ordinate limits from a unit's node. Nothing is reported.
+    /// Reads "Table", "InverseTable", "DistanceBaseTable" and "DistanceBaseInverseTable" from a unit's node,
+    /// and the ordinate limits only if "OrdinateMin" is present. Nothing is logged.
     ValueConverterEquidistantTable(const BaseClassSharedPointer& node);
     ~ValueConverterEquidistantTable() override;
 
     /// Loads both tables with their abscissa distances.
     ///
-    /// @return false when the forward table has no row: both distances are then 0 and the inverse table
-    /// stays.
+    /// @return false when the forward table has no row; both distances are then 0 and the inverse table is
+    /// unchanged.
     bool resetTable(const QList<QVariant>& data, const double& dataDistance,
                     const QList<QVariant>& inverseData, const double& inverseDataDistance);
 
-    /// The same, and overwrites the abscissae of the boundary entries: the minimum goes into the entry called
-    /// max and the maximum into the one called min, in both tables.
+    /// Loads both tables like the overload above, then overwrites the abscissae of the boundary entries of
+    /// both tables: the minimum is stored in the max entry and the maximum in the min entry.
     ///
     /// @return false, with no boundary entry overwritten, when the forward table has no row.
     bool resetTable(const QList<QVariant>& data, const double& dataDistance, const double& ordinateMin,

@@ -7,12 +7,12 @@
 #include "UnitConversion/ValueConverterBase.h"
 #include "UnitManagerExport.h"
 
-/// Registry of the value converters, keyed by the words of the unit document: "Polynomial",
+/// Registry of the value converters. The keys are those of the unit document: "Polynomial",
 /// "EquidistantTable", "ArbitraryTable".
 using ValueConverterFactory =
     VESKFactories::Factory<ValueConverterBase, const QSharedPointer<ConfigurationAndProcessDataBase>&>;
 
-// QSharedPointer carries no visibility of its own, so that this instantiation would be hidden and every
-// library would have a registry. The library's explicit one, exported, serves them all.
+// QSharedPointer has no visibility attribute, so an implicit instantiation would be hidden and every library
+// would have its own registry. This explicit, exported instantiation is shared by all libraries.
 extern template class UNITMANAGER_EXPORT
     VESKFactories::Factory<ValueConverterBase, const QSharedPointer<ConfigurationAndProcessDataBase>&>;

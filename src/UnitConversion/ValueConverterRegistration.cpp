@@ -1,4 +1,4 @@
-// The creators of the converters, registered when the library is loaded.
+// Registers the creators of the converters when the library is loaded.
 
 #include "UnitConversion/Factory.h"
 #include "UnitConversion/ValueConverterArbitraryTable.h"

@@ -16,11 +16,11 @@ namespace {
 
 const char* const sourceName = "UnitTextManagement/UnitTextHandler";
 
-/// The result without a text: empty, and not null.
+/// The result when there is no text: empty, but not null.
 const QLatin1String noText("");
 
-/// Where the messages about a document come from. Device logs are searched by this function, whoever has
-/// parsed the text.
+/// Source of the messages about a document, no matter which function parsed it: device logs are searched by
+/// this function.
 const LogContext loading{sourceName, __LINE__, "bool UnitTextHandler::initByJsonString(const QString&)"};
 
 bool isNoUnitType(const QString& unitType)
@@ -40,7 +40,7 @@ void warnUnknownUnit(const LogContext& context, const QString& unit, const QStri
     context.warning() << "Unknown unit given" << unit << "for unittype" << unitType;
 }
 
-/// Whether the unit stands at display position 0.
+/// Whether the unit has display position 0.
 bool isBaseUnit(const ConfigurationAndProcessDataBase& node)
 {
     const QVariant position =

@@ -17,43 +17,43 @@ class UnitManagerCore;
 class UNITMANAGER_EXPORT UnitTextHandler
 {
 public:
-    /// No labels.
+    /// Creates a handler without labels.
     UnitTextHandler();
-    /// The labels of the document @p json; test with isValid().
+    /// Creates a handler of the labels in the document @p json; check the result with isValid().
     UnitTextHandler(const QString& json);
     virtual ~UnitTextHandler();
 
-    /// Replaces the labels by those of the document. The old ones are gone also when this fails.
+    /// Replaces the labels by those of the document. The old ones are removed even on failure.
     ///
-    /// Logs a warning for a unit whose display position is no integer and for a unit type without a base
+    /// Logs a warning for a unit whose display position is not an integer and for a unit type without a base
     /// unit.
     ///
-    /// @return whether there is at least one label; false without a message for a text that is empty or does
-    /// not parse.
+    /// @return whether there is at least one label; false, with nothing logged, for a text that is empty or
+    /// does not parse.
     bool initByJsonString(const QString& json);
 
-    /// initByJsonString() with the text of the file @p path; an unreadable file counts as empty.
+    /// Loads the labels from the file @p path; see initByJsonString(). An unreadable file counts as empty.
     bool initByJsonFile(const QString& path);
 
     /// The label of a unit.
     ///
-    /// @param unitType a unit type, or a fixed unit: then @p unit is not looked at
-    /// @param language language of the text; a missing one falls back to another
+    /// @param unitType a unit type, or a fixed unit; @p unit is ignored for a fixed unit
+    /// @param language language of the text; if it is missing, another language is used
     /// @param unit the unit's name; empty for the base unit
-    /// @return the text; empty for the unit-less type and for a unit without label; empty with a warning for
-    /// an unknown unit type or unit.
+    /// @return the text; empty for the unit-less type and for a unit without a label; empty with a warning
+    /// for an unknown unit type or unit.
     QString getUnitText(const QString& unitType, const QString& language, const QString& unit) const;
 
-    /// The label of a unit of the unit type that @p node names; empty for a null node or one without unit
+    /// The label of a unit of the unit type stored in @p node; empty for a null node or a node without a unit
     /// type.
     QString getUnitText(const QSharedPointer<ConfigurationAndProcessDataBase>& node, const QString& language,
                         const QString& unit) const;
 
-    /// The label of a unit of the unit type that the child @p key of @p node names; empty when there is none.
+    /// The label of a unit of the unit type stored in the child @p key of @p node; empty when there is none.
     QString getUnitText(const QString& key, const QSharedPointer<ConfigurationAndProcessDataBase>& node,
                         const QString& language, const QString& unit) const;
 
-    /// The label, in all languages, of a fixed unit or of a unit type's base unit.
+    /// The label, in all languages, of a fixed unit or of the base unit of a unit type.
     ///
     /// @return the text object; one with an empty text for the unit-less type; invalid when there is no
     /// label, with a warning for an unknown unit type or unit.
@@ -62,7 +62,7 @@ public:
     /// Whether @p unitType is a fixed unit.
     bool isFixedUnitType(const QString& unitType) const;
 
-    /// Forgets all labels.
+    /// Removes all labels.
     void reset();
 
     /// Whether there is at least one label.
@@ -72,7 +72,8 @@ public:
 private:
     friend class UnitManagerCore;
 
-    /// initByJsonString() for a text that has been parsed already; null for one that does not parse.
+    /// Loads a document that has already been parsed; see initByJsonString(). @p root is null if parsing
+    /// failed.
     UNITMANAGER_NO_EXPORT bool initByDocument(const BaseClassSharedPointer& root);
     UNITMANAGER_NO_EXPORT void addUnitType(const QString& unitType, const BaseClassSharedPointer& node);
     UNITMANAGER_NO_EXPORT void addUnits(const QString& unitType,
