@@ -5,7 +5,7 @@
 
 struct LogContext;
 
-/// The warnings of the read states. They name the unit switch whatever source is read.
+/// Warnings of the read states. They name the unit switch regardless of the source.
 namespace ConfigurationReadMessages {
 
 void warnNotConnected(const LogContext& context);

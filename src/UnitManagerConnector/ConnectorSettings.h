@@ -4,21 +4,21 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-/// The settings list of a configuration source, and what the connector does with any map of sources.
+/// The settings list of a configuration source, and helpers for maps with one entry per source.
 namespace ConnectorSettings {
 
-/// What stands where in a settings list.
+/// Index of each entry in a settings list.
 enum Entry
 {
     Service = 0,       ///< module name of the configuration-file service
     Object = 1,        ///< object name
-    Configuration = 2, ///< name of the configuration that is asked for
-    Kind = 3,          ///< which read call serves it
-    Requirement = 4,     ///< mandatory or optional
+    Configuration = 2, ///< name of the requested configuration
+    Kind = 3,          ///< which read call is used
+    Requirement = 4,   ///< mandatory or optional
     EntryCount = 5
 };
 
-/// Whether service, object and configuration are named.
+/// Whether service, object and configuration are given.
 inline bool areUsable(const QStringList& settings)
 {
     return !settings.value(Service).isEmpty() && !settings.value(Object).isEmpty() &&

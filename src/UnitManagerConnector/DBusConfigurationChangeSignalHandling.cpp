@@ -13,7 +13,7 @@ namespace {
 
 const char* const sourceName = "UnitManagerConnector/DBusConfigurationChangeSignalHandling";
 
-/// Signals of any interface count.
+/// Matches signals of any interface.
 const QLatin1String anyInterface("");
 
 QString changeSignal()
@@ -21,11 +21,11 @@ QString changeSignal()
     return QStringLiteral("configurationChanged");
 }
 
-/// One string argument, as the bus writes it. Without this signature Qt delivers signals of any arguments,
-/// and ends the process when it cannot convert one to that of the slot, such as a map.
+/// D-Bus signature of one string argument. Without it Qt delivers signals with any arguments, and aborts the
+/// process when an argument, such as a map, cannot be converted to the slot's parameter.
 const QString oneString = QStringLiteral("s");
 
-/// The same for the polling handler.
+/// The polling handler's code for one string argument.
 const auto oneStringArgument = DBusConnectionSignalPollingHandler::SlotSignature(3);
 
 QString busNameOf(const QStringList& settings)
@@ -41,7 +41,7 @@ QString objectPathOf(const QStringList& settings)
 
 } // namespace
 
-/// A configuration source: what differs between the three, and what is done for each.
+/// One of the three configuration sources: how they differ, and the operations common to all.
 struct DBusConfigurationChangeSignalHandling::Source
 {
     using Handling = DBusConfigurationChangeSignalHandling;

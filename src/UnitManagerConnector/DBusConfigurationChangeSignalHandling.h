@@ -11,15 +11,15 @@
 
 class DBusConnectionSignalPollingHandler;
 
-/// Subscribes to the signal "configurationChanged" of each configuration source and remembers which source
-/// has changed.
+/// Subscribes to the signal "configurationChanged" of each configuration source and records which sources
+/// have changed.
 ///
-/// Signals are either delivered by the Qt event loop of the thread that built the object, which must then
-/// run, or polled inside pollChangeFlags(), for threads without one. Used from one thread.
+/// Signals are either delivered by the Qt event loop of the thread that created the object, which must then
+/// run, or polled by pollChangeFlags(), for threads without an event loop. Must be used from one thread.
 ///
-/// The subscription to delivered signals names their signature, one string. Without it Qt ends the process
-/// when a signal carries a map in place of the name. As a consequence, a delivered signal that carries
-/// further arguments behind the name is not received; a polled one is.
+/// The subscription to delivered signals specifies the signature: one string. Otherwise Qt aborts the process
+/// when a signal carries a map instead of the name. As a consequence, a delivered signal with further
+/// arguments after the name is not received; a polled one is.
 class UNITMANAGER_EXPORT DBusConfigurationChangeSignalHandling : public QObject
 {
     Q_OBJECT
@@ -32,38 +32,38 @@ public:
     DBusConfigurationChangeSignalHandling(bool useSignalPolling);
     ~DBusConfigurationChangeSignalHandling() override;
 
-    /// Takes over the settings (0 service name, 1 object name, 2 configuration name of each source), forgets
-    /// that something has changed and drops all subscriptions. They are dropped under the new names: change
-    /// names only while nothing is subscribed.
+    /// Sets the settings of each source (0 service name, 1 object name, 2 configuration name), clears the
+    /// recorded changes and removes all subscriptions. The subscriptions are removed by the new names, so
+    /// change names only while nothing is subscribed.
     ///
-    /// @return what closeDbusConnections() returns.
+    /// @return the result of closeDbusConnections().
     bool init(const QMap<ConnectorType, QStringList>& settings);
 
     /// Subscribes to the changes of one source.
     ///
-    /// @return ConnectionFailed, with a warning that names the source, when the subscription was refused.
+    /// @return ConnectionFailed, with a warning that names the source, when the subscription fails.
     ConnectionStatus connectUnitSwitchChangeFlag();
     ConnectionStatus connectDependencyFileChangeFlag();
     ConnectionStatus connectDefaultUnitChangeFlag();
 
-    /// Takes in polled signals.
+    /// Processes polled signals.
     ///
     /// @return whether a source has changed since the last resetCachedObjects() or init().
     bool pollChangeFlags();
 
-    /// The configuration name that each source's last change reported; an empty text means no change.
+    /// The configuration name reported by the last change of each source; an empty text means no change.
     QMap<ConnectorType, QString> getConfigurationChangeMap() const;
 
-    /// Forgets all changes. @return true.
+    /// Clears the recorded changes. @return true.
     bool resetCachedObjects();
-    /// Forgets all changes and drops all subscriptions. @return true.
+    /// Clears the recorded changes and removes all subscriptions. @return true.
     bool reset();
-    /// Drops all subscriptions; logs a warning for each that the bus does not know. @return true.
+    /// Removes all subscriptions; logs a warning for each one that the bus does not know. @return true.
     bool closeDbusConnections();
 
 public Q_SLOTS:
-    /// A source reports a change of the configuration @p instanceName. Only the configured name counts, and
-    /// is noted with a debug line.
+    /// Called when a source reports a change of the configuration @p instanceName. If it is the configured
+    /// name, the change is recorded and a debug message logged; other names are ignored.
     void unitSwitchConfigurationFileChange(const QString& instanceName);
     void defaultUnitFileChange(const QString& instanceName);
     void dependencyFileChanged(const QString& instanceName);

@@ -110,10 +110,10 @@ bool UnitManagerConnectionData::hasValidConnectorIfConfigured(ConnectorType type
 
 bool UnitManagerConnectionData::updateObjects()
 {
-    // Both run: each source's objects are replaced whatever became of the other's.
+    // Both are updated: each source's objects are replaced regardless of the other's result.
     bool result = updateUnitManager();
     result = updateDependencyWalker() && result;
-    // Only the noted changes go. The fetched texts are needed when a single source is read again.
+    // Clears only the recorded changes. The fetched texts are needed when a single source is read again.
     m_changeSignalHandling.resetCachedObjects();
     return result;
 }

@@ -15,11 +15,11 @@ class DBusPendingReply;
 class DependencyWalker;
 class UnitManagerDevice;
 
-/// What the states of one connector share: the settings of the configuration sources, their connectors,
+/// Data shared by the states of one connector: the settings of the configuration sources, their connectors,
 /// pending replies and fetched texts, the objects built from the texts, and the handling of change signals.
 ///
-/// The built objects are shared with whoever took them and never changed; new texts give new objects. Used
-/// from the one thread that drives the state machine.
+/// The built objects are shared with their users and never modified; new texts produce new objects. Must be
+/// used from the thread that drives the state machine.
 class UNITMANAGER_EXPORT UnitManagerConnectionData : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     using ConnectorType = UnitManagerConnectorDefinitions::ConnectorType;
     using ConnectionStatus = UnitManagerConnectorDefinitions::ConnectionStatus;
 
-    /// @param parent ignored: the object belongs to its holder
+    /// @param parent ignored: the holder owns the object
     /// @param useSignalPolling whether change signals are polled instead of delivered by the event loop
     /// @param useAsynchronInterface whether configurations are read without blocking
     /// @param ignoredFlag has no effect
@@ -39,8 +39,8 @@ public:
                               const QString& defaultUnitConfiguration);
     ~UnitManagerConnectionData() override;
 
-    /// Takes over how and where configurations are read, and drops all change subscriptions. A source with an
-    /// empty name is not configured.
+    /// Sets how and from where configurations are read, and removes all change subscriptions. A source with
+    /// an empty name is not configured.
     ///
     /// @return true.
     bool init(bool useAsynchronInterface, const QString& dependencyService, const QString& dependencyObject,
@@ -50,38 +50,38 @@ public:
     /// Whether configurations are read without blocking.
     virtual bool useAsynchronInterface() const;
 
-    /// Opens the connector of a source in place of its earlier one and subscribes to its changes. A connector
-    /// whose subscription failed is kept.
+    /// Opens the connector of a source, replacing an earlier one, and subscribes to its changes. If the
+    /// subscription fails, the connector is kept.
     ConnectionStatus openConnector(ConnectorType type);
 
-    /// Whether every configured source has a connector that is usable.
+    /// Whether every configured source has a usable connector.
     bool isConnectedToDBus() const;
 
-    /// Builds new objects from the fetched texts that are there, and forgets all changes. The objects are
-    /// replaced also when a text does not load.
+    /// Builds new objects from the texts fetched so far, and clears the recorded changes. The objects are
+    /// replaced even if a text does not load.
     ///
     /// @return whether every text was loaded; true when there was none.
     bool updateObjects();
 
-    /// Drops fetched texts, pending replies and noted changes. @return true.
+    /// Discards fetched texts, pending replies and recorded changes. @return true.
     bool resetCachedObjects();
-    /// Drops subscriptions, connectors, fetched texts, pending replies and noted changes; built objects stay.
-    /// @return true.
+    /// Discards subscriptions, connectors, fetched texts, pending replies and recorded changes; built objects
+    /// are kept. @return true.
     bool resetObject();
-    /// Drops the change subscriptions. @return true.
+    /// Removes the change subscriptions. @return true.
     bool closeConnections();
 
-    /// Whether a source has changed since its objects were built.
+    /// Whether a source has changed since its objects were built. Processes polled signals.
     bool pollChangeFlags();
-    /// The configuration name that each source's last change reported; an empty text means no change.
+    /// The configuration name reported by the last change of each source; an empty text means no change.
     QMap<ConnectorType, QString> getConfigurationChangeMap() const;
 
-    /// Shares the built unit manager. @return false, with @p out untouched, when none has been built.
+    /// Shares the built unit manager. @return false, with @p out unchanged, when none has been built.
     bool initializeUnitManager(QSharedPointer<UnitManagerDevice>& out);
-    /// Shares the built dependency walker. @return false, with @p out untouched, when none has been built.
+    /// Shares the built dependency walker. @return false, with @p out unchanged, when none has been built.
     bool initializeDependencyWalker(QSharedPointer<DependencyWalker>& out);
 
-    /// What the states read and write.
+    /// Data that the states read and write.
     QMap<ConnectorType, QSharedPointer<ConfigurationFileHandlerDBusConnector>>& connectors();
     QMap<ConnectorType, QStringList>& connectorSettings();
     QMap<ConnectorType, QSharedPointer<DBusPendingReply>>& pendingReplies();

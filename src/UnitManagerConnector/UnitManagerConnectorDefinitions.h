@@ -7,7 +7,7 @@
 
 #include "UnitManagerExport.h"
 
-/// The vocabulary of the connector: the configuration sources, the outcome of opening one, and the keys of
+/// Common definitions of the connector: the configuration sources, the result of opening one, and the keys of
 /// its settings.
 class UNITMANAGER_EXPORT UnitManagerConnectorDefinitions : public QObject
 {
@@ -22,25 +22,25 @@ public:
         DefaultUnit = 2     ///< default units; optional
     };
 
-    /// The outcome of opening a source.
+    /// Result of opening a source.
     enum ConnectionStatus
     {
-        Connected = 0,        ///< the connector is there and its change signal connected
-        ConnectionFailed = 1, ///< there is no connector, or its change signal could not be connected
+        Connected = 0,        ///< the connector exists and its change signal is connected
+        ConnectionFailed = 1, ///< there is no connector, or connecting its change signal failed
         NotConfigured = 2     ///< the source has no usable settings
     };
 
-    /// @param parent ignored: the object belongs to its holder
+    /// @param parent ignored: the holder owns the object
     UnitManagerConnectorDefinitions(QObject* parent);
 
-    /// Key of a source that may be missing.
+    /// Key of an optional source.
     static const QString& getKeyOptional();
-    /// Key of a source without which nothing is read.
+    /// Key of a mandatory source: without it nothing is read.
     static const QString& getKeyMandatory();
-    /// Key of a source that is read as a configuration. Its text and the next one's are crossed; go through
-    /// the getters.
+    /// Key of a source that is read as a configuration. Its text is swapped with that of
+    /// getKeyConfigurationDependencyFile(): use the getters, not the texts.
     static const QString& getKeyConfigurationFile();
-    /// Key of a source that is read as a dependency configuration.
+    /// Key of a source that is read as a dependency configuration; see getKeyConfigurationFile().
     static const QString& getKeyConfigurationDependencyFile();
 };
 

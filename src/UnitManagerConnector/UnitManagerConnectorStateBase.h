@@ -14,8 +14,8 @@
 
 class UnitManagerConnectionData;
 
-/// A state of the connector. States are made by the factory and owned by the state machine; they act only
-/// through the UnitManagerStateMachineWrapper under which they were made.
+/// A state of the connector. The factory creates states and the state machine owns them; they act only
+/// through the UnitManagerStateMachineWrapper with which they were created.
 class UNITMANAGER_EXPORT UnitManagerConnectorStateBase : public StateMachineStateBase
 {
     Q_OBJECT
@@ -23,8 +23,8 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateBase : public StateMachineStat
 public:
     using ConnectorType = UnitManagerConnectorDefinitions::ConnectorType;
 
-    /// @param parent the wrapper; anything else gives a state without wrapper. It does not become the QObject
-    /// parent.
+    /// @param parent the wrapper; any other object results in a state without a wrapper. It does not become
+    /// the QObject parent.
     UnitManagerConnectorStateBase(QObject* parent);
     ~UnitManagerConnectorStateBase() override;
 
@@ -36,23 +36,23 @@ protected:
     /// The data shared by all states of the wrapper.
     UnitManagerConnectionData& connectionData() const;
 
-    /// Selects the state class @p State as the next one. @p event is overwritten by that when it is the one
-    /// being delivered: do not read it afterwards.
+    /// Selects the state class @p State as the next one. If @p event is the event being delivered, it is
+    /// overwritten: do not read it afterwards.
     template <typename State>
     void moveTo(const StateMachineEvent& event)
     {
         m_wrapper->moveToNextState(VESKFactories::createFactoryKey<State>(), event);
     }
 
-    /// Selects the read state with the sources to read.
+    /// Selects the read state and passes on the sources to read.
     void triggerRead(const QList<ConnectorType>& types);
 
-    /// The sources to read that an event carries; none when its data is something else.
+    /// The sources to read that an event carries; empty when its data is of another type.
     static QList<ConnectorType> typesToRead(const StateMachineEvent& event);
 
-    /// Does something once for each source that an event carries, whatever became of those before.
+    /// Calls @p action once for each source that an event carries, even after a failure.
     ///
-    /// @return whether there was one, and all of it went well.
+    /// @return whether there was at least one source, and @p action succeeded for all of them.
     static bool forEachType(const StateMachineEvent& event, const std::function<bool(ConnectorType)>& action);
 
     UnitManagerStateMachineWrapper* m_wrapper;

@@ -5,7 +5,7 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
 #include "UnitManagerExport.h"
 
-/// Drops everything that was opened or fetched and starts again.
+/// Discards everything that was opened or fetched and starts again.
 class UNITMANAGER_EXPORT UnitManagerConnectorStateError : public UnitManagerConnectorStateBase
 {
     Q_OBJECT
@@ -17,6 +17,6 @@ public:
     /// Entering the state does nothing.
     void postInitialEvent(const StateMachineEvent& event) override;
 
-    /// Goes to the initial state.
+    /// Changes to the initial state.
     void postEvent(const StateMachineEvent& event) override;
 };

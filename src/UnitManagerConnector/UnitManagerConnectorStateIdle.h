@@ -5,7 +5,7 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
 #include "UnitManagerExport.h"
 
-/// Waits for changes and has the changed sources read again.
+/// Waits for changes and triggers reading of the changed sources.
 class UNITMANAGER_EXPORT UnitManagerConnectorStateIdle : public UnitManagerConnectorStateBase
 {
     Q_OBJECT
@@ -17,6 +17,7 @@ public:
     /// Entering the state does nothing.
     void postInitialEvent(const StateMachineEvent& event) override;
 
-    /// Polls the change flags once; when something has changed, has those sources read whose change is noted.
+    /// Polls the change flags once. When something has changed, triggers reading of the sources with a
+    /// recorded change.
     void postEvent(const StateMachineEvent& event) override;
 };

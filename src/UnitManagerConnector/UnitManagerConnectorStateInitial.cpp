@@ -10,9 +10,9 @@ const char* const sourceName = "UnitManagerConnector/UnitManagerConnectorStateIn
 
 using ConnectorType = UnitManagerConnectorDefinitions::ConnectorType;
 
-/// Opens a source, and adds it to those to read when that worked.
+/// Opens a source, and on success adds it to the sources to read.
 ///
-/// @return whether the attempt goes on with the next source.
+/// @return whether the attempt continues with the next source.
 bool openSource(UnitManagerConnectionData& data, ConnectorType type, QList<ConnectorType>& opened,
                 const LogContext& context)
 {

@@ -11,6 +11,6 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateMachine : public StateMachineB
     Q_OBJECT
 
 public:
-    /// @param parent the wrapper, which every state is made with
+    /// @param parent the wrapper, which is passed to every state
     UnitManagerConnectorStateMachine(QObject* parent);
 };

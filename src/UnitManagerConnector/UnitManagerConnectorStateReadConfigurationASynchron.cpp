@@ -14,8 +14,8 @@ namespace {
 
 const char* const sourceName = "UnitManagerConnector/UnitManagerConnectorStateReadConfigurationASynchron";
 
-/// Puts the reply of a new call in place of an earlier one; an unknown kind of configuration leaves that as
-/// it is.
+/// Starts a call and stores its pending reply in place of an earlier one. For an unknown kind of
+/// configuration the earlier one is kept.
 void request(UnitManagerConnectionData& data, UnitManagerConnectorDefinitions::ConnectorType type,
              const ConfigurationFileHandlerDBusConnector& connector, const LogContext& context)
 {

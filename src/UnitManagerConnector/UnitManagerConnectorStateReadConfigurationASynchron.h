@@ -18,13 +18,13 @@ public:
     /// Entering the state does nothing.
     void postInitialEvent(const StateMachineEvent& event) override;
 
-    /// Starts every source that the event lists, also after a failure. Goes to the state that waits for the
-    /// replies, or to the error state when a read could not be started or none is listed.
+    /// Starts reading every source that the event lists, even after a failure. Changes to the state that
+    /// waits for the replies, or to the error state when a read could not be started or no source is listed.
     void postEvent(const StateMachineEvent& event) override;
 
-    /// Starts reading one source; an earlier text that is there is dropped first.
+    /// Starts reading one source. An earlier text of that source is discarded first.
     ///
-    /// @return whether the connection data holds a pending reply. Warnings say why not; there is none for a
-    /// missing connector.
+    /// @return whether the connection data holds a pending reply. Warnings give the reason if not, except for
+    /// a missing connector.
     bool startConfigurationRead(UnitManagerConnectorDefinitions::ConnectorType type);
 };

@@ -5,7 +5,7 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
 #include "UnitManagerExport.h"
 
-/// Reads the configurations with calls that block.
+/// Reads the configurations with blocking calls.
 class UNITMANAGER_EXPORT UnitManagerConnectorStateReadConfigurationSynchron
     : public UnitManagerConnectorStateBase
 {
@@ -18,13 +18,13 @@ public:
     /// Entering the state does nothing.
     void postInitialEvent(const StateMachineEvent& event) override;
 
-    /// Reads every source that the event lists, also after a failure. Goes to the update state, or to the
-    /// error state when a read failed or none is listed.
+    /// Reads every source that the event lists, even after a failure. Changes to the update state, or to the
+    /// error state when a read failed or no source is listed.
     void postEvent(const StateMachineEvent& event) override;
 
-    /// Reads one source into the connection data, whose earlier text is dropped first.
+    /// Reads one source into the connection data. An earlier text of that source is discarded first.
     ///
-    /// @return whether a text was stored that is not empty. Warnings say why not; there is none for a missing
+    /// @return whether a non-empty text was stored. Warnings give the reason if not, except for a missing
     /// connector.
     bool readConfiguration(UnitManagerConnectorDefinitions::ConnectorType type);
 };

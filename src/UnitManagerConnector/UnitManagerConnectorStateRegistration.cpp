@@ -1,4 +1,4 @@
-// The creators of the connector's states, registered when the library is loaded.
+// Registers the creators of the connector's states when the library is loaded.
 
 #include "StateMachineStateBase.h"
 #include "UnitConversion/Factory.h"

@@ -5,7 +5,7 @@
 #include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
 #include "UnitManagerExport.h"
 
-/// Builds unit manager and dependency walker from the fetched texts.
+/// Builds the unit manager and the dependency walker from the fetched texts.
 class UNITMANAGER_EXPORT UnitManagerConnectorStateUpdate : public UnitManagerConnectorStateBase
 {
     Q_OBJECT
@@ -17,6 +17,6 @@ public:
     /// Entering the state does nothing.
     void postInitialEvent(const StateMachineEvent& event) override;
 
-    /// Goes to the idle state, or to the error state when a text did not load.
+    /// Changes to the idle state, or to the error state when a text did not load.
     void postEvent(const StateMachineEvent& event) override;
 };

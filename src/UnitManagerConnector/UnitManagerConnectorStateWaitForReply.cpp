@@ -8,11 +8,11 @@
 
 namespace {
 
-/// What isFinished() reports; anything else means that the reply is outstanding.
+/// Results of isFinished(); any other value means that the reply is outstanding.
 const int replyArrived = 0;
 const int replyFailed = 1;
 
-/// What checkReplyState() reports.
+/// Results of checkReplyState().
 const int textArrived = 0;
 const int nothingToUse = 1;
 const int callFailed = 2;

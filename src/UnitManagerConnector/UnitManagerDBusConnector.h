@@ -8,10 +8,11 @@
 #include "UnitManagerExport.h"
 
 /// Fetches the configurations from the configuration-file service, builds a unit manager and a dependency
-/// walker from them, and keeps them current.
+/// walker from them, and keeps them up to date.
 ///
-/// Nothing happens between calls: every isUnitManagerInitialized() advances the connector. Call it until it
-/// is true, then regularly: a change of a configuration is read, built and announced inside it.
+/// Nothing happens between calls: each call of isUnitManagerInitialized() advances the connector. Call it
+/// until it returns true, then regularly: it reads a changed configuration, builds new objects and reports
+/// the change.
 ///
 /// @code
 /// UnitManagerDBusConnector connector(nullptr, true, true, "", "", "", "", "", "");
@@ -21,8 +22,8 @@
 ///     connector.initializeUnitManager(units);
 /// @endcode
 ///
-/// Used from the thread that built it. Without signal polling that thread must run a Qt event loop, which
-/// delivers the service's change signals. Both signals of this class are emitted from inside
+/// Must be used from the thread that created it. Without signal polling that thread must run a Qt event loop,
+/// which delivers the service's change signals. Both signals of this class are emitted from inside
 /// isUnitManagerInitialized().
 class UNITMANAGER_EXPORT UnitManagerDBusConnector : public QObject
 {
@@ -32,7 +33,7 @@ public:
     /// The six names are service, object and configuration of the dependency file and of the default units; a
     /// source with an empty name is not configured. The source of the units is fixed.
     ///
-    /// @param parent ignored: the object belongs to its holder
+    /// @param parent ignored: the holder owns the object
     /// @param useSignalPolling whether change signals are polled instead of delivered by the event loop
     /// @param useAsynchronInterface whether configurations are read without blocking
     UnitManagerDBusConnector(QObject* parent, bool useSignalPolling, bool useAsynchronInterface,
@@ -41,38 +42,38 @@ public:
                              const QString& defaultUnitObject, const QString& defaultUnitConfiguration);
     ~UnitManagerDBusConnector() override;
 
-    /// Takes over new settings and starts again; a noted change stays noted. @return true.
+    /// Applies new settings and starts again; a recorded change stays recorded. @return true.
     virtual bool init(bool useAsynchronInterface, const QString& dependencyService,
                       const QString& dependencyObject, const QString& dependencyConfiguration,
                       const QString& defaultUnitService, const QString& defaultUnitObject,
                       const QString& defaultUnitConfiguration);
 
-    /// Shares the built dependency walker. @return false, with @p out untouched, when none has been built.
+    /// Shares the built dependency walker. @return false, with @p out unchanged, when none has been built.
     virtual bool initializeDependencyWalker(QSharedPointer<DependencyWalker>& out);
-    /// Shares the built unit manager. @return false, with @p out untouched, when none has been built.
+    /// Shares the built unit manager. @return false, with @p out unchanged, when none has been built.
     virtual bool initializeUnitManager(QSharedPointer<UnitManagerDevice>& out);
 
-    /// Advances the connector: one step, which waits for no configuration, when configurations are read
-    /// without blocking; else up to 100 steps, which block during the reads and end early when the connector
-    /// idles or has failed.
+    /// Advances the connector. When configurations are read without blocking, it performs one step and does
+    /// not wait for replies. Otherwise it performs up to 100 steps, which block during reads, and ends early
+    /// when the connector is idle or has failed.
     ///
-    /// Without polled signals a lost bus is not noticed once the connector idles: call reset() after the bus
-    /// was restarted. A change made while the service was down is not announced by it either; reset() reads
-    /// everything again.
+    /// Without signal polling an idle connector does not detect a lost bus: call reset() after a restart of
+    /// the bus. A change made while the service was down is not announced either; reset() reads everything
+    /// again.
     ///
-    /// @return whether the connector idles, so that what could be built is built.
+    /// @return whether the connector is idle, that is, every object that could be built is built.
     virtual bool isUnitManagerInitialized();
 
-    /// Whether a configuration was taken up since the last call; the first one counts.
+    /// Whether a configuration was loaded since the last call; the first configuration counts as well.
     virtual bool hasConfigurationChanged();
 
-    /// Starts again and forgets a noted change. Built objects stay. @return true.
+    /// Starts again and clears a recorded change. Built objects are kept. @return true.
     virtual bool reset();
 
 Q_SIGNALS:
-    /// Objects are about to be built from what was read, whether or not it loads.
+    /// Emitted just before objects are built from new texts, whether or not these load.
     void unitManagerConfigurationChanged();
-    /// isUnitManagerInitialized() is about to return true.
+    /// Emitted just before isUnitManagerInitialized() returns true.
     void unitManagerIsInitialized();
 
 private:

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The name of a source that is not configured: empty, and not null.
+/// The name of a source that is not configured: empty, but not null.
 const QLatin1String noName("");
 
 QString initialStateKey()

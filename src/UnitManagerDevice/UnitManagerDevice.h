@@ -12,7 +12,7 @@ class ProcessDataValue;
 /// A unit manager that also reads and writes live process-data values in the caller's unit, while the value
 /// itself is stored in the base unit.
 ///
-/// Both operations are for callers that hold the process-data value's lock already. They never round.
+/// Callers of both operations must already hold the lock of the process-data value. Neither operation rounds.
 class UNITMANAGER_EXPORT UnitManagerDevice : public UnitManager
 {
 public:
@@ -20,12 +20,12 @@ public:
     ~UnitManagerDevice() override;
 
     /// @param unit unit of the result; empty for the default unit
-    /// @return the value converted from the base unit, or as it is when it carries an error; error type 3 for
+    /// @return the value converted from the base unit, or unchanged if it carries an error; error type 3 for
     /// a null @p processDataValue.
     ProcessValue getValueNoLock(const QSharedPointer<ProcessDataValue>& processDataValue,
                                 const QString& unit) const;
 
-    /// Writes @p value converted to the base unit; a value that carries an error is written as it is.
+    /// Writes @p value converted to the base unit; a value that carries an error is written unchanged.
     ///
     /// @param unit unit of @p value; empty for the default unit
     /// @return false, with nothing written, for a null @p processDataValue and a value that cannot be

@@ -12,7 +12,7 @@ namespace {
 
 const char* const sourceName = "UnitManagerDevice/UnitManagerWrapper";
 
-/// The name of a source that is not configured, the default unit, and the result without a text: empty, and
+/// Used for the name of a source that is not configured, the default unit, and an empty result: empty, but
 /// not null.
 const QLatin1String noText("");
 

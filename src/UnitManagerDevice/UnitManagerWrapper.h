@@ -13,13 +13,13 @@ class Array2dDataTypeWrapper;
 class DependencyWalker;
 class UnitManagerDevice;
 
-/// What a device application holds: a unit manager that fetches its configuration from the configuration-file
-/// service and keeps itself current.
+/// The class for device applications: a unit manager that fetches its configuration from the
+/// configuration-file service and keeps itself up to date.
 ///
-/// Build it, call checkInitialized() until it is true, and go on calling it regularly: every call advances
-/// the connector, and a changed configuration is read and taken up inside it.
-/// hasUnitManagerConfigurationChanged() then says so once. The value operations may be called at any time: as
-/// long as there is no usable unit manager they give values as they are stored and empty texts.
+/// Create it, call checkInitialized() until it returns true, and keep calling it regularly: every call
+/// advances the connector and loads a changed configuration. hasUnitManagerConfigurationChanged() then
+/// returns true once. The value operations may be called at any time: without a usable unit manager they
+/// return values as they are stored, and empty texts.
 ///
 /// @code
 /// UnitManagerWrapper units("DeviceManager", "DefaultUnitConfiguration", "UnitManager/DefaultUnit", true,
@@ -30,23 +30,23 @@ class UnitManagerDevice;
 /// const QVariant shown = units.getValue("Pressure", processData, QString()); // in the default unit
 /// @endcode
 ///
-/// Used from the thread that built it. Without signal polling that thread must run a Qt event loop, or
-/// changes of the configuration go unnoticed; with it none is needed, and changes are heard again after the
-/// bus was restarted, where without it reset() is needed. Changes made while the service or the bus was down
-/// are announced by nobody: reset() reads everything again. Nothing throws.
+/// Must be used from the thread that created it. Without signal polling that thread must run a Qt event loop,
+/// or changes of the configuration are not detected; after a restart of the bus call reset(). With signal
+/// polling no event loop is needed, and changes are detected again after a restart of the bus. Changes made
+/// while the service or the bus was down are not announced: reset() reads everything again. Nothing throws.
 ///
 /// A configuration that does not load replaces a good one: the wrapper then falls back to stored values until
 /// a good one is read.
 class UNITMANAGER_EXPORT UnitManagerWrapper
 {
 public:
-    /// Units only. Change signals are always delivered by the event loop here; @p useSignalPolling only
-    /// suppresses the first attempt.
+    /// Units only. Change signals are always delivered by the event loop with this constructor; @p
+    /// useSignalPolling only suppresses the first attempt.
     ///
     /// @param useAsynchronInterface whether configurations are read without blocking
     UnitManagerWrapper(bool useAsynchronInterface, bool useSignalPolling);
 
-    /// Not available: two string literals would be taken for the two flags.
+    /// Deleted: two string literals would be converted to the two flags.
     template <typename Character>
     UnitManagerWrapper(const Character*, const Character*) = delete;
 
@@ -54,7 +54,7 @@ public:
     ///
     /// @param useAsynchronInterface whether configurations are read without blocking
     /// @param useSignalPolling whether change signals are polled; also suppresses the first attempt, so that
-    /// nothing is read inside the constructor
+    /// the constructor reads nothing
     UnitManagerWrapper(const QString& defaultUnitService, const QString& defaultUnitObject,
                        const QString& defaultUnitConfiguration, bool useAsynchronInterface,
                        bool useSignalPolling);
@@ -66,8 +66,8 @@ public:
                        bool useAsynchronInterface, bool useSignalPolling);
     virtual ~UnitManagerWrapper();
 
-    /// Drops the unit manager and the dependency walker, takes over new settings and starts again; no attempt
-    /// is made.
+    /// Discards the unit manager and the dependency walker, applies new settings and starts again, without
+    /// making a first attempt.
     ///
     /// @return true.
     virtual bool init(bool useAsynchronInterface, const QString& dependencyService,
@@ -75,71 +75,73 @@ public:
                       const QString& defaultUnitService, const QString& defaultUnitObject,
                       const QString& defaultUnitConfiguration);
 
-    /// Advances the connector and takes up what it has built.
+    /// Advances the connector and loads what it has built.
     ///
-    /// @return whether the connector idles. Also true, with a warning, when no unit manager could be built.
+    /// @return whether the connector is idle. Also true, with a warning, when no unit manager could be built.
     bool checkInitialized();
 
-    /// Whether the configuration has changed since the last call; the first one counts. Takes up what was
-    /// built and does not advance the connector. Logs a warning when no unit manager could be built.
+    /// Whether the configuration has changed since the last call; the first configuration counts as a change.
+    /// Loads what the connector has built, but does not advance it. Logs a warning when no unit manager could
+    /// be built.
     bool hasUnitManagerConfigurationChanged();
 
-    /// Starts again; unit manager and dependency walker stay meanwhile. @return true.
+    /// Starts again; unit manager and dependency walker are kept meanwhile. @return true.
     bool reset();
 
     /// Whether there is a usable unit manager.
     operator bool() const;
-    /// The unit manager of the configuration taken up last, for all that it knows beyond the operations
-    /// below.
+    /// The unit manager of the configuration loaded last, for operations that this class does not have.
     ///
-    /// The connector shares the object, which is therefore not to be changed. A later configuration comes as
-    /// another object: a caller that keeps this one keeps the units of this moment.
+    /// The object is shared with the connector and must not be modified. A later configuration creates a new
+    /// object: a caller that keeps this one keeps the present configuration.
     ///
     /// @return null as long as there is none; it may be invalid after a configuration that did not load.
     QSharedPointer<const UnitManagerDevice> getUnitManager() const;
 
-    /// The value of the child @p key of @p node, converted to @p unit (empty: the default unit). Without unit
-    /// manager as it is stored.
+    /// The value of the child @p key of @p node, converted to @p unit (empty: the default unit). Without a
+    /// unit manager, the stored value.
     QVariant getValue(const QString& key, const QSharedPointer<ConfigurationAndProcessDataBase>& node,
                       const QString& unit) const;
-    /// @p value converted from the base unit to @p unit, not rounded. Without unit manager @p value itself.
+    /// @p value converted from the base unit to @p unit, not rounded. Without a unit manager, @p value
+    /// unchanged.
     QVariant getValue(const QVariant& value, const QString& unitType, const QString& unit) const;
-    /// Cells of one row, each converted to @p unit. Without unit manager as they are stored.
+    /// Cells of one row, each converted to @p unit. Without a unit manager, the stored values.
     QList<QVariant> getValueArray(const Array2dDataTypeWrapper& array, unsigned int row,
                                   unsigned int firstColumn, unsigned int columnCount,
                                   const QString& unit) const;
-    /// Writes cells of one row, each converted from @p unit. Without unit manager as they are given.
+    /// Writes cells of one row, each converted from @p unit. Without a unit manager they are written
+    /// unconverted.
     ///
     /// @return whether they were written.
     bool setValueArray(Array2dDataTypeWrapper& array, unsigned int row, unsigned int firstColumn,
                        unsigned int columnCount, const QList<QVariant>& values, const QString& unit) const;
     /// Writes a value to the child @p key of @p node, converted from @p unit, and resolves what depends on
-    /// it. Without unit manager it is written as it is given.
+    /// it. Without a unit manager it is written unconverted.
     ///
-    /// @return 0 changed, 1 written without change, more than that: failure.
+    /// @return 0 changed, 1 written without change; any higher value is a failure.
     int setValueStatus(const QString& key, const QSharedPointer<ConfigurationAndProcessDataBase>& node,
                        const QVariant& value, const QString& unit);
-    /// Whether setValueStatus() wrote the value.
+    /// Writes a value like setValueStatus(). @return whether it was written.
     bool setValue(const QString& key, const QSharedPointer<ConfigurationAndProcessDataBase>& node,
                   const QVariant& value, const QString& unit);
 
-    /// The unit label of the child @p key of @p node; empty without unit manager.
+    /// The unit label of the child @p key of @p node; empty without a unit manager.
     QString getUnitText(const QString& key, const QSharedPointer<ConfigurationAndProcessDataBase>& node,
                         const QString& language);
-    /// The label of a fixed unit or of a unit type's default unit; empty without unit manager.
+    /// The label of a fixed unit or of a unit type's default unit; empty without a unit manager.
     QString getUnitText(const QString& unitType, const QString& language);
-    /// The unit label of one column; empty without unit manager.
+    /// The unit label of one column; empty without a unit manager.
     QString getUnitTextArray(const Array2dDataTypeWrapper& array, unsigned int column,
                              const QString& language);
-    /// The label, in all languages, of a fixed unit or of a unit type's base unit; a variant of "" without
+    /// The label, in all languages, of a fixed unit or of a unit type's base unit; a variant of "" without a
     /// unit manager.
     QVariant getUnitTextJsonMap(const QString& unitType) const;
-    /// The base unit as a fixed unit; empty without unit manager.
+    /// The base unit as a fixed unit; empty without a unit manager.
     QString getBaseUnit(const QString& unitType) const;
 
     /// Visits everything that depends on @p key.
     ///
-    /// @param otherNode where to start; null for @p node
+    /// @param otherNode start node; if null, @p node is used
     /// @return true.
     bool resolveDependency(const QString& key, const QSharedPointer<ConfigurationAndProcessDataBase>& node,
                            const QSharedPointer<ConfigurationAndProcessDataBase>& otherNode);

@@ -12,7 +12,7 @@ class UnitManagerWrapper;
 /// Writes the base unit and the unit texts of a unit type into the measurement-range attributes of the nodes
 /// that a DependencyWalker reaches.
 ///
-/// Used from the thread of its wrapper.
+/// Must be used from the thread of its wrapper.
 class UNITMANAGER_EXPORT UnitManipulatorMeasurementRange : public UnitManipulatorBase
 {
 public:
@@ -20,14 +20,14 @@ public:
     UnitManipulatorMeasurementRange(UnitManagerWrapper& wrapper);
     ~UnitManipulatorMeasurementRange() override;
 
-    /// Writes base unit and unit texts of @p unitType into the first measurement range of @p node. The
-    /// wrapper's connector is advanced first.
+    /// Writes base unit and unit texts of @p unitType into the first measurement range of @p node. Advances
+    /// the wrapper's connector first.
     ///
-    /// @param handled set to true when the node was written
-    /// @param changed set to true when that changed the node. Neither output is ever set to false.
+    /// Logs a warning, and changes nothing, while the wrapper is not initialised. A null node and a node
+    /// without measurement-range attributes stay unchanged.
     ///
-    /// Logs a warning, and touches nothing, while the wrapper is not initialised. A null node and one without
-    /// measurement-range attributes stay as they are.
+    /// @param handled set to true when the node was written; never set to false
+    /// @param changed set to true when that changed the node; never set to false
     void manipulate(const QSharedPointer<ConfigurationAndProcessDataBase>& node, const QString& unitType,
                     bool& handled, bool& changed) override;
 
