@@ -72,7 +72,7 @@ QList<QVariant> Array2dDataTypeWrapper::getRowValues(unsigned int row, unsigned 
     if (!hasCells(row, firstColumn, columnCount))
         return {};
     const QVariantList cells = cellsOf(m_data.at(static_cast<int>(row)));
-    // Shared, where the row is asked for as it is stored.
+    // The list is shared, not copied, when the whole row is requested.
     if (firstColumn == 0 && static_cast<int>(columnCount) == cells.size())
         return cells;
     QList<QVariant> values;
@@ -104,7 +104,7 @@ bool Array2dDataTypeWrapper::setRowValues(const QList<QVariant>& values, unsigne
     if (!hasCells(row, firstColumn, columnCount) || static_cast<unsigned int>(values.size()) < columnCount)
         return false;
     QVariant& stored = m_data[static_cast<int>(row)];
-    // A table of one column keeps its form, a plain list of values.
+    // A table with one column keeps its form: a plain list of values.
     if (m_columns == 1 && !isRowList(stored)) {
         stored = values.value(0, stored);
         return true;
@@ -123,7 +123,7 @@ bool Array2dDataTypeWrapper::setRowValues(const QList<QVariant>& values, unsigne
 bool Array2dDataTypeWrapper::hasCells(unsigned int row, unsigned int firstColumn,
                                       unsigned int columnCount) const
 {
-    // The sum of both could overflow.
+    // Avoids adding both numbers, which could overflow.
     return row < static_cast<unsigned int>(m_data.size()) && firstColumn <= m_columns &&
            columnCount <= m_columns - firstColumn;
 }

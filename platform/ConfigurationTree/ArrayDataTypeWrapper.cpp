@@ -55,7 +55,7 @@ bool ArrayDataTypeWrapper::setValues(const QList<QVariant>& values, unsigned int
 
 bool ArrayDataTypeWrapper::hasValues(unsigned int first, unsigned int count) const
 {
-    // The sum of both could overflow.
+    // Avoids adding both numbers, which could overflow.
     const auto size = static_cast<unsigned int>(m_data.size());
     return first <= size && count <= size - first;
 }

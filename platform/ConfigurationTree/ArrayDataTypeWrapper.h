@@ -7,7 +7,7 @@
 #include <QtCore/QVariant>
 #include <QtCore/QVector>
 
-/// A list seen as a one-dimensional array of values of one unit type.
+/// A list used as a one-dimensional array of values of one unit type.
 ///
 /// The wrapper holds its own (implicitly shared) copy of the list.
 class CONFIGURATIONTREE_EXPORT ArrayDataTypeWrapper
@@ -24,7 +24,7 @@ public:
     /// @return the number of values, always one entry.
     virtual QVector<unsigned int> getDimensions() const;
 
-    /// Turns the wrapper to other data; the parameters are those of the constructor.
+    /// Replaces the data; for the parameters see the constructor.
     void reset(const QList<QVariant>& data, const QList<QVariant>& dimensions);
 
     /// @return the number of values, always one entry.
@@ -37,12 +37,12 @@ public:
     /// @return @p count values from @p first on; an empty list when one of them does not exist.
     QList<QVariant> getValues(unsigned int first, unsigned int count) const;
 
-    /// Replaces all values. @return false, and nothing is written, when @p values is of another length.
+    /// Replaces all values. @return false, with nothing written, when @p values has a different length.
     bool setValues(const QList<QVariant>& values);
     /// Replaces @p count values from @p first on by the first entries of @p values.
     ///
-    /// @return false, and nothing is written, when one of them does not exist or @p values has fewer entries
-    /// than that. With a count of 0 nothing changes.
+    /// @return false, with nothing written, when one of them does not exist or @p values has too few entries.
+    /// With a count of 0 nothing changes.
     bool setValues(const QList<QVariant>& values, unsigned int first, unsigned int count);
 
 private:

@@ -11,7 +11,7 @@ using Definitions = ConfigurationAndProcessDataDefinitions;
 bool isOfNumberType(const ConfigurationAndProcessDataBase& node)
 {
     const QVariant type = node.getProperty(Definitions::getKeyDataPropertyType());
-    // Compared in place: a copy would cost more than the comparison.
+    // Compared in place: a copy costs more than the comparison.
     return type.userType() == QMetaType::QString &&
            PropertyList::isSameKey(*static_cast<const QString*>(type.constData()),
                                    Definitions::getKeyDataTypeNumber());

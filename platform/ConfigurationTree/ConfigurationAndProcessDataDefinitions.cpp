@@ -2,7 +2,7 @@
 
 namespace {
 
-// Not inside the functions: these are read several times in every access to a node.
+// Not function-local: every access to a node reads these several times.
 const QString keyDataPropertyValue = QStringLiteral("@value");
 const QString keyDataPropertyUnitType = QStringLiteral("@unitType");
 const QString keyDataPropertyType = QStringLiteral("@type");

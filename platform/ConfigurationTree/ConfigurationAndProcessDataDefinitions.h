@@ -15,9 +15,9 @@ public:
     static const QString& getKeyDataPropertyValue();
     /// The unit type of the value.
     static const QString& getKeyDataPropertyUnitType();
-    /// The node's data type. Where a document leaves it out, it follows from the value.
+    /// The node's data type. If a document omits it, it is derived from the value.
     static const QString& getKeyDataPropertyType();
-    /// The place of a unit among the units of its type; 0 is the base unit.
+    /// The position of a unit among the units of its type; 0 is the base unit.
     static const QString& getKeyDataPropertyDisplayPosition();
     /// The measurement-range attributes of a value.
     static const QString& getKeyDataPropertyMeasurementRangeAttributes();
@@ -26,7 +26,7 @@ public:
 
     /// A node without a value.
     static const QString& getKeyDataTypeTreeNode();
-    /// A text chosen out of several.
+    /// A text selected from several.
     static const QString& getKeyDataTypeSelection();
     /// A number, held as `double`.
     static const QString& getKeyDataTypeNumber();

@@ -6,8 +6,7 @@
 
 namespace {
 
-// Neither is JSON, but the parser takes a NUL for the end of the text, and half a surrogate pair for a whole
-// one.
+// Both are invalid JSON, but the parser takes a NUL as the end of the text and accepts an unpaired surrogate.
 bool isPlainText(QStringView text)
 {
     return text.isValidUtf16() && !text.contains(QChar(QChar::Null));

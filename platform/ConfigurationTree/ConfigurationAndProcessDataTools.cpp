@@ -78,6 +78,6 @@ bool ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(const QVariant
 
 ConfigurationAndProcessDataTools::NoInputTest ConfigurationAndProcessDataTools::getNanOnlyNoInputTest()
 {
-    // Libraries of the project bind their own functions at link time: this is always the one above.
+    // This is always the function above: the project's libraries bind their own functions at link time.
     return &isNoInputValueIndicatorSet;
 }

@@ -6,39 +6,39 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
-/// Shorthands for the values of configuration-tree nodes. Nothing is logged.
+/// Helper functions for the values of configuration-tree nodes. Nothing is logged.
 class CONFIGURATIONTREE_EXPORT ConfigurationAndProcessDataTools
 {
 public:
     ConfigurationAndProcessDataTools() = delete;
 
-    /// @return the value of the child @p key of @p node; an invalid variant when the node is null, or has no
+    /// @return the value of the child @p key of @p node; an invalid variant when the node is null, has no
     /// such child, or the child has no value.
     static QVariant extractConfigValue(const QString& key, const BaseClassSharedPointer& node);
 
     /// Writes the value of the child @p key of @p node.
     ///
-    /// @return the status of the write: 0 changed, 1 equal already, 2 refused; 2 also when the node is null
+    /// @return the status of the write: 0 changed, 1 already equal, 2 refused; 2 also when the node is null
     /// or has no such child.
     static int setConfigValueWithStatus(const QString& key, const BaseClassSharedPointer& node,
                                         const QVariant& value);
 
-    /// @return whether @p value is of an integer or floating type. A boolean, a character of text and a
-    /// string are no numbers.
+    /// @return whether @p value is of an integer or floating-point type. A boolean, a character and a string
+    /// are not numbers.
     static bool isVariantNumber(const QVariant& value);
 
     /// @return the no-input marker: a `double` that is a quiet NaN.
     static QVariant getNoInputValueIndicator();
 
-    /// @return whether @p value carries the no-input marker: any NaN of a floating type.
+    /// @return whether @p value is the no-input marker: any NaN of a floating-point type.
     static bool isNoInputValueIndicatorSet(const QVariant& value);
 
-    /// The test of a value for the no-input marker.
+    /// Function type of the test for the no-input marker.
     using NoInputTest = bool (*)(const QVariant& value);
-    /// Promises that isNoInputValueIndicatorSet() is false for every number except NaN, so that callers need
-    /// not ask about other numbers. A platform that cannot promise this leaves the function out.
+    /// Promises that isNoInputValueIndicatorSet() is false for every number except NaN, so that callers can
+    /// skip the test for other numbers. A platform that cannot promise this omits the function.
     ///
-    /// @return the function that the promise is made for. Where another one is called under that name, the
-    /// promise does not count.
+    /// @return the function to which the promise applies. If another function is called under that name, the
+    /// promise is void.
     static NoInputTest getNanOnlyNoInputTest();
 };

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Reads the bytes of a file. @return an empty text, or the reason why it could not be read.
+/// Reads the bytes of a file. @return the reason for a failure; empty on success.
 QString readBytes(const QFileInfo& info, QByteArray& bytes)
 {
     if (info.filePath().isEmpty())
@@ -28,7 +28,7 @@ QString readBytes(const QFileInfo& info, QByteArray& bytes)
     return file.error() == QFileDevice::NoError ? QString() : file.errorString();
 }
 
-/// Decodes UTF-8. @return an empty text, or the reason why it could not be decoded.
+/// Decodes UTF-8. @return the reason for a failure; empty on success.
 QString decode(const QByteArray& bytes, QString& text)
 {
     QTextCodec::ConverterState state;

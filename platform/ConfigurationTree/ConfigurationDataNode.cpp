@@ -70,7 +70,7 @@ void ConfigurationDataNode::storeProperty(const QString& propertyKey, const QVar
         m_value = value;
         return;
     }
-    // The key that is read most often shares its characters with the definition, which makes reads faster.
+    // The most frequently read key shares its characters with the definition, which makes reads faster.
     const QString& unitTypeKey = Definitions::getKeyDataPropertyUnitType();
     m_properties.set(propertyKey == unitTypeKey ? unitTypeKey : propertyKey, value);
 }

@@ -10,14 +10,14 @@
 
 #include <memory>
 
-/// The node that the parser makes.
+/// The node class that the parser creates.
 ///
-/// The type is the type property where it is set, else it follows from the value; a later value does not
-/// change it. A write is refused when the node is read-only, when the type does not take a value of that
-/// kind, and when a type is written that does not take the present value. Numbers are stored as `double`.
+/// The type is the type property if set, otherwise it is derived from the value; writing another value
+/// does not change it. A write is refused when the node is read-only, when the type does not accept a value
+/// of that kind, and when a new type does not accept the present value. Numbers are stored as `double`.
 ///
-/// A tree may have hundreds of thousands of nodes, so a node is small: the value has a place of its own, and
-/// lists stand where hashes would do.
+/// A tree may have hundreds of thousands of nodes, so nodes are kept small: the value is a separate member,
+/// and lists replace hashes.
 class ConfigurationDataNode : public ConfigurationAndProcessDataBase
 {
 public:
@@ -27,9 +27,9 @@ public:
     int changeProperty(const QString& propertyKey, const QVariant& value) override;
     int setProperty(const QString& propertyKey, const QVariant& value) override;
 
-    /// Adds a child, replacing one of the same key.
+    /// Adds a child. An existing child with the same key is replaced.
     void insertChild(const QString& key, const BaseClassSharedPointer& child);
-    /// Stores a property as it is, whatever the type takes; an invalid value removes it.
+    /// Stores a property without checking it against the type; an invalid value removes it.
     void storeProperty(const QString& propertyKey, const QVariant& value);
 
 protected:

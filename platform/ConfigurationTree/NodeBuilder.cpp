@@ -14,8 +14,8 @@ using NodePointer = QSharedPointer<ConfigurationDataNode>;
 
 const std::size_t maxDepth = 1024;
 
-// Keys, languages and units repeat throughout a document. The table's size bounds what is kept for sharing,
-// so that a document full of different strings costs nothing.
+// Keys, languages and units repeat throughout a document, so equal strings are shared. The fixed table size
+// limits the cost for a document with many different strings.
 const uint sharedStringCount = 512;
 
 bool isProperty(const QString& key)
@@ -57,7 +57,7 @@ bool NodeBuilder::boolean(bool value)
 
 bool NodeBuilder::number_integer(std::int64_t value)
 {
-    // Called for numbers with a sign only: a zero here is "-0".
+    // Called only for signed numbers, so a zero here is "-0".
     return add(value == 0 ? -0.0 : static_cast<double>(value));
 }
 
@@ -98,7 +98,7 @@ bool NodeBuilder::end_object()
     m_levels.pop_back();
     if (level.kind == Kind::Map)
         return add(level.map);
-    // Only now: the type may stand behind the value.
+    // Done at the end of the object, because the type may come after the value.
     if (level.isValueNull && isOfNumberType(*level.node))
         level.node->storeProperty(Definitions::getKeyDataPropertyValue(),
                                   ConfigurationAndProcessDataTools::getNoInputValueIndicator());

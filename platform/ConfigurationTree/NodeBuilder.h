@@ -12,14 +12,14 @@
 #include <string>
 #include <vector>
 
-/// Makes nodes from the events of a JSON parser, so that no document stands in between: that would take
-/// several times the memory of the nodes.
+/// Creates nodes directly from the events of a JSON parser. An intermediate document would take several times
+/// the memory of the nodes.
 ///
-/// The functions are those that `nlohmann::json::sax_parse` calls; each gives false to end the parsing.
+/// The functions are the callbacks of `nlohmann::json::sax_parse`; each returns false to stop parsing.
 class NodeBuilder
 {
 public:
-    /// @return the node of the whole document; of use only when the parsing has succeeded.
+    /// @return the root node of the document; meaningful only when parsing has succeeded.
     BaseClassSharedPointer root() const;
 
     bool null();
@@ -48,7 +48,7 @@ private:
         List
     };
 
-    /// An object or array whose end has not come yet.
+    /// An object or array that is still open.
     struct Level
     {
         Kind kind;

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-/// The few properties of one node by key. A list is smaller than a hash, and faster for so few.
+/// The properties of one node by key. For so few entries a list is smaller and faster than a hash.
 class PropertyList
 {
     struct Entry
@@ -25,8 +25,7 @@ class PropertyList
     };
 
 public:
-    /// Whether both name the same property. Keys are mostly those of the definitions, which share their
-    /// characters.
+    /// Whether both keys are equal. Most keys share their characters with the definitions.
     static bool isSameKey(const QString& left, const QString& right)
     {
         return left.constData() == right.constData() || (left.size() == right.size() && left == right);

@@ -8,7 +8,7 @@
 
 namespace {
 
-// D-Bus takes this time-out as none.
+// D-Bus interprets this value as no time-out.
 constexpr int withoutTimeout = std::numeric_limits<int>::max();
 
 QDBusMessage createQuestion(const QString& member, const QVariantList& arguments)
@@ -33,7 +33,7 @@ QDBusMessage BusQuestions::ask(const QDBusConnection& connection, const QString&
     if (hasUnanswered())
         return {};
 
-    // A message of its own, because QDBusConnectionInterface asks without a time-out that we can set.
+    // Sent as a separate message, because the time-out of QDBusConnectionInterface cannot be set.
     const QDBusMessage question = createQuestion(member, arguments);
     const QDBusMessage reply = connection.call(question, QDBus::Block, DBusConnection::getCallTimeout());
     if (isTimeout(reply))

@@ -8,7 +8,7 @@ ConfigurationFileHandlerDBusConnector::ConfigurationFileHandlerDBusConnector(con
 QSharedPointer<ConfigurationFileHandlerDBusConnector>
 ConfigurationFileHandlerDBusConnector::createAndConnect(const QString& service, const QString& object)
 {
-    // Asked before anything is watched: opening is tried over and over while the service is away.
+    // Checked before anything is watched: opening is retried repeatedly while the service is down.
     if (!isServiceAvailable(service))
         return {};
 

@@ -9,9 +9,9 @@
 
 class QDBusMessage;
 
-/// Records the last occurrence of a D-Bus signal, for threads that run no event loop: isSignalOccured() takes
-/// in what has arrived for this object, and nothing else. An occurrence stays recorded until
-/// resetLastSignal(). What arrives between two polls waits in the thread's event queue, so poll regularly.
+/// Records the last occurrence of a D-Bus signal, for threads without an event loop. isSignalOccured()
+/// processes only the events of this object. An occurrence stays recorded until resetLastSignal(). Signals
+/// that arrive between two polls are queued in the thread's event queue, so poll regularly.
 ///
 ///     DBusConnectionSignalPollingHandler changes(module, object, "configurationChanged",
 ///                                                DBusConnectionSignalPollingHandler::SlotSignatureString);
@@ -20,8 +20,8 @@ class QDBusMessage;
 ///         changes.resetLastSignal();
 ///     }
 ///
-/// A bus that went away and came back is subscribed again by the next isSignalOccured(); what was sent
-/// meanwhile is lost. Used from the thread that built it; a QCoreApplication must exist.
+/// After a restart of the bus, the next isSignalOccured() subscribes again; signals sent in the meantime are
+/// lost. Must be used from the thread that created it; a QCoreApplication must exist.
 class DBUSCONNECTOR_EXPORT DBusConnectionSignalPollingHandler : public QObject
 {
     Q_OBJECT
@@ -37,19 +37,19 @@ public:
     /// @param service the module's name, without the device's prefix.
     /// @param object the object's name, without "/".
     /// @param signalName the signal's member name.
-    /// @param slotSignature a SlotSignature or its number. It documents the call and filters nothing: a
-    /// signal with other arguments is recorded as it arrives.
+    /// @param slotSignature a SlotSignature or its number. It is informative only: a signal with other
+    /// arguments is recorded unchanged.
     DBusConnectionSignalPollingHandler(const QString& service, const QString& object,
                                        const QString& signalName, int slotSignature);
 
     /// Whether the signal has occurred since construction or the last resetLastSignal().
     bool isSignalOccured();
 
-    /// The first argument of the last occurrence that isSignalOccured() took in, as it arrived; invalid when
+    /// The first argument of the last occurrence that isSignalOccured() processed, unconverted; invalid when
     /// there is no occurrence or the signal had no argument.
     QVariant getSignalParameter() const;
 
-    /// Forgets the recorded occurrence. A signal that isSignalOccured() has not taken in yet is not lost.
+    /// Clears the recorded occurrence. A signal that isSignalOccured() has not processed yet is not lost.
     void resetLastSignal();
 
 private Q_SLOTS:

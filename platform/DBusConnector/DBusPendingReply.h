@@ -6,12 +6,12 @@
 #include <QtCore/QVariant>
 #include <QtDBus/QDBusPendingCall>
 
-/// The outcome of a call that does not block: looked at as often as the caller likes, until it is there.
-/// Needs no event loop: replies are received, and time-outs kept, on a thread of the bus connection.
+/// The result of a non-blocking call, to be polled until it is available. Needs no event loop: a thread of
+/// the bus connection receives replies and handles time-outs.
 class DBUSCONNECTOR_EXPORT DBusPendingReply
 {
 public:
-    /// What isFinished() answers.
+    /// Result of isFinished().
     enum State
     {
         Arrived = 0,
@@ -21,13 +21,13 @@ public:
 
     explicit DBusPendingReply(const QDBusPendingCall& call);
 
-    /// Where the call stands; never blocks, and never goes back.
-    /// @param error set to what went wrong when the answer is Failed, else left as it is.
+    /// The state of the call. Never blocks; Arrived and Failed are final.
+    /// @param error set to the error when the result is Failed, else unchanged.
     /// @return a State: 0 the reply has arrived, 1 the call has failed (an error reply, a time-out, a lost
     /// bus), 2 it is outstanding.
     int isFinished(ErrorContainer& error) const;
 
-    /// The reply's first argument as it arrived, see DBusReply::getValue(); invalid while the call is
+    /// The reply's first argument, unconverted, see DBusReply::getValue(); invalid while the call is
     /// outstanding, when it failed, and for a reply without arguments.
     QVariant getReply() const;
 

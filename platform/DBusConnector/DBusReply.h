@@ -7,24 +7,24 @@
 
 class QDBusMessage;
 
-/// The outcome of a blocking call: a value, or an error. A plain value.
+/// The result of a blocking call: a value or an error. A plain value.
 class DBUSCONNECTOR_EXPORT DBusReply
 {
 public:
-    /// No reply: an error.
+    /// Creates an error: no reply.
     DBusReply();
 
-    /// @param message what the call returned. Everything but a reply is an error: an error message, a
+    /// @param message the result of the call. Anything other than a reply is an error: an error message, a
     /// time-out, a call that could not be sent.
     explicit DBusReply(const QDBusMessage& message);
 
     bool isError() const;
 
-    /// The reply's first argument as it arrived, whatever its type (structures and dictionaries as
-    /// QDBusArgument, to be read with qdbus_cast); invalid for an error and for a reply without arguments.
+    /// The reply's first argument, unconverted, of any type (structures and dictionaries as QDBusArgument, to
+    /// be read with qdbus_cast); invalid for an error and for a reply without arguments.
     QVariant getValue() const;
 
-    /// What went wrong; holds no error when isError() is false.
+    /// The error; holds no error when isError() is false.
     ErrorContainer getError() const;
 
 private:

@@ -16,7 +16,7 @@ QString environmentOr(const char* variable, const QString& fallback)
     return value.isEmpty() ? fallback : value;
 }
 
-// Where a bus is looked for, by the rules of D-Bus.
+// The address of a bus, found by the rules of D-Bus.
 QString addressOf(const QString& bus)
 {
     if (bus == sessionBus)
@@ -28,8 +28,8 @@ QString addressOf(const QString& bus)
     return bus;
 }
 
-// Qt keeps connections by name; one of this name and bus is ours, and no signal of it waits for the main
-// thread's event loop as those of QDBusConnection::sessionBus() do.
+// Opens a connection of our own, or returns the open one of that name. Its signals do not wait for the main
+// thread's event loop, unlike those of QDBusConnection::sessionBus().
 QDBusConnection openConnection(const QString& bus, const QString& name)
 {
     if (bus == sessionBus)
@@ -44,7 +44,7 @@ QDBusConnection openConnection(const QString& bus, const QString& name)
 DeviceBus& DeviceBus::current()
 {
     static QMutex mutex;
-    // Never destroyed, because threads and static objects may use the bus while the process ends.
+    // Never destroyed, because threads and static objects may use the bus during process exit.
     static auto& buses = *new std::map<QString, DeviceBus>;
     const QString bus = environmentOr("DEVICE_BUS", sessionBus);
     const QMutexLocker locker(&mutex);
@@ -74,8 +74,8 @@ QDBusMessage DeviceBus::ask(const QString& member, const QVariantList& arguments
     return m_questions.ask(connection(), member, arguments);
 }
 
-// Asks on a connection that is opened for this only. connectToBus() waits for its first answer without a
-// limit, and every connection of the process waits with it.
+// Checks on a temporary connection: connectToBus() waits for its first answer without a limit, and blocks
+// every connection of the process meanwhile.
 bool DeviceBus::answers()
 {
     if (m_greeting.hasUnanswered())

@@ -8,12 +8,12 @@
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
 
-/// One bus, as DEVICE_BUS names it: the process's connection to it, and questions to the bus itself. Nothing
-/// is shared between two buses. May be used from any thread.
+/// One bus named by DEVICE_BUS: the process's connection to it, and requests to the bus daemon itself. Two
+/// buses share nothing. Thread-safe.
 class DeviceBus
 {
 public:
-    /// The bus that DEVICE_BUS names now. It lives as long as the process.
+    /// The bus that DEVICE_BUS names now. It is never destroyed.
     static DeviceBus& current();
 
     /// @param bus "session", "system" or a D-Bus address.
@@ -22,11 +22,12 @@ public:
     /// See DBusConnection::getQDBusConnection().
     QDBusConnection connection();
 
-    /// Asks the bus on its connection, see BusQuestions::ask().
+    /// Sends a request to the bus on its connection, see BusQuestions::ask().
     QDBusMessage ask(const QString& member, const QVariantList& arguments);
 
 private:
-    /// Whether the bus is worth opening: false when it accepts connections, but has not answered in time.
+    /// Whether opening the bus is worthwhile: false when it accepts connections, but has not answered in
+    /// time.
     bool answers();
 
     const QString m_bus;

@@ -5,14 +5,14 @@
 #include <QtCore/QString>
 
 /// The error of a call on the bus: its D-Bus name ("org.freedesktop.DBus.Error.NoReply") and a text for the
-/// log. A default one holds no error. A plain value.
+/// log. A default-constructed object holds no error. A plain value.
 class DBUSCONNECTOR_EXPORT ErrorContainer
 {
 public:
     ErrorContainer();
     ErrorContainer(const QString& name, const QString& message);
 
-    /// Whether an error is held, that is: whether it has a name.
+    /// Whether an error is held, that is, whether its name is not empty.
     bool isError() const;
     QString getName() const;
     QString getMessage() const;

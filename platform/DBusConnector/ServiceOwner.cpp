@@ -58,7 +58,7 @@ ServiceOwner::~ServiceOwner() = default;
 
 bool ServiceOwner::isPresent() const
 {
-    // In a thread without an event loop the owner's changes wait in the queue of the watch.
+    // In a thread without an event loop, owner changes stay queued for the watcher.
     QCoreApplication::sendPostedEvents(m_watcher, QEvent::MetaCall);
     return m_hasOwner && m_connection.isConnected();
 }

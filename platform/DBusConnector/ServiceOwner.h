@@ -7,26 +7,28 @@
 
 class QDBusServiceWatcher;
 
-/// Whether a name on the device's bus has an owner, as the bus tells it. All connectors of one thread to one
-/// service share one of these, so that the bus is asked and told to tell once.
+/// Tracks whether a name on the device's bus has an owner. All connectors of one thread to one service share
+/// one object, so that the bus is queried and subscribed to once.
 class ServiceOwner : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Asks the bus, without watching anything. @return false when there is no bus, or the bus does not
-    /// answer; see BusQuestions for how long that takes.
+    /// Queries the bus, without watching anything. @return false when there is no bus, or the bus does not
+    /// answer; for the time this takes see BusQuestions.
     static bool isOnBus(const QString& serviceName);
 
-    /// The one that somebody in this thread holds for the name on the present connection; null for nobody.
+    /// The object that is in use in this thread for the name on the present connection; null when there is
+    /// none.
     static QSharedPointer<ServiceOwner> watched(const QString& serviceName);
-    /// The same; made when there is none, by watching the name first and asking then.
+    /// Returns the object given by watched(), or creates one: it watches the name first and then queries its
+    /// owner.
     static QSharedPointer<ServiceOwner> watch(const QString& serviceName);
 
     ~ServiceOwner() override;
 
-    /// As far as the bus has told; no round trip, and no event loop needed. False when the connection is
-    /// lost.
+    /// Whether the name has an owner, according to the bus's last notification; no round trip, and no event
+    /// loop needed. False when the connection is lost.
     bool isPresent() const;
 
 private:

@@ -17,7 +17,7 @@ namespace {
 
 using Dependents = QHash<QString, QStringList>;
 
-// Reads the keys of one array; what is wrong with it is left in `reason`.
+// Reads the keys of one array; an error is stored in `reason`.
 QStringList readKeys(const QJsonValue& value, QString& reason)
 {
     if (!value.isArray())
@@ -33,7 +33,7 @@ QStringList readKeys(const QJsonValue& value, QString& reason)
     return keys;
 }
 
-// Reads the whole document; what is wrong with it is left in `reason`.
+// Reads the whole document; an error is stored in `reason`.
 Dependents readDocument(const QString& json, QString& reason)
 {
     QJsonParseError error = {};
@@ -50,7 +50,7 @@ Dependents readDocument(const QString& json, QString& reason)
     return dependents;
 }
 
-// Whether there is nothing to do for the key, or the manipulator handled its node.
+// Whether the key needs no manipulation, or the manipulator handled its node.
 bool manipulateChild(const QSharedPointer<ConfigurationAndProcessDataBase>& parent, const QString& key,
                      const QSharedPointer<UnitManipulatorBase>& manipulator)
 {
@@ -96,8 +96,8 @@ bool DependencyWalker::traverseDependencyGraph(
     for (const QVariant& seedKey : seed)
         visited.insert(seedKey.toString());
 
-    // A stack of its own, because a chain of dependencies may be longer than the thread's stack is deep. The
-    // last key pushed is visited first, so dependents are pushed from the last to the first.
+    // Uses an explicit stack, because a long chain of dependencies could overflow the thread's stack. The
+    // last key pushed is visited first, so dependents are pushed in reverse order.
     bool allHandled = true;
     QStack<QString> pending;
     const auto pushDependents = [this, &pending](const QString& changedKey) {

@@ -11,28 +11,28 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
-/// Finds the values that depend on a value, from a document that maps a key to the keys that depend on it:
+/// Finds the values that depend on a value. The document maps a key to the keys that depend on it:
 ///
 ///     { "PressureUnit": ["Pressure", "PressureRange"] }
 ///
-/// A plain value without threads or locks.
+/// A plain value; takes no locks.
 class DEPENDENCYWALKER_EXPORT DependencyWalker
 {
 public:
     /// A walker without dependencies.
     DependencyWalker();
 
-    /// Loads the document in place of what was loaded before.
-    /// @return false when the text is not JSON of that shape; the walker then knows no dependencies, and one
-    /// warning names the reason.
+    /// Loads the document and replaces the one loaded before.
+    /// @return false when the text is not JSON of that form; the walker then has no dependencies, and one
+    /// warning gives the reason.
     bool initDependencyGraphByJsonString(const QString& json);
 
-    /// Visits every key that depends on `key`, directly or through others, once each: depth first, in the
-    /// order of the document, whatever cycles there are. The key itself is not visited.
-    /// @param node where `key` was changed; serves as the start node when that is null.
+    /// Visits every key that depends on `key`, directly or indirectly, exactly once: depth first, in the
+    /// order of the document, also if there are cycles. The key itself is not visited.
+    /// @param node where `key` was changed; used as the start node when that is null.
     /// @param startNode the node whose children the visited keys name; a key without a child there is visited
     /// without being manipulated.
-    /// @param results every visited key is appended to it.
+    /// @param results receives every visited key, appended.
     /// @param seed keys that count as visited already.
     /// @param manipulator applied to the child of each visited key, with the child's unit type; may be null.
     /// @return true when the manipulator, if there is one, handled every visited key.

@@ -6,7 +6,7 @@
 #include <QtCore/QSharedPointer>
 #include <QtCore/QString>
 
-/// What a DependencyWalker does to each node that it reaches.
+/// The operation that a DependencyWalker applies to each node that it reaches.
 class DEPENDENCYWALKER_EXPORT UnitManipulatorBase
 {
 public:
@@ -17,8 +17,8 @@ public:
 
     /// Edits one node.
     /// @param unitType the node's unit type; empty when it has none.
-    /// @param handled set to true when the node was one for this manipulator, else left as it is.
-    /// @param changed set to true when the node is different afterwards, else left as it is.
+    /// @param handled set to true when the manipulator applies to the node, else unchanged.
+    /// @param changed set to true when the node was modified, else unchanged.
     virtual void manipulate(const QSharedPointer<ConfigurationAndProcessDataBase>& node,
                             const QString& unitType, bool& handled, bool& changed) = 0;
 };

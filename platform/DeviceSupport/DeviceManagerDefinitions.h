@@ -10,8 +10,8 @@ class DEVICESUPPORT_EXPORT DeviceManagerDefinitions
 public:
     DeviceManagerDefinitions() = delete;
 
-    /// The module's name; its bus name is the prefix of PropertyManagerConst, ".", and this.
+    /// The module's name. Its bus name is the prefix of PropertyManagerConst, "." and this name.
     static const QString& getModuleName();
-    /// The name of the object that serves the unit-switch document; its path is "/" and this.
+    /// The name of the object that serves the unit-switch document. Its path is "/" and this name.
     static const QString& getObjectNameUnitManagerConfiguration();
 };

@@ -10,10 +10,10 @@ class DEVICESUPPORT_EXPORT PropertyManagerConst
 public:
     PropertyManagerConst() = delete;
 
-    /// What the full name of every unit type begins with, "/" at the end included.
+    /// The prefix of the full name of every unit type, including the "/" at its end.
     static const QString& getUnitTypeNamePrefix();
-    /// The file extension of configuration documents, without the point.
+    /// The file extension of configuration documents, without the dot.
     static const QString& getConfigFileExtension();
-    /// What the bus name of every module of the device begins with, without "." at the end.
+    /// The prefix of the bus name of every module of the device, without the "." at its end.
     static const QString& getDBusPrefix();
 };

@@ -9,7 +9,7 @@ bool isMap(const QVariant& object)
     return object.canConvert(QVariant::Map);
 }
 
-/// "de" for "de_AT", "" for "de".
+/// Returns "de" for "de_AT" and "" for "de".
 QString withoutLastSection(const QString& language)
 {
     const int separator =

@@ -7,11 +7,11 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
-/// A measured value at one moment: the value, what is wrong with it, and where it comes from. A plain value.
+/// A measured value at one moment: the value, its error and its source. A plain value.
 class PROCESSDATA_EXPORT ProcessValue
 {
 public:
-    /// No value: error type ErrorTypeNotAvailable.
+    /// Creates an object without a value: error type ErrorTypeNotAvailable.
     ProcessValue();
     explicit ProcessValue(ProcessDataDefinitions::ErrorTypes errorType);
     ProcessValue(const QVariant& value, ProcessDataDefinitions::ErrorTypes errorType);
@@ -19,7 +19,7 @@ public:
     ProcessValue(const ProcessValue&) = default;
     ProcessValue& operator=(const ProcessValue&) = default;
 
-    /// Whether all members are equal; two values are when they are of one type, and a NaN equals a NaN.
+    /// Whether all members are equal. Values are equal only if they have the same type; a NaN equals a NaN.
     bool operator==(const ProcessValue& other) const;
     bool operator!=(const ProcessValue& other) const;
 
@@ -29,11 +29,11 @@ public:
     ProcessDataDefinitions::ErrorTypes getErrorType() const;
     void setErrorType(ProcessDataDefinitions::ErrorTypes errorType);
 
-    /// When the value was measured; invalid when unknown.
+    /// The time of measurement; invalid when unknown.
     QDateTime getTimestamp() const;
     void setTimestamp(const QDateTime& timestamp);
 
-    /// The name of the sensor or module that measured; empty when unknown.
+    /// The name of the sensor or module that measured the value; empty when unknown.
     QString getSource() const;
     void setSource(const QString& source);
 

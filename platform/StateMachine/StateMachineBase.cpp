@@ -26,7 +26,7 @@ StateMachineBase::StateMachineBase(QObject* parent, bool logStates) : QObject(pa
 
 bool StateMachineBase::setInitialState(const QString& stateKey, const StateMachineEvent& event)
 {
-    // The local pointer keeps the state alive should its postInitialEvent() select another one.
+    // The local pointer keeps the state alive if its postInitialEvent() selects another one.
     const QSharedPointer<StateMachineStateBase> state = createState(stateKey);
     if (!state)
         return false;
@@ -54,7 +54,7 @@ bool StateMachineBase::setNextState(const QString& stateKey, const StateMachineE
 
 bool StateMachineBase::postEvent(const StateMachineEvent& event)
 {
-    // The local pointer keeps the state alive until its step is done, whatever state it selects.
+    // The local pointer keeps the state alive until its step is finished, even if it selects another one.
     const QSharedPointer<StateMachineStateBase> state = m_currentState;
     if (!state)
         return false;

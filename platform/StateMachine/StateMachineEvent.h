@@ -5,18 +5,18 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
-/// What a state machine delivers to its current state: a name and data of any type. A plain value.
+/// An event that a state machine delivers to its current state: a name and data of any type. A plain value.
 class STATEMACHINE_EXPORT StateMachineEvent
 {
 public:
-    /// An event without a name and without data.
+    /// Creates an event without a name and without data.
     StateMachineEvent();
     StateMachineEvent(const QString& name, const QVariant& data = QVariant());
 
     QString getName() const;
     void setName(const QString& name);
 
-    /// The data as it was set; invalid when there is none.
+    /// The data; invalid when there is none.
     QVariant getData() const;
     void setData(const QVariant& data);
 
