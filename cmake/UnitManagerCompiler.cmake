@@ -1,4 +1,4 @@
-# What every target of the project is compiled with.
+# Compile and link options of every target of the project.
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -8,13 +8,13 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-# Installed programs and libraries find each other wherever the tree is put.
+# Relative paths: installed programs and libraries find each other wherever the tree is located.
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}" "$ORIGIN")
 
-# The functions of a library are its own: within it they are inlined and called directly, exported or not.
+# Within a library, all functions may be inlined and are called directly, even exported ones.
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -fno-semantic-interposition)
 add_link_options(-Wl,-Bsymbolic-functions)
-# A product is rounded before it is added unless the code says std::fma, on every processor.
+# Same results on every processor: only an explicit std::fma fuses multiplication and addition.
 add_compile_options(-ffp-contract=off)
 # Both make conversions faster on x86-64; on ARM they only add code.
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64)$")
@@ -25,8 +25,8 @@ add_compile_definitions(
     QT_DEPRECATED_WARNINGS
     QT_DISABLE_DEPRECATED_BEFORE=0x050F00
 )
-# A symbol that no library provides is an error of the link, not of the device's loader. The sanitizers
-# resolve their own symbols only when the program is loaded.
+# Undefined symbols fail at link time rather than on the device. Sanitizer symbols are resolved only when the
+# program is loaded.
 if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
     add_link_options(-Wl,--no-undefined)
 endif()

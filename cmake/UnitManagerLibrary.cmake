@@ -1,4 +1,4 @@
-# One shape for every shared library of the project: hidden symbols, an export header, an installed package.
+# Common setup of the project's shared libraries: hidden symbols, an export header, an installed package.
 
 include(GenerateExportHeader)
 include(CMakePackageConfigHelpers)
@@ -10,7 +10,7 @@ include(CMakePackageConfigHelpers)
 #     INCLUDE_DESTINATION <dir> below the include directory
 #     SOURCES <files> HEADERS <files>
 #     PUBLIC <targets> PRIVATE <targets>)
-# Installed headers are exactly those listed under HEADERS; they keep their folders.
+# Exactly the headers listed under HEADERS are installed; they keep their folders.
 function(unitmanager_add_library target)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "" "NAMESPACE;EXPORT_NAME;EXPORT_HEADER;INCLUDE_DESTINATION"
                           "SOURCES;HEADERS;PUBLIC;PRIVATE")
@@ -40,8 +40,8 @@ function(unitmanager_add_library target)
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ARG_INCLUDE_DESTINATION})
 endfunction()
 
-# unitmanager_install_package(<package>): the CMake package of everything added under that namespace, from
-# cmake/<package>Config.cmake.in, compatible within one major version.
+# unitmanager_install_package(<package>): installs the CMake package of all libraries of that namespace,
+# made from cmake/<package>Config.cmake.in and compatible within one major version.
 function(unitmanager_install_package package)
     set(destination ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
     configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake.in
@@ -54,8 +54,8 @@ function(unitmanager_install_package package)
         DESTINATION ${destination} COMPONENT dev)
 endfunction()
 
-# unitmanager_install_pkg_config(<target>): unitmanager.pc, which finds the installed tree from its own place and
-# names what the library's interface needs of the platform.
+# unitmanager_install_pkg_config(<target>): installs unitmanager.pc, which locates the installed tree relative to
+# itself and lists the platform libraries that the library's interface needs.
 function(unitmanager_install_pkg_config target)
     set(destination ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
     file(RELATIVE_PATH UNITMANAGER_PC_PREFIX ${CMAKE_INSTALL_PREFIX}/${destination} ${CMAKE_INSTALL_PREFIX})
@@ -65,7 +65,7 @@ function(unitmanager_install_pkg_config target)
     foreach(library IN LISTS platform)
         string(REPLACE "DevicePlatform::" "" name ${library})
         if(UNITMANAGER_PLATFORM_PACKAGE)
-            # Somebody else's libraries stand where their package says.
+            # Imported libraries are located where their package says.
             set(folders $<TARGET_PROPERTY:${library},INTERFACE_INCLUDE_DIRECTORIES>)
             string(APPEND UNITMANAGER_PLATFORM_PC_CFLAGS " -I$<JOIN:${folders}, -I>")
             string(APPEND UNITMANAGER_PLATFORM_PC_LIBS " $<TARGET_LINKER_FILE:${library}>")

@@ -1,5 +1,5 @@
-# unitmanager_add_test(<name> SOURCES <files> [LIBRARIES <targets>]): one Qt Test program, one CTest test.
-# Whatever QT_HASH_SEED, locale and language the caller's environment names reaches the test unchanged.
+# unitmanager_add_test(<name> SOURCES <files> [LIBRARIES <targets>]): adds a Qt Test program as one CTest test.
+# QT_HASH_SEED, locale and language of the caller's environment reach the test unchanged.
 function(unitmanager_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LIBRARIES")
     add_executable(${name} ${ARG_SOURCES})
