@@ -19,7 +19,7 @@ public:
     /// answers again.
     /// @param service the module's name, without the device's prefix.
     /// @param object the object's name, without "/".
-    /// @return null when there is no bus, the bus does not answer, or the module's name has no owner.
+    /// @return null without a bus, when the bus does not answer, or when the module's name has no owner.
     static QSharedPointer<ConfigurationFileHandlerDBusConnector> createAndConnect(const QString& service,
                                                                                   const QString& object);
 

@@ -31,7 +31,7 @@ protected:
     /// Whether the module's name has an owner on the bus. Sends one request to the bus, or none if this
     /// thread already has a connector to the module. When the bus does not answer within the time-out
     /// (DBusConnection::getCallTimeout()), further requests fail at once until it answers.
-    /// @return false when there is no bus, or the bus does not answer.
+    /// @return false without a bus, or when the bus does not answer.
     static bool isServiceAvailable(const QString& service);
 
     /// Watches the module's name, then queries its owner, unless another connector of this thread has already

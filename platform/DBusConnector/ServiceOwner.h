@@ -14,7 +14,7 @@ class ServiceOwner : public QObject
     Q_OBJECT
 
 public:
-    /// Queries the bus, without watching anything. @return false when there is no bus, or the bus does not
+    /// Queries the bus, without watching anything. @return false without a bus, or when the bus does not
     /// answer; for the time this takes see BusQuestions.
     static bool isOnBus(const QString& serviceName);
 
