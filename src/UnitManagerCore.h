@@ -57,7 +57,7 @@ public:
     /// The label of a unit in a language; an empty @p unit means the default unit. Empty when there is no
     /// label.
     QString getUnitText(const QString& unitType, const QString& language, const QString& unit) const;
-    /// The label of a unit of the unit type stored in @p node; see the overload above.
+    /// The label of a unit of the unit type stored in @p node; see the overload with a unit type.
     QString getUnitText(const QSharedPointer<ConfigurationAndProcessDataBase>& node, const QString& language,
                         const QString& unit) const;
     /// The label, in all languages, of a fixed unit or of the base unit of a unit type; invalid when there is
@@ -71,8 +71,8 @@ public:
     /// not a text.
     bool getUnitProperties(const QSharedPointer<ConfigurationAndProcessDataBase>& node, QString& unitType,
                            QString& unit) const;
-    /// Stores the unit type of the child @p key of @p node; see the overload above. @return false also when
-    /// there is no such child.
+    /// Stores the unit type of the child @p key of @p node; see the overload without a key. @return false
+    /// also when there is no such child.
     bool getUnitProperties(const QSharedPointer<ConfigurationAndProcessDataBase>& node, const QString& key,
                            QString& unitType, QString& unit) const;
 
@@ -93,10 +93,10 @@ public:
     /// @return @p value converted from the base unit to @p unit; @p value unchanged when the conversion is
     /// not known.
     QVariant fromBaseUnit(const QVariant& value, const QString& unitType, const QString& unit) const;
-    /// Converts @p value in place with the unit type stored in @p node; see the overload above.
+    /// Converts @p value in place with the unit type stored in @p node; see the overload with a unit type.
     bool toBaseUnit(const QSharedPointer<ConfigurationAndProcessDataBase>& node, QVariant& value,
                     const QString& unit) const;
-    /// Converts @p value with the unit type stored in @p node; see the overload above.
+    /// Converts @p value with the unit type stored in @p node; see the overload with a unit type.
     QVariant fromBaseUnit(const QSharedPointer<ConfigurationAndProcessDataBase>& node, const QVariant& value,
                           const QString& unit) const;
 
@@ -120,7 +120,7 @@ private:
     /// class and of UnitManager uses it. Logs a failure, except for an empty unit type.
     UNITMANAGER_NO_EXPORT FoundConversion find(const QString& unitType, const QString& unit,
                                                ConversionDirection direction) const;
-    /// Looks up the conversion for the unit type stored in @p node; see the overload above.
+    /// Looks up the conversion for the unit type stored in @p node; see the overload with a unit type.
     UNITMANAGER_NO_EXPORT FoundConversion find(const ConfigurationAndProcessDataBase& node,
                                                const QString& unit, ConversionDirection direction) const;
     /// Converts @p value in place and stores the decimal places of the unit that @p unit or a fixed unit

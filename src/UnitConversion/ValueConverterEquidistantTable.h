@@ -24,8 +24,8 @@ public:
     bool resetTable(const QList<QVariant>& data, const double& dataDistance,
                     const QList<QVariant>& inverseData, const double& inverseDataDistance);
 
-    /// Loads both tables like the overload above, then overwrites the abscissae of the boundary entries of
-    /// both tables: the minimum is stored in the max entry and the maximum in the min entry.
+    /// Loads both tables like the overload without limits, then overwrites the abscissae of the boundary
+    /// entries of both tables: the minimum is stored in the max entry and the maximum in the min entry.
     ///
     /// @return false, with no boundary entry overwritten, when the forward table has no row.
     bool resetTable(const QList<QVariant>& data, const double& dataDistance, const double& ordinateMin,

@@ -16,7 +16,7 @@ namespace {
 
 const char* const sourceName = "UnitTextManagement/UnitTextHandler";
 
-/// The result when there is no text: empty, but not null.
+/// The result without a text: empty, but not null.
 const QLatin1String noText("");
 
 /// Source of the messages about a document, no matter which function parsed it: device logs are searched by
