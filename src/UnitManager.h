@@ -78,8 +78,8 @@ public:
     QString getBaseUnit(const QString& unitType) const;
     /// Whether @p unitType has exactly one "/" more than the unit-type prefix. Nothing else is checked.
     bool isFixedUnitType(const QString& unitType) const;
-    /// Splits a fixed unit at its last "/". @return false, with both outputs unchanged and a warning, when @p
-    /// fixedUnit is not a fixed unit.
+    /// Splits a fixed unit at its last "/". @return false, with both outputs unchanged and a warning, when
+    /// @p fixedUnit is not a fixed unit.
     bool extractUnitTypeAndUnit(const QString& fixedUnit, QString& unitType, QString& unit) const;
     /// The label of a unit; empty, with a warning, for an unknown unit type or unit.
     ///
@@ -94,8 +94,8 @@ public:
     /// Identifier of the text that labels a value without a unit.
     QString getNoUnitLabelTextId() const;
 
-    /// Stores the number of decimal places with which values of @p unit are shown. For a fixed unit as @p
-    /// unitType, its own number is stored and @p unit is ignored.
+    /// Stores the number of decimal places with which values of @p unit are shown. For a fixed unit as
+    /// @p unitType, its own number is stored and @p unit is ignored.
     ///
     /// @return false, with @p decimalPlaces unchanged, when the unit is not known. An unknown unit type and a
     /// missing default unit log a warning.
@@ -172,8 +172,8 @@ public:
     /// Reads the value of the child @p key of @p node, converted from the base unit to @p unit when it is a
     /// number.
     ///
-    /// @return invalid for a null node, a missing child or a child without a value. (A null literal as @p
-    /// node is ambiguous with the overload above: pass a BaseClassSharedPointer.)
+    /// @return invalid for a null node, a missing child or a child without a value. (A null literal as
+    /// @p node is ambiguous with the overload above: pass a BaseClassSharedPointer.)
     QVariant getValue(const QString& key, const BaseClassSharedPointer& node, const QString& unit) const;
     /// Writes a value to the child @p key of @p node, converted from @p unit to the base unit. The no-input
     /// marker is written unchanged.

@@ -100,8 +100,8 @@ public:
     QVariant fromBaseUnit(const QSharedPointer<ConfigurationAndProcessDataBase>& node, const QVariant& value,
                           const QString& unit) const;
 
-    /// Stores the number of decimal places with which values of @p unit are shown. For a fixed unit as @p
-    /// unitType, its own number is stored and @p unit is ignored.
+    /// Stores the number of decimal places with which values of @p unit are shown. For a fixed unit as
+    /// @p unitType, its own number is stored and @p unit is ignored.
     ///
     /// @return false, with @p decimalPlaces unchanged, when the unit is not known.
     bool getDecimalPlacesForUnit(const QString& unitType, const QString& unit,

@@ -46,8 +46,8 @@ public:
     /// @return all cells of a column, one per row; an empty list when there is no such column.
     QList<QVariant> getColumnValues(unsigned int column) const;
 
-    /// Replaces a row. @return false, with nothing written, when there is no such row or the number of @p
-    /// values is not the number of columns.
+    /// Replaces a row. @return false, with nothing written, when there is no such row or the number of
+    /// @p values is not the number of columns.
     bool setRowValues(const QList<QVariant>& values, unsigned int row);
     /// Replaces @p columnCount cells of a row from @p firstColumn on by the first entries of @p values.
     ///

@@ -40,8 +40,8 @@ class UnitManagerDevice;
 class UNITMANAGER_EXPORT UnitManagerWrapper
 {
 public:
-    /// Units only. Change signals are always delivered by the event loop with this constructor; @p
-    /// useSignalPolling only suppresses the first attempt.
+    /// Units only. Change signals are always delivered by the event loop with this constructor;
+    /// @p useSignalPolling only suppresses the first attempt.
     ///
     /// @param useAsynchronInterface whether configurations are read without blocking
     UnitManagerWrapper(bool useAsynchronInterface, bool useSignalPolling);
