@@ -3,26 +3,26 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-/// What the program was asked to do.
+/// The parsed command line.
 struct CommandLine
 {
     enum class Request
     {
         /// Serve the documents.
         Serve,
-        /// Print the text and stop.
+        /// Print the text and exit.
         Print,
-        /// The command line is wrong; the text says how.
+        /// The command line is invalid; the text describes the error.
         Reject
     };
 
-    /// Reads the arguments, the program's own name first.
+    /// Parses the arguments. The first one is the program's name.
     static CommandLine read(const QStringList& arguments);
 
     Request request = Request::Serve;
-    /// A help text, the version, or what is wrong; ends in a line break.
+    /// A help text, the version, or an error message; ends with a line break.
     QString text;
-    /// The directory of the documents, as it was given.
+    /// The directory of the documents, as given on the command line.
     QString directory;
     /// "session", "system", or the address of a bus.
     QString bus;

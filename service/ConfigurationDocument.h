@@ -7,30 +7,29 @@
 #include "DocumentFile.h"
 #include "JsonText.h"
 
-/// A document and the last good text of it. The file may be gone, half written or wrong: then the text that
-/// was good before stays in force. What is taken and what is refused is logged, each content of the file
-/// once.
+/// A document and its last valid text. If the file is missing, incomplete or invalid, the last valid text
+/// stays active. Each loaded or refused content of the file is logged once.
 class ConfigurationDocument
 {
 public:
-    /// Says what is wrong with a document; nothing when it is good.
+    /// @return what is wrong with a document; empty when it is valid.
     using Rule = QString (*)(const JsonText& json);
 
     /// The largest file that is read, in bytes: 16 MiB.
     static constexpr qint64 maximumSize = 16LL * 1024 * 1024;
 
-    /// Reads nothing yet.
+    /// Does not read the file yet.
     ///
-    /// @param name what the document is called on the bus
-    /// @param path its file
+    /// @param name name of the document on the bus
+    /// @param path path of its file
     ConfigurationDocument(const QString& name, const QString& path, Rule rule);
 
     const QString& name() const;
     const QString& path() const;
-    /// The text in force; nothing while there was no good one.
+    /// The active text; no value until a valid one was read.
     const std::optional<QString>& text() const;
 
-    /// Reads the file. @return whether another text is in force than before.
+    /// Reads the file. @return whether the active text has changed.
     bool update();
 
 private:

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// A document as it is found: by object and name on the bus, and in the directory.
+/// A document: its object and name on the bus, and its file in the directory.
 struct Place
 {
     QString object;
@@ -55,7 +55,7 @@ ConfigurationFileService::ConfigurationFileService(const QString& directory, QOb
         m_objects.append(object);
         files.append(document.path());
     }
-    // Watched before they are read, so that no change falls between.
+    // Watch before reading, so that no change is missed in between.
     m_watcher = std::make_unique<DocumentWatcher>(files, DocumentWatcher::Debounce());
     connect(m_watcher.get(), &DocumentWatcher::touched, this, &ConfigurationFileService::update);
     update();
@@ -78,7 +78,7 @@ QString ConfigurationFileService::start(QDBusConnection connection)
         if (!connection.registerObject(path, object))
             return QStringLiteral("cannot put the object %1 on the bus").arg(path);
     }
-    // Only now: who sees the name finds everything there.
+    // Take the name last: whoever sees it finds every object registered.
     const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply =
         connection.interface()->registerService(name());
     if (!reply.isValid())
@@ -93,7 +93,7 @@ void ConfigurationFileService::update()
     QList<ConfigurationObject*> changed;
     std::copy_if(m_objects.cbegin(), m_objects.cend(), std::back_inserter(changed),
                  [](ConfigurationObject* object) { return object->update(); });
-    // Only now: who hears of one finds all of them as they are to be.
+    // Announce last: whoever receives a signal finds all documents up to date.
     for (ConfigurationObject* object : qAsConst(changed))
         object->announce();
 }

@@ -10,27 +10,29 @@
 class ConfigurationObject;
 class DocumentWatcher;
 
-/// Serves the three documents of a directory on a bus, and announces when one of them has changed.
+/// Serves the three documents of a directory on a bus and announces their changes.
 ///
-/// One thread, whose event loop must run.
+/// Use from one thread only, whose event loop must run.
 class ConfigurationFileService : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Reads the documents and watches them. What cannot be read is logged and taken up once it can.
+    /// Reads the documents and watches them. A document that cannot be read is logged, and loaded once it
+    /// can.
     explicit ConfigurationFileService(const QString& directory, QObject* parent = nullptr);
     ~ConfigurationFileService() override;
 
     /// The name that the service owns on the bus.
     static QString name();
 
-    /// Puts the documents on the bus and takes the service's name; without waiting when another has it.
-    /// @return what went wrong; empty when the service is there.
+    /// Registers the documents on the bus and requests the service's name. Does not wait if the name is
+    /// taken.
+    /// @return an error message; empty on success.
     QString start(QDBusConnection connection);
 
 signals:
-    /// The connection given to start() is gone for good.
+    /// Emitted when the connection given to start() is lost. It is not restored.
     void busLost();
 
 private:

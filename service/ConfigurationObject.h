@@ -6,9 +6,9 @@
 
 #include "ConfigurationDocument.h"
 
-/// An object on the bus that serves one document by one method, and nothing else: every other name, and the
-/// other method, are answered with the error "...UnknownConfiguration"; its own with "...NoConfiguration"
-/// while the document was never good. Which module asks makes no difference.
+/// A bus object that serves one document by one method. Every other name, and the other method, are answered
+/// with the error "...UnknownConfiguration"; the object's own name with "...NoConfiguration" until the
+/// document was valid once. The requesting module makes no difference.
 class ConfigurationObject : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -23,18 +23,18 @@ public:
 
     ConfigurationObject(const ConfigurationDocument& document, Method method, QObject* parent);
 
-    /// Reads the document's file. @return whether the text in force is another than before.
+    /// Reads the document's file. @return whether the active text has changed.
     bool update();
-    /// Announces that it is.
+    /// Emits configurationChanged().
     void announce();
 
-    /// The text of the document @p name; called from the bus.
+    /// Called from the bus. @return the text of the document @p name.
     QString getConfiguration(const QString& name, const QString& module, const QString& extra) const;
-    /// The text of the dependency document @p name; called from the bus.
+    /// Called from the bus. @return the text of the dependency document @p name.
     QString getConfigurationDependency(const QString& name, const QString& module) const;
 
 signals:
-    /// Another text of the document @p name is in force, and is served already.
+    /// The active text of the document @p name has changed; the new text is already served.
     void configurationChanged(const QString& name);
 
 private:

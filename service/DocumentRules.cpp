@@ -11,7 +11,7 @@ namespace {
 
 using Definitions = ConfigurationAndProcessDataDefinitions;
 
-/// Properties of the root are no entries.
+/// Properties of the root are not entries.
 bool isProperty(const QString& key)
 {
     return key.startsWith(QLatin1Char('@'));
@@ -31,7 +31,7 @@ bool isListOfTexts(const QJsonValue& entry)
            std::all_of(array.begin(), array.end(), [](const QJsonValue& text) { return text.isString(); });
 }
 
-/// The first entry, in the order of the keys, that is not as it should be; empty when all are.
+/// @return the first invalid entry in the order of the keys; empty when all are valid.
 QString wrongEntry(const QJsonObject& root, bool (*isRight)(const QJsonValue&))
 {
     for (auto entry = root.begin(); entry != root.end(); ++entry) {

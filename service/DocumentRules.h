@@ -4,20 +4,20 @@
 
 #include "JsonText.h"
 
-/// What a document must be beyond JSON: one that the unit library loads. A document that it does not load
-/// would leave every application of the device without units.
+/// What a document must satisfy beyond JSON: the unit library must be able to load it. A document that cannot
+/// be loaded would leave every application of the device without units.
 ///
-/// Each function takes a JSON text without problem, and returns what is wrong with it; nothing when it is
-/// good.
+/// Each function takes a JSON text without problem and returns what is wrong with the document; empty when it
+/// is valid.
 namespace DocumentRules {
 
-/// At least one unit type, and at least one unit label. The library's warnings about single units are logged.
+/// Requires a unit type and a unit label at least. The library's warnings about single units are logged.
 QString unitsProblem(const JsonText& json);
 
-/// At least one entry, and each a selection of a unit.
+/// Requires at least one entry; each must select a unit.
 QString defaultUnitsProblem(const JsonText& json);
 
-/// Lists of texts, each under the key that they depend on. There may be none.
+/// Requires lists of texts, each under the key that they depend on. The document may be empty.
 QString dependenciesProblem(const JsonText& json);
 
 } // namespace DocumentRules

@@ -26,7 +26,7 @@ QVector<DocumentWatcher::Trail> DocumentWatcher::trails() const
 
 void DocumentWatcher::watch()
 {
-    // A new watcher each time: one that is kept would hold on to files that no longer have their names.
+    // A new watcher each time: an existing one would keep watching files that have been renamed or replaced.
     m_watcher = std::make_unique<QFileSystemWatcher>();
     connect(m_watcher.get(), &QFileSystemWatcher::fileChanged, this, &DocumentWatcher::postpone);
     connect(m_watcher.get(), &QFileSystemWatcher::directoryChanged, this, &DocumentWatcher::lookAt);
@@ -38,7 +38,7 @@ void DocumentWatcher::watch()
         postpone();
 }
 
-/// The places of all trails, as far as they can be watched.
+/// The readable places of all trails. Logs those that exist but cannot be read.
 QStringList DocumentWatcher::watchable()
 {
     QStringList result;
@@ -64,8 +64,8 @@ void DocumentWatcher::complainOnce(const QString& place)
     qWarning().noquote() << "Cannot watch" << place + ": changes there may go unnoticed";
 }
 
-/// Something happened in a directory. Near a document that counts; further up, where much else may go on,
-/// only what makes a document another file.
+/// Handles a change in a directory. In the directory of a document every change counts; further up only a
+/// change that makes the path lead to another file.
 void DocumentWatcher::lookAt(const QString& directory)
 {
     const bool isNear = std::any_of(m_trails.cbegin(), m_trails.cend(), [&directory](const Trail& trail) {

@@ -13,34 +13,34 @@
 
 class QFileSystemWatcher;
 
-/// Watches files through whatever becomes of them: written in place, replaced, removed, not there yet,
-/// reached through symbolic links that change, in a directory that is replaced or comes into being.
+/// Watches files that may be written in place, replaced, removed, missing at first, reached through symbolic
+/// links that change, or located in a directory that is replaced or created later.
 ///
-/// A burst of changes is one report, once it has gone quiet, or has gone on for long. At that moment the
-/// files are being watched anew: read then, nothing that happens later is missed. Needs the event loop of its
-/// thread.
+/// A burst of changes is reported once, when it has ended or has lasted for long. At that moment the files
+/// are already being watched again, so a reader that starts then misses no later change. Needs the event loop
+/// of its thread.
 class DocumentWatcher : public QObject
 {
     Q_OBJECT
 
 public:
-    /// How long it takes until a burst of changes is reported.
+    /// The delays before a burst of changes is reported.
     struct Debounce
     {
-        /// Without a further change.
+        /// Time without a further change.
         std::chrono::milliseconds quiet{100};
-        /// At most, whatever goes on.
+        /// Maximum delay of a report.
         std::chrono::milliseconds longest{1000};
     };
 
-    /// Watches from now on. Logs once for each place that cannot be watched.
+    /// Starts watching. Logs once for each place that cannot be watched.
     ///
     /// @param files absolute paths
     DocumentWatcher(const QStringList& files, Debounce debounce, QObject* parent = nullptr);
     ~DocumentWatcher() override;
 
 signals:
-    /// Something happened at the files or on the way to them; whether a text has changed is for the reader.
+    /// The files, or their paths, were touched. Their content may be unchanged.
     void touched();
 
 private:

@@ -17,7 +17,7 @@ JsonText withProblem(const QString& problem)
     return {{}, {}, problem};
 }
 
-/// A problem with the character that follows @p bytes.
+/// A problem at the character after @p bytes.
 JsonText withProblemAfter(const QByteArray& bytes, const QString& problem)
 {
     const QString before = QString::fromUtf8(bytes);
@@ -26,7 +26,7 @@ JsonText withProblemAfter(const QByteArray& bytes, const QString& problem)
     return withProblem(QStringLiteral("line %1, column %2: %3").arg(line).arg(column).arg(problem));
 }
 
-/// Decodes UTF-8; a byte that is none is replaced. @return whether there was no such byte.
+/// Decodes UTF-8 and replaces invalid bytes. @return whether all bytes were valid.
 bool decode(const QByteArray& bytes, QString& text)
 {
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
@@ -34,14 +34,14 @@ bool decode(const QByteArray& bytes, QString& text)
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
-/// The bytes that are the same in both.
+/// The common prefix of both.
 QByteArray commonBeginning(const QByteArray& left, const QByteArray& right)
 {
     const auto ends = std::mismatch(left.begin(), left.end(), right.begin(), right.end());
     return left.left(static_cast<int>(ends.first - left.begin()));
 }
 
-/// The bytes before the one at which the parser stumbled. As a rule it has taken that one already.
+/// The bytes before the one at which the parser failed. It has usually consumed that one already.
 QByteArray bytesBefore(const QJsonParseError& error, const QByteArray& bytes)
 {
     const bool isAhead =
@@ -74,7 +74,7 @@ JsonText JsonText::fromBytes(const QByteArray& bytes)
         return withProblemAfter(bytesBefore(error, json), error.errorString());
     if (!document.isObject())
         return withProblem(QStringLiteral("its root is not an object"));
-    // What Qt's parser lets pass.
+    // Faults that Qt's parser accepts.
     if (!isConfigurationTree(text))
         return withProblem(QStringLiteral("a string in it holds a control character or a broken escape"));
     return {text, document.object(), {}};

@@ -4,15 +4,16 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
 
-/// A JSON text whose root is an object, or why bytes are none.
+/// A JSON text whose root is an object, or the reason why the bytes are not such a text.
 struct JsonText
 {
     /// Without byte order mark.
     QString text;
     QJsonObject root;
-    /// Empty when the text is good; with line and column (characters, from 1) where there is such a place.
+    /// Empty if the text is valid. Includes line and column (characters, from 1) if the problem has a
+    /// position.
     QString problem;
 
-    /// Reads UTF-8 bytes, as strictly as the parser of the configuration tree does.
+    /// Reads UTF-8 bytes, as strictly as the parser of the configuration tree.
     static JsonText fromBytes(const QByteArray& bytes);
 };

@@ -11,10 +11,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// As many as the kernel follows.
+/// The kernel's limit.
 const int maximumLinks = 40;
 
-/// A path on the way: what it has gone through, and what lies ahead.
+/// A path being resolved: the places already visited, and the remaining components.
 class Walk
 {
 public:
@@ -40,7 +40,7 @@ private:
         m_ahead.insert(m_ahead.begin(), way.begin(), way.end());
     }
 
-    /// Takes the next component. @return whether it led anywhere.
+    /// Resolves the next component. @return whether it exists.
     bool step()
     {
         const fs::path component = m_ahead.front();

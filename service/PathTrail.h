@@ -3,10 +3,10 @@
 #include <QtCore/QString>
 #include <QtCore/QVector>
 
-/// The places that decide what a path leads to.
+/// Finds the places that determine what a path leads to.
 namespace PathTrail {
 
-/// A file or directory: its path, which goes through no symbolic link, and what is there.
+/// A file or directory: its path without symbolic links, its identity and permissions.
 struct Place
 {
     QString path;
@@ -17,9 +17,9 @@ struct Place
 
 bool operator==(const Place& left, const Place& right);
 
-/// Every directory that is gone through when @p path is opened, the root first, and the file at its end;
-/// symbolic links are followed. A change in what the path leads to is a change in one of these places. The
-/// trail of a path that leads to nothing ends where it breaks off.
+/// Every directory that is visited when @p path is opened, root first, and finally the file; symbolic links
+/// are followed. What the path leads to changes only if one of these places changes. If the path leads to
+/// nothing, the trail ends at the last place that exists.
 ///
 /// @param path absolute
 QVector<Place> of(const QString& path);

@@ -3,10 +3,10 @@
 #include <QtCore/QObject>
 #include <QtCore/QSocketNotifier>
 
-/// SIGTERM and SIGINT as a signal of the event loop.
+/// Delivers SIGTERM and SIGINT as a signal of the event loop.
 ///
-/// From its construction on the two wait to be received here, for good. One per process, built after the
-/// QCoreApplication and before any thread: a thread keeps to what its creator did.
+/// The constructor blocks both signals for the rest of the process. Create one per process, after the
+/// QCoreApplication and before any thread, because threads inherit the signal mask of their creator.
 class TerminationSignal : public QObject
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ public:
     ~TerminationSignal() override;
 
 signals:
-    /// The process was asked to end.
+    /// The process was asked to terminate.
     void received();
 
 private:

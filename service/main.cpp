@@ -11,7 +11,7 @@
 
 namespace {
 
-/// What the program ends with.
+/// Exit codes of the program.
 enum ExitCode
 {
     Succeeded = 0,
