@@ -11,7 +11,7 @@ namespace {
 const char* const unitsOption = "units";
 const char* const defaultUnitsOption = "default-units";
 
-/// The named file, or the shipped document, which stands in a fixed place beside the program's own folder.
+/// The named file, or the shipped document, which has a fixed path relative to the program's folder.
 QString documentPath(const QCommandLineParser& options, const QString& option, const QString& shippedName)
 {
     if (options.isSet(option))

@@ -12,7 +12,7 @@ protected:
     using Verb::Verb;
 
     void addOptions(QCommandLineParser& parser) const override;
-    /// Does the work with the documents loaded. @return an ExitCode
+    /// Executes the verb with the documents loaded. @return an ExitCode
     virtual int answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
                        const QStringList& arguments) = 0;
 

@@ -8,13 +8,13 @@
 
 #include "Verb.h"
 
-/// The program's verbs, and the choice among them.
+/// Selects and runs the program's verbs.
 class CommandLine
 {
 public:
     CommandLine();
 
-    /// Does what the words of the command line, without the program's name, ask for.
+    /// Executes the command line @p words, given without the program's name.
     ///
     /// @return an ExitCode; its reason has been printed
     int run(const QStringList& words) const;

@@ -10,7 +10,7 @@ namespace {
 
 const int longestQuotation = 60;
 
-/// The error number of the first write that failed; 0 while all is well.
+/// The error number of the first failed write; 0 if none has failed.
 int writeError = 0;
 
 bool written(bool success)

@@ -2,23 +2,23 @@
 
 #include <QtCore/QString>
 
-/// The program's standard output and standard error, always in UTF-8. One thread.
+/// The program's standard output and standard error, always in UTF-8. For one thread only.
 namespace Console {
 
-/// Prints a line on standard output, which is buffered.
+/// Prints a line to standard output, which is buffered.
 ///
-/// @return false once writing has failed: nothing more will arrive
+/// @return false once writing has failed: no further output will arrive
 bool printLine(const QString& line);
-/// Hands on what is buffered. @return as printLine()
+/// Writes the buffered output. @return false once writing has failed
 bool flush();
-/// Prints "unitmanager: " and a message on standard error.
+/// Prints "unitmanager: " and a message to standard error.
 void printError(const QString& message);
 
-/// Flushes and gives the program's exit code: @p exitCode, or 1 with a message when the output could not be
-/// written. A reader that left early is no failure and gets no message.
+/// Flushes and returns the program's exit code: @p exitCode, or 1 with a message if the output could not be
+/// written. A reader that closed the pipe early is not a failure and gets no message.
 int finish(int exitCode);
 
-/// Text from outside as part of a message: in quotes, without control characters, long text cut.
+/// Formats external text for a message: quoted, without control characters, long text truncated.
 QString quoted(const QString& text);
 
 } // namespace Console

@@ -67,7 +67,7 @@ int ConvertVerb::convertLines(const std::function<QString(double)>& convertedTex
             return exitCode;
         if (!value && !text.isEmpty() && !text.startsWith('#'))
             exitCode = fail(lineFailure(reader.number(), text));
-        // Whoever types the values or feeds them slowly sees each result at once.
+        // Flush before blocking, so that interactive or slow input gets each result immediately.
         if (reader.mayBlock())
             Console::flush();
     }

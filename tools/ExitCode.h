@@ -1,12 +1,12 @@
 #pragma once
 
-/// What the program ends with.
+/// Exit codes of the program.
 enum ExitCode
 {
-    /// Everything asked for was printed.
+    /// Everything requested was printed.
     Succeeded = 0,
-    /// A name, a document or a line of input was not usable.
+    /// A name, a document or a line of input was invalid.
     Failed = 1,
-    /// The command line itself was wrong.
+    /// The command line itself was invalid.
     WrongUsage = 2
 };

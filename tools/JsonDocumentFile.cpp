@@ -58,7 +58,7 @@ int invalidByte(const QByteArray& bytes)
     return characterStart;
 }
 
-/// The byte at which the parser stumbled. As a rule it has taken that byte already.
+/// The byte at which the parser failed. It has usually consumed that byte already.
 int stumblingByte(const QJsonParseError& error, const QByteArray& bytes)
 {
     const bool isAhead =

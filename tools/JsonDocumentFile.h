@@ -4,23 +4,23 @@
 
 #include "Result.h"
 
-/// Reads configuration documents and says precisely what is wrong with one.
+/// Reads configuration documents and reports their faults precisely.
 namespace JsonDocumentFile {
 
-/// A document that is one JSON object, or empty.
+/// A document: one JSON object, or an empty text.
 struct Document
 {
     /// The document's text, without byte order mark.
     QString text;
-    /// Whether there is anything in it.
+    /// Whether the document is not empty.
     bool hasContent = false;
 };
 
-/// Reads the document @p path.
+/// Reads the document at @p path.
 ///
-/// @return a failure that names the file for one that cannot be read and for a document that is no object;
-/// with line and column (characters, from 1) for one that is not UTF-8 or not JSON. An empty file is a
-/// document without content.
+/// @return a failure that names the file if it cannot be read or its content is not an object; with line and
+/// column (characters, from 1) if it is not UTF-8 or not JSON. An empty file gives a document without
+/// content.
 Result<Document> read(const QString& path);
 
 } // namespace JsonDocumentFile

@@ -9,10 +9,10 @@
 
 namespace {
 
-/// More wrong characters than this are another name, no slip of the pen.
+/// With more wrong characters a word is a different name, not a typing error.
 const int mostSlips = 2;
 
-/// The number of characters to insert, delete or replace to make one text the other.
+/// The number of insertions, deletions and replacements that turn one text into the other.
 int editDistance(const QString& left, const QString& right)
 {
     QVector<int> row(right.size() + 1);

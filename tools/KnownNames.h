@@ -5,12 +5,12 @@
 
 #include "Result.h"
 
-/// Words the failure of a look-up by name.
+/// Error messages for unknown names.
 namespace KnownNames {
 
-/// "unknown KIND 'NAME'CONTEXT; known: A, B, C; did you mean C?", the last part for a near miss only.
+/// "unknown KIND 'NAME'CONTEXT; known: A, B, C; did you mean C?"; the last part only if a name is similar.
 ///
-/// @param context what stands behind the name, such as " of Pressure"; may be empty
+/// @param context text after the name, such as " of Pressure"; may be empty
 Failure unknown(const QString& kind, const QString& name, const QString& context, QStringList known);
 
 /// "known: A, B, C", or "known: none".

@@ -13,7 +13,7 @@ bool LineReader::next()
 
     ++lineNumber;
     isCut = input.fail();
-    // The line feed counts among the characters taken, but is not stored.
+    // gcount() includes the line feed, which is not stored.
     length = static_cast<int>(input.gcount()) - (isEnd || isCut ? 0 : 1);
     if (isCut) {
         input.clear();

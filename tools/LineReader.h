@@ -5,23 +5,23 @@
 #include <array>
 #include <istream>
 
-/// Reads text line by line in a fixed amount of memory, however long the text or a line of it is.
+/// Reads text line by line in a fixed amount of memory, regardless of the length of the text or its lines.
 class LineReader
 {
 public:
     /// @param source must outlive the reader
     explicit LineReader(std::istream& source);
 
-    /// Goes to the next line. May block. @return false when there is none or the input cannot be read
+    /// Reads the next line. May block. @return false at the end of the input or if it cannot be read
     bool next();
-    /// Whether next() may block: nothing of the input is at hand.
+    /// Whether next() may block because no input is available yet.
     bool mayBlock() const;
-    /// Whether reading ended with an error of the input, not with its end.
+    /// Whether reading ended because of an error rather than the end of the input.
     bool hasFailed() const;
-    /// The line without blanks around it, carriage return included. A line of 4096 bytes or more comes cut,
-    /// with "..." at its end.
+    /// The line without surrounding blanks and carriage return. A line of 4096 bytes or more is truncated and
+    /// ends with "...".
     QString text() const;
-    /// The line's number, from 1; every line counts.
+    /// The line's number, from 1; empty lines count.
     qint64 number() const;
 
 private:

@@ -1,12 +1,12 @@
 #pragma once
 
-/// Decides what becomes of the library's log messages. The program words its own errors, so they are dropped
-/// unless the user asks for them. One thread.
+/// Filters the library's log messages. The program prints its own errors, so log messages are dropped unless
+/// the user requests them. For one thread only.
 namespace MessageFilter {
 
-/// From now on messages go through the filter.
+/// Installs the filter as message handler.
 void install();
-/// From now on they are printed on standard error, "unitmanager: " before each.
+/// From now on messages are printed to standard error, each after "unitmanager: ".
 void setVerbose();
 
 } // namespace MessageFilter

@@ -4,23 +4,23 @@
 
 #include <optional>
 
-/// Numbers as text: a decimal point and no grouping, whatever the locale.
+/// Numbers as text: with a decimal point and without grouping, regardless of the locale.
 namespace NumberText {
 
-/// Reads a decimal number with an optional sign and exponent, "nan", "inf" or "-inf"; blanks around it do not
-/// matter.
+/// Parses a decimal number with an optional sign and exponent, "nan", "inf" or "-inf"; surrounding blanks are
+/// ignored.
 ///
-/// @return nothing for any other text and for a number beyond the range of a double
+/// @return no value for any other text and for a number outside the range of a double
 std::optional<double> parse(const QString& text);
 
-/// What a number has to look like, for messages.
+/// The expected form of a number, for messages.
 QString expectation();
 
 /// The shortest text that parse() reads as the same double.
 QString shortest(double value);
 
-/// Fixed notation with @p decimalPlaces digits behind the point, without a negative zero. With more places
-/// than a double carries the same as shortest().
+/// Fixed notation with @p decimalPlaces digits after the decimal point, without a negative zero. With more
+/// places than a double can represent, see shortest().
 QString fixed(double value, unsigned int decimalPlaces);
 
 } // namespace NumberText

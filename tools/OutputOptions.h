@@ -6,10 +6,10 @@ class QCommandLineParser;
 class QJsonObject;
 class QJsonValue;
 
-/// The options that choose the form of what is printed, the same for every verb that has them.
+/// The options for the output format, shared by all verbs that have them.
 namespace OutputOptions {
 
-/// Declares --json. @p content is what an object holds, for the help.
+/// Declares --json. @param content the content of an object, for the help
 void addJson(QCommandLineParser& parser, const QString& content);
 /// Declares --raw.
 void addRaw(QCommandLineParser& parser);
@@ -20,9 +20,9 @@ bool isJson(const QCommandLineParser& options);
 bool isRaw(const QCommandLineParser& options);
 QString language(const QCommandLineParser& options);
 
-/// An object as one line, without its end.
+/// An object as one line, without line break.
 QString jsonLine(const QJsonObject& object);
-/// The text; null for an empty one.
+/// The text; null if it is empty.
 QJsonValue jsonText(const QString& text);
 
 } // namespace OutputOptions

@@ -5,13 +5,13 @@
 #include <optional>
 #include <utility>
 
-/// Why something was not done, as one line for the user.
+/// The reason of a failure, as one line for the user.
 struct Failure
 {
     QString reason;
 };
 
-/// A value, or the reason why there is none.
+/// A value, or the failure that prevented it.
 template <typename T>
 class Result
 {
@@ -24,7 +24,7 @@ public:
     {
         return value.has_value();
     }
-    /// The value; only when there is one.
+    /// The value. Call only if there is one.
     const T& operator*() const
     {
         return *value;
@@ -33,7 +33,7 @@ public:
     {
         return &*value;
     }
-    /// The failure; its reason is empty when there is a value.
+    /// The failure; its reason is empty if there is a value.
     const Failure& error() const
     {
         return failure;

@@ -30,7 +30,7 @@ int TableVerb::convert(const UnitCatalogue& catalogue, const Source& source,
     for (const QString& unit : catalogue.units(source.type)) {
         const QString text = ValueFormat(catalogue, source.type, unit, options)
                                  .text(catalogue.convert(*value, source.type, source.unit, unit));
-        // An object names its unit itself.
+        // A JSON object already contains its unit.
         table.addRow(OutputOptions::isJson(options) ? QStringList{text} : QStringList{unit, text});
     }
     for (const QString& line : table.lines())

@@ -4,15 +4,14 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
 
-/// Rows of text in columns as wide as their longest cell, two blanks apart. Columns without text are left
-/// out.
+/// Aligned columns of text, separated by two blanks. Empty columns are omitted.
 class TextTable
 {
 public:
-    /// All rows have the same number of cells.
+    /// Adds a row. All rows must have the same number of cells.
     void addRow(const QStringList& cells);
 
-    /// The rows, without blanks at their ends.
+    /// The rows, without trailing blanks.
     QStringList lines() const;
 
 private:

@@ -21,7 +21,7 @@ QStringList namesOf(const QVector<UnitType>& types)
     return names;
 }
 
-/// Null when there is none.
+/// @return null if the type is unknown.
 const UnitType* findType(const QVector<UnitType>& types, const QString& name)
 {
     const auto found = std::find_if(types.begin(), types.end(), [&name](const UnitType& type) {
@@ -44,7 +44,7 @@ Result<UnitCatalogue> UnitCatalogue::load(const QString& unitsPath, const QStrin
         return defaultUnits.error();
 
     UnitCatalogue catalogue;
-    // The result does not matter: it is false also for a document without labels, which is good enough here.
+    // The result is ignored: it is also false for a document without labels, which is sufficient here.
     catalogue.updateUnitConversionByJsonString(units->text);
     if (catalogue.getListofUnitTypes().isEmpty())
         return Failure{unitsPath + ": contains no unit types that the library can read"};
@@ -91,7 +91,7 @@ QStringList UnitCatalogue::units(const UnitType& type) const
 
     QStringList names;
     for (const QString& name : getListofUnits(type.id)) {
-        // A unit listed without conversion is none: the unit-less one beside it has emptied them.
+        // Skip units without conversion: an entry without unit in the same type has removed them.
         if (decimalPlaces(type, name))
             names.append(name);
     }
@@ -148,7 +148,7 @@ std::optional<unsigned int> UnitCatalogue::decimalPlaces(const UnitType& type, c
 double UnitCatalogue::convert(double value, const UnitType& type, const QString& from,
                               const QString& to) const
 {
-    // Not by way of the base unit, which would cost the last digits.
+    // Do not convert through the base unit, which would lose the last digits.
     if (from == to)
         return value;
     return fromBaseUnitRaw(toBaseUnitRaw(value, type.id, from), type.id, to).toDouble();

@@ -12,52 +12,52 @@
 /// A unit type as the user named it.
 struct UnitType
 {
-    /// The name without prefix, "Pressure", or with the unit that it fixes, "Pressure/Bar".
+    /// The name without prefix, "Pressure"; for a fixed unit with the unit, "Pressure/Bar".
     QString name;
     /// The library's identifier, "UnitManager/UnitType/Pressure".
     QString id;
-    /// The one unit that a value of a fixed unit has; empty for a type with a choice of units. The unit-less
-    /// type counts as fixed.
+    /// The only unit of a fixed unit; empty for a type with a choice of units. The unit-less type counts as
+    /// fixed.
     QString fixedUnit;
 };
 
-/// The unit manager of two documents, asked by names that a user typed. Lists are sorted, so that output does
-/// not change from run to run.
+/// The unit manager of two documents, queried by names that a user typed. Lists are sorted, so that the
+/// output is the same in every run.
 class UnitCatalogue : private UnitManager
 {
 public:
-    /// The catalogue of two documents.
+    /// Loads the catalogue from two documents.
     ///
-    /// @return a failure that names the document for one that cannot be read or holds nothing
+    /// @return a failure that names the document if it cannot be read or is empty
     static Result<UnitCatalogue> load(const QString& unitsPath, const QString& defaultUnitsPath);
 
-    /// All unit types, by name.
+    /// All unit types, sorted by name.
     QVector<UnitType> unitTypes() const;
-    /// The type of that name, with or without prefix, with or without "/" and a unit that it fixes.
+    /// Finds a type by name, with or without prefix, with or without "/" and a fixed unit.
     ///
-    /// @return a failure that lists the names known
+    /// @return a failure that lists the known names if the name is unknown
     Result<UnitType> unitType(const QString& name) const;
 
-    /// The names of the type's units, the base unit first, the others by name.
+    /// The names of the type's units: the base unit first, the others sorted by name.
     QStringList units(const UnitType& type) const;
-    /// The unit of that name; of an empty name the default unit.
+    /// Finds a unit by name; an empty name selects the default unit.
     ///
-    /// @return a failure that lists the names known
+    /// @return a failure that lists the known names if the name is unknown
     Result<QString> unit(const UnitType& type, const QString& name) const;
 
-    /// Empty when the type has none.
+    /// The name of the type's base unit; empty if it has none.
     QString baseUnit(const UnitType& type) const;
-    /// The fixed unit of a type that has one. Empty when there is no default unit.
+    /// The name of the default unit; for a fixed unit, that unit. Empty if there is none.
     QString defaultUnit(const UnitType& type) const;
 
-    /// @return empty for a unit without label
+    /// The unit's label. @return empty for a unit without label
     QString label(const UnitType& type, const QString& unit, const QString& language) const;
-    /// @return nothing for a unit whose values are never rounded
+    /// The unit's decimal places. @return no value for a unit whose values are never rounded
     std::optional<unsigned int> decimalPlaces(const UnitType& type, const QString& unit) const;
 
-    /// The value in the unit @p to of a value in the unit @p from, unrounded. Both must be units of the type.
+    /// Converts a value from one unit to another, unrounded. Both must be units of the type.
     double convert(double value, const UnitType& type, const QString& from, const QString& to) const;
-    /// The library's rounding, half away from zero.
+    /// Rounds as the library does, half away from zero.
     double rounded(double value, unsigned int decimalPlaces) const;
 
 private:

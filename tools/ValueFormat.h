@@ -8,17 +8,17 @@
 
 class QCommandLineParser;
 
-/// Writes values of one unit in the form that the user asked for: rounded to the unit's decimal places with
-/// its label, as shortest text, or as JSON object. Looks everything up once, for any number of values.
+/// Formats values of one unit as the user requested: rounded to the unit's decimal places with its label, as
+/// shortest text, or as JSON object. All look-ups are made once, in the constructor.
 class ValueFormat
 {
 public:
     /// @param source must outlive the format
-    /// @param options of a verb that declares --raw, --json and --language
+    /// @param options options of a verb that declares --raw, --json and --language
     ValueFormat(const UnitCatalogue& source, const UnitType& type, const QString& unit,
                 const QCommandLineParser& options);
 
-    /// One line, without its end.
+    /// One line, without line break.
     QString text(double value) const;
 
 private:
@@ -29,6 +29,6 @@ private:
     std::optional<unsigned int> decimalPlaces;
     bool isJson;
     bool isRaw;
-    /// An object without its last member, which is the value.
+    /// The start of a JSON object, up to its last member, which is the value.
     QString jsonStart;
 };

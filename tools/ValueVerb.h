@@ -3,26 +3,26 @@
 #include "CatalogueVerb.h"
 #include "UnitCatalogue.h"
 
-/// A verb that takes VALUE TYPE FROM as its first arguments.
+/// A verb whose first arguments are VALUE TYPE FROM.
 class ValueVerb : public CatalogueVerb
 {
 protected:
     using CatalogueVerb::CatalogueVerb;
 
-    /// The unit that the value is given in.
+    /// The unit of the given value.
     struct Source
     {
         UnitType type;
         QString unit;
     };
 
-    /// Does the work. @return an ExitCode
+    /// Executes the verb. @return an ExitCode
     virtual int convert(const UnitCatalogue& catalogue, const Source& source,
                         const QCommandLineParser& options, const QStringList& arguments) = 0;
 
-    /// Says that @p text is no value. @return WrongUsage
+    /// Prints that @p text is not a value. @return WrongUsage
     int valueError(const QString& text) const;
-    /// What the help of every such verb says of values and fixed units.
+    /// The help text about values and fixed units, common to all these verbs.
     static QString valueRules();
 
     void addOptions(QCommandLineParser& parser) const override;

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Whether a word that begins like an option is a negative number.
+/// Whether a word that starts like an option is a negative number.
 bool isNegativeNumber(const QString& word)
 {
     if (!word.startsWith('-') || word.size() < 2)
@@ -16,7 +16,7 @@ bool isNegativeNumber(const QString& word)
     return word[1].isDigit() || word[1] == '.' || word == "-inf";
 }
 
-/// The words with a blank before negative numbers, which keeps the parser from taking them for options.
+/// Puts a blank before negative numbers, so that the parser does not treat them as options.
 QStringList withShieldedNumbers(QStringList words)
 {
     for (QString& word : words) {
@@ -35,7 +35,7 @@ QStringList withoutShields(QStringList words)
     return words;
 }
 
-/// A sentence as part of a message: without its capital letter and full stop.
+/// A sentence for use within a message: without capital letter and full stop.
 QString asClause(QString sentence)
 {
     sentence[0] = sentence[0].toLower();
@@ -115,7 +115,7 @@ QString Verb::usageLine() const
 
 QString Verb::helpText(const QCommandLineParser& parser) const
 {
-    // The parser's own first line names the program by its path and does not know the verb.
+    // The first line of the generated help shows the program's path and lacks the verb.
     const QString generated = parser.helpText();
     return "Usage: " + usageLine() + generated.mid(generated.indexOf('\n')) + '\n' + description.details;
 }

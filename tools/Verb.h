@@ -8,9 +8,9 @@
 
 class QCommandLineParser;
 
-/// One thing that the program can do, with its own arguments, options and help.
+/// A command of the program, with its own arguments, options and help.
 ///
-/// A new verb derives from this class, or from CatalogueVerb when it needs the documents, and is added to the
+/// To add a verb, derive from this class, or from CatalogueVerb if it needs the documents, and add it to the
 /// list in CommandLine.cpp.
 class Verb
 {
@@ -23,12 +23,12 @@ public:
     struct Description
     {
         QString name;
-        /// What the verb does, in one sentence.
+        /// Describes the verb in one sentence.
         QString summary;
-        /// The arguments as the help's first line shows them, such as "TYPE [UNIT]".
+        /// The arguments as shown in the first line of the help, such as "TYPE [UNIT]".
         QString usage;
         int leastArguments;
-        /// All arguments that the verb takes at most.
+        /// All arguments, including optional ones.
         QVector<Argument> arguments;
         /// The end of the help: rules and an example.
         QString details;
@@ -38,28 +38,28 @@ public:
     Verb(const Verb&) = delete;
     Verb& operator=(const Verb&) = delete;
 
-    /// The name and version of the program.
+    /// The program's name and version.
     static QString versionText();
 
     const Description& about() const;
 
-    /// Does what @p words, the command line behind the verb, asks for, --help and --version included.
+    /// Executes the verb with @p words, the command line after the verb. Handles --help and --version.
     ///
-    /// @return an ExitCode; its reason has been printed
+    /// @return an ExitCode; a failure has already been printed
     int execute(const QStringList& words);
 
 protected:
     explicit Verb(const Description& givenDescription);
 
-    /// Declares the verb's own options, besides --help, --version and --verbose.
+    /// Declares the verb's own options, in addition to --help, --version and --verbose.
     virtual void addOptions(QCommandLineParser& parser) const = 0;
-    /// Does the work.
+    /// Executes the verb.
     ///
-    /// @param arguments as many as the description allows
+    /// @param arguments as many as the description permits
     /// @return an ExitCode
     virtual int run(const QCommandLineParser& options, const QStringList& arguments) = 0;
 
-    /// Prints why the command line is wrong and how it should look. @return WrongUsage
+    /// Prints an error in the command line and the correct usage. @return WrongUsage
     int usageError(const QString& reason) const;
     /// Prints the failure's reason. @return Failed
     static int fail(const Failure& failure);

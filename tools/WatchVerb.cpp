@@ -17,7 +17,7 @@ namespace {
 const char* const busOption = "bus";
 const int pollMilliseconds = 20;
 
-/// What is known about the service, and the lines that say what has become of it.
+/// Tracks the state of the service and prints its changes.
 class Watch
 {
 public:
@@ -26,7 +26,7 @@ public:
                 "DefaultUnitConfiguration", "UnitManager/DefaultUnit", true, true)
     {}
 
-    /// Goes one step further and prints what is new. @return false when the output cannot be written
+    /// Makes one step and prints changes. @return false if the output cannot be written
     bool advance()
     {
         const bool isReady = units.checkInitialized();

@@ -7,7 +7,7 @@
 
 int main(int argc, char* argv[])
 {
-    // Arguments and file names are taken byte for byte, also where the locale knows ASCII only.
+    // Treat arguments and file names as UTF-8, even if the locale only knows ASCII.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     const QCoreApplication application(argc, argv);
     MessageFilter::install();
