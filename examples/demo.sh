@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Shows the main job on the shipped documents: examples/demo.sh BUILD_FOLDER
+# Demonstrates the main functions with the shipped documents: examples/demo.sh BUILD_FOLDER
 set -euo pipefail
 build=${1:?usage: examples/demo.sh BUILD_FOLDER}
 unitmanager=$build/tools/unitmanager
 
-show() { # what a user would type, and what it prints
+show() { # a command as typed by a user, and its output
     printf '\n$ unitmanager'
     printf ' %q' "$@"
     printf '\n'

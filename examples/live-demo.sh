@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Shows an application that follows its configuration over D-Bus: examples/live-demo.sh BUILD_FOLDER
-# A bus, the service and the application are started here and stopped here; nobody's own bus is touched.
+# Demonstrates an application that follows its configuration over D-Bus: examples/live-demo.sh BUILD_FOLDER
+# Starts and stops a private bus, the service and the application; does not use the user's bus.
 set -euo pipefail
 build=$(realpath "${1:?usage: examples/live-demo.sh BUILD_FOLDER}")
 config=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../config")
@@ -25,7 +25,7 @@ start() { # descriptor for its output, program and arguments
     eval "exec $descriptor<'$folder/output-$descriptor'"
 }
 
-show_until() { # who, descriptor of its output, text of the last line to show
+show_until() { # label, descriptor of its output, text of the last line to show
     local line
     while IFS= read -r -t 20 line <&"$2"; do
         echo "  $1 | ${line//$folder/documents}"
@@ -35,7 +35,7 @@ show_until() { # who, descriptor of its output, text of the last line to show
     return 1
 }
 
-change() { # document, and how it then differs from the shipped one; as an editor does it, by a new file
+change() { # document, sed script for the shipped one; replaces the file, as editors do
     sed "$2" "$config/$1" >"$folder/$1.new"
     mv "$folder/$1.new" "$folder/$1"
 }

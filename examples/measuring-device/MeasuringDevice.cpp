@@ -14,7 +14,7 @@
 
 namespace {
 
-/// What a user of the device can set. The range's attributes are filled by the application.
+/// The settings that a user of the device can change. The application fills the attributes of the range.
 const char* const settingsDocument = R"({
     "AlarmLimit": { "@unitType": "UnitManager/UnitType/Pressure", "@value": 1.0 },
     "PressureRange": { "@unitType": "UnitManager/UnitType/Pressure", "@value": 0.9,

@@ -11,18 +11,17 @@
 
 class ProcessDataValue;
 
-/// A device application in small: it holds process values in base units and shows them as the current
-/// configuration says.
+/// A minimal device application: it holds process values in base units and shows them as configured.
 class MeasuringDevice
 {
 public:
     /// @param language language of the labels
     explicit MeasuringDevice(const QString& language);
 
-    /// One turn of the application's loop. @return whether a configuration was taken up in it, the first one
-    /// included.
+    /// One iteration of the application's loop. @return whether it loaded a configuration, including the
+    /// first one.
     bool poll();
-    /// How many configurations were taken up.
+    /// The number of configurations loaded so far.
     int adoptedConfigurations() const;
 
 private:
