@@ -8,13 +8,13 @@
 
 #include <string>
 
-/// What all benchmarks share: a result is checked before its making is timed.
+/// Shared by all benchmarks: a result is checked before the operation is timed.
 namespace BenchmarkSupport {
 
-/// Repetitions of what takes long.
+/// Repetitions of slow benchmarks.
 constexpr int fewRepetitions = 5;
 
-/// Drops all messages while it lives. Making their texts still costs what it costs.
+/// Drops all messages during its lifetime. Their texts are still formatted.
 class SilentLog
 {
 public:
@@ -40,7 +40,7 @@ inline bool check(benchmark::State& state, bool isRight)
     return isRight;
 }
 
-/// Times @p call, once its first result is found equal to @p expected.
+/// Times @p call after checking that its first result equals @p expected.
 template <typename Result, typename Call>
 void measure(benchmark::State& state, const Result& expected, const Call& call)
 {
@@ -52,7 +52,7 @@ void measure(benchmark::State& state, const Result& expected, const Call& call)
     }
 }
 
-/// Registers measure() of @p call, which is copied, under @p name.
+/// Registers a benchmark @p name that measures a copy of @p call; see measure().
 template <typename Result, typename Call>
 benchmark::internal::Benchmark* add(const std::string& name, const Result& expected, const Call& call)
 {

@@ -14,7 +14,7 @@ const QString defaultUnitsPath = QStringLiteral("/DefaultUnitConfiguration");
 const QString dependenciesPath = QStringLiteral("/DependencyConfiguration");
 const QString defaultUnitsName = QStringLiteral("UnitManager/DefaultUnit");
 
-/// The one world of its kind; it ends before the application object does.
+/// The only instance of its type; destroyed before the application object.
 template <typename World>
 std::unique_ptr<World>& theOne()
 {

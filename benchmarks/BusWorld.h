@@ -7,16 +7,16 @@
 #include "PrivateBus.h"
 #include "ServiceProcess.h"
 
-/// The private buses of the benchmarks, each with a configuration-file service. They start when they are
-/// first asked for and end with the application object.
+/// The private buses of the benchmarks, each with a configuration-file service. They start on first use and
+/// stop with the application object.
 namespace BusWorld {
 
-/// A bus with the shipped service, a process of its own, on the shipped documents.
+/// A bus with the shipped service, in a separate process, on the shipped documents.
 class Shipped
 {
 public:
-    /// Lets this process, and the processes that it starts, use this bus from now on.
-    /// @return null when bus or service do not start
+    /// Directs this process, and the processes that it starts, to this bus.
+    /// @return null if the bus or the service does not start
     static Shipped* use();
 
 private:
@@ -26,14 +26,14 @@ private:
     ServiceProcess m_service;
 };
 
-/// A bus with a service that changes its default units as fast as it is told.
+/// A bus with a service that changes its default units without delay.
 class Changing
 {
 public:
-    /// As Shipped::use().
+    /// Directs this process, and the processes that it starts, to this bus. @return null on failure
     static Changing* use();
 
-    /// Serves @p unit as default unit of pressure, and announces that.
+    /// Serves @p unit as default unit of pressure and announces the change.
     void change(const QString& unit);
 
 private:
@@ -46,7 +46,7 @@ private:
     std::unique_ptr<FakeBusService> m_service;
 };
 
-/// The configuration sources, as calls on the bus.
+/// The D-Bus calls that read the configuration sources.
 QDBusMessage callForUnits();
 QDBusMessage callForDefaultUnits();
 QDBusMessage callForDependencies();

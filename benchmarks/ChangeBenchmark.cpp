@@ -18,7 +18,7 @@ using Clock = std::chrono::steady_clock;
 const qint64 waitLimit = 10000;
 const int changesOfStorm = 20;
 
-/// Steps until the wrapper idles with @p unit as default unit of pressure.
+/// Steps until the wrapper is idle with @p unit as default unit of pressure.
 bool stepUntilAdopted(UnitManagerWrapper& units, const QString& unit)
 {
     const QDeadlineTimer deadline(waitLimit);
@@ -31,7 +31,7 @@ bool stepUntilAdopted(UnitManagerWrapper& units, const QString& unit)
     return true;
 }
 
-/// From the announcement of changed default units until they are in force.
+/// From the announcement of changed default units until they are active.
 void rebuild(benchmark::State& state, bool useAsynchronInterface)
 {
     const BenchmarkSupport::SilentLog silence;
@@ -54,7 +54,7 @@ void rebuild(benchmark::State& state, bool useAsynchronInterface)
     check(state, isRight);
 }
 
-/// From the first of many changes, announced at once, until every client process has the last one in force.
+/// From the first of many changes, announced at once, until every client process has adopted the last one.
 void storm(benchmark::State& state)
 {
     BusWorld::Changing* const world = BusWorld::Changing::use();

@@ -5,19 +5,19 @@
 #include <cstddef>
 #include <memory>
 
-/// The other unit libraries of the system, on the same work.
+/// Other unit libraries of the system, doing the same work.
 namespace Competitors {
 
-/// KUnitConversion by names, as its users write it.
+/// Converts with KUnitConversion by names, as its users do.
 double convertByKUnitConversion(double value, const QString& from, const QString& to);
-/// The symbol that KUnitConversion knows for a unit.
+/// KUnitConversion's symbol for a unit.
 QString symbolByKUnitConversion(const QString& unit);
 
-/// UDUNITS-2 with both names parsed in every call.
+/// Converts with UDUNITS-2; parses both names in every call.
 double convertByUdunits(double value, const char* from, const char* to);
-/// The symbol that UDUNITS-2 writes for a unit given by name.
+/// UDUNITS-2's symbol for a unit given by name.
 QString symbolByUdunits(const char* unit);
-/// Loads the database of UDUNITS-2 anew. @return whether that worked.
+/// Reloads the database of UDUNITS-2. @return whether that succeeded.
 bool loadUdunits();
 
 /// UDUNITS-2 with the conversion resolved once.

@@ -13,7 +13,7 @@ using BenchmarkSupport::add;
 using Operation = QVariant (UnitManager::*)(const QVariant&, const QString&, const QString&) const;
 using Baseline = QVariant (Baselines::*)(const QVariant&, const QString&, const QString&) const;
 
-/// One question, and the four answers to it: rounded and raw, from and to the base unit.
+/// One query and its four results: rounded and raw, from and to the base unit.
 struct Situation
 {
     std::string name;
@@ -28,7 +28,7 @@ struct Situation
 const double bars = 1.01325;
 const double hectoPascals = 1013.25;
 
-/// Compares with a competitor, whose last digit may differ.
+/// Compares with the result of a competitor, whose last digit may differ.
 struct Near
 {
     double number;
@@ -71,7 +71,7 @@ void addBaseline(const std::string& name, Baseline baseline, const QVariant& val
         [=, &baselines] { return (baselines.*baseline)(value, situation.unitType, situation.unit); });
 }
 
-/// One value to every unit in turn, so that no branch and no cache line is the same as before.
+/// Converts one value to every unit in turn, so that branch prediction and cached lines do not help.
 template <typename Convert>
 void addEveryUnit(const std::string& name, const Convert& convert)
 {
@@ -149,7 +149,7 @@ void addCompetitors()
     add("competitor/UDUNITS converter", Near{hectoPascals}, [converter] { return converter->convert(bars); });
 }
 
-/// One value through a conversion that was found before.
+/// Converts one value with a conversion that was found before.
 void addResolved()
 {
     ValueConversionWrapper conversion;

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Registers @p convert(in, out) on a run of @p count numbers in bar, to hectopascal.
+/// Registers @p convert(in, out), which converts @p count numbers from bar to hectopascal.
 template <typename Convert>
 void addLoop(const std::string& name, std::size_t count, const Convert& convert)
 {
@@ -35,7 +35,7 @@ void addLoop(const std::string& name, std::size_t count, const Convert& convert)
     });
 }
 
-/// The lower bound of any operation on an array.
+/// Registers a plain copy, the lower bound of any operation on an array.
 void addCopy(std::size_t count)
 {
     benchmark::RegisterBenchmark(("baseline/memcpy/" + std::to_string(count)).c_str(),

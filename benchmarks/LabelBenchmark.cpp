@@ -18,7 +18,7 @@ void Themes::addLabels()
     }
     add("competitor/KUnitConversion symbol", hPa,
         [hPa] { return Competitors::symbolByKUnitConversion(hPa); });
-    // Its name for the unit is put together from what it knows: "100 Pa".
+    // UDUNITS composes the name of the unit from units that it knows: "100 Pa".
     add("competitor/UDUNITS symbol", QStringLiteral("100 Pa"),
         [] { return Competitors::symbolByUdunits("hPa"); });
 }

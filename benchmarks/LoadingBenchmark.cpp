@@ -66,7 +66,7 @@ void addGenerated(const std::string& name, void (*run)(benchmark::State&, int), 
         added->Repetitions(BenchmarkSupport::fewRepetitions);
 }
 
-/// The time is that of a whole process; what counts are the two counters.
+/// The time is that of a whole process; only the two counters are relevant.
 void measurePeak(benchmark::State& state, const QString& loader, int unitCount)
 {
     PeakMemory::Figures figures;

@@ -45,7 +45,7 @@ const UnitManagerDevice& shippedDevice()
     return device;
 }
 
-/// Times a write whose value is another in every call, once the first is found to store @p expected.
+/// Times a write with a different value in each call, after checking that the first one stores @p expected.
 template <typename Write, typename Read>
 void addWrite(const std::string& name, double expected, const Write& write, const Read& read)
 {

@@ -16,7 +16,7 @@ namespace {
 const int processLimit = 120000;
 const double bytesPerKilobyte = 1024.0;
 
-/// A line "VmHWM:   1234 kB" of this process's status. @return bytes, 0 when there is none
+/// Reads a line "VmHWM:   1234 kB" of this process's status. @return bytes, 0 if there is no such line
 double statusBytes(const QByteArray& name)
 {
     QFile status(QStringLiteral("/proc/self/status"));
@@ -29,7 +29,7 @@ double statusBytes(const QByteArray& name)
     return 0.0;
 }
 
-/// Gives free memory back and lets the highest mark start from here. @return the bytes held now
+/// Releases free memory and resets the peak. @return the resident bytes now
 double startFromHere()
 {
     ::malloc_trim(0);
@@ -39,14 +39,14 @@ double startFromHere()
     return statusBytes("VmRSS");
 }
 
-/// The bytes that the program has asked for and not given back.
+/// The bytes that the program has allocated and not freed.
 double heapBytes()
 {
     const struct mallinfo2 heap = ::mallinfo2();
     return static_cast<double>(heap.uordblks + heap.hblkhd);
 }
 
-/// Runs @p load, which tells whether it did, and prints what it took. @return the exit code
+/// Runs @p load, which returns whether it succeeded, and prints its memory use. @return the exit code
 template <typename Load>
 int report(const Load& load)
 {

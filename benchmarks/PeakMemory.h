@@ -3,9 +3,9 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-/// Memory of a load, measured in a process of its own. The peak is what the system sees: the pages that the
-/// process holds at most (VmHWM of /proc/self/status, set back before the load), less those before. Kept is
-/// what the allocator has given out after the load, less that before. The text to load is there before.
+/// Memory of a load, measured in a separate process. The peak is the maximum of resident memory (VmHWM of
+/// /proc/self/status, reset before the load), minus the resident memory before. The kept memory is what is
+/// allocated after the load, minus what was allocated before. The text to load is in memory before.
 namespace PeakMemory {
 
 struct Figures
@@ -14,13 +14,13 @@ struct Figures
     double keptBytes = 0.0;
 };
 
-/// Starts this program for one load of a generated document of @p unitCount units.
+/// Runs this program for one load of a generated document of @p unitCount units.
 ///
 /// @param loader "manager" for the library, "qt" for Qt's own parser
-/// @return false when the process failed or what it loaded was wrong
+/// @return false if the process failed or the loaded data were wrong
 bool measure(const QString& loader, int unitCount, Figures& figures);
 
-/// What that process does: loads and prints the figures. @return the exit code
+/// The main function of that process: loads and prints the figures. @return the exit code
 int runProcess(const QStringList& arguments);
 
 } // namespace PeakMemory

@@ -8,7 +8,7 @@ namespace {
 const QVariant bars(1.01325);
 const QVariant hectoPascals(1013.3);
 
-/// Readers share one manager, and, as programs do, the texts of its keys.
+/// Readers share one manager and, as programs do, the texts of its keys.
 void addReaders(const std::string& name, int threadCount, QVariant (*convert)())
 {
     BenchmarkSupport::add(name, hectoPascals, convert)->Threads(threadCount)->UseRealTime();

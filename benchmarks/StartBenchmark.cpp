@@ -20,7 +20,7 @@ using BenchmarkSupport::SilentLog;
 
 const qint64 waitLimit = 10000;
 
-/// Steps until the connector idles. A blocking one needs one step.
+/// Steps until the connector is idle. A blocking one needs one step.
 bool stepToIdle(UnitManagerWrapper& units)
 {
     const QDeadlineTimer deadline(waitLimit);
@@ -69,7 +69,7 @@ void idleStep(benchmark::State& state, bool useAsynchronInterface)
     BenchmarkSupport::measure(state, true, [&units] { return units->checkInitialized(); });
 }
 
-/// The texts of some calls, whichever way they are made.
+/// The texts that several calls return, blocking or asynchronous.
 using Texts = QStringList;
 using Calls = QList<QDBusMessage>;
 
@@ -116,7 +116,7 @@ bool loadByLibrary(const Texts& texts)
            walker.initDependencyGraphByJsonString(texts.value(2));
 }
 
-/// @param use what is done with the texts, successfully
+/// @param use processes the texts; returns whether it succeeded
 void addCalls(const std::string& name, Texts (*call)(const Calls&), const Calls& calls, const Texts& expected,
               bool (*use)(const Texts&))
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Registers the benchmarks of one theme each.
+/// Each function registers the benchmarks of one theme.
 namespace Themes {
 
 void addConversions();

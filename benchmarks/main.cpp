@@ -25,7 +25,7 @@ std::string processorName()
     return "unknown";
 }
 
-/// What the figures stand and fall with, for the table.
+/// Records the properties of the machine that affect the figures, for the table.
 void describeMachine()
 {
     benchmark::AddCustomContext("processor", processorName());
@@ -36,8 +36,8 @@ void describeMachine()
     benchmark::AddCustomContext("build_type", UNITMANAGER_BUILD_TYPE);
 }
 
-/// Repetitions in random order, so that what disturbs the machine for a while disturbs all alike. What the
-/// command line says comes later and counts.
+/// Adds defaults before the arguments of the command line, which override them. Repetitions run in random
+/// order, so that a temporary disturbance of the machine affects all benchmarks alike.
 std::vector<char*> withOwnDefaults(int argc, char* argv[])
 {
     static char defaults[][64] = {"--benchmark_repetitions=101",
@@ -82,7 +82,7 @@ int runBenchmarks(int argc, char* argv[])
 
 } // namespace
 
-/// The benchmarks. Two more words are for the processes that some of them start: --client and --peak-memory.
+/// The benchmarks. Some of them start this program with --client or --peak-memory.
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);

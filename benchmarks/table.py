@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Turns a run of unitmanager-benchmarks into a table: what each thing costs, how that stands to the baselines and to
-the competitors measured in the same run, and which goals are met.
+"""Turns a run of unitmanager-benchmarks into a table: the cost of each operation, its ratio to the baselines and
+competitors measured in the same run, and which goals are met.
 
     table.py RUN.json                              prints the table
-    table.py RUN.json --write docs/performance.md  also puts it between the markers of that file
+    table.py RUN.json --write docs/performance.md  also writes it between the markers of that file
 
-Ends with 1 when a benchmark found a wrong result or is missing from the run, whatever the goals say.
+Exits with 1 if a benchmark found a wrong result or is missing from the run, regardless of the goals.
 """
 
 import argparse
@@ -32,14 +32,14 @@ class Value:
 
 @dataclass(frozen=True)
 class Sum:
-    """Several figures of a run, each by a factor, added up."""
+    """A weighted sum of figures of a run."""
 
     parts: list[tuple[float, Value]]
 
 
 @dataclass(frozen=True)
 class Against:
-    """What a row is held against. A baseline divides the row; a competitor is divided by it, so that more is better."""
+    """Reference of a row. The row is divided by a baseline; a competitor is divided by the row (higher is better)."""
 
     label: str
     value: Value | Sum
@@ -182,9 +182,9 @@ THEMES = [
 
 
 class Run:
-    """The medians of one run, by the names that the benchmarks were registered with."""
+    """The medians of one run, by the registered names of the benchmarks."""
 
-    # What Google Benchmark appends to a name, and how it says that wall time is what counts.
+    # Suffixes that Google Benchmark appends to a name; those of WALL_TIME mean that wall time is reported.
     APPENDED = re.compile(r"/(iterations:\d+|repeats:\d+|real_time|manual_time)")
     WALL_TIME = re.compile(r"/(real_time|manual_time)")
 
@@ -229,7 +229,7 @@ def value_text(value, number):
 
 
 def line(run, row):
-    """The cells of a row; None when the run lacks one of its figures."""
+    """The cells of a row; None if the run lacks one of its figures."""
     own = run.get(row.value)
     baselines = [(baseline, run.get(baseline.value)) for baseline in row.baselines]
     competitors = [(competitor, run.get(competitor.value)) for competitor in row.competitors]
