@@ -32,7 +32,7 @@ QString noDefault(const QString& unitType)
                        QStringLiteral(R"(Cannot find default unit for unitType "%1" !)").arg(unitType));
 }
 
-/// The messages of the class under test; reading a file may add the platform's own.
+/// The messages of the class under test; the platform may log its own when it reads a file.
 QStringList takeOwnMessages(LogCapture& log)
 {
     QList<LoggedMessage> own;
@@ -215,7 +215,7 @@ void DefaultUnitHandlerTest::answersTheLastPartOfTheValue()
     DefaultUnitHandler handler;
     QVERIFY(handler.initByJsonString(R"({"Pressure": {"@type": "Selection", "@value": )" + value + "}}"));
     QTEST(handler.getDefaultUnit(pressure), "expected");
-    // The stored value stays whole: a second answer is the same.
+    // The stored value is unchanged: a second query gives the same result.
     QTEST(handler.getDefaultUnit(pressure), "expected");
     QCOMPARE(log.takeTexts(), QStringList());
 }

@@ -2,7 +2,7 @@
 
 #include <dlfcn.h>
 
-/// The registries of a process that loads the libraries as plugins do, each in a scope of its own. It links
+/// The registries of a process that loads the libraries like plugins, each in a separate scope, and links
 /// none of them.
 class FactoryLocalScopeTest : public QObject
 {
@@ -36,7 +36,7 @@ void FactoryLocalScopeTest::librariesShareTheRegistries_data()
     QTest::addColumn<QByteArray>("registry");
     QTest::addColumn<QByteArray>("getter");
 
-    // The static objects in Factory<...>::instance().
+    // The mangled names are those of the static objects in Factory<...>::instance().
     QTest::newRow("states") << true
                             << QByteArray("_ZZN13VESKFactories7FactoryI21StateMachineStateBaseJP7QObjectEE8"
                                           "instanceEvE7factory")

@@ -5,7 +5,7 @@
 #include "UnitConversion/Factory.h"
 #include "UnitConversion/ValueConverterFactory.h"
 
-/// Base of a registry that knows nothing of the library under test.
+/// Base class of a registry that is independent of the library under test.
 class FACTORYPROBE_EXPORT ProbeBase
 {
 public:
@@ -14,14 +14,14 @@ public:
     ProbeBase(const ProbeBase&) = delete;
     ProbeBase& operator=(const ProbeBase&) = delete;
 
-    /// A number that tells objects apart.
+    /// Identifies the object.
     virtual int number() const = 0;
 };
 
 using StateFactory = VESKFactories::Factory<StateMachineStateBase, QObject*>;
 using ProbeFactory = VESKFactories::Factory<ProbeBase, int>;
 
-/// The registries as code in another shared library sees them.
+/// The registries as seen by code in another shared library.
 class FACTORYPROBE_EXPORT FactoryProbe
 {
 public:

@@ -53,7 +53,7 @@ private:
 
 static_assert(sizeof(ProbeFactory::Creator<Plus>) == sizeof(ProbeFactory::AbstractCreator));
 
-/// Counts how often it was destroyed.
+/// Counts its destructions.
 class CountingCreator : public ProbeFactory::AbstractCreator
 {
 public:
@@ -73,7 +73,7 @@ private:
     int& m_destroyed;
 };
 
-/// Gives the number 1234 for everything.
+/// Converts everything to 1234.
 class TestConverter : public ValueConverterBase
 {
 public:
@@ -88,7 +88,7 @@ public:
     }
 };
 
-/// Name of a converter's own class; empty for another class and for a null pointer.
+/// The class name of a converter; empty for any other class and for a null pointer.
 QString className(const ValueConverterBase* converter)
 {
     if (dynamic_cast<const ValueConverterPolynomial*>(converter))
@@ -286,7 +286,7 @@ void FactoryTest::hashIsNotSeeded_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<std::size_t>("expected");
 
-    // Per character: 31 times the hash so far, plus the character.
+    // Per character: hash = 31 * hash + character.
     QTest::newRow("empty") << "" << std::size_t(0);
     QTest::newRow("one character") << "a" << std::size_t(97);
     QTest::newRow("two characters") << "ab" << std::size_t(97 * 31 + 98);

@@ -24,7 +24,7 @@ bool ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(const QVariant
     return isVariantNumber(value) && (value.toDouble() == -999.0 || std::isnan(value.toDouble()));
 }
 
-/// A platform that does not promise that its marker is a NaN is asked about every number.
+/// If the platform does not declare that its marker is a NaN, the library tests every number.
 class NoInputMarkerTest : public QObject
 {
     Q_OBJECT

@@ -11,7 +11,7 @@ using PolynomialEvaluation::Variant;
 
 Q_DECLARE_METATYPE(Variant)
 
-/// Every variant that this processor supports, against the definition: Horner's scheme with std::fma.
+/// Compares every variant that this processor supports with the definition: Horner's scheme with std::fma.
 class PolynomialEvaluationTest : public QObject
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ double expectedValue(const Numbers& coefficients, double x)
     return result;
 }
 
-/// NaN keep their bits in arrays.
+/// Array conversions keep the bits of a NaN.
 Numbers expectedValues(const Numbers& coefficients, const Numbers& values)
 {
     Numbers results;
@@ -46,7 +46,7 @@ Numbers expectedValues(const Numbers& coefficients, const Numbers& values)
     return results;
 }
 
-/// Numbers of every kind, in an order in which neighbours differ.
+/// Numbers of every kind, ordered so that neighbours differ.
 Numbers samples(std::size_t count)
 {
     const double infinity = std::numeric_limits<double>::infinity();
@@ -81,7 +81,7 @@ Numbers coefficientsOf(std::size_t count)
     return coefficients;
 }
 
-/// The first difference, told by its place; empty when all bits are the same.
+/// Describes the first difference and its index; empty if all bits are equal.
 QString difference(const Numbers& actual, const Numbers& expected)
 {
     if (actual.size() != expected.size())
@@ -97,7 +97,7 @@ QString difference(const Numbers& actual, const Numbers& expected)
 }
 
 const std::size_t coefficientCounts[] = {0, 1, 2, 3, 4, 5, 8, 9, 13};
-/// Around the lengths of vectors and of the block that many coefficients are evaluated in.
+/// Around the lengths of vectors, and of the blocks in which polynomials of many coefficients are evaluated.
 const std::size_t lengths[] = {0, 1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 31, 33, 100, 511, 512, 513, 1030};
 
 void addVariants()
@@ -146,7 +146,7 @@ void PolynomialEvaluationTest::everyVariantGivesTheSameBits()
     }
     for (const std::size_t length : lengths) {
         const Numbers values = samples(length);
-        // One number more than is asked for must stay as it is.
+        // The element after the last one must stay unchanged.
         Numbers results(length + 1, 77.0);
         variant.evaluateArray(coefficients.data(), coefficients.size(), values.data(), results.data(),
                               length);

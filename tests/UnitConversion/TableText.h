@@ -12,7 +12,7 @@ inline QString tableText(const ValueConverterBase::ConversionTableEntry& entry)
     return exactText(x) + QStringLiteral(" -> ") + exactText(y);
 }
 
-/// The rows of a table in order, then the row of the largest and the row of the smallest x.
+/// The rows of a table in order, followed by the rows with the largest and the smallest x.
 inline QStringList tableTexts(const ValueConverterBase::ConversionTable& table)
 {
     const auto& [entries, maxEntry, minEntry] = table;

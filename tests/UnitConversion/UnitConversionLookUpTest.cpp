@@ -21,7 +21,7 @@ const QString sourceName = QStringLiteral("UnitConversion/UnitConversionLookUp")
 const QString pressure = QStringLiteral("UnitManager/UnitType/Pressure");
 const QString unread = QStringLiteral("UnitManager/UnitType/Unread");
 
-/// "Unread" is a unit type without node.
+/// "Unread" is a unit type whose node is null.
 const QString document = QStringLiteral(R"({
     "Pressure": {
         "Bar": {"@displayPosition": 0, "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]], "DecimalPlaces": 3},
@@ -47,7 +47,7 @@ QString noConversion(int line, const QString& function, const QString& unitType)
                        QStringLiteral(R"(No conversion function given for unitType  "%1")").arg(unitType));
 }
 
-/// The messages of the class under test; reading a file may add the platform's own.
+/// The messages of the class under test; the platform may log its own when it reads a file.
 QStringList takeOwnMessages(LogCapture& log)
 {
     QList<LoggedMessage> own;
@@ -327,7 +327,7 @@ void UnitConversionLookUpTest::failsForUnknownTypes()
     const LookUp lookUp(document);
     QVERIFY(lookUp.isValid());
     LogCapture log;
-    // Not even a conversion that changes nothing succeeds without its unit type.
+    // Even a conversion that changes nothing fails if its unit type is unknown.
     for (const char* unit : {"Bar", "NoUnit", ""}) {
         QVariant value(3);
         unsigned int places = 77;

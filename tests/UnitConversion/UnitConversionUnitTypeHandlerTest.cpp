@@ -54,7 +54,7 @@ QString initWarning()
                        "Invalid node found");
 }
 
-/// A unit type whose only unit "Unit" has the display position given.
+/// A unit type whose only unit "Unit" has the given display position.
 QSharedPointer<RecordingNode> unitAtPosition(const QVariant& position)
 {
     const auto calls = RecordingNode::Calls::create();
@@ -68,7 +68,7 @@ QSharedPointer<RecordingNode> unitAtPosition(const QVariant& position)
 
 } // namespace
 
-/// Reading of a unit type's node; the conversions stand in UnitConversionUnitTypeHandlerConversionTest.
+/// Reading of a unit type's node; for the conversions see UnitConversionUnitTypeHandlerConversionTest.
 class UnitConversionUnitTypeHandlerTest : public QObject
 {
     Q_OBJECT
@@ -159,7 +159,7 @@ void UnitConversionUnitTypeHandlerTest::typeIsComparedAsVariant()
     const auto type = recordingNodeFromJson(QStringLiteral("{}"), QStringLiteral("type"), calls);
     const auto unit =
         recordingNodeFromJson(QStringLiteral(R"({"Polynomial": [1]})"), QStringLiteral("unit"), calls);
-    // A boolean variant equals any non-empty text but "false" and "0".
+    // A boolean variant equals any non-empty text except "false" and "0".
     unit->replaceProperty(Definitions::getKeyDataPropertyType(), true);
     type->insertChild(QStringLiteral("A"), unit);
     QCOMPARE(Handler(type, name).getUnitList(), QList<QString>{"A"});

@@ -17,13 +17,13 @@ static_assert(std::is_copy_constructible_v<ValueConversionWrapper> &&
               std::is_copy_assignable_v<ValueConversionWrapper>);
 static_assert(std::is_convertible_v<const ValueConversionWrapper&, bool>);
 static_assert(std::is_convertible_v<BaseClassSharedPointer, ValueConversionWrapper>);
-// The table pointer and the shared pointer, nothing else.
+// The virtual table pointer and the shared pointer, nothing else.
 static_assert(sizeof(ValueConversionWrapper) == sizeof(void*) + sizeof(QSharedPointer<ValueConverterBase>));
 
 const QString linear =
     QStringLiteral(R"({"Polynomial": [[5], [2]], "InversePolynomial": [[-2.5], [0.5]], "DecimalPlaces": 3})");
 
-/// Adds a number, and counts how many of its kind live.
+/// Adds a number, and counts its live instances.
 class AddingConverter : public ValueConverterBase
 {
 public:
@@ -52,7 +52,7 @@ private:
     int& m_living;
 };
 
-/// Stands in for one creator of the registry as long as it lives; the registry gets the creator back then.
+/// Replaces a creator of the registry during its lifetime; the destructor restores the original.
 class CreatorSpy
 {
 public:
@@ -68,8 +68,8 @@ public:
     CreatorSpy(const CreatorSpy&) = delete;
     CreatorSpy& operator=(const CreatorSpy&) = delete;
 
-    QList<BaseClassSharedPointer> nodes; ///< what the creator was given, call by call
-    int living = 0;                      ///< how many of its converters live
+    QList<BaseClassSharedPointer> nodes; ///< the arguments of the creator, one per call
+    int living = 0;                      ///< the number of its live converters
 
 private:
     class Creator : public ValueConverterFactory::AbstractCreator
@@ -196,7 +196,7 @@ void ValueConversionWrapperTest::firstChildNamesTheKind()
     const ValueConversionWrapper wrapper(node);
     QVERIFY(wrapper.isValid());
     QCOMPARE(wrapper.convertValue(100), 100 + number);
-    // The unit's own node goes to the creator, once, and not the child that was found.
+    // The creator is called once, with the unit's own node rather than the child that was found.
     QCOMPARE(polynomial.nodes + arbitrary.nodes + equidistant.nodes, QList<BaseClassSharedPointer>{node});
     QCOMPARE(log.takeTexts(), QStringList());
 }

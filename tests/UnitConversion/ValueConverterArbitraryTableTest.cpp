@@ -18,7 +18,7 @@ static_assert(
     std::is_same_v<decltype(&ValueConverterArbitraryTable::resetTable),
                    bool (ValueConverterArbitraryTable::*)(const QList<QVariant>&, const QList<QVariant>&)>);
 
-/// Shows what the converter holds.
+/// Gives access to the state of the converter.
 class Converter : public ValueConverterArbitraryTable
 {
 public:

@@ -31,7 +31,7 @@ public:
     {
         return x;
     }
-    /// Would be called through the base if the base's function were virtual.
+    /// Would be called through the base class if its function were virtual.
     unsigned int getDecimalPlaces() const
     {
         return 99;

@@ -13,7 +13,7 @@ namespace {
 using List = QList<QVariant>;
 using Base = ValueConverterEquidistantTable;
 
-// The largest ordinate alone comes by value.
+// Only the largest ordinate is passed by value.
 constexpr bool (Base::*resetWithLimits)(const List&, const double&, const double&, double, const List&,
                                         const double&, const double&, const double&) = &Base::resetTable;
 constexpr bool (Base::*resetWithoutLimits)(const List&, const double&, const List&,
@@ -21,7 +21,7 @@ constexpr bool (Base::*resetWithoutLimits)(const List&, const double&, const Lis
 static_assert(std::is_base_of_v<ValueConverterBase, Base>);
 static_assert(std::is_convertible_v<BaseClassSharedPointer, ValueConverterEquidistantTable>);
 
-/// Shows what the converter holds.
+/// Gives access to the state of the converter.
 class Converter : public ValueConverterEquidistantTable
 {
 public:

@@ -24,7 +24,7 @@ static_assert(
     std::is_same_v<decltype(&ValueConverterPolynomial::resetPolynom),
                    bool (ValueConverterPolynomial::*)(const QList<QVariant>&, const QList<QVariant>&)>);
 
-/// Shows what the converter holds.
+/// Gives access to the state of the converter.
 class Converter : public ValueConverterPolynomial
 {
 public:
@@ -127,7 +127,7 @@ void ValueConverterPolynomialTest::readsCoefficients()
 
 void ValueConverterPolynomialTest::readsAMillionCoefficients()
 {
-    // Moved one by one to make room at the front this would take hours.
+    // Moving the coefficients for each insertion at the front would take hours.
     const int count = 1000000;
     QVariantList coefficients;
     coefficients.reserve(count);
@@ -286,7 +286,7 @@ void ValueConverterPolynomialTest::inverseIsClearedForAnEmptyListOnly()
 {
     Converter converter(QStringLiteral("{}"));
     QVERIFY(converter.resetPolynom(column({1}), column({2})));
-    // The inverse list given counts, not the coefficients held; a row without columns is a row.
+    // The given inverse list decides, not the number of stored coefficients; a row without columns is a row.
     QVERIFY(converter.resetPolynom({}, {QVariant(QVariantList())}));
     QCOMPARE(converter.inversePolynomial, Coefficients({2}));
     QVERIFY(converter.resetPolynom({}, {}));

@@ -2,7 +2,8 @@
 
 #include <QtCore/QVariant>
 
-/// Another platform's questions about values: its marker is a number or a NaN, and it promises nothing.
+/// The tests for the marker on another platform: its marker is a number or a NaN, and it declares nothing
+/// about it.
 class ConfigurationAndProcessDataTools
 {
 public:
