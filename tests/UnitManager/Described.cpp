@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Whether the lines of messages from this source are fixed numbers.
+/// Whether messages from this source have fixed line numbers.
 bool hasFixedLines(const QString& file)
 {
     return file == QLatin1String("UnitConversion/UnitConversionLookUp") ||
@@ -24,7 +24,7 @@ QString quoted(const QString& text)
 
 QString lookUpWarning(int line, const char* function, const char* text, const QString& unitType)
 {
-    // The text's own last blank and the stream's.
+    // Two blanks: the text ends with one, and the stream adds one.
     return warning("UnitConversion/UnitConversionLookUp", line, function,
                    QLatin1String(text) + QStringLiteral("  ") + quoted(unitType));
 }

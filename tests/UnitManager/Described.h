@@ -8,15 +8,15 @@
 class LogCapture;
 
 /// A variant's type and value as text, "double 1.5", with all digits; "invalid" for an invalid one. Unlike
-/// QVariant's own comparison it tells types, NaN and the signs of zero apart.
+/// QVariant's own comparison, it distinguishes types, NaN and the signs of zero.
 QString described(const QVariant& value);
 QStringList described(const QList<QVariant>& values);
 
-/// The messages captured so far, one text each with level, category, place, function and text. They are
-/// taken out of the log.
+/// Takes the captured messages out of the log, as one text each with level, category, location, function and
+/// text.
 QStringList describedMessages(LogCapture& log);
 
-/// What describedMessages() gives for each of the library's warnings.
+/// The texts of describedMessages() for each of the library's warnings.
 namespace Expected {
 
 enum class Conversion
@@ -31,7 +31,7 @@ QString noConversionForDecimalPlaces(const QString& unitType);
 QString noBaseUnit(const QString& unitType);
 QString invalidType(Conversion conversion, const QString& typeName);
 QString unknownUnit(Conversion conversion, const QString& unit, const QString& unitTypeKey);
-/// The two warnings for a value that is no number.
+/// The two warnings for a value that is not a number.
 QStringList notConverted(Conversion conversion, const QString& typeName, const QString& unit,
                          const QString& unitTypeKey);
 QString notRounded(const QString& streamedValue);
@@ -41,7 +41,7 @@ QString unknownTextUnit(const QString& unit, const QString& unitType);
 QString unknownTextMapType(const QString& unitType);
 QString unknownTextMapUnit(const QString& unit, const QString& unitType);
 QString noBaseUnitLabel(const QString& unitType);
-/// @param streamedDocument the document as the stream quotes it
+/// @param streamedDocument the document as quoted by the stream
 QString invalidUnitDocument(const QString& streamedDocument);
 QString invalidDefaultUnitDocument();
 

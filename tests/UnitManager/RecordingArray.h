@@ -2,7 +2,7 @@
 
 #include "Array2dDataTypeWrapper.h"
 
-/// An array that answers with given dimensions, whatever its data, and counts how often it is asked for them.
+/// An array with given dimensions, regardless of its data, that counts the queries for them.
 class RecordingArray : public Array2dDataTypeWrapper
 {
 public:

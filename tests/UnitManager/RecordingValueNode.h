@@ -5,15 +5,15 @@
 
 #include "ConfigurationAndProcessDataBase.h"
 
-/// A node with given properties and at most one child. It records every call of its virtual operations, as in
-/// "getProperty @value", and answers every write with a given status.
+/// A node with given properties and at most one child. It records every call of its virtual functions, such
+/// as "getProperty @value", and returns a given status from every write.
 class RecordingValueNode : public ConfigurationAndProcessDataBase
 {
 public:
-    /// A node of the number type; an invalid value or unit type leaves that property out.
+    /// A node of the number type; an invalid value or unit type omits that property.
     static QSharedPointer<RecordingValueNode> number(const QVariant& value,
                                                      const QVariant& unitType = QVariant());
-    /// A node of the text type, whatever its value is.
+    /// A node of the text type, regardless of the type of its value.
     static QSharedPointer<RecordingValueNode> text(const QVariant& value,
                                                    const QVariant& unitType = QVariant());
     /// A node without properties whose only child has the key "Value".
@@ -25,11 +25,11 @@ public:
     int changeProperty(const QString& propertyKey, const QVariant& value) override;
     int setProperty(const QString& propertyKey, const QVariant& value) override;
 
-    /// What every write is answered with.
+    /// Sets the result of every write.
     void setWriteStatus(int status);
-    /// What the value property holds; not recorded.
+    /// The value property; the call is not recorded.
     QVariant value() const;
-    /// The calls so far.
+    /// The calls recorded so far.
     QStringList calls() const;
 
 private:

@@ -13,12 +13,12 @@ QString units();
 /// HectoPascal for Pressure as a bare name, Celsius for AbsoluteTemperature as a fixed unit, none for Ratio.
 QString defaultUnits();
 
-/// A document with the one unit Volt of Voltage, label "V".
+/// A document with a single unit, Volt of Voltage, with the label "V".
 QString voltage();
 
 } // namespace TestDocuments
 
-/// The unit types of the documents, with their prefix.
+/// The unit types of the documents, including their prefix.
 namespace TestUnitType {
 
 const QString pressure = QStringLiteral("UnitManager/UnitType/Pressure");

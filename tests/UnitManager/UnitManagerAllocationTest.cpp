@@ -21,7 +21,7 @@ Function* nextDefinition(const char* name)
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
-/// How often @p call allocates, in whatever library.
+/// The number of allocations during @p call, in any library.
 int allocationsIn(const std::function<void()>& call)
 {
     allocations = 0;
@@ -33,7 +33,8 @@ int allocationsIn(const std::function<void()>& call)
 
 } // namespace
 
-// A program's own definitions stand before those of the C library, also for the libraries that it uses.
+// A program's own definitions take precedence over those of the C library, also for the libraries that it
+// uses.
 extern "C" {
 
 void* malloc(std::size_t size)
@@ -83,7 +84,7 @@ void UnitManagerAllocationTest::allocationsAreSeen()
 {
     QCOMPARE(allocationsIn([] {}), 0);
     QCOMPARE(allocationsIn([] { QString(100, QLatin1Char('x')); }), 1);
-    // By a library of its own.
+    // Allocations inside a shared library count.
     QCOMPARE(allocationsIn([this] { m_manager.getBaseUnit(T::pressure); }) > 0, true);
 }
 
@@ -104,7 +105,7 @@ void UnitManagerAllocationTest::conversionAllocatesNothing()
     QFETCH(QString, unit);
     const QVariant value(1.01325);
     QVariant result;
-    // Once before it counts: the first call resolves symbols and fills what is static.
+    // Call it once before counting: the first call resolves symbols and initialises static data.
     const auto count = [&](auto operation) {
         const auto call = [&] {
             result = (m_manager.*operation)(value, unitType, unit);

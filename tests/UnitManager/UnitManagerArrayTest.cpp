@@ -266,7 +266,7 @@ void UnitManagerArrayTest::emptyRangeWritesTheRowBack()
 {
     QFETCH(unsigned int, firstColumn);
     QFETCH(unsigned int, columnCount);
-    // The first row lacks its second cell: written back, it is stored with an invalid one.
+    // The first row lacks its second cell: writing the row back stores an invalid value there.
     const QList<QVariant> data = {QVariantList{1.0}, QVariantList{2.0, 3.0}};
     Array2dDataTypeWrapper array(data, {T::pressure, T::pressure});
 
@@ -276,7 +276,7 @@ void UnitManagerArrayTest::emptyRangeWritesTheRowBack()
 
 void UnitManagerArrayTest::refusedWriteIsHandedOn()
 {
-    // The array says that it has a second row, but takes none.
+    // The array reports a second row, but rejects writes to it.
     const QList<QVariant> data = {QVariant(QVariantList{1.0, 2.0})};
     RecordingArray array(data, {T::pressure, T::pressure}, {2, 2});
 

@@ -58,7 +58,7 @@ void addColumns()
     QTest::addColumn<QStringList>("messages");
 }
 
-/// The rows that are the same in both directions: with a base unit of three places, or without conversion.
+/// Rows for both directions: with a base unit of three places, or without conversion.
 void addRowsOfBothDirections(Conversion conversion)
 {
     const QStringList none;

@@ -52,7 +52,7 @@ void addConversionColumns()
     QTest::addColumn<QStringList>("messages");
 }
 
-/// The rows that are the same in both directions: whatever is not converted.
+/// Rows for both directions: everything that is not converted.
 void addUnconvertedRows(Conversion conversion)
 {
     const QStringList none;

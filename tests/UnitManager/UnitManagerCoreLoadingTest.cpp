@@ -49,7 +49,7 @@ namespace T = TestUnitType;
 const QString unitsWithoutLabels =
     QStringLiteral(R"({ "Voltage": { "Volt": { "@displayPosition": 0, "Polynomial": [[0], [1]] } } })");
 
-/// How many of the messages say that a file could not be read, as the platform reports each attempt.
+/// The number of messages about an unreadable file; the platform logs one for each attempt.
 int failedReads(LogCapture& log, const QString& path)
 {
     int reads = 0;
@@ -287,7 +287,7 @@ void UnitManagerCoreLoadingTest::unitFileThatCannotBeRead()
     const QString path = m_folder.filePath(name);
     LogCapture log;
 
-    // Catalogue and labels read the file for themselves.
+    // Catalogue and labels each read the file.
     QVERIFY(!m_core.updateUnitConversionByJsonFile(path));
     QCOMPARE(failedReads(log, path), isReported ? 2 : 0);
     QVERIFY(!m_core.isValid());
@@ -336,7 +336,7 @@ void UnitManagerCoreLoadingTest::defaultUnitFileThatCannotBeRead()
     const QString path = m_folder.filePath(name);
     LogCapture log;
 
-    // Unlike an empty path, an empty file is no valid document.
+    // Unlike an empty path, an empty file is not a valid document.
     QVERIFY(!m_core.updateDefaultUnitsByJsonFile(path));
     QCOMPARE(failedReads(log, path), isReported ? 1 : 0);
     QVERIFY(m_core.isValid());

@@ -19,8 +19,8 @@ static_assert(sizeof(UnitManagerCore) == sizeof(void*) + sizeof(UnitConversionLo
                                              sizeof(DefaultUnitHandler) + sizeof(UnitTextHandler),
               "three members by value");
 
-/// Fixed units, unit types of nodes, decimal places and the catalogue.
-/// Loading, conversions and labels have tests of their own.
+/// Fixed units, unit types of nodes, decimal places and the catalogue. Loading, conversions and labels have
+/// separate tests.
 class UnitManagerCoreTest : public QObject
 {
     Q_OBJECT

@@ -15,14 +15,14 @@ const double marker = -999.0;
 
 } // namespace
 
-// A program's own function comes before that of a library: this is a platform whose marker is an ordinary
-// number.
+// A program's own function takes precedence over that of a library: this simulates a platform whose marker is
+// an ordinary number.
 bool ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(const QVariant& value)
 {
     return value.userType() == QMetaType::Double && value.toDouble() == marker;
 }
 
-/// Conversions on a platform whose marker of no input is no NaN.
+/// Conversions on a platform whose no-input marker is not a NaN.
 class UnitManagerFiniteMarkerTest : public QObject
 {
     Q_OBJECT

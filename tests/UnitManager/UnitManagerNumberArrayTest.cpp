@@ -13,13 +13,13 @@
 #include "LogCapture.h"
 #include "TestDocuments.h"
 
-// The plain conversions have one form each, so that their addresses can be taken without a cast.
+// Not overloaded, so that their addresses can be taken without a cast.
 static_assert(std::is_member_function_pointer_v<decltype(&UnitManager::fromBaseUnitRaw)>);
 static_assert(std::is_member_function_pointer_v<decltype(&UnitManager::toBaseUnitRaw)>);
 static_assert(std::is_member_function_pointer_v<decltype(&UnitManager::fromBaseUnit)>);
 static_assert(std::is_member_function_pointer_v<decltype(&UnitManager::toBaseUnit)>);
 
-/// Conversions of arrays of numbers against the single conversions.
+/// Compares conversions of arrays of numbers with single conversions.
 class UnitManagerNumberArrayTest : public QObject
 {
     Q_OBJECT
@@ -57,7 +57,7 @@ std::vector<double> samples()
     return {0.0, -0.0, 1.0, 1.01325, -273.15, marker, 1e-300, 5e-324, 1e300, infinity, -infinity, 1.0 / 3.0};
 }
 
-/// Numbers bit by bit, so that NaN and the signs of zero count.
+/// The bits of the numbers, so that NaN and the signs of zero are compared.
 std::vector<quint64> bits(const std::vector<double>& numbers)
 {
     std::vector<quint64> result;
@@ -88,7 +88,7 @@ void addUnits()
     row("neither", "", "", true);
 }
 
-/// What one single conversion logs.
+/// The messages of one single conversion.
 QStringList messagesOf(const UnitManager& manager, Conversion conversion, const QString& unitType,
                        const QString& unit)
 {
@@ -100,7 +100,7 @@ QStringList messagesOf(const UnitManager& manager, Conversion conversion, const 
     return describedMessages(log);
 }
 
-/// The single conversions of all samples, as the run must give them.
+/// All samples converted one by one: the expected result of the array conversion.
 std::vector<double> singly(const UnitManager& manager, Conversion conversion, const QString& unitType,
                            const QString& unit)
 {
@@ -268,7 +268,7 @@ void UnitManagerNumberArrayTest::sharedVectorKeepsItsValues()
     QCOMPARE(converted, (QVector<double>{1000.0, 2000.0}));
     QCOMPARE(values, (QVector<double>{1.0, 2.0}));
 
-    // Nothing to convert: the data stay shared.
+    // Nothing to convert: the data remain shared.
     QVector<double> same = values;
     QVERIFY(m_manager.fromBaseUnitArray(same, T::pressure + QStringLiteral("/Bar"), QString()));
     QCOMPARE(static_cast<const void*>(same.constData()), static_cast<const void*>(values.constData()));

@@ -14,7 +14,7 @@
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
 
-/// Properties that hold for every number, tried with many random ones.
+/// Properties that hold for every number, tested with many random numbers.
 class UnitManagerRoundTripTest : public QObject
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ struct Unit
     QVector<double> inversePolynomial; ///< unit to base unit
 };
 
-/// The units of the one unit type "Thing"; the first is the base unit.
+/// The units of the only unit type "Thing"; the first one is the base unit.
 const QVector<Unit>& units()
 {
     static const QVector<Unit> list = {
@@ -84,7 +84,7 @@ QString unitDocument()
     return QString::fromUtf8(QJsonDocument(QJsonObject{{"Thing", type}}).toJson());
 }
 
-/// Horner's scheme from the highest power down, each step one fused multiply-add.
+/// Horner's scheme from the highest power down; each step is one fused multiply-add.
 double evaluated(const QVector<double>& coefficients, double x)
 {
     double result = 0.0;
@@ -93,7 +93,7 @@ double evaluated(const QVector<double>& coefficients, double x)
     return result;
 }
 
-/// The same finite numbers in every run: both signs, magnitudes from 1e-9 to 1e9.
+/// Finite numbers, identical in every run: both signs, magnitudes from 1e-9 to 1e9.
 QVector<double> randomNumbers()
 {
     std::mt19937_64 generator(20240229);
@@ -157,7 +157,7 @@ void UnitManagerRoundTripTest::linearUnitsComeBack()
     const Unit& unit = units().at(index);
     const QString name = QLatin1String(unit.name);
 
-    // Two coefficients and two evaluations, each off by half an ulp of the terms at most.
+    // Two coefficients and two evaluations, each with an error of at most half an ulp of the terms.
     const double epsilon = std::numeric_limits<double>::epsilon();
     for (const double number : randomNumbers()) {
         const QVariant base = m_manager.toBaseUnitRaw(number, unitType, name);

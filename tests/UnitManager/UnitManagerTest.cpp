@@ -15,8 +15,7 @@ static_assert(std::is_copy_constructible_v<UnitManager> && std::is_copy_assignab
 static_assert(std::is_convertible_v<UnitManager, bool>);
 static_assert(sizeof(UnitManager) == sizeof(void*) + sizeof(UnitManagerCore), "one member by value");
 
-/// Loading, what is handed on to the core, and copies. Conversions, node and array access have tests of their
-/// own.
+/// Loading, calls forwarded to the core, and copies. Conversions, node and array access have separate tests.
 class UnitManagerTest : public QObject
 {
     Q_OBJECT
@@ -59,7 +58,7 @@ UnitManager loadedManager()
     return manager;
 }
 
-/// A manager that holds another configuration than the one to be loaded.
+/// A manager with a different configuration from the one to be loaded.
 UnitManager managerWithOldContent()
 {
     UnitManager manager;

@@ -9,7 +9,7 @@
 #include "Described.h"
 #include "TestDocuments.h"
 
-/// Const operations in several threads at once, also under ThreadSanitizer.
+/// Const functions in several threads at the same time, also under ThreadSanitizer.
 class UnitManagerThreadTest : public QObject
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ namespace T = TestUnitType;
 
 const int rounds = 2000;
 
-/// The answers of every const operation that logs nothing, in one list.
+/// The results of every const function that logs nothing.
 QStringList answersOf(const UnitManager& manager)
 {
     const QString german = QStringLiteral("de");
@@ -53,7 +53,8 @@ UnitManager loadedManager()
     return manager;
 }
 
-/// Runs @p work in two threads at once. @return how many results differed from the expected ones.
+/// Runs @p work in two threads at the same time. @return the number of results that differ from the expected
+/// ones.
 template <typename Work>
 int differencesInTwoThreads(const Work& work)
 {

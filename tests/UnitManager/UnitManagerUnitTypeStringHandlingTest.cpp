@@ -137,7 +137,7 @@ void UnitManagerUnitTypeStringHandlingTest::nullManagerLeavesTheTable()
 
 void UnitManagerUnitTypeStringHandlingTest::laterOfTwoEqualNumbersIsKept()
 {
-    // A unit type and a unit of its own with the same number, found by trial.
+    // A unit type and one of its units with the same number, found by trial.
     const QString unitType = QStringLiteral("UnitManager/UnitType/Type703");
     const QString fixedUnit = unitType + QStringLiteral("/oc4I");
     QCOMPARE(numberOf(unitType), numberOf(fixedUnit));
