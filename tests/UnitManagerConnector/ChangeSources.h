@@ -8,7 +8,7 @@
 #include "LogCapture.h"
 #include "UnitManagerConnector/DBusConfigurationChangeSignalHandling.h"
 
-/// The three sources as the tests of the change signals need them.
+/// The three sources, set up for the tests of the change signals.
 namespace ChangeSources {
 
 using Type = UnitManagerConnectorDefinitions::ConnectorType;
@@ -20,24 +20,24 @@ const Type all[] = {UnitManagerConnectorDefinitions::UnitSwitch,
                     UnitManagerConnectorDefinitions::DependencyFile,
                     UnitManagerConnectorDefinitions::DefaultUnit};
 
-/// What the test rows call a source.
+/// The name of a source in the test rows.
 const char* nameOf(Type type);
 
-/// Service, object and configuration of each source; all in one module.
+/// Service, object and configuration of each source, all in one module.
 Settings settings();
 
 /// Subscribes to one source.
 Status subscribe(DBusConfigurationChangeSignalHandling& handling, Type type);
-/// Subscribes to all sources. @return whether all subscriptions were made.
+/// Subscribes to all sources. @return whether all subscriptions succeeded.
 bool subscribeAll(DBusConfigurationChangeSignalHandling& handling);
 
 /// Calls the slot of a source.
 void report(DBusConfigurationChangeSignalHandling& handling, Type type, const QString& instanceName);
 
-/// The messages logged; of each function the name and parameters only, because compilers spell the type of
-/// the result differently.
+/// The logged messages. Each function is reduced to its name and parameters, because compilers spell the
+/// result type differently.
 QStringList takeMessages(LogCapture& log);
-/// A message of the class, as takeMessages() gives it.
+/// A message of the class, in the format of takeMessages().
 QString messageOf(QtMsgType level, const QString& function, const QString& text);
 
 } // namespace ChangeSources

@@ -8,7 +8,7 @@
 namespace {
 
 const QString serviceName = QStringLiteral("org.measuringdevice.DeviceManager");
-/// The call that settle() makes.
+/// The method that settle() calls.
 const QString settlingMember = QStringLiteral("settle");
 
 QString callText(const QDBusMessage& call)
@@ -120,7 +120,7 @@ bool ConfigurationService::announceWith(const QString& object, const QVariantLis
 
 bool ConfigurationService::settle(const QString& answeringName)
 {
-    // What a peer sends arrives in the order in which it was sent.
+    // Messages from one peer arrive in the order in which they were sent.
     const QDBusMessage call = QDBusMessage::createMethodCall(
         answeringName, QStringLiteral("/"), QStringLiteral("org.example.Test"), settlingMember);
     return DBusConnection::getQDBusConnection().call(call).type() == QDBusMessage::ReplyMessage;

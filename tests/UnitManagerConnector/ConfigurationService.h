@@ -12,7 +12,7 @@
 #include "FakeBusService.h"
 #include "PrivateBus.h"
 
-/// The settings of the sources: those of the unit switch are fixed, the others are what the tests choose.
+/// The settings of the sources: those of the unit switch are fixed, the tests choose the others.
 namespace TestSource {
 
 const QString module = QStringLiteral("DeviceManager");
@@ -28,7 +28,7 @@ const QString defaultUnitName = QStringLiteral("Test/DefaultUnit");
 
 } // namespace TestSource
 
-/// What the service serves unless told otherwise.
+/// What the service serves by default.
 namespace TestDocument {
 
 /// Pressure in Bar and HectoPascal.
@@ -37,13 +37,13 @@ QString units();
 QString defaultUnits();
 /// "Pressure" depends on "PressureUnit".
 QString dependencies();
-/// A text that is no document.
+/// A text that is not a document.
 QString broken();
 
 } // namespace TestDocument
 
-/// The device's configuration-file service on a bus of the test's own, which becomes the device's bus for as
-/// long as this object lives. All sources have their object in one module.
+/// The device's configuration-file service on a private bus, which is the device's bus during the lifetime of
+/// this object. The objects of all sources are in one module.
 class ConfigurationService
 {
 public:
@@ -52,29 +52,29 @@ public:
     ConfigurationService(const ConfigurationService&) = delete;
     ConfigurationService& operator=(const ConfigurationService&) = delete;
 
-    /// Starts the bus, unless it runs, and the service. @return whether both run.
+    /// Starts the service, and the bus unless it runs. @return whether both run.
     bool start();
-    /// The service leaves the bus.
+    /// Disconnects the service from the bus.
     void stop();
     PrivateBus& bus();
 
-    /// Sets how requests for a configuration are answered from now on.
+    /// Sets the answer to requests for a configuration from now on.
     void setAnswer(const QString& configuration, const FakeBusService::Answer& answer);
 
-    /// The calls that have arrived since the last time, oldest first: "/Object member(argument, argument)".
+    /// The calls received since the last takeCalls(), oldest first: "/Object member(argument, argument)".
     QStringList takeCalls();
-    /// Waits until @p count calls have arrived since the last takeCalls().
+    /// Waits until @p count calls have been received since the last takeCalls().
     bool waitForCalls(int count) const;
 
-    /// Sends the change signal of an object. When this returns, the signal has reached all subscriptions that
-    /// were made before, and waits for them in their threads' event queues.
+    /// Sends the change signal of an object. On return, the signal has reached all existing subscriptions and
+    /// is queued in the event loops of their threads.
     /// @return whether it was sent.
     bool announce(const QString& object, const QVariant& parameter);
-    /// The same for a signal with any arguments.
+    /// Sends a change signal with any arguments; see announce().
     bool announceWith(const QString& object, const QVariantList& arguments);
 
-    /// Waits until the bus and a service have seen everything that this process has sent them, and this
-    /// process everything that the service has sent.
+    /// Waits until the bus and a service have processed everything that this process has sent, and this
+    /// process has received everything that the service has sent.
     static bool settle(const QString& answeringName);
 
 private:

@@ -37,7 +37,7 @@ QString callText(const char* operation, const QStringList& texts, const char* sl
     return QStringLiteral("%1 %2 %3").arg(operation, arguments.join(' '), slot);
 }
 
-/// The call that subscribes to a source, or ends that, for each source in its order.
+/// The calls that subscribe to each source, or unsubscribe from it, in the order of the sources.
 QStringList callsOf(const char* operation)
 {
     const QStringList slotNames{"1unitSwitchConfigurationFileChange(QString)",
@@ -53,7 +53,7 @@ QStringList callsOf(const char* operation)
 
 } // namespace
 
-// These take the place of Qt's operations.
+// These replace Qt's functions.
 
 bool QDBusConnection::connect(const QString& service, const QString& path, const QString& interface,
                               const QString& name, const QString& signature, QObject* /*receiver*/,
@@ -71,7 +71,7 @@ bool QDBusConnection::disconnect(const QString& service, const QString& path, co
     return true;
 }
 
-/// With which arguments the handling subscribes to delivered signals.
+/// The arguments with which the handling subscribes to delivered signals.
 class DBusConfigurationChangeArgumentsTest : public QObject
 {
     Q_OBJECT

@@ -14,7 +14,7 @@ using namespace TestSource;
 using ScriptedPollingHandler::occurredSignals;
 using ScriptedPollingHandler::takeCalls;
 
-/// How the handling uses the polling handlers of the device.
+/// How the handling uses the device's polling handlers.
 class DBusConfigurationChangePollingTest : public QObject
 {
     Q_OBJECT
@@ -129,7 +129,7 @@ void DBusConfigurationChangePollingTest::closingReleasesTheHandlers()
     QVERIFY(!handling.pollChangeFlags());
     QCOMPARE(takeCalls(), QStringList());
 
-    // Also when new settings come, even empty ones.
+    // New settings, even empty ones, also release them.
     QCOMPARE(handling.connectUnitSwitchChangeFlag(), Definitions::Connected);
     takeCalls();
     QVERIFY(handling.init({}));

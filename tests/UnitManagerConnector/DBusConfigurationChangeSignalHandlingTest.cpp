@@ -56,7 +56,7 @@ private:
 
 namespace {
 
-/// Whether a change is noted, after the event loop has delivered what waits.
+/// Whether a change is recorded after the event loop has delivered pending signals.
 bool hasChanged(Handling& handling)
 {
     QCoreApplication::processEvents();
@@ -163,7 +163,7 @@ void DBusConfigurationChangeSignalHandlingTest::onlyTheConfiguredNameIsAChange()
     QVERIFY(handling.pollChangeFlags());
     QCOMPARE(handling.getConfigurationChangeMap(), (Changes{{type, name}}));
 
-    // What is known stays known when another name comes in.
+    // A signal with another name does not clear the recorded change.
     report(handling, type, "Test/Other");
     QVERIFY(handling.pollChangeFlags());
     QCOMPARE(handling.getConfigurationChangeMap(), (Changes{{type, name}}));
@@ -253,7 +253,7 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalOnTheBusIsAChange()
     QVERIFY(hasChanged(handling));
     QCOMPARE(handling.getConfigurationChangeMap(), (Changes{{type, source.at(2)}}));
 
-    // One signal is one change.
+    // One signal counts as one change.
     QVERIFY(handling.pollChangeFlags());
     QCOMPARE(log.takeTexts().size(), 1);
     handling.resetCachedObjects();
@@ -310,7 +310,7 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalWithFurtherArgumentsIsOnl
     QCOMPARE(hasChanged(handling), polling);
     QCOMPARE(handling.getConfigurationChangeMap().value(type), polling ? source.at(2) : QString());
 
-    // The subscription goes on.
+    // The subscription remains.
     handling.resetCachedObjects();
     QVERIFY(m_service->announce(source.at(1), source.at(2)));
     QVERIFY(hasChanged(handling));
@@ -355,7 +355,7 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnyInterfaceCounts()
     QDBusMessage signal = QDBusMessage::createSignal("/" + TestSource::unitSwitchObject, "org.example.Any",
                                                      "configurationChanged");
     signal << TestSource::unitSwitchName;
-    // The answer says that the bus has the subscription by now.
+    // The reply shows that the bus has processed the subscription.
     QVERIFY(DBusConnection::getQDBusConnection().interface()->isServiceRegistered(sender.baseService()));
     QVERIFY(sender.send(signal));
     QTRY_VERIFY_WITH_TIMEOUT(handling.pollChangeFlags(), waitLimit);

@@ -36,7 +36,7 @@ private:
 
 namespace {
 
-/// Whether a change is noted, after the event loop has delivered what waits.
+/// Whether a change is recorded after the event loop has delivered pending signals.
 bool hasChanged(Handling& handling)
 {
     QCoreApplication::processEvents();
@@ -93,11 +93,11 @@ void DBusConfigurationChangeSubscriptionTest::aSubscriptionWithoutBusFails()
     QCOMPARE(takeMessages(log),
              QStringList{messageOf(QtWarningMsg, function,
                                    "Error cannot connect to module \"DeviceManager\" \"" + object + '"')});
-    // It does not count as a subscription that would have to be closed.
+    // There is no subscription to close.
     QVERIFY(handling.closeDbusConnections());
     QCOMPARE(log.takeTexts(), QStringList());
 
-    // The polling handler waits for the bus by itself.
+    // The polling handler itself waits for the bus.
     Handling pollingHandling(true);
     pollingHandling.init(settings());
     QCOMPARE(subscribe(pollingHandling, type), Definitions::Connected);
@@ -125,7 +125,7 @@ void DBusConfigurationChangeSubscriptionTest::closingEndsTheSubscriptions()
     QVERIFY(hasChanged(witness));
     QVERIFY(!hasChanged(handling));
 
-    // Nothing is left that a second close, or a new subscription, would stumble over.
+    // A second close, and a new subscription, succeed.
     log.take();
     QVERIFY(handling.closeDbusConnections());
     QVERIFY(subscribeAll(handling));
@@ -162,7 +162,7 @@ void DBusConfigurationChangeSubscriptionTest::closingWarnsOfWhatTheBusDoesNotKno
         expected.append(messageOf(QtWarningMsg, "closeDbusConnections()",
                                   "Unable to disconnect connection \"" + object + '"'));
     QCOMPARE(takeMessages(log), expected);
-    // The flag is cleared in either case.
+    // The flag is cleared in both cases.
     QVERIFY(handling.closeDbusConnections());
     QCOMPARE(log.takeTexts(), QStringList());
 }
@@ -198,7 +198,7 @@ void DBusConfigurationChangeSubscriptionTest::aSourceThatIsNoLongerConfiguredIsN
     QVERIFY(handling.init(Settings{}));
     QCOMPARE(log.takeTexts(), QStringList());
 
-    // It kept its flag: under its old names it is closed at last, once.
+    // The flag was kept: the subscription is now closed once, under its old names.
     QVERIFY(handling.init(settings()));
     QCOMPARE(log.takeTexts(), QStringList());
     Settings moved = settings();

@@ -8,7 +8,7 @@
 
 #include "VirtualSlot.h"
 
-/// The place in the virtual table of a class's first virtual function after those of QObject.
+/// The position of a class's first virtual function after those of QObject in the virtual table.
 inline std::size_t firstSlotAfterObject()
 {
     struct Object : QObject

@@ -7,7 +7,7 @@
 #include "UnitManagerConnector/UnitManagerDBusConnector.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 
-/// A connector that writes its signals down.
+/// A connector that records its signals.
 class ObservedConnector : public UnitManagerDBusConnector
 {
 public:

@@ -44,7 +44,7 @@ QString dataText(const QVariant& data)
     return QLatin1Char('[') + numbers.join(QLatin1Char(' ')) + QLatin1Char(']');
 }
 
-/// The name that an optional source is given, empty unless it is configured.
+/// The name for an optional source; empty unless it is configured.
 QString nameIf(bool isConfigured, const QString& name)
 {
     return isConfigured ? name : QString();

@@ -9,11 +9,11 @@
 #include "UnitManagerConnector/UnitManagerConnectorDefinitions.h"
 #include "UnitManagerConnector/UnitManagerStateMachineWrapper.h"
 
-/// A wrapper that writes down which transitions the state under test asks for, and makes none of them.
+/// A wrapper that records the transitions that the state under test requests, and makes none of them.
 class RecordingWrapper : public UnitManagerStateMachineWrapper
 {
 public:
-    /// Which of the optional sources have settings.
+    /// The optional sources that have settings.
     enum OptionalSources
     {
         BothConfigured,
@@ -28,13 +28,13 @@ public:
                               OptionalSources sources = BothConfigured);
     ~RecordingWrapper() override;
 
-    /// Writes the transition down. @return true.
+    /// Records the transition. @return true.
     bool moveToNextState(const QString& nextStateKey, const StateMachineEvent& event) override;
 
-    /// The transitions since the last time, oldest first, as transitionText() gives them.
+    /// The transitions since the last takeTransitions(), oldest first; see transitionText().
     QStringList takeTransitions();
 
-    /// Called at the beginning of each transition.
+    /// Sets a function that is called at the beginning of each transition.
     void setObserver(const std::function<void()>& observer);
 
     UnitManagerConnectionData& data();

@@ -25,7 +25,7 @@ QStringList ScriptedPollingHandler::takeCalls()
     return taken;
 }
 
-// These take the place of the operations in the shared library of the device's bus.
+// These replace the functions in the shared library of the device's bus.
 
 DBusConnectionSignalPollingHandler::DBusConnectionSignalPollingHandler(const QString& service,
                                                                        const QString& object,

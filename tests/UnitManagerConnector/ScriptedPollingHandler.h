@@ -5,14 +5,14 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
-/// In a program that is built with this, every polling handler does what the test has set for its object, and
-/// writes down how it is used. Nothing is subscribed on a bus.
+/// In a program that links this, every polling handler behaves as the test has set for its object, and
+/// records its calls. No bus subscriptions are made.
 namespace ScriptedPollingHandler {
 
-/// The parameter of the signal that has occurred, by object; objects without an entry have had none.
+/// The parameter of the last signal, by object; objects without an entry have had no signal.
 QMap<QString, QVariant>& occurredSignals();
 
-/// What has been called since the last time, oldest first.
+/// The calls since the last takeCalls(), oldest first.
 QStringList takeCalls();
 
 } // namespace ScriptedPollingHandler

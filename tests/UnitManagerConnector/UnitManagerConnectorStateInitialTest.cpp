@@ -63,7 +63,7 @@ QString readTransition(const QString& types, bool asynchron = false)
         .arg(asynchron ? "ASynchron" : "Synchron", types);
 }
 
-/// Which sources have a connector.
+/// The sources that have a connector.
 QList<Type> openTypes(RecordingWrapper& wrapper)
 {
     QList<Type> types;
@@ -140,7 +140,7 @@ void UnitManagerConnectorStateInitialTest::anUnreachableUnitSwitchEndsTheAttempt
     QCOMPARE(messageTexts(log.take(), LineNumbers::Any),
              QStringList{warning("Unable to connect to mandantory file type \"UnitManager/UnitType\"")});
     QCOMPARE(wrapper.takeTransitions(), QStringList());
-    // The other sources are not even looked at.
+    // The other sources are not checked at all.
     QCOMPARE(wrapper.data().connectors().keys(), QList<Type>{units});
     QCOMPARE(openTypes(wrapper), QList<Type>());
 }
@@ -210,7 +210,7 @@ void UnitManagerConnectorStateInitialTest::aFailureDropsWhatIsThere()
     state.postEvent(StateMachineEvent());
     QVERIFY(wrapper.data().configurations().contains(units));
     QVERIFY(wrapper.data().configurations().value(units).isNull());
-    // The subscriptions are gone too.
+    // The subscriptions are closed too.
     QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
     QVERIFY(!wrapper.data().pollChangeFlags());
 }
@@ -296,7 +296,7 @@ void UnitManagerConnectorStateInitialTest::aBadLastSourceDoesNotHoldTheMachine()
     QCOMPARE(wrapper.takeTransitions(), QStringList{readTransition("[0 1]")});
     QCOMPARE(openTypes(wrapper), (QList<Type>{units, dependencies}));
 
-    // In the middle of the list the next source is opened all the same.
+    // If it is in the middle of the list, the next source is still opened.
     wrapper.data().resetObject();
     wrapper.init(false, "", "", "", TestSource::module, TestSource::defaultUnitObject,
                  TestSource::defaultUnitName);

@@ -16,7 +16,7 @@ static_assert(std::is_convertible_v<QObject*, UnitManagerConnectorStateMachine>)
 
 namespace {
 
-/// Writes down what the logging hooks are told.
+/// Records the calls of the logging hooks.
 class Machine : public UnitManagerConnectorStateMachine
 {
 public:
@@ -37,7 +37,7 @@ protected:
     }
 };
 
-/// The hooks as the class itself has them.
+/// The hooks as implemented by the class.
 class Hooks : public UnitManagerConnectorStateMachine
 {
 public:

@@ -66,7 +66,7 @@ QString warning(const QString& text)
                        text);
 }
 
-/// The value that a pending reply brings.
+/// The value of a pending reply.
 QVariant valueOf(const QSharedPointer<DBusPendingReply>& reply)
 {
     ErrorContainer error;
@@ -245,7 +245,7 @@ void UnitManagerConnectorStateReadConfigurationASynchronTest::withoutConnectionN
     RecordingWrapper wrapper;
     open(wrapper);
     wrapper.data().configurations()[units] = QStringLiteral("earlier");
-    // One dead optional source keeps the others from being read.
+    // One missing optional connector prevents all other sources from being read.
     wrapper.data().connectors()[defaults].reset();
     State state(&wrapper);
     LogCapture log;
@@ -254,7 +254,7 @@ void UnitManagerConnectorStateReadConfigurationASynchronTest::withoutConnectionN
              (QStringList{warning(connectionWarning), warning(connectionWarning)}));
     QCOMPARE(wrapper.takeTransitions(), QStringList{"UnitManagerConnectorStateError ReadTrigger([0 1])"});
     QVERIFY(wrapper.data().pendingReplies().isEmpty());
-    // The entry that is there is cleared first.
+    // The existing entry is cleared first.
     QCOMPARE(wrapper.data().configurations().keys(), QList<Type>{units});
     QVERIFY(wrapper.data().configurations().value(units).isNull());
 }

@@ -272,7 +272,7 @@ void UnitManagerConnectorStateReadConfigurationSynchronTest::withoutConnectionNo
     RecordingWrapper wrapper;
     open(wrapper);
     wrapper.data().configurations()[units] = QStringLiteral("earlier");
-    // One dead optional source keeps the others from being read.
+    // One missing optional connector prevents all other sources from being read.
     wrapper.data().connectors()[defaults].reset();
     State state(&wrapper);
     LogCapture log;
@@ -281,7 +281,7 @@ void UnitManagerConnectorStateReadConfigurationSynchronTest::withoutConnectionNo
              (QStringList{warning(connectionWarning), warning(connectionWarning)}));
     QCOMPARE(wrapper.takeTransitions(), QStringList{"UnitManagerConnectorStateError ReadTrigger([0 1])"});
     QCOMPARE(m_service->takeCalls(), QStringList());
-    // The entries are cleared first, and created where there was none.
+    // The entries are cleared first, and created if missing.
     QCOMPARE(wrapper.data().configurations().keys(), (QList<Type>{units, dependencies}));
     for (const QString& text : wrapper.data().configurations())
         QVERIFY(text.isNull());

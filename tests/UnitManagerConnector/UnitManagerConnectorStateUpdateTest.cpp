@@ -69,7 +69,7 @@ void UnitManagerConnectorStateUpdateTest::theResultDecidesWhereToGo()
     update.postEvent(readTrigger({units}));
     QCOMPARE(wrapper.takeTransitions(),
              QStringList{"UnitManagerConnectorState" + state + " ReadTrigger([0])"});
-    // The texts stay for the next update.
+    // The texts are kept for the next update.
     QCOMPARE(wrapper.data().configurations(), texts);
 }
 

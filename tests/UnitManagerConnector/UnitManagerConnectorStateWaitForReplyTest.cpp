@@ -93,7 +93,7 @@ void UnitManagerConnectorStateWaitForReplyTest::cleanup()
     m_service.reset();
 }
 
-/// A call that waits until the service leaves or the call's time is over.
+/// A call without an answer until the service disconnects or the call times out.
 ReplyPointer UnitManagerConnectorStateWaitForReplyTest::outstanding() const
 {
     m_service->setAnswer("never", FakeBusService::never());
@@ -127,7 +127,7 @@ void UnitManagerConnectorStateWaitForReplyTest::aReplyIsLookedAt()
     QCOMPARE(state.checkReplyState(reply, stored), result);
     QVERIFY(reply.isNull());
     QCOMPARE(stored, text);
-    // Released: there is nothing to be had a second time.
+    // The reply has been released: it cannot be read a second time.
     QCOMPARE(state.checkReplyState(reply, stored), 1);
     QCOMPARE(stored, text);
     QCOMPARE(log.takeTexts(), QStringList());
@@ -229,7 +229,7 @@ void UnitManagerConnectorStateWaitForReplyTest::aFailureEndsTheWaitAtOnce()
     state.postEvent(readTrigger({units, dependencies, defaults}, "any name"));
     QCOMPARE(wrapper.takeTransitions(), QStringList{transition("Error", "[0 1 2]")});
     QVERIFY(wrapper.data().pendingReplies().value(units).isNull());
-    // The others are not looked at.
+    // The other replies are not checked.
     QVERIFY(wrapper.data().pendingReplies().value(dependencies));
     QVERIFY(wrapper.data().pendingReplies().value(defaults));
     QVERIFY(wrapper.data().configurations().value(defaults).isNull());

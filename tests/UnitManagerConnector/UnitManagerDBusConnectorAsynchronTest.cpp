@@ -104,9 +104,9 @@ void UnitManagerDBusConnectorAsynchronTest::asynchronousCallsGoOnAfterAnError()
     QVERIFY(!connector.isUnitManagerInitialized()); // opens
     QVERIFY(!connector.isUnitManagerInitialized()); // starts to read
     QVERIFY(settle());
-    QVERIFY(!connector.isUnitManagerInitialized()); // sees the failure
+    QVERIFY(!connector.isUnitManagerInitialized()); // detects the failure
     m_service->setAnswer(TestSource::unitSwitchName, FakeBusService::withValue(TestDocument::units()));
-    QVERIFY(!connector.isUnitManagerInitialized()); // starts over
+    QVERIFY(!connector.isUnitManagerInitialized()); // restarts
     QVERIFY(!connector.isUnitManagerInitialized()); // opens
     QVERIFY(!connector.isUnitManagerInitialized()); // starts to read
     QVERIFY(settle());

@@ -173,7 +173,7 @@ void UnitManagerDBusConnectorTest::aFailedReadEndsABlockingCall()
     ObservedConnector connector(true, false);
     for (int call = 0; call < 2; ++call) {
         QVERIFY(!connector.isUnitManagerInitialized());
-        // Each source was asked once: the call ended in the error state.
+        // Each source was read once: the call ended in the error state.
         QCOMPARE(m_service->takeCalls().size(), 3);
         QCOMPARE(log.takeTexts().size(), 1);
     }
@@ -195,7 +195,7 @@ void UnitManagerDBusConnectorTest::aFailingUpdateIsAnnouncedToo()
     QCOMPARE(connector.takeSignals(), QStringList{"changed"});
     QVERIFY(connector.hasConfigurationChanged());
     QCOMPARE(m_service->takeCalls().size(), 3);
-    // The new object is kept all the same.
+    // The new object is kept nevertheless.
     QVERIFY(connector.unitManager());
     QVERIFY(!connector.unitManager()->isValid());
 }
@@ -245,7 +245,7 @@ void UnitManagerDBusConnectorTest::aChangeIsTakenUp()
     QVERIFY(connector.hasConfigurationChanged());
     QCOMPARE(m_service->takeCalls(),
              QStringList{"/DefaultUnitObject getConfiguration(Test/DefaultUnit, UnitManager, )"});
-    // Built from the new text and the kept one; whoever holds the earlier object keeps it.
+    // Built from the new text and the stored one; owners of the earlier object keep it.
     QVERIFY(connector.unitManager()->isValid());
     QCOMPARE(connector.unitManager()->getDefaultUnit(pressure), QStringLiteral("Bar"));
     QCOMPARE(before->getDefaultUnit(pressure), QStringLiteral("HectoPascal"));

@@ -26,7 +26,7 @@ static_assert(std::is_same_v<decltype(std::declval<Wrapper&>().postEvent()),
 
 namespace {
 
-/// What the probing state was told, oldest first.
+/// The events that the probing state received, oldest first.
 QStringList& events()
 {
     static QStringList list;
@@ -40,8 +40,7 @@ QString initialKey()
 
 } // namespace
 
-/// Stands in for the initial state. An event named "next" makes it select itself again with the very event
-/// that it is given.
+/// Replaces the initial state. On an event named "next" it selects itself again with the same event.
 class ProbingState : public UnitManagerConnectorStateBase
 {
     Q_OBJECT
@@ -197,7 +196,7 @@ void UnitManagerStateMachineWrapperTest::aTransitionKeepsItsEventForTheNextSteps
     QVERIFY(wrapper.moveToNextState(initialKey(), readTrigger({Definitions::DefaultUnit}, "first")));
     QVERIFY(wrapper.postEvent());
     QVERIFY(wrapper.postEvent());
-    // The same state again: its event counts all the same.
+    // Selecting the current state again also passes on the event.
     QVERIFY(wrapper.moveToNextState(initialKey(), StateMachineEvent("second", QVariant(7))));
     QVERIFY(wrapper.postEvent());
     QCOMPARE(events(), (QStringList{"enter first([2])", "step first([2])", "step first([2])",

@@ -7,7 +7,8 @@
 #include "StateMachineEvent.h"
 #include "StateMachineStateBase.h"
 
-/// The state machine of another platform, in front of the stand-in's: a step returns POST_EVENT_RESULT.
+/// The state machine of another platform, used instead of the one in platform/: a step returns
+/// POST_EVENT_RESULT.
 class StateMachineBase : public QObject
 {
     Q_OBJECT
