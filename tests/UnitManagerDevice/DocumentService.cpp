@@ -63,7 +63,7 @@ bool DocumentService::announce(Document document) const
     const Source source = sourceOf(document);
     if (!m_service->sendSignal(source.path, QStringLiteral("configurationChanged"), {source.name}))
         return false;
-    // A reply takes the way that the signal has taken, behind it.
+    // The reply uses the same connection as the signal and therefore arrives after it.
     const QDBusMessage call =
         QDBusMessage::createMethodCall(serviceName, "/Nowhere", QString(), "hasSignalArrived");
     return DBusConnection::getQDBusConnection().call(call).type() == QDBusMessage::ReplyMessage;

@@ -10,8 +10,8 @@
 
 class FakeBusService;
 
-/// The configuration service of a test: it serves the three documents, which the test may replace while it
-/// runs.
+/// The configuration service of a test: it serves the three documents, which the test may replace at any
+/// time.
 class DocumentService
 {
 public:
@@ -30,15 +30,15 @@ public:
 
     bool isRunning() const;
 
-    /// Puts another answer, which need not be a text, in the place of a document. Nothing is announced.
+    /// Replaces a document by another answer, which need not be a text. Nothing is announced.
     void replace(Document document, const QVariant& answer);
-    /// Announces a change of a document. The announcement has arrived in this process when the call returns;
-    /// an event loop has not run. @return whether all that succeeded.
+    /// Announces a change of a document. On return, the announcement has arrived in this process, but no
+    /// event loop has run. @return whether all that succeeded.
     bool announce(Document document) const;
 
-    /// The documents asked for so far, each as "<object path> <operation> <name>", in alphabetical order.
+    /// The requests received so far, each as "<object path> <operation> <name>", in alphabetical order.
     QStringList requests() const;
-    /// What requests() gives after each of the documents was read once.
+    /// The result of requests() after each of the documents was read once.
     static QStringList readsOf(const QList<Document>& documents);
 
 private:

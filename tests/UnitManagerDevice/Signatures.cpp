@@ -1,4 +1,4 @@
-// The signatures that other programs rely on. Compiled only: what the compiler accepts is the check.
+// The signatures that other programs rely on. The test is that this file compiles.
 
 #include "Array2dDataTypeWrapper.h"
 #include "Operation.h"

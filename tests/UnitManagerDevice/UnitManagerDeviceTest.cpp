@@ -65,7 +65,7 @@ QSharedPointer<ProcessDataValue> valueOf(const QString& unitType, const ProcessV
     return processData;
 }
 
-/// All that a process value holds.
+/// All fields of a process value.
 QString described(const ProcessValue& value)
 {
     return QStringLiteral("%1, error %2, %3, from %4")

@@ -12,7 +12,7 @@
 
 using namespace WrapperSetup;
 
-/// What a wrapper makes of documents that change while it runs.
+/// How a wrapper handles documents that change while it runs.
 class UnitManagerWrapperChangeTest : public QObject
 {
     Q_OBJECT
@@ -55,7 +55,7 @@ bool hasAdopted(UnitManagerWrapper& wrapper)
     return wrapper.checkInitialized() && wrapper.hasUnitManagerConfigurationChanged();
 }
 
-/// The same, repeated in an event loop. @return false when a minute was not enough.
+/// Polls the wrapper in an event loop until it adopts a change. @return false after a minute without one.
 bool waitForAdoption(UnitManagerWrapper& wrapper)
 {
     return QTest::qWaitFor([&wrapper] { return hasAdopted(wrapper); }, waitLimit);
@@ -66,7 +66,7 @@ QString defaultUnit(const UnitManagerWrapper& wrapper)
     return wrapper.getUnitManager()->getDefaultUnit(T::pressure);
 }
 
-/// What the wrapper makes of 1.5 bar.
+/// 1.5 bar as the wrapper shows it.
 QString shown(const UnitManagerWrapper& wrapper)
 {
     return described(wrapper.getValue(1.5, T::pressure, QStringLiteral("HectoPascal")));

@@ -14,7 +14,7 @@ using namespace WrapperSetup;
 
 namespace {
 
-/// What the wrapper hands to its walker.
+/// The arguments that the wrapper passes to its walker.
 struct Traversal
 {
     const DependencyWalker* walker;
@@ -30,8 +30,8 @@ QList<Traversal> traversals;
 
 } // namespace
 
-/// Stands in front of the walker's own: a program's definition goes before that of its libraries. It visits
-/// nothing, and fails.
+/// Replaces the walker's function, because a program's definition takes precedence over that of its
+/// libraries. It visits nothing and fails.
 bool DependencyWalker::traverseDependencyGraph(const QString& key, const BaseClassSharedPointer& node,
                                                const BaseClassSharedPointer& startNode,
                                                QList<QVariant>& results, QList<QVariant> seed,
@@ -42,7 +42,7 @@ bool DependencyWalker::traverseDependencyGraph(const QString& key, const BaseCla
     return false;
 }
 
-/// When and how a wrapper resolves what depends on a value.
+/// When and how a wrapper resolves the dependencies of a value.
 class UnitManagerWrapperDependencyTest : public QObject
 {
     Q_OBJECT

@@ -36,7 +36,7 @@ QStringList namesOf(const SettingsMap& settings)
 
 } // namespace
 
-/// Stands in for the initial state: the connector selects it whenever it has got new settings.
+/// Replaces the initial state, which the connector selects whenever it gets new settings.
 class SettingsWitness : public UnitManagerConnectorStateBase
 {
     Q_OBJECT
@@ -50,7 +50,7 @@ public:
     void postEvent(const StateMachineEvent& /*event*/) override {}
 };
 
-/// What a wrapper's constructors hand to the connector.
+/// What a wrapper's constructors pass to the connector.
 class UnitManagerWrapperSettingsTest : public QObject
 {
     Q_OBJECT
@@ -86,7 +86,7 @@ void UnitManagerWrapperSettingsTest::missingNamesAreEmptyTexts()
     seenSettings().clear();
     create(names, Asynchronous, Polled);
 
-    // The connector's data is built without names, then the connector is, then it gets the wrapper's.
+    // The data is built without names, then the connector, which finally gets the wrapper's names.
     QCOMPARE(seenSettings().size(), 3);
     QCOMPARE(namesOf(seenSettings().at(0)), QStringList({"", "", "", "", "", ""}));
     QCOMPARE(namesOf(seenSettings().at(1)), QStringList({"", "", "", "", "", ""}));

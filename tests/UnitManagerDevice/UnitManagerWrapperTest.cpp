@@ -28,7 +28,7 @@ static_assert(std::is_same_v<decltype(std::declval<const UnitManagerWrapper&>().
 
 namespace {
 
-/// The members that the wrapper has; the compiler pads them as it pads the wrapper's.
+/// The members of the wrapper, so that the compiler pads both in the same way.
 struct SameMembers
 {
     virtual ~SameMembers();
@@ -55,7 +55,7 @@ static_assert(!isBuiltFrom<char*, char*>);
 
 using namespace WrapperSetup;
 
-/// Building, the first configuration, init() and reset(). What becomes of changes has a test of its own.
+/// Construction, the first configuration, init() and reset(). For changes see UnitManagerWrapperChangeTest.
 class UnitManagerWrapperTest : public QObject
 {
     Q_OBJECT
@@ -98,7 +98,7 @@ std::unique_ptr<UnitManagerWrapper> createInFetchedMode(Names names)
     return create(names, Reading(reading), Signals(changeSignals));
 }
 
-/// What the wrapper makes of 1.5 bar.
+/// 1.5 bar as the wrapper shows it.
 QString shown(const UnitManagerWrapper& wrapper)
 {
     return described(wrapper.getValue(1.5, T::pressure, QStringLiteral("HectoPascal")));
@@ -138,7 +138,7 @@ void UnitManagerWrapperTest::initHasTheThirdSlot()
 void UnitManagerWrapperTest::unitManagerIsReleasedFirst()
 {
     const auto wrapper = create(AllNames, Blocking, Delivered);
-    // Members are destroyed from the last to the first, and the last one is the unit manager.
+    // Members are destroyed in reverse order; the last member is the unit manager.
     using Pointer = QSharedPointer<UnitManagerDevice>;
     const auto* const end = reinterpret_cast<const char*>(wrapper.get() + 1);
     const UnitManagerDevice* last = nullptr;
@@ -181,7 +181,7 @@ void UnitManagerWrapperTest::constructionReads_data()
     add("no names, blocking, delivered", NoNames, Blocking, Delivered, units);
     add("default units, blocking, delivered", DefaultUnitNames, Blocking, Delivered, two);
     add("all names, blocking, delivered", AllNames, Blocking, Delivered, three);
-    // One attempt is one step here, in which the sources are opened.
+    // One attempt is one step here, which opens the sources.
     add("no names, asynchronous, delivered", NoNames, Asynchronous, Delivered, nothing);
     add("default units, asynchronous, delivered", DefaultUnitNames, Asynchronous, Delivered, nothing);
     add("all names, asynchronous, delivered", AllNames, Asynchronous, Delivered, nothing);

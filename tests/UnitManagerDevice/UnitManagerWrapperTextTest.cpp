@@ -11,7 +11,7 @@
 #include "UnitManagerDevice/UnitManagerDevice.h"
 #include "WrapperSetup.h"
 
-/// Labels and what else is known of units, each with units and as long as there are none.
+/// Labels and other properties of units, each with and without loaded units.
 class UnitManagerWrapperTextTest : public QObject
 {
     Q_OBJECT

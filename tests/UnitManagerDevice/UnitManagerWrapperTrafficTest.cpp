@@ -13,7 +13,7 @@
 
 using namespace WrapperSetup;
 
-/// All that a start says on the bus: no introspection, no activation, and nothing twice.
+/// All bus traffic of a start: no introspection, no activation, and no duplicates.
 class UnitManagerWrapperTrafficTest : public QObject
 {
     Q_OBJECT
@@ -60,18 +60,17 @@ void UnitManagerWrapperTrafficTest::blockingStart()
     const auto wrapper = create(AllNames, Blocking, Delivered);
     QVERIFY(*wrapper);
     const QString whoOwnsIt = toBus(QStringLiteral("NameHasOwner ") + service);
-    QCOMPARE(
-        monitor.takeCalls(DBusConnection::getQDBusConnection()),
-        (QStringList{// Asked, watched, and asked again, because the owner may have left before the watch.
-                     whoOwnsIt, ownerRule, whoOwnsIt,
-                     // The subscriptions; with the first of them Qt looks after the name on its own.
-                     changeRule("UnitManagerConfiguration"), ownerRule,
-                     toBus(QStringLiteral("GetNameOwner ") + service), changeRule("DependencyConfiguration"),
-                     changeRule("DefaultUnitConfiguration"),
-                     // The documents.
-                     service + " getConfiguration UnitManager/UnitType",
-                     service + " getConfigurationDependency UnitManager/Dependency",
-                     service + " getConfiguration UnitManager/DefaultUnit"}));
+    QCOMPARE(monitor.takeCalls(DBusConnection::getQDBusConnection()),
+             (QStringList{// Query, watch, and query again, because the owner may have left before the watch.
+                          whoOwnsIt, ownerRule, whoOwnsIt,
+                          // The subscriptions; for the first one Qt also watches the name.
+                          changeRule("UnitManagerConfiguration"), ownerRule,
+                          toBus(QStringLiteral("GetNameOwner ") + service),
+                          changeRule("DependencyConfiguration"), changeRule("DefaultUnitConfiguration"),
+                          // The documents.
+                          service + " getConfiguration UnitManager/UnitType",
+                          service + " getConfigurationDependency UnitManager/Dependency",
+                          service + " getConfiguration UnitManager/DefaultUnit"}));
 }
 
 void UnitManagerWrapperTrafficTest::attemptWithoutService()
@@ -101,7 +100,7 @@ void UnitManagerWrapperTrafficTest::blockingStartOnFrozenBus()
     QVERIFY(monitor.start());
     monitor.takeCalls(DBusConnection::getQDBusConnection());
 
-    // A start makes a hundred attempts: with a time-out for each it would take longer than the limit.
+    // A start makes a hundred attempts: a time-out for each would exceed the limit.
     qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(waitLimit / 50));
     const QDeadlineTimer deadline(waitLimit);
     LogCapture log;
@@ -112,7 +111,7 @@ void UnitManagerWrapperTrafficTest::blockingStartOnFrozenBus()
 
     bus.resume();
     qunsetenv("DEVICE_BUS_TIMEOUT_MS");
-    // The question that was waited for, and the one that stays outstanding.
+    // The call that blocked until its time-out, and the one that remains outstanding.
     const QString whoOwnsIt = toBus(QStringLiteral("NameHasOwner ") + service);
     QCOMPARE(monitor.takeCalls(DBusConnection::getQDBusConnection()), (QStringList{whoOwnsIt, whoOwnsIt}));
     QVERIFY(waitForUnits(*wrapper));

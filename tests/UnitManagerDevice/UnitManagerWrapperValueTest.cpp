@@ -11,7 +11,7 @@
 #include "TestDocuments.h"
 #include "WrapperSetup.h"
 
-/// Values and arrays, each with units and as long as there are none.
+/// Values and arrays, each with and without loaded units.
 class UnitManagerWrapperValueTest : public QObject
 {
     Q_OBJECT
@@ -54,7 +54,7 @@ QString pressure(const char* value)
     return QStringLiteral(R"({ "@unitType": "UnitManager/UnitType/Pressure", "@value": %1 })").arg(value);
 }
 
-/// Two rows; the columns hold pressure, a number without unit type, and pressure.
+/// Two rows; the columns contain pressure, a number without unit type, and pressure.
 Array2dDataTypeWrapper threeColumns()
 {
     return {{QVariantList{1.5, 2.5, 3.5}, QVariantList{4.5, 5.5, 6.5}},

@@ -77,7 +77,7 @@ QString text(const Outputs& outputs)
     return QStringLiteral("%1, %2").arg(outputs.handled ? "handled" : "-", outputs.changed ? "changed" : "-");
 }
 
-/// What the outputs are after a call that found them in each of the four states.
+/// The outputs after a call, for each of their four initial states.
 QStringList outputsOf(UnitManagerWrapper& wrapper, const BaseClassSharedPointer& node)
 {
     UnitManipulatorMeasurementRange manipulator(wrapper);
@@ -99,7 +99,7 @@ Outputs manipulate(UnitManagerWrapper& wrapper, const BaseClassSharedPointer& no
     return outputs;
 }
 
-/// A node that writes down every question, with or without measurement ranges.
+/// A node that records every query, with or without measurement ranges.
 QSharedPointer<RecordingValueNode> nodeWithRanges()
 {
     const auto node = RecordingValueNode::number(1.5, T::pressure);

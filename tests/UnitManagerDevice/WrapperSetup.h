@@ -6,43 +6,42 @@
 
 #include "UnitManagerDevice/UnitManagerWrapper.h"
 
-/// Wrappers in all the ways in which they can be built.
+/// Creates wrappers in every possible configuration.
 namespace WrapperSetup {
 
-/// Which names the constructor is given.
+/// The names that are passed to the constructor.
 enum Names
 {
     NoNames,
     DefaultUnitNames,
     AllNames
 };
-/// How configurations are read, as the constructors' flag says it.
+/// How configurations are read, as in the constructors' flag.
 enum Reading : bool
 {
     Blocking = false,
     Asynchronous = true
 };
-/// How changes are noticed, as the constructors' flag says it.
+/// How changes are detected, as in the constructors' flag.
 enum Signals : bool
 {
     Delivered = false,
     Polled = true
 };
 
-/// A wrapper, built by the constructor that takes these names.
+/// Creates a wrapper with the constructor that takes these names.
 std::unique_ptr<UnitManagerWrapper> create(Names names, Reading reading, Signals changeSignals);
-/// A wrapper without service, which gives values as they are stored.
+/// A wrapper without service, which returns values as stored.
 std::unique_ptr<UnitManagerWrapper> createUnused();
 /// Calls init() with all names. @return its result.
 bool init(UnitManagerWrapper& wrapper, Reading reading);
 /// Calls init() with no names. @return its result.
 bool initWithoutNames(UnitManagerWrapper& wrapper, Reading reading);
 
-/// Calls checkInitialized() until it is true, without an event loop. @return false when a minute was not
-/// enough.
+/// Calls checkInitialized() until it returns true, without an event loop. @return false after a minute.
 bool waitForUnits(UnitManagerWrapper& wrapper);
 
-/// Adds the columns "reading" and "changeSignals" with the four ways in which a wrapper can be driven.
+/// Adds the columns "reading" and "changeSignals" with the four modes of a wrapper.
 void addModes();
 
 } // namespace WrapperSetup
