@@ -5,13 +5,14 @@
 #include "LogCapture.h"
 #include "UnitTextManagement/UnitTextHandler.h"
 
-/// The labels that the look-ups are tested with.
+/// The labels for the look-up tests.
 namespace TextDocument {
 
 const QString prefix = QStringLiteral("UnitManager/UnitType/");
 const QString pressure = prefix + "Pressure";
 
-/// "Bare" has no label; "Headless" has no base unit, "Tailless" one without label; "Unlabelled" has no label.
+/// "Bare" has no label; "Headless" has no base unit; the base unit of "Tailless" has no label; "Unlabelled"
+/// has no label.
 const QString document = QStringLiteral(R"({
     "Pressure": {
         "Bar": {"@displayPosition": 0, "UnitLabel": {"@value": {"en": "bar", "de": "Bar", "fr_CH": "bar suisse"}}},
@@ -25,14 +26,14 @@ const QString document = QStringLiteral(R"({
     "Unlabelled": {"Base": {"@displayPosition": 0}}
 })");
 
-/// Labels of the document; what loading says is not of interest here.
+/// The labels of the document. Messages during loading are dropped.
 inline UnitTextHandler load()
 {
     LogCapture log;
     return UnitTextHandler(document);
 }
 
-/// What is warned of names that the document does not know.
+/// The warning for names that the document does not contain.
 inline QString unknownType(const QString& unitType)
 {
     return QStringLiteral(R"(Unknown unit type given "%1")").arg(unitType);

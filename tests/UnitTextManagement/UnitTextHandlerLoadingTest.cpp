@@ -28,13 +28,13 @@ QString noPosition(const QString& streamed)
     return loadingWarning(QStringLiteral("Cannot convert displayPosition to int: %1 !").arg(streamed));
 }
 
-/// A document with the one unit type "A".
+/// A document with "A" as its only unit type.
 QString documentOf(const QString& units)
 {
     return QStringLiteral(R"({"A": )") + units + '}';
 }
 
-/// A document with the one unit "U" at the display position given.
+/// A document whose only unit "U" has the given display position.
 QString documentAt(const QString& position)
 {
     return documentOf(QStringLiteral(R"({"U": {"@displayPosition": %1, "UnitLabel": "u"}})").arg(position));
@@ -48,7 +48,7 @@ constexpr bool takesParsedDocuments<
 
 static_assert(!takesParsedDocuments<UnitTextHandler>, "the library does not export it");
 
-/// The messages of the class under test; reading a file may add the platform's own.
+/// The messages of the class under test; the platform may log its own when it reads a file.
 QStringList takeOwnMessages(LogCapture& log)
 {
     QList<LoggedMessage> own;
@@ -61,7 +61,7 @@ QStringList takeOwnMessages(LogCapture& log)
 
 } // namespace
 
-/// Loading of labels; the look-ups stand in UnitTextHandlerTest.
+/// Loading of labels; for the look-ups see UnitTextHandlerTest.
 class UnitTextHandlerLoadingTest : public QObject
 {
     Q_OBJECT

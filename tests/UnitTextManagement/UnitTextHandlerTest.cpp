@@ -45,7 +45,7 @@ QString textWarning(const QString& text)
 
 } // namespace
 
-/// Look-ups of labels; the loading stands in UnitTextHandlerLoadingTest.
+/// Look-ups of labels; for the loading see UnitTextHandlerLoadingTest.
 class UnitTextHandlerTest : public QObject
 {
     Q_OBJECT
@@ -212,7 +212,7 @@ void UnitTextHandlerTest::unknownNamesWarn_data()
     unitRow("unit in another spelling", pressure, "bar");
     unitRow("unit without label", pressure, "Bare");
     unitRow("fixed unit as unit", pressure, pressure + "/Bar");
-    // What was given is printed, not what was looked for.
+    // The message contains the given name, not the name that was looked up.
     unitRow("unknown fixed unit names the unit given", pressure + "/Nope", "Bar");
     unitRow("unknown fixed unit, empty unit given", pressure + "/Nope", "");
     unitRow("unknown fixed unit of the type without unit", prefix + "NoUnit/Nope", "NoUnit");
