@@ -11,7 +11,8 @@ namespace {
 using namespace BehaviourDocuments;
 using RecordedCalls::exactBits;
 
-/// An array that says its dimensions as another library would, and records the question.
+/// An array with its own implementation of the dimensions, as another library could have, that records the
+/// queries.
 class RecordingArray : public Array2dDataTypeWrapper
 {
 public:
@@ -141,7 +142,7 @@ QString numbersText(const std::vector<double>& list)
     return exactBits(QVariant(values));
 }
 
-/// Many numbers at once, and a conversion that is found once.
+/// Conversions of many numbers at once, and with a conversion that is found once.
 BehaviourRows numberRows(const NamedManager& manager, const UnitNames& names)
 {
     const UnitManager* const units = &manager.manager;
@@ -168,7 +169,7 @@ BehaviourRows numberRows(const NamedManager& manager, const UnitNames& names)
              }}};
 }
 
-/// A converter that shows its table.
+/// A converter that gives access to its table.
 class TableConverter : public ValueConverterArbitraryTable
 {
 public:

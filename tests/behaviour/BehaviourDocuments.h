@@ -12,30 +12,30 @@ namespace BehaviourDocuments {
 QString units();
 QString defaultUnits();
 
-/// A manager and the words that name it in the table.
+/// A manager and its name in the table.
 struct NamedManager
 {
     QString name;
     UnitManagerDevice manager;
 };
 
-/// Both documents; the units alone; nothing. They live as long as the process.
+/// Managers with both documents, with the units only, and with nothing. They live as long as the process.
 const QList<NamedManager>& managers();
 
-/// A unit type, without its prefix where it has one, and a unit.
+/// A unit type, without its prefix if it has one, and a unit.
 struct UnitNames
 {
     QString unitType;
     QString unit;
 
-    /// The unit type with its prefix; empty and unprefixed ones (beginning with "!") as they are.
+    /// The unit type with its prefix; empty and unprefixed ones (starting with "!") unchanged.
     QString fullType() const;
     QString text() const;
 };
 
 QList<UnitNames> unitNames();
 
-/// A value and the word that names it in the table.
+/// A value and its name in the table.
 struct NamedValue
 {
     QString name;

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-/// One operation with its arguments. It returns its result, and what it left in its arguments, as text.
+/// An operation with its arguments. It returns its result, and the final values of its arguments, as text.
 struct BehaviourRow
 {
     QString name;

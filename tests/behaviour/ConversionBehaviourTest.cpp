@@ -20,7 +20,7 @@ const bool recordsQuestions = false;
 
 const QString questionsMark = QStringLiteral("  asks: ");
 
-/// Messages by a short name that stays the same when others come or go.
+/// Messages by a short name that does not depend on the other messages.
 using MessageNames = QMap<QString, QString>;
 
 QString nameOf(const QString& message, MessageNames& names)
@@ -30,14 +30,14 @@ QString nameOf(const QString& message, MessageNames& names)
     return name;
 }
 
-/// The catalogue's lines are part of the interface; the others move when a source is edited.
+/// The catalogue's line numbers are part of the interface; the others change when a source is edited.
 LineNumbers lineNumbersOf(const LoggedMessage& message)
 {
     return message.file.startsWith(QLatin1String("UnitConversion/UnitConversion")) ? LineNumbers::Exact
                                                                                    : LineNumbers::Any;
 }
 
-/// What a row does, on as many lines as it has effects.
+/// The effects of a row, one per line.
 QStringList play(const BehaviourRow& row, MessageNames& names)
 {
     RecordedCalls::takeCalls();
@@ -62,7 +62,7 @@ QStringList play(const BehaviourRow& row, MessageNames& names)
 
 QStringList playAll()
 {
-    // The library may ask about the marker once per process.
+    // The library may query the marker once per process.
     BehaviourDocuments::managers().first().manager.fromBaseUnit(1.0, QString(), QString());
 
     QStringList lines;
@@ -95,10 +95,10 @@ bool writeLines(const QString& path, const QStringList& lines)
 
 } // namespace
 
-/// Plays the whole table and compares results, messages and calls on the platform with the recorded ones.
+/// Runs the whole table and compares results, messages and calls to the platform with the recorded ones.
 ///
-/// With UPDATE_RECORDS=1 in the environment the records are written anew: commit their difference with the
-/// reason for it.
+/// With UPDATE_RECORDS=1 in the environment the test rewrites the records: commit their difference with its
+/// reason.
 class ConversionBehaviourTest : public QObject
 {
     Q_OBJECT

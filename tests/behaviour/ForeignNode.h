@@ -4,8 +4,8 @@
 
 #include "ConfigurationAndProcessDataBase.h"
 
-/// A node that another library could have derived: it has the properties that it is given, answers every
-/// write with a given status, and records every call.
+/// A node as another library could have derived it: it has given properties, returns a given status from
+/// every write, and records every call.
 class ForeignNode : public ConfigurationAndProcessDataBase
 {
 public:

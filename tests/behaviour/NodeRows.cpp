@@ -13,7 +13,7 @@ using RecordedCalls::exactBits;
 
 const QString valueKey = QStringLiteral("Value");
 
-/// Which properties a node has.
+/// The properties of a node.
 struct NodeKind
 {
     QString name;
@@ -46,7 +46,7 @@ BaseClassSharedPointer makeNode(const NodeKind& kind, const QVariant& value)
     return QSharedPointer<ForeignNode>::create(properties, kind.writeStatus);
 }
 
-/// Process data whose questions as a node are recorded.
+/// Process data that record queries of their properties as a node.
 class RecordingProcessData : public ProcessDataValue
 {
 public:
@@ -104,7 +104,7 @@ BehaviourRows missingNodeRows()
     return rows;
 }
 
-/// Reads and writes process data whose stored or given value carries an error type.
+/// Reads and writes process data where the stored or given value has an error type.
 BehaviourRows processDataRows(const NamedValue& value, const QString& unitType, const QString& unit,
                               int errorType)
 {

@@ -22,7 +22,7 @@ QStringList& questions()
     return list;
 }
 
-// The sign of a NaN that is computed depends on the processor.
+// The sign of a computed NaN depends on the processor.
 bool isDefaultNan(double number)
 {
     return std::isnan(number) && (bitsOf(number) << 1U) == 0xFFF0000000000000U;

@@ -4,22 +4,22 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
-/// The calls that the library makes on the platform, oldest first. One process has one list; one thread uses
-/// it.
+/// The calls from the library to the platform, oldest first. There is one list per process, for use by one
+/// thread.
 namespace RecordedCalls {
 
-/// Adds a call that reads or changes an object, or that computes a result.
+/// Adds a call that reads or changes an object, or computes a result.
 void add(const QString& call);
-/// Adds a question about a value whose answer depends on nothing but that value. Such questions are listed
-/// apart, because asking once more changes nothing.
+/// Adds a query of a value whose result depends only on that value. Such queries are listed separately,
+/// because repeating them changes nothing.
 void addQuestion(const QString& question);
 
-/// The calls since the last one; they are forgotten here.
+/// Takes the calls since the last takeCalls() out of the list.
 QStringList takeCalls();
-/// The questions since the last one; they are forgotten here.
+/// Takes the queries since the last takeQuestions() out of the list.
 QStringList takeQuestions();
 
-/// A value bit by bit: numbers in hexadecimal, a NaN with its bits unless they are the default ones.
+/// A value bit by bit: numbers in hexadecimal; a NaN with its bits, unless it is the default one.
 QString exactBits(const QVariant& value);
 QString exactBits(double number);
 

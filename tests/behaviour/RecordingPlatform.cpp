@@ -1,5 +1,5 @@
-// A program's own function is found before that of a library: these take the place of the platform's, record
-// the call and hand it on. Getters of constants are left out.
+// A program's own functions take precedence over those of a library: these replace the platform's functions,
+// record the call and forward it. Getters of constants are not recorded.
 
 #include <dlfcn.h>
 
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The platform's own function behind a symbol of this program.
+/// The platform's function that a symbol of this program replaces.
 template <typename Function>
 Function* next(const char* symbol)
 {

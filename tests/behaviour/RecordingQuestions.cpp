@@ -1,5 +1,5 @@
-// Takes the place of the platform's questions about a value. The environment variable NO_INPUT_MARKER selects
-// the platform's marker: "nan", "number" (-999 as a double) or "both".
+// Replaces the platform's tests of a value. The environment variable NO_INPUT_MARKER selects the platform's
+// marker: "nan", "number" (-999 as a double) or "both".
 
 #include <QtCore/QtGlobal>
 

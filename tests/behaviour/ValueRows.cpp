@@ -39,7 +39,7 @@ QString resultText(bool isSuccess, const QVariant& value)
     return (isSuccess ? QLatin1String("true ") : QLatin1String("false ")) + exactBits(value);
 }
 
-/// What an operation that converts in place leaves in a copy of @p value.
+/// The content of a copy of @p value after an operation that converts in place.
 template <typename Convert>
 QString inPlace(QVariant value, const Convert& convert)
 {
@@ -110,7 +110,7 @@ BehaviourRows coreRows(const UnitNames& names, const NamedValue& value)
              }}};
 }
 
-/// Operations of @p target, which convert in place.
+/// Operations of @p target that convert in place.
 template <typename Target, typename... Names>
 BehaviourRows inPlaceRows(const QString& prefix, const QString& suffix, const Target* target,
                           const NamedValue& value, const Names&... names)
@@ -161,7 +161,7 @@ BehaviourRows roundingRows()
 
 BehaviourRows valueRows()
 {
-    // Loaded before anything is recorded, because loading visits a document in the order of its hash.
+    // Load before recording starts, because loading visits a document in the order of its hash.
     core();
     lookUp();
     pressure();
