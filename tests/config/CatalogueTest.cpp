@@ -21,7 +21,7 @@ QStringList sorted(QStringList list)
 
 } // namespace
 
-/// The shipped documents as an application meets them.
+/// The shipped documents as seen by an application.
 class CatalogueTest : public QObject
 {
     Q_OBJECT

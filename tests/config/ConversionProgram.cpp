@@ -10,7 +10,7 @@ namespace {
 
 constexpr int runLimitMilliseconds = 60000;
 
-/// Neither a locale nor a personal units file may change what the programs answer.
+/// Prevents a locale or a personal units file from changing the programs' results.
 QProcessEnvironment plainEnvironment()
 {
     QProcessEnvironment environment;

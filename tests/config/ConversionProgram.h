@@ -4,7 +4,7 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
 
-/// One value converted by the library, and the units it was converted between in the words of a program.
+/// A value converted by the library, and the names of its units in a program.
 struct Conversion
 {
     QString from;
@@ -13,7 +13,7 @@ struct Conversion
     double result = 0.0;
 };
 
-/// A unit conversion program that checks conversions made elsewhere. All of them go through one run of it.
+/// A unit conversion program that checks the library's results. All conversions are checked in one run of it.
 class ConversionProgram
 {
 public:
@@ -21,28 +21,28 @@ public:
     ConversionProgram& operator=(const ConversionProgram&) = delete;
     virtual ~ConversionProgram();
 
-    /// Whether the program can tell for this conversion how far the result is off.
+    /// Whether the program can determine the deviation of this conversion.
     virtual bool isAnswerable(const Conversion& conversion) const;
 
-    /// How far each result lies from the program's own, in the unit converted to.
+    /// The deviation of each result from the program's own, in the unit converted to.
     ///
-    /// @param error says what went wrong when the program is missing, fails or does not answer every question
-    /// @return one number per conversion; none when there is an error
+    /// @param error set if the program is missing, fails or does not answer every query
+    /// @return one number per conversion; empty on error
     QVector<double> deviations(const QVector<Conversion>& conversions, QString* error) const;
 
 protected:
     ConversionProgram(QString command, QStringList arguments);
 
-    /// The shortest text that reads back as the same number, with an exponent: a whole number behind a unit
-    /// of time would be a date.
+    /// The shortest text that reads back as the same number, with an exponent: the program would read an
+    /// integer after a unit of time as a date.
     static QString numberText(double number);
 
 private:
-    /// The lines that ask for one conversion.
+    /// The input lines that request one conversion.
     virtual QString question(const Conversion& conversion) const = 0;
-    /// The answers in the program's output, one text per question.
+    /// The answers in the program's output, one text per query.
     virtual QStringList answers(const QString& output) const = 0;
-    /// Reads one answer; @p ok tells whether it is one.
+    /// Parses one answer; @p ok is false if it is invalid.
     virtual double deviation(const QString& answer, const Conversion& conversion, bool* ok) const = 0;
 
     QString run(const QString& input, QString* error) const;

@@ -28,8 +28,8 @@ QStringList sorted(QStringList list)
 }
 
 /// Relative to the result. An affine conversion adds and subtracts numbers of the size of its shift, the
-/// distance between absolute zero and the ice point: where the result is smaller than the shift, the shift is
-/// the scale.
+/// distance between absolute zero and the ice point. If the result is smaller than the shift, the tolerance
+/// is relative to the shift.
 double tolerance(double result, double zeroShift)
 {
     constexpr double relativeTolerance = 1e-12;
@@ -41,8 +41,8 @@ double tolerance(double result, double zeroShift)
 Q_DECLARE_METATYPE(Program)
 Q_DECLARE_METATYPE(PairCounts)
 
-/// Every unit is converted to every other of its type, and two programs that know nothing of the shipped
-/// documents convert the same values. data/conversion-programs.json holds their names for the units and the
+/// Converts every unit to every other of its type and compares the results with two programs that are
+/// independent of the shipped documents. data/conversion-programs.json contains their unit names and the
 /// values.
 class ConversionProgramsTest : public QObject
 {
@@ -62,7 +62,7 @@ private slots:
     void missingProgramIsAnError();
 
 private:
-    /// What a program is asked, the tolerance of each conversion, and the pairs of units they come from.
+    /// The conversions to check, the tolerance of each, and the pairs of units they belong to.
     struct Questions
     {
         QVector<Conversion> conversions;
@@ -98,7 +98,7 @@ void ConversionProgramsTest::everyUnitHasNamesAtThePrograms_data()
     QTest::addColumn<QStringList>("unknownUnits");
 
     QTest::newRow("GNU Units") << "gnuUnits" << QStringList();
-    // Its torr is another name of the conventional millimetre of mercury; ours is the 760th part of the
+    // In UDUNITS, torr is another name of the conventional millimetre of mercury; here it is 1/760 of the
     // standard atmosphere, smaller by 1.4e-7. GNU Units covers it.
     QTest::newRow("UDUNITS") << "udunits" << QStringList{QStringLiteral("Pressure/Torr")};
 }
@@ -128,7 +128,7 @@ void ConversionProgramsTest::programAgreesWithEveryPair_data()
     QTest::addColumn<PairCounts>("expectedPairs");
     QTest::addColumn<int>("expectedConversions");
 
-    // The n units of a type make n * (n - 1) pairs; the only unit of relative humidity makes none.
+    // A type with n units gives n * (n - 1) pairs; the only unit of relative humidity gives none.
     PairCounts pairs{{"AbsoluteHumidity", 12},
                      {"AbsoluteTemperature", 12},
                      {"MixingRatio", 6},
@@ -138,9 +138,9 @@ void ConversionProgramsTest::programAgreesWithEveryPair_data()
                      {"SpecificEnthalpy", 12},
                      {"Time", 20},
                      {"Voltage", 12}};
-    // 12 values for each of the linear pairs, 9 for each pair of temperatures.
+    // 12 values for each linear pair, 9 for each pair of temperatures.
     QTest::newRow("GNU Units") << "gnuUnits" << Program(new GnuUnits) << pairs << 268 * 12 + 12 * 9;
-    // One unit of pressure less, and the value 1e-30 is too small.
+    // One pressure unit fewer, and without the value 1e-30, which is too small.
     pairs[QStringLiteral("Pressure")] = 13 * 12;
     QTest::newRow("UDUNITS") << "udunits" << Program(new Udunits) << pairs << 242 * 11 + 12 * 9;
 }

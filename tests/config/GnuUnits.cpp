@@ -7,7 +7,7 @@ GnuUnits::GnuUnits()
 
 QString GnuUnits::question(const Conversion& conversion) const
 {
-    // name(value) multiplies a plain unit and calls a function such as tempC.
+    // name(value) multiplies by a plain unit, or calls a function such as tempC.
     return QStringLiteral("%1(%2)\n%3\n").arg(conversion.from, numberText(conversion.value), conversion.to);
 }
 

@@ -2,7 +2,7 @@
 
 #include "ConversionProgram.h"
 
-/// GNU Units. It prints every result with all its digits.
+/// GNU Units, which prints every result with all its digits.
 class GnuUnits : public ConversionProgram
 {
 public:

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// "Type/Unit", so that a row reads as a sentence.
+/// "Type/Unit", which keeps the rows readable.
 QString typeOf(const QString& unit)
 {
     return unit.section(QLatin1Char('/'), 0, 0);
@@ -21,7 +21,7 @@ QString nameOf(const QString& unit)
 
 } // namespace
 
-/// Values that a user knows by heart, to the last bit.
+/// Well-known values, compared to the last bit.
 class LandmarksTest : public QObject
 {
     Q_OBJECT
@@ -62,7 +62,7 @@ QVariant LandmarksTest::convert(double value, const QString& from, const QString
     return m_catalogue.convert(value, typeOf(from), nameOf(from), nameOf(to));
 }
 
-/// What both directions give exactly.
+/// Conversions that are exact in both directions.
 void LandmarksTest::exactInBothDirections_data()
 {
     addColumns();
@@ -197,7 +197,7 @@ void LandmarksTest::exactInBothDirections()
     QCOMPARE(exactText(convert(expected, to, from)), exactText(QVariant(value)));
 }
 
-/// The way back of these is among those beside the landmark.
+/// For the inverse conversions see besideTheLandmark_data().
 void LandmarksTest::exactInOneDirection_data()
 {
     addColumns();
@@ -237,8 +237,8 @@ void LandmarksTest::exactInOneDirection()
     QCOMPARE(exactText(convert(value, from, to)), exactText(QVariant(expected)));
 }
 
-/// Landmarks that the correctly rounded coefficients miss: neither the coefficients nor, often, the landmarks
-/// themselves are doubles. The scale is the largest number on the way.
+/// Landmarks that the correctly rounded coefficients miss: neither the coefficients nor, in many cases, the
+/// landmarks themselves are doubles. The scale is the largest intermediate number.
 void LandmarksTest::besideTheLandmark_data()
 {
     addColumns();
@@ -303,7 +303,7 @@ void LandmarksTest::besideTheLandmark()
     QFETCH(double, scale);
     const double result = convert(value, from, to).toDouble();
     QVERIFY(result != expected);
-    // Two coefficients and two results are rounded, each by half a unit in the last place at most.
+    // Two coefficients and two results are rounded, each by at most half a unit in the last place.
     QVERIFY2(std::abs(result - expected) <= 2 * std::numeric_limits<double>::epsilon() * scale,
              qPrintable(exactText(result)));
 }

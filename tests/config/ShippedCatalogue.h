@@ -5,11 +5,11 @@
 
 #include "UnitManager.h"
 
-/// A unit manager with the shipped documents, and unit types named by their plain keys.
+/// A unit manager with the shipped documents, and unit types identified by their plain keys.
 class ShippedCatalogue
 {
 public:
-    /// Loads both documents; isLoaded() tells whether that worked.
+    /// Loads both documents; isLoaded() returns whether that succeeded.
     ShippedCatalogue();
 
     bool isLoaded() const;

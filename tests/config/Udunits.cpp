@@ -21,14 +21,14 @@ QString Udunits::question(const Conversion& conversion) const
 QStringList Udunits::answers(const QString& output) const
 {
     QStringList texts = output.split(QStringLiteral("You have: You want:"));
-    // In front of the first question stands nothing; the last answer is followed by one more prompt.
+    // The text before the first query is empty; the last answer is followed by another prompt.
     texts.removeFirst();
     return texts;
 }
 
 double Udunits::deviation(const QString& answer, const Conversion&, bool* ok) const
 {
-    // "1 bar = 2.5e-13 (hPa @ 1000)", or "1 bar = 1000 hPa" where the origin is zero.
+    // "1 bar = 2.5e-13 (hPa @ 1000)", or "1 bar = 1000 hPa" if the origin is zero.
     static const QRegularExpression firstLine(QStringLiteral("\\A[^\\n]* = (\\S+) "));
     return firstLine.match(answer).captured(1).toDouble(ok);
 }

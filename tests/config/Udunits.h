@@ -2,14 +2,14 @@
 
 #include "ConversionProgram.h"
 
-/// UDUNITS. It prints six digits of a result. So it is asked for the value in a unit whose origin lies at the
-/// expected result: what it prints then is the deviation itself.
+/// UDUNITS, which prints only six digits of a result. It is therefore queried for the value in a unit whose
+/// origin is the expected result, so that it prints the deviation itself.
 class Udunits : public ConversionProgram
 {
 public:
     Udunits();
 
-    /// UDUNITS takes an origin that is almost zero for zero.
+    /// UDUNITS treats an origin close to zero as zero.
     bool isAnswerable(const Conversion& conversion) const override;
 
 private:

@@ -1,4 +1,4 @@
-"""The shipped coefficients are those of the units' exact definitions, to the last bit."""
+"""The shipped coefficients match the exact definitions of the units to the last bit."""
 
 import copy
 import json

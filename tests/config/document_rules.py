@@ -1,4 +1,4 @@
-"""What a unit document and a default-unit document must satisfy: their schemas, and what a schema cannot say."""
+"""The rules for unit documents and default-unit documents: their schemas, and rules that a schema cannot express."""
 
 import json
 import math
@@ -10,7 +10,7 @@ UNIT_TYPE_PREFIX = "UnitManager/UnitType/"
 
 
 class BrokenDocument(Exception):
-    """The text is no JSON document in which every name occurs once and every number is finite."""
+    """The text is not a JSON document with unique names and finite numbers."""
 
 
 def unique_members(members):
@@ -59,12 +59,12 @@ def display_position_findings(unit_type, units):
 
 
 def unit_findings(text, schema):
-    """One line per fault of a unit document; none for a sound one."""
+    """One line per fault of a unit document; none for a valid one."""
     try:
         document = parse(text)
     except BrokenDocument as error:
         return [str(error)]
-    # The further rules read members that only the schema vouches for.
+    # The rules below rely on members that the schema requires.
     return schema_findings(document, schema) or [
         finding for unit_type, units in document.items() for finding in display_position_findings(unit_type, units)
     ]
@@ -84,7 +84,7 @@ def default_unit_finding(unit_type, value, units):
 
 
 def default_unit_findings(text, schema, units):
-    """One line per fault of a default-unit document that goes with the unit document units; none for a sound one."""
+    """One line per fault of a default-unit document for the unit document units; none for a valid one."""
     try:
         document = parse(text)
     except BrokenDocument as error:

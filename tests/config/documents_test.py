@@ -1,4 +1,4 @@
-"""The shipped documents are sound, and each kind of fault in a document is found and named."""
+"""The shipped documents are valid, and each kind of fault in a document is detected and reported."""
 
 import pathlib
 import unittest
@@ -15,7 +15,7 @@ LANGUAGES = ("en", "de", "fr")
 BAR = "$.Pressure.Bar"
 HECTOPASCAL = "$.Pressure.HectoPascal"
 
-# File name -> how the one finding begins: place, violated rule, and what is concerned where the rule names it.
+# File name -> start of the only finding: location, violated rule, and the object if the rule names it.
 BROKEN_UNITS = {
     "arbitrary-table-of-ordinates": "$.Level.Percent.Table[0]: minItems",
     "arbitrary-table-without-table": "$.Level.Percent: required: 'Table'",
