@@ -18,7 +18,7 @@ static_assert(std::has_virtual_destructor_v<Base>);
 static_assert(!std::is_copy_constructible_v<Base>);
 static_assert(std::is_same_v<BaseClassSharedPointer, QSharedPointer<ConfigurationAndProcessDataBase>>);
 
-/// The least that another library's node has to say.
+/// The minimum that another library's node must implement.
 class ForeignNode : public Base
 {
 public:
@@ -68,7 +68,7 @@ private slots:
 
 void ConfigurationAndProcessDataBaseTest::virtualOperationsStandInTheirFixedOrder()
 {
-    // The destructor takes the first two.
+    // The destructor occupies the first two.
     QCOMPARE(virtualSlot(&Base::getChild), std::size_t(2));
     QCOMPARE(virtualSlot(&Base::getProperty), std::size_t(3));
     QCOMPARE(virtualSlot(&Base::hasProperty), std::size_t(4));

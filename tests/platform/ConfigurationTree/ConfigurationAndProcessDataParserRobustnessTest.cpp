@@ -24,8 +24,7 @@ bool isDocumentForQt(const QString& json)
     return QJsonDocument::fromJson(json.toUtf8()).isObject();
 }
 
-/// Where Qt reads more than JSON allows: a number without all of its digits, and an escape that there is
-/// none.
+/// Whether Qt accepts more than JSON allows: an incomplete number or an unknown escape sequence.
 bool isForgivenByQt(const QString& json)
 {
     static const QRegularExpression number(QStringLiteral(R"(\.(?!\d)|-(?!\d)|(?<!\d)\.)"));

@@ -240,7 +240,7 @@ void ConfigurationAndProcessDataParserTest::treeOutlivesTheTextAndTheParser()
 
 void ConfigurationAndProcessDataParserTest::manyChildrenAreFoundByKey()
 {
-    // From one child on, past the length up to which children stand in a list.
+    // From one child to more than the number up to which children are stored in a list.
     for (int count = 1; count <= 20; ++count) {
         QStringList members;
         for (int i = 0; i < count; ++i)
@@ -256,7 +256,7 @@ void ConfigurationAndProcessDataParserTest::manyChildrenAreFoundByKey()
                 QCOMPARE(child->getProperty(QStringLiteral("@value")).toInt(), i == 0 ? 100 : i);
             }
             QVERIFY(!root->getChild(QStringLiteral("c%1").arg(count)));
-            // The second pass sees the node after its map was asked for.
+            // The second pass tests the node after its map was created.
             QCOMPARE(root->getChildMap().size(), count);
         }
     }

@@ -19,7 +19,7 @@ QString readText(const QString& path)
     return ConfigurationDataAndProcessDescriptionAccess().getConfiguration(QFileInfo(path));
 }
 
-/// Gives up the privilege of reading every file, if the test has it, as long as it lives.
+/// Drops root's privilege to read every file during its lifetime.
 class OrdinaryUser
 {
 public:

@@ -48,7 +48,7 @@ QString joined(const QStringList& parts)
     return QLatin1Char('{') + parts.join(QLatin1String(", ")) + QLatin1Char('}');
 }
 
-/// What the reading of a JSON value should be: every number a double, null invalid.
+/// The expected value of a JSON value: every number a double, null invalid.
 QVariant expectedValue(const QJsonValue& value)
 {
     if (value.isDouble())

@@ -6,15 +6,15 @@
 
 #include "ConfigurationAndProcessDataBase.h"
 
-/// A value as text: its kind is visible, and two different numbers have different texts.
+/// A value as text that shows its type; different numbers have different texts.
 QString valueText(const QVariant& value);
 
-/// A tree as text, children in alphabetical order: `{@type=TreeNode, a={@type=Number, @value=1}, b=null}`. Of
-/// the properties the known ones and "@note" are shown.
+/// A tree as text, children in alphabetical order: `{@type=TreeNode, a={@type=Number, @value=1}, b=null}`.
+/// Only the known properties and "@note" are included.
 QString nodeText(const BaseClassSharedPointer& node);
 
-/// The text of the tree that a document stands for, made from Qt's own reading of it.
+/// The expected text of a document's tree, derived from Qt's own JSON parser.
 QString expectedNodeText(const QJsonObject& document);
 
-/// Parses a document; a null pointer when it is none.
+/// Parses a document. @return a null pointer if it is invalid
 BaseClassSharedPointer parse(const QString& json);

@@ -4,15 +4,15 @@
 #include <QtCore/QString>
 #include <QtCore/QThread>
 
-/// Serves an object behind the adaptor that is generated from the interface's description, in a thread of its
-/// own. The object answers with what it was asked.
+/// Serves an object through the adaptor generated from the interface description, in a separate thread. The
+/// object returns the arguments of the request.
 class AdaptedService : public QThread
 {
 public:
     AdaptedService(const QString& address, const QString& serviceName, const QString& path);
     ~AdaptedService() override;
 
-    /// Whether the bus was reached and the name taken.
+    /// Whether the bus connection and the name registration succeeded.
     bool isRunning() const;
 
 protected:

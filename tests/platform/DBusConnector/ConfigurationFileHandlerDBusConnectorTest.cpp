@@ -139,7 +139,7 @@ void ConfigurationFileHandlerDBusConnectorTest::aHundredAttemptsWaitForNothing()
     timer.start();
     for (int attempt = 0; attempt < 100; ++attempt)
         QVERIFY(create().isNull());
-    // Had they waited for anything, a hundred attempts would take longer than one call may.
+    // If each attempt blocked, a hundred attempts would exceed the time-out of one call.
     QVERIFY2(timer.elapsed() < DBusConnection::getCallTimeout(),
              qPrintable(QString::number(timer.elapsed())));
 }
@@ -165,7 +165,7 @@ void ConfigurationFileHandlerDBusConnectorTest::aHundredAttemptsOnAFrozenBusWait
     const QDBusConnection connection = DBusConnection::getQDBusConnection();
     monitor.takeCalls(connection);
 
-    // A time-out for each attempt would take longer than the limit.
+    // A time-out for each attempt would exceed the limit.
     qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(2 * waitLimit / attempts));
     const QDeadlineTimer deadline(waitLimit);
     m_bus->halt();
@@ -174,7 +174,7 @@ void ConfigurationFileHandlerDBusConnectorTest::aHundredAttemptsOnAFrozenBusWait
     QVERIFY(!deadline.hasExpired());
 
     m_bus->resume();
-    // The one that was waited for, and the one that stays outstanding.
+    // The call that blocked until its time-out, and the one that remains outstanding.
     const QString question = "org.freedesktop.DBus NameHasOwner " + serviceName;
     QCOMPARE(monitor.takeCalls(connection), (QStringList{question, question}));
 }
@@ -226,7 +226,7 @@ void ConfigurationFileHandlerDBusConnectorTest::aFrozenBusLeavesAnotherBusUsable
     qputenv("DEVICE_BUS", m_bus->address().toLocal8Bit());
     startService(FakeBusService::withValue("text"));
     QVERIFY(!create().isNull());
-    // The answers of this bus do not end the silence of the other.
+    // Answers of this bus do not make the other one usable.
     qputenv("DEVICE_BUS", frozenAddress);
     qputenv("DEVICE_BUS_TIMEOUT_MS", "200");
     QVERIFY(create().isNull());
@@ -260,7 +260,7 @@ void ConfigurationFileHandlerDBusConnectorTest::aServiceThatDoesNotReplyLeavesTh
     qputenv("DEVICE_BUS_TIMEOUT_MS", "200");
     QVERIFY(connector->getConfiguration("name", "module", "extra").isError());
     qunsetenv("DEVICE_BUS_TIMEOUT_MS");
-    // Without this connector the bus is asked again.
+    // Without this connector the bus is queried again.
     connector.reset();
     QVERIFY(!create().isNull());
 }
@@ -278,13 +278,13 @@ void ConfigurationFileHandlerDBusConnectorTest::anAttemptWithServiceWatchesItsNa
     second->getConfiguration("name", "module", "extra");
     const QStringList used = monitor.takeCalls(DBusConnection::getQDBusConnection());
 
-    // Asked, watched, and asked again, because the owner may have left before the watch.
+    // Query, watch, and query again, because the owner may have left before the watch.
     const QString question = "org.freedesktop.DBus NameHasOwner " + serviceName;
     const QString watch = "org.freedesktop.DBus AddMatch type='signal',sender='org.freedesktop.DBus',"
                           "interface='org.freedesktop.DBus',member='NameOwnerChanged',arg0='" +
                           serviceName + "'";
     QCOMPARE(opened, (QStringList{question, watch, question}));
-    // The second connector shares what the first one knows.
+    // The second connector shares the state of the first one.
     QCOMPARE(used, QStringList{serviceName + " getConfiguration name"});
 }
 
@@ -306,7 +306,7 @@ void ConfigurationFileHandlerDBusConnectorTest::noServiceIsStarted()
     QVERIFY(create().isNull());
     QVERIFY(!QFile::exists(trace));
 
-    // The bus does start it for a caller that does not mind.
+    // The bus does start it for an ordinary call.
     DBusConnection::getQDBusConnection().send(
         QDBusMessage::createMethodCall(serviceName, "/Object", QString(), "method"));
     QVERIFY(waitUntil([&trace] { return QFile::exists(trace); }));
@@ -458,7 +458,7 @@ void ConfigurationFileHandlerDBusConnectorTest::anAsynchronousCallIsOutstandingU
     QVERIFY(!pending->getReply().isValid());
     QVERIFY(!error.isError());
     QCOMPARE(finalState(*pending, error), 1);
-    QVERIFY(timer.elapsed() >= timeout - 50); // timers of this length are coarse: five per cent and more
+    QVERIFY(timer.elapsed() >= timeout - 50); // timers of this length may be early by five per cent or more
     QCOMPARE(error.getName(), QStringLiteral("org.freedesktop.DBus.Error.NoReply"));
 }
 

@@ -3,8 +3,8 @@
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
-/// Stands behind the adaptor that is generated from the interface's description, and answers with what it was
-/// asked.
+/// The object behind the adaptor generated from the interface description. It returns the arguments of the
+/// request.
 class ConfigurationFileHandlerObject : public QObject
 {
     Q_OBJECT

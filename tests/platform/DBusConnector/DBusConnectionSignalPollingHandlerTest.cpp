@@ -149,7 +149,7 @@ void DBusConnectionSignalPollingHandlerTest::theLastOfABurstIsRecorded()
     for (int number = 1; number <= count; ++number)
         QVERIFY(send(number));
 
-    // Nothing is left over once the last one has been taken in.
+    // No signal is left after the last one was read.
     QVERIFY(handler.hasHeard(count));
     handler.resetLastSignal();
     QVERIFY(!handler.isSignalOccured());
@@ -162,7 +162,8 @@ void DBusConnectionSignalPollingHandlerTest::aSignalThatWasNotTakenInIsNotResetA
     QVERIFY(send("first"));
     QVERIFY(handler.hasHeard("first"));
 
-    // Signals arrive in order: when the other object's is there, the second one waits for its handler.
+    // Signals arrive in order: once the other object's signal is here, the second one is waiting in its
+    // handler.
     QVERIFY(send("second"));
     QVERIFY(m_service->sendSignal("/Other", changed, {"later"}));
     QVERIFY(other.hasHeard("later"));
@@ -273,7 +274,7 @@ void DBusConnectionSignalPollingHandlerTest::aBusThatCameBackIsHeardAgain()
 
     QVERIFY(m_bus->start());
     startService();
-    // Whatever is sent before the handler has found the bus again is lost, so it is sent until it is heard.
+    // Signals sent before the handler is connected again are lost, so send until one is received.
     QVERIFY(waitUntil([&] { return send("second") && handler.isSignalOccured(); }));
     QCOMPARE(handler.getSignalParameter(), QVariant("second"));
 }

@@ -54,7 +54,7 @@ QString busId()
     return DBusConnection::getQDBusConnection().call(question).arguments().value(0).toString();
 }
 
-// The id of a bus, asked of it by a program of its own.
+// The id of a bus, queried by a separate program.
 QString busId(const PrivateBus& bus)
 {
     QProcess send;
@@ -64,7 +64,7 @@ QString busId(const PrivateBus& bus)
     return QString::fromUtf8(send.readAllStandardOutput()).trimmed();
 }
 
-// What several threads that start together see as the connection's name on the bus.
+// The connection's name on the bus, as seen by several threads that start together.
 std::vector<QString> askAtOnce(std::size_t count)
 {
     std::vector<QString> names(count);
@@ -84,7 +84,7 @@ std::vector<QString> askAtOnce(std::size_t count)
     return names;
 }
 
-// Freezes the bus while nobody is connected to it. The bus is the one that DEVICE_BUS names.
+// Freezes the bus of DEVICE_BUS while no client is connected to it.
 bool restartAndHalt(PrivateBus& bus)
 {
     const QDBusConnection lost = DBusConnection::getQDBusConnection();
@@ -102,7 +102,7 @@ void DBusConnectionTest::initTestCase()
     QVERIFY(m_sessionBus.start());
     QVERIFY(m_systemBus.start());
     QVERIFY(m_otherBus.start());
-    // A process looks up its usual buses once.
+    // A process looks up the session bus and the system bus only once.
     qputenv("DBUS_SESSION_BUS_ADDRESS", m_sessionBus.address().toLocal8Bit());
     qputenv("DBUS_SYSTEM_BUS_ADDRESS", m_systemBus.address().toLocal8Bit());
 }
@@ -150,7 +150,7 @@ void DBusConnectionTest::theConnectionIsShared()
 void DBusConnectionTest::theConnectionIsSharedByThreads()
 {
     for (int round = 0; round < 100; ++round) {
-        // Another text for the same bus is another connection, not opened yet.
+        // A different address of the same bus is another connection, which is not open yet.
         const QString address =
             QStringLiteral("unix:path=/nonexistent/%1;").arg(round) + m_otherBus.address();
         qputenv("DEVICE_BUS", address.toLocal8Bit());
@@ -175,7 +175,7 @@ void DBusConnectionTest::aBusThatIsNotThereGivesAConnectionThatIsNotConnected()
     timer.start();
     for (int attempt = 0; attempt < 100; ++attempt)
         QVERIFY(!DBusConnection::getQDBusConnection().isConnected());
-    // Had they waited for anything, a hundred attempts would take longer than one call may.
+    // If each attempt blocked, a hundred attempts would exceed the time-out of one call.
     QVERIFY2(timer.elapsed() < DBusConnection::getCallTimeout(),
              qPrintable(QString::number(timer.elapsed())));
 }
@@ -210,7 +210,7 @@ void DBusConnectionTest::openingAFrozenBusWaitsOnce()
     QVERIFY(restartAndHalt(bus));
 
     constexpr int attempts = 100;
-    // A time-out for each attempt would take longer than the limit.
+    // A time-out for each attempt would exceed the limit.
     qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(2 * waitLimit / attempts));
     std::atomic<int> attempted = 0;
     std::atomic<int> connected = 0;
@@ -222,7 +222,7 @@ void DBusConnectionTest::openingAFrozenBusWaitsOnce()
     });
     const bool ended = waitUntil([&attempted] { return attempted == attempts; });
     const int connectedToFrozenBus = connected;
-    bus.resume(); // lets an attempt end that has no limit
+    bus.resume(); // releases an attempt without time-out
     thread.join();
     QVERIFY(ended);
     QCOMPARE(connectedToFrozenBus, 0);

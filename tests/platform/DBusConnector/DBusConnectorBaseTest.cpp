@@ -193,7 +193,7 @@ void DBusConnectorBaseTest::aBusThatHangsIsAskedNoLongerThanTheTimeOut()
     const qint64 elapsed = timer.elapsed();
     m_bus->resume();
     QVERIFY(!available);
-    QVERIFY(elapsed >= 150); // libdbus may round a time-out down a little
+    QVERIFY(elapsed >= 150); // libdbus may round a time-out down slightly
     QVERIFY(elapsed < 5000);
     QVERIFY(waitUntil([] { return Connector::isServiceAvailable("Module"); }));
 }

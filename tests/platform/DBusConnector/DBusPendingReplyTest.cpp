@@ -5,7 +5,7 @@
 #include <QtDBus/QDBusPendingCall>
 #include <QtTest/QTest>
 
-// How calls finish on a bus is tested with the connector that makes them; here they have finished.
+// Uses finished calls only; calls in progress are tested with the connector that makes them.
 class DBusPendingReplyTest : public QObject
 {
     Q_OBJECT

@@ -45,7 +45,7 @@ const QString graph = QStringLiteral(R"({
     "none": []
 })");
 
-// Notes what it is given, and answers as it is told.
+// Records its arguments and returns given results.
 class NotingManipulator : public UnitManipulatorBase
 {
 public:

@@ -12,7 +12,7 @@ namespace {
 const double infinity = std::numeric_limits<double>::infinity();
 const double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-/// The rule as it is defined, written with std::pow.
+/// The definition of the rounding rule, using std::pow.
 double roundedByDefinition(double value, unsigned int decimalPlaces)
 {
     const double scale = std::pow(10.0, decimalPlaces);

@@ -14,7 +14,7 @@ const QString keyFirst = QStringLiteral("first");
 const QString keySecond = QStringLiteral("second");
 const QString keyHasty = QStringLiteral("hasty");
 
-// What happened, in order: the states, the hooks and the destructors write here.
+// The events in order, recorded by the states, the hooks and the destructors.
 QStringList& events()
 {
     static QStringList list;
@@ -43,7 +43,7 @@ protected:
     }
 };
 
-// Holds a machine by value and is its parent, as the owners of machines do.
+// Contains a machine as a member and is its parent, as the owners of machines do.
 class MachineOwner : public QObject
 {
     Q_OBJECT
@@ -75,7 +75,7 @@ public:
         events() << QStringLiteral("StateFirst entered with ") + event.getName();
     }
 
-    // "go" is a transition from inside a step; the state then goes on using itself.
+    // "go" makes a transition within a step; the state is still used afterwards.
     void postEvent(const StateMachineEvent& event) override
     {
         events() << QStringLiteral("StateFirst step ") + event.getName();
