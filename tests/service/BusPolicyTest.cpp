@@ -18,13 +18,13 @@ namespace {
 const QString object = "UnitManagerConfiguration";
 const QString denied = "org.freedesktop.DBus.Error.AccessDenied";
 
-/// The user that runs this test, as a policy may name it.
+/// The user who runs this test, as named in a policy.
 QString thisUser()
 {
     return QString::number(::geteuid());
 }
 
-/// A user that is not the one that runs this test.
+/// A user other than the one who runs this test.
 QString anotherUser()
 {
     return QString::number(::geteuid() + 1);
@@ -32,8 +32,8 @@ QString anotherUser()
 
 } // namespace
 
-/// The installed policy, as a real bus applies it. Who is the service's user changes under way: the service
-/// takes its name while that is the user of this test; then it is another, and this test is just anybody.
+/// Applies the installed policy on a real bus. The service user changes during the test: while it is the user
+/// of this test, the service takes its name; then it is another user, and this test is an ordinary client.
 class BusPolicyTest : public QObject
 {
     Q_OBJECT
@@ -63,7 +63,7 @@ private:
     std::unique_ptr<ServiceClient> m_client;
 };
 
-/// The installed policy with another user in the place of the service's.
+/// The installed policy with the service user replaced.
 QString BusPolicyTest::policy(const QString& serviceUser) const
 {
     const QString unit = "lib/systemd/system/configuration-file-service.service";
@@ -112,7 +112,7 @@ void BusPolicyTest::cleanup()
     m_bus.reset();
 }
 
-// What the other tests find allowed is the policy's doing.
+// Shows that the permissions in the other tests come from the policy.
 void BusPolicyTest::withoutPolicyNobodyMayRead()
 {
     QVERIFY(startService());

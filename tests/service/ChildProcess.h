@@ -2,7 +2,7 @@
 
 #include <QtCore/QProcess>
 
-/// A process that ends with this object, and with the test, even when that crashes.
+/// A process that ends with this object, and with the test, even if the test crashes.
 class ChildProcess : public QProcess
 {
 public:

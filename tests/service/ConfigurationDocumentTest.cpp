@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A rule of the test's own.
+/// A rule for this test.
 QString forbidsBad(const JsonText& json)
 {
     return json.root.contains("bad") ? "it is bad" : "";

@@ -10,7 +10,7 @@
 #include "TestFiles.h"
 #include "WithoutPrivileges.h"
 
-/// Puts something at a path. @return whether it is there.
+/// Creates something at a path. @return whether it exists.
 using Make = bool (*)(const QString& path);
 Q_DECLARE_METATYPE(Make)
 

@@ -6,7 +6,7 @@
 #include "TestFiles.h"
 #include "UnitManager.h"
 
-/// The documents that pass are those that the libraries of the applications load.
+/// The accepted documents are those that the libraries of the applications can load.
 class DocumentRulesTest : public QObject
 {
     Q_OBJECT

@@ -13,7 +13,7 @@
 
 using namespace std::chrono_literals;
 
-/// Which changes are seen, the service's tests show; here is when they are reported.
+/// Tests when changes are reported; for which changes are detected see ServiceAnnouncementsTest.
 class DocumentWatcherTest : public QObject
 {
     Q_OBJECT
@@ -58,7 +58,7 @@ void DocumentWatcherTest::burstIsReportedWhenItHasGoneQuiet()
     }
     QVERIFY(reports.wait(waitLimit));
     QCOMPARE(reports.size(), 1);
-    // A timer may be early by a twentieth.
+    // A timer may be five per cent early.
     QVERIFY2(sinceLastChange.elapsed() >= 450, qPrintable(QString::number(sinceLastChange.elapsed())));
 }
 
@@ -100,7 +100,7 @@ void DocumentWatcherTest::exchangeFurtherUpIsReported()
     QVERIFY(QDir(top.filePath("before")).removeRecursively());
 }
 
-// It may well get the number that the old one had.
+// The new directory may get the inode number of the old one.
 void DocumentWatcherTest::directoryMadeAnewIsWatched()
 {
     QVERIFY(QFile::remove(m_file));
@@ -141,7 +141,7 @@ void DocumentWatcherTest::placeThatCannotBeWatchedIsLoggedOnce()
     QSignalSpy reports(&watcher, &DocumentWatcher::touched);
     QCOMPARE(log.takeTexts().join('\n'), "Cannot watch " + closed + ": changes there may go unnoticed");
 
-    // The file itself is watched all the same.
+    // The file itself is still watched.
     QVERIFY(TestFiles::write(m_file, "another text"));
     QVERIFY(reports.wait());
     QCOMPARE(log.takeTexts(), QStringList());

@@ -15,7 +15,7 @@ const QString policy = "share/dbus-1/system.d/org.measuringdevice.DeviceManager.
 
 } // namespace
 
-/// The installed files fit each other, and the program.
+/// The installed files are consistent with each other and with the program.
 class InstalledServiceTest : public QObject
 {
     Q_OBJECT

@@ -38,7 +38,7 @@ private:
 
 void PathTrailTest::initTestCase()
 {
-    // What leads to the test's directory is not the test's business.
+    // Symbolic links in the path of the test's directory do not belong to the test.
     m_base = QDir(m_directory.path()).canonicalPath();
     QVERIFY(QDir(m_base).mkpath("a/b"));
     QVERIFY(QDir(m_base).mkpath("c"));

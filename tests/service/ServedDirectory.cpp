@@ -18,7 +18,7 @@ bool ServedDirectory::start()
 {
     if (!m_bus.start())
         return false;
-    // Listening first, so that an announcement at the start would be heard.
+    // Listen first, so that an announcement during the start is received.
     m_client = std::make_unique<ServiceClient>(m_bus.address());
     return m_service.serve(directory(), m_bus.address());
 }

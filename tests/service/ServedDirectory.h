@@ -10,23 +10,23 @@
 #include "ServiceClient.h"
 #include "ServiceProcess.h"
 
-/// A directory with three good documents, the service that serves it on a bus of its own, and a client.
+/// A directory with three valid documents, the service that serves it on a private bus, and a client.
 class ServedDirectory
 {
 public:
     /// Writes the documents: units "first", default units "first", dependencies "first".
     ServedDirectory();
 
-    /// Starts bus, service and client. @return whether all are there.
+    /// Starts bus, service and client. @return whether all are running.
     bool start();
 
     /// The path of a file in the directory.
     QString path(const QString& file) const;
-    /// The path of the directory. It lies in a directory of its own, in which nothing else is.
+    /// The path of the directory, which is the only entry of its parent directory.
     QString directory() const;
 
-    /// Waits until the service has seen all that was done to the files before: the dependencies are changed,
-    /// and that is announced. @return the announcements made since start() or the last call, without that
+    /// Waits until the service has processed all earlier file changes, by changing the dependencies and
+    /// waiting for their announcement. @return the announcements since start() or the last call, without that
     /// one.
     QStringList settledAnnouncements();
 

@@ -47,7 +47,7 @@ bool linkToAnotherFile(const ServedDirectory& served, const QByteArray& text)
            TestFiles::link("units of another name", served.path("units.json"));
 }
 
-/// A directory with the other two documents as they are, and @p text as units.
+/// A directory with @p text as units and copies of the other two documents.
 bool fillDirectory(const ServedDirectory& served, const QString& path, const QByteArray& text)
 {
     return QDir().mkpath(path) && TestFiles::write(path + "/units.json", text) &&
@@ -79,7 +79,7 @@ bool linkToAnotherDirectory(const ServedDirectory& served, const QByteArray& tex
 
 } // namespace
 
-/// When the program announces that a document has changed, and when not.
+/// When the program announces a change of a document, and when it does not.
 class ServiceAnnouncementsTest : public QObject
 {
     Q_OBJECT
@@ -120,7 +120,7 @@ void ServiceAnnouncementsTest::changeIsAnnouncedOnce()
     QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(next), waitLimit);
     QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
 
-    // Whatever the change has made of the file, it is still watched.
+    // The file is still watched, regardless of how it was changed.
     const QByteArray last = TestFiles::units("last");
     QVERIFY(overwriteInPlace(served, last));
     QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(last), waitLimit);
@@ -143,7 +143,7 @@ void ServiceAnnouncementsTest::eachDocumentIsAnnouncedByItsObject()
                               "DependencyConfiguration UnitManager/Dependency", waitLimit);
 }
 
-// The documents are links through a link that is turned from one version to the next.
+// The documents are reached through a symbolic link that is switched from one version to the next.
 void ServiceAnnouncementsTest::swappedVersionsAreAnnounced()
 {
     ServedDirectory served;
@@ -204,7 +204,7 @@ void ServiceAnnouncementsTest::burstIsAnnouncedOnce()
     ServedDirectory served;
     QVERIFY(served.start());
 
-    // Held for the moment, so that the whole burst meets it at once however busy the machine is.
+    // Stop the service, so that it receives the whole burst at once even if the machine is busy.
     QVERIFY(served.service().send(SIGSTOP));
     for (int count = 1; count <= 50; ++count)
         QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units(QString::number(count))));

@@ -6,7 +6,7 @@
 #include "ServedDirectory.h"
 #include "TestFiles.h"
 
-/// What the program answers on the bus, and that it answers nothing else.
+/// The program's answers on the bus; it must not answer anything else.
 class ServiceAnswersTest : public QObject
 {
     Q_OBJECT

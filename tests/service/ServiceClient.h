@@ -5,7 +5,7 @@
 #include <QtCore/QStringList>
 #include <QtDBus/QDBusMessage>
 
-/// An application on the bus: asks the service and hears its announcements, while its event loop runs.
+/// An application on the bus: calls the service, and receives its announcements while the event loop runs.
 class ServiceClient : public QObject
 {
     Q_OBJECT
@@ -14,17 +14,17 @@ public:
     explicit ServiceClient(const QString& address);
     ~ServiceClient() override;
 
-    /// Calls a method of the service's interface. @return the reply, an error after a minute.
+    /// Calls a method of the service's interface. @return the reply; an error after a minute.
     QDBusMessage call(const QString& object, const QString& method, const QStringList& arguments) const;
-    /// The same for any interface and any program on the bus.
+    /// Calls a method of any interface and program on the bus. @return the reply; an error after a minute.
     QDBusMessage call(const QString& program, const QString& object, const QString& interface,
                       const QString& method, const QVariantList& arguments = {}) const;
 
-    /// The text that an object serves under a name, by the method that is meant for it; else "error: " and
-    /// the error's name.
+    /// The text that an object serves under its name by its own method; on error "error: " and the error's
+    /// name.
     QString text(const QString& object) const;
 
-    /// The announcements heard so far, oldest first: the object's name, a blank, and the name announced.
+    /// The announcements received so far, oldest first: the object's name, a blank, and the announced name.
     QStringList announcements() const;
 
 private slots:

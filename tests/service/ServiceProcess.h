@@ -6,31 +6,32 @@
 
 #include "ChildProcess.h"
 
-/// The program under test as a process of its own, which ends with the test.
+/// The program under test in a separate process, which ends with the test.
 class ServiceProcess
 {
 public:
-    /// Not started. What the environment says about Qt's own messages stays with the test.
+    /// Does not start the program. Removes settings of Qt's messages from its environment.
     ServiceProcess();
 
-    /// Starts the program. @return whether it says, within a minute, that it serves.
+    /// Starts the program. @return whether it reports within a minute that it is serving.
     bool start(const QStringList& arguments);
-    /// The same on a bus. @param bus as the program's option takes it
+    /// Starts the program on a bus. @param bus value of the program's option
+    /// @return as start()
     bool serve(const QString& directory, const QString& bus);
-    /// Starts the program and waits for its end. @return its exit code; -1 when it crashes or does not end.
+    /// Runs the program to its end. @return its exit code; -1 if it crashes or does not end.
     int run(const QStringList& arguments);
-    /// Waits for the end of a program that was started. @return as run()
+    /// Waits for the end of a started program. @return as run()
     int waitForEnd();
 
-    /// Sets a variable of the environment in which the program is started.
+    /// Sets an environment variable of the program.
     void setVariable(const QString& name, const QString& value);
 
-    /// Sends the process a signal such as SIGTERM. @return whether that was possible.
+    /// Sends a signal such as SIGTERM to the process. @return whether that succeeded.
     bool send(int signal) const;
 
-    /// All that it has printed on standard output so far.
+    /// Everything printed to standard output so far.
     QString output();
-    /// All that it has printed on standard error so far.
+    /// Everything printed to standard error so far.
     QString log();
 
 private:

@@ -15,7 +15,7 @@ const QString noDocument = "error: org.measuringdevice.ConfigurationFileHandler.
 
 } // namespace
 
-/// What the program does with a document that it cannot serve.
+/// How the program handles a document that it cannot serve.
 class ServiceRefusalsTest : public QObject
 {
     Q_OBJECT

@@ -42,7 +42,7 @@ bool SystemBus::start()
     if (!TestFiles::write(file, QString(rulesOfTheSystem).arg(m_directory.path()).toUtf8()))
         return false;
     m_daemon.start("dbus-daemon", {"--config-file=" + file, "--nofork", "--nopidfile", "--print-address"});
-    // It prints its address when it listens.
+    // The daemon prints its address once it is listening.
     return m_daemon.waitForReadyRead(waitLimit);
 }
 

@@ -5,17 +5,17 @@
 
 #include "ChildProcess.h"
 
-/// A bus of the test's own with the rules of the usual system bus: no name and no method call are allowed,
-/// unless further rules do. For one test; ends with it.
+/// A private bus with the rules of the system bus: names and method calls are denied unless further rules
+/// allow them. For one test; ends with it.
 class SystemBus
 {
 public:
-    /// Writes the rules that are added to those of the system bus. They count from start() on, or from the
-    /// next call of the bus's method ReloadConfig. @param rules a whole configuration file
+    /// Writes the rules that are added to those of the system bus. They apply from start(), or from the next
+    /// call of the bus's method ReloadConfig. @param rules a complete configuration file
     /// @return whether they were written.
     bool setRules(const QString& rules);
 
-    /// Starts the bus and waits until it listens. @return false when it does not come up in a minute.
+    /// Starts the bus and waits until it listens. @return false if it does not start within a minute.
     bool start();
 
     QString address() const;

@@ -3,25 +3,25 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
-/// Files of the test's own, the ways in which editors leave them, and documents to fill them with.
+/// Files of the tests, written in the same ways as by editors, and documents as their content.
 namespace TestFiles {
 
-/// Writes into the file itself, which is there for the moment half written. @return whether it was written.
+/// Overwrites the file in place, so that it is incomplete for a moment. @return whether it was written.
 bool write(const QString& path, const QByteArray& bytes);
 
-/// Puts another file in the place of the one of that name. @return whether that was done.
+/// Replaces the file by a new one of the same name. @return whether that succeeded.
 bool replace(const QString& path, const QByteArray& bytes);
 
-/// Makes or changes a symbolic link in one step. @return whether that was done.
+/// Creates or changes a symbolic link atomically. @return whether that succeeded.
 bool link(const QString& target, const QString& path);
 
-/// A good unit document; the label makes the difference between two of them.
+/// A valid unit document; documents with different labels differ.
 QByteArray units(const QString& label);
 
-/// A good default-unit document.
+/// A valid default-unit document.
 QByteArray defaultUnits(const QString& unit);
 
-/// A good dependency document.
+/// A valid dependency document.
 QByteArray dependencies(const QString& dependent);
 
 } // namespace TestFiles

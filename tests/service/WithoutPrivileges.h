@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <unistd.h>
 
-/// While it lives, permissions hold for this process as they do for an ordinary user, also when root runs it.
+/// During its lifetime, this process has the permissions of an ordinary user, even if root runs it.
 class WithoutPrivileges
 {
 public:
@@ -20,7 +20,7 @@ public:
     WithoutPrivileges(const WithoutPrivileges&) = delete;
     WithoutPrivileges& operator=(const WithoutPrivileges&) = delete;
 
-    /// Whether the privileges are gone.
+    /// Whether the privileges were dropped.
     bool isEffective() const
     {
         return m_isEffective;

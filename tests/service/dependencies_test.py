@@ -1,4 +1,4 @@
-"""The shipped dependency document is sound and complete, and each kind of fault in one is found and named."""
+"""The shipped dependency document is valid and complete, and each kind of fault is detected and reported."""
 
 import pathlib
 import sys
@@ -10,9 +10,9 @@ PROJECT = pathlib.Path(__file__).resolve().parents[2]
 CONFIG = PROJECT / "config"
 sys.path.append(str(PROJECT / "tests" / "config"))
 
-import document_rules  # noqa: E402 (found only now)
+import document_rules  # noqa: E402 (needs the path above)
 
-# Situation -> document, and how the one finding begins.
+# Situation -> document and start of the only finding.
 BROKEN = {
     "document is a list": ([], "$: type"),
     "key is empty": ({"": ["Pressure"]}, "$: pattern"),
