@@ -1,4 +1,4 @@
-"""What the loader is told about the library: its versioned name, and that it needs nothing but what it is allowed."""
+"""The library's information for the loader: its versioned name, and that it needs only permitted libraries."""
 
 import re
 import sys

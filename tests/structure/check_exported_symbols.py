@@ -1,11 +1,11 @@
-"""What the library exports of its own, against the list under version control.
+"""Compares the library's own exported symbols with the list under version control.
 
-With a last argument `--update` the list is written anew from the library of a build:
+With `--update` as last argument, rewrites the list from the library of a build:
 
     python3 tests/structure/check_exported_symbols.py build/release/tests/structure/project.json --update
 
-Listed are functions, virtual tables, type information and the factories' registries. Weak functions (inline ones,
-instances of templates) come and go with compiler and build type: they are not listed, but must belong to an exported
+The list contains functions, virtual tables, type information and the factories' registries. Weak functions (inline
+functions, template instances) depend on compiler and build type: they are not listed, but must belong to an exported
 class, to Qt or to the standard library.
 """
 
@@ -23,7 +23,7 @@ QT_OR_STANDARD = re.compile(r"^(\w+ )?(std::|__gnu_cxx::|Q[A-Za-z]+(::|<))")
 
 
 def exported_symbols(library):
-    """(whether others may define it too, demangled name) of every symbol that can be linked to."""
+    """(is weak or unique, demangled name) of every symbol that can be linked to."""
     return {(letter in "VWuvw", name) for letter, name in dynamic_symbols(library, "--defined-only")
             if not COVERAGE_COUNTER.match(name)}
 

@@ -1,4 +1,4 @@
-"""Every installed header compiles as the only one of a program, with every warning an error, under both compilers."""
+"""Every installed header compiles on its own, with warnings as errors, with both compilers."""
 
 import os
 import subprocess
@@ -11,7 +11,7 @@ WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wconversion", "-Wshadow", "-Werr
 
 
 def compile_alone(compiler, header, flags):
-    """An empty text, or what the compiler says about a program that includes the header, and includes it again."""
+    """The compiler's errors for a program that includes the header twice; empty if there are none."""
     command = [compiler, "-std=c++17", "-fPIC", *WARNINGS, *flags, "-fsyntax-only", "-x", "c++", "-"]
     source = f'#include "{header}"\n' * 2
     result = subprocess.run(command, input=source, capture_output=True, text=True, check=False)

@@ -1,4 +1,4 @@
-"""Includes run one way: no source of the library reaches up, into the platform's private headers or out of the tree."""
+"""No source of the library includes a higher layer, private headers of the platform, or files outside the tree."""
 
 import re
 import sys
@@ -6,7 +6,7 @@ from pathlib import Path
 
 from project import Project, finish
 
-# From the lowest layer up; a file may include its own layer and those before it. The first match counts.
+# From the lowest layer up; a file may include its own layer and those before it. The first match is used.
 LAYERS = [
     ("common", r"Diagnostics|FixedUnit|WriteResult|UnitManagerDefinitions|UnitManagerExport"),
     ("value conversion", r"UnitConversion/(Factory|ConverterConfiguration|PolynomialEvaluation|Value\w+)"),
@@ -23,7 +23,7 @@ PLATFORM_MAY_INCLUDE = {"UnitConversion/Factory.h"}
 
 
 def layer_of(path):
-    """The number of a file's layer, or None when no layer takes it."""
+    """The number of a file's layer, or None if it is in no layer."""
     stem = path.rpartition(".")[0]
     return next((index for index, (_, files) in enumerate(LAYERS) if re.fullmatch(files, stem)), None)
 
@@ -37,7 +37,7 @@ def sources_below(folder):
 
 
 def check_library_file(name, includes, sources, platform_headers):
-    """What is wrong with the includes of a file below src/."""
+    """The faults in the includes of a file in src/."""
     layer = layer_of(name)
     if layer is None:
         yield f"src/{name}: stands in no layer"
@@ -55,7 +55,7 @@ def check_library_file(name, includes, sources, platform_headers):
 
 
 def check_installed_header(name, text):
-    """What a header offers to users that they cannot use."""
+    """The members of an installed header that users cannot use."""
     if "LogContext" in text:
         yield f"src/{name}: is installed and mentions the internal LogContext"
     access = "public"

@@ -1,8 +1,8 @@
-"""Virtual functions in slot order, bases and members in order, of the exported classes: what device programs that
-were linked before rely on.
+"""Checks the order of virtual functions, bases and members of the exported classes, because existing device programs
+rely on it.
 
-Each class is derived from by a probe whose own virtual function makes the compiler write the whole table down. A
-table's patterns may hold `*` for what is free, such as the name of a member that nobody outside knows.
+A probe is derived from each class; its own virtual function makes the compiler dump the whole virtual table. The
+patterns of a table may contain `*` for variable parts, such as the name of a private member.
 """
 
 import json
@@ -20,7 +20,7 @@ BASE_SUFFIX = re.compile(r" \((primary )?base\)( \(empty\))?$")
 
 
 def plain(text):
-    """A type or function as a reader would write it."""
+    """A type or function in its usual notation."""
     text = re.sub(r"\b(class|struct|enum|union) ", "", text).replace("_Bool", "bool")
     text = re.sub(r" \[\w+ = [^\]]*\]", "", text)
     return re.sub(r" (?=[>*&])", "", text)
@@ -41,11 +41,11 @@ def probe_source(headers, classes):
 
 
 def virtual_functions(dump):
-    """Probe -> the functions of its table, in slot order, without the probe's own."""
+    """Probe -> the functions in its virtual table, in slot order, without the probe's own function."""
     tables = {}
     for probe, body in VTABLE.findall(dump + "\n\n"):
         slots = [plain(slot).replace(f"{probe}::~{probe}()", "destructor") for slot in SLOT.findall(body)]
-        tables[probe] = slots[2:-1]  # offset to top and type information before, the probe's function behind
+        tables[probe] = slots[2:-1]  # drop offset to top, type information and the probe's function
     return tables
 
 
@@ -81,14 +81,14 @@ def compare(name, what, expected, seen):
 
 
 def without_object_slots(name, slots, object_slots):
-    """What follows the functions of QObject, and a problem when the class has no meta-object of its own."""
+    """The functions after those of QObject, and a problem if the class does not have its own meta-object."""
     meta_object = f"const QMetaObject*{name}::metaObject() const"
     own = slots[:1] == [meta_object]
     return slots[len(object_slots):], [] if own else [f"{name}: no meta-object of its own, but {slots[:1]}"]
 
 
 def read_rows(project):
-    """The rows whose headers are installed, and a problem for each table of which another number is left."""
+    """The rows whose headers are installed, and a problem for each table with an unexpected number of such rows."""
     rows, problems = {}, []
     for table in project.facts["layouts"]:
         with open(Path(__file__).parent / "data" / table["file"], encoding="utf-8") as file:

@@ -1,4 +1,4 @@
-"""A program outside of the tree builds and runs with the installed CMake package and with pkg-config."""
+"""A program outside the tree builds and runs with the installed CMake package and with pkg-config."""
 
 import shutil
 import sys
@@ -11,7 +11,7 @@ EXPECTED = "1.013 bar\n"
 
 
 def build_with_cmake(project, folder):
-    """The program, built by a project of its own that finds the package."""
+    """Builds the program as a separate CMake project that uses the package."""
     run([project.facts["cmake"], "-S", folder, "-B", folder / "build", "-G", project.facts["generator"],
          f"-DCMAKE_CXX_COMPILER={project.facts['compiler']}", f"-DCMAKE_PREFIX_PATH={project.prefix}",
          "-DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF"])
@@ -20,7 +20,7 @@ def build_with_cmake(project, folder):
 
 
 def build_with_pkg_config(project, folder):
-    """The program, built by one command; the loader is told where the library stands."""
+    """Builds the program with a single command, with a run path to the library."""
     program = folder / "consumer"
     run([project.facts["compiler"], "-std=c++17", "-fPIC", folder / "main.cpp", "-o", program,
          *project.package_flags("--cflags", "--libs"), f"-Wl,-rpath,{project.library_dir}"])

@@ -1,4 +1,4 @@
-"""The library builds against an installed platform package, with nothing of the stand-in configured."""
+"""The library builds against an installed platform package, without configuring platform/."""
 
 import json
 import os
@@ -11,7 +11,7 @@ REPLY = ".cmake/api/v1"
 
 
 def configured_targets(build):
-    """Name -> folder below the project's root, of every target of a build tree whose code model was asked for."""
+    """Name -> folder relative to the project's root, for every target of a build tree with a code model query."""
     reply = build / REPLY / "reply"
     (model,) = reply.glob("codemodel-v2-*.json")
     configuration = json.loads(model.read_text(encoding="utf-8"))["configurations"][0]

@@ -1,11 +1,12 @@
-"""What the library takes from the platform's own libraries, against the list under version control: it is what every
-substitute has to offer.
+"""Compares the symbols that the library uses from the platform's own libraries with the list under version control.
+Every replacement of the platform must provide them.
 
-With a last argument `--update` the list is written anew from the library of a build:
+With `--update` as last argument, rewrites the list from the library of a build:
 
     python3 tests/structure/check_platform_symbols.py build/release/tests/structure/project.json --update
 
-Listed are functions and variables. What compilers make of classes (virtual tables, type information) is left out.
+The list contains functions and variables, but no symbols that compilers generate for classes (virtual tables, type
+information).
 """
 
 import sys

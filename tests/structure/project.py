@@ -1,4 +1,4 @@
-"""What the checks of this folder share: the description of the build that CMake wrote, and how a check ends."""
+"""Shared by the checks of this folder: the description of the build, written by CMake, and the end of a check."""
 
 import json
 import os
@@ -8,7 +8,7 @@ import sys
 from pathlib import Path
 
 
-# What compilers make of classes.
+# Symbols that compilers generate for classes.
 SPECIAL_PREFIX = re.compile(
     r"^(vtable|VTT|typeinfo|typeinfo name|guard variable|(non-virtual |virtual )?thunk) (for|to) ")
 
@@ -29,7 +29,7 @@ class Project:
         self.platform_headers = self.facts["platformHeaders"]
 
     def package_flags(self, *options):
-        """What pkg-config answers for the installed library, in which includes of other packages are system ones."""
+        """The flags from pkg-config for the installed library; includes of other packages become system includes."""
         environment = dict(os.environ, PKG_CONFIG_PATH=str(self.library_dir / "pkgconfig"))
         answer = run(["pkg-config", *options, "unitmanager"], env=environment)
         flags = []
@@ -45,7 +45,7 @@ class Project:
 
 
 def run(command, **options):
-    """The standard output of a command; ends the check with everything it wrote when it fails."""
+    """The standard output of a command; if it fails, ends the check and prints the command's output."""
     result = subprocess.run(command, capture_output=True, text=True, check=False, **options)
     if result.returncode != 0:
         sys.exit(f"{' '.join(map(str, command))}\nfailed with {result.returncode}\n{result.stdout}{result.stderr}")
@@ -53,14 +53,14 @@ def run(command, **options):
 
 
 def dynamic_symbols(library, kind):
-    """(nm's letter, demangled name) of the symbols that a library defines ("--defined-only") or takes from others
+    """(nm's letter, demangled name) of the symbols that a library defines ("--defined-only") or uses from others
     ("--undefined-only")."""
     return [(line[17], line[19:]) for line in run(["nm", "-D", "-C", kind, library]).splitlines()]
 
 
 def differences(found, list_file, verb):
-    """What is found but not in the list under version control, and the other way round. With `--update` as the check's
-    last argument the list is written anew first."""
+    """The differences between the symbols found and the list under version control. With `--update` as the check's last
+    argument, rewrites the list first."""
     if "--update" in sys.argv[2:]:
         list_file.write_text("\n".join(found) + "\n", encoding="utf-8")
     listed = list_file.read_text(encoding="utf-8").splitlines()
@@ -69,7 +69,7 @@ def differences(found, list_file, verb):
 
 
 def finish(problems, summary):
-    """Ends the check: with every problem on a line of its own, or with what was looked at."""
+    """Ends the check and prints each problem on a separate line, or what was checked if there are none."""
     if problems:
         sys.exit("\n".join([*problems, f"{len(problems)} problem(s)"]))
     print(summary)
