@@ -50,7 +50,7 @@ bool BusMonitor::start()
 
 QStringList BusMonitor::takeCalls(const QDBusConnection& caller)
 {
-    // The mark is sent after the calls and on the same connection, so it is heard after them.
+    // The mark is sent after the calls on the same connection, so it arrives after them.
     const QString mark = QStringLiteral("Mark%1").arg(++m_marks);
     caller.send(QDBusMessage::createSignal(QStringLiteral("/"), QStringLiteral("org.example.Monitor"), mark));
     if (!readUntil("member=" + mark.toLatin1() + '\n'))

@@ -5,7 +5,7 @@
 #include <QtCore/QStringList>
 #include <QtDBus/QDBusConnection>
 
-/// Listens to everything that is said on a bus.
+/// Receives all messages on a bus.
 class BusMonitor
 {
 public:
@@ -14,12 +14,12 @@ public:
     BusMonitor(const BusMonitor&) = delete;
     BusMonitor& operator=(const BusMonitor&) = delete;
 
-    /// Starts to listen. @return false when the bus does not let it within a minute.
+    /// Starts monitoring. @return false if the bus does not permit it within a minute.
     bool start();
 
-    /// What one connection has called since the last takeCalls(), oldest first: each as "<destination>
-    /// <member>", followed by the call's first argument when that is a string.
-    /// @return a list of one empty entry when the monitor has ended or heard nothing for a minute.
+    /// The calls of one connection since the last takeCalls(), oldest first: each as "<destination>
+    /// <member>", followed by the call's first argument if it is a string.
+    /// @return a list with one empty entry if the monitor has ended or received nothing for a minute.
     QStringList takeCalls(const QDBusConnection& caller);
 
 private:

@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-/// The bits of a number, which tell every NaN and the signs of zero apart.
+/// The bits of a number, which distinguish every NaN and the signs of zero.
 inline quint64 bitsOf(double number)
 {
     quint64 bits = 0;
@@ -12,7 +12,7 @@ inline quint64 bitsOf(double number)
     return bits;
 }
 
-/// The number of given bits.
+/// The number with the given bits.
 inline double doubleFromBits(quint64 bits)
 {
     double number = 0.0;

@@ -2,7 +2,7 @@
 
 #include <QtCore/QString>
 
-/// Whether a text is empty, and not a null one: Qt's own comparison makes no difference between the two.
+/// Whether a text is empty but not null; Qt's own comparison treats both as equal.
 inline bool isEmptyText(const QString& text)
 {
     return text.isEmpty() && !text.isNull();

@@ -7,10 +7,10 @@
 
 QString exactText(double number)
 {
-    // The sign of a NaN says nothing.
+    // The sign of a NaN is not significant.
     if (std::isnan(number))
         return QStringLiteral("nan");
-    std::ostringstream text; // QString::asprintf() takes "%a" for "%f"
+    std::ostringstream text; // QString::asprintf() treats "%a" as "%f"
     text << std::hexfloat << number;
     return QString::fromStdString(text.str());
 }

@@ -5,12 +5,12 @@
 #include <QtCore/QVariant>
 #include <QtCore/QVector>
 
-/// A number as text, in hexadecimal digits: equal for the same double only, the sign of a zero included. Qt's
-/// own comparison of doubles lets small differences pass.
+/// A number as hexadecimal text: equal only for the same double, including the sign of zero. Qt's own
+/// comparison of doubles ignores small differences.
 QString exactText(double number);
 
-/// A variant's type and value as text; numbers of floating type as above.
+/// A variant's type and value as text; for floating-point numbers see exactText(double).
 QString exactText(const QVariant& value);
 
-/// The numbers one by one.
+/// The texts of the numbers, see exactText().
 QStringList exactTexts(const QVector<double>& numbers);

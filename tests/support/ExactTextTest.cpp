@@ -5,7 +5,7 @@
 
 #include "ExactText.h"
 
-/// A comparison that lets differences pass would hide faults in all tests that use it.
+/// A comparison that ignores differences would hide faults in all tests that use it.
 class ExactTextTest : public QObject
 {
     Q_OBJECT

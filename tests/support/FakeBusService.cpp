@@ -6,7 +6,7 @@
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusVirtualObject>
 
-/// Every object of the service at once.
+/// Implements all objects of the service.
 class FakeBusService::Objects : public QDBusVirtualObject
 {
 public:
@@ -54,7 +54,7 @@ FakeBusService::FakeBusService(const QString& address, const QString& serviceNam
 
 FakeBusService::~FakeBusService()
 {
-    // While it closes, the connection may still look for the object.
+    // The connection may still access the object while it closes.
     QDBusConnection(m_connectionName).unregisterObject(QStringLiteral("/"), QDBusConnection::UnregisterTree);
     QDBusConnection::disconnectFromBus(m_connectionName);
     m_thread.quit();

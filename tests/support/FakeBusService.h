@@ -9,19 +9,19 @@
 #include <functional>
 #include <memory>
 
-/// A peer on a bus that plays any service: it owns a name, answers every call to every object by a function
-/// of the test, and sends signals. It has a connection and a thread of its own, so it answers while the test
-/// blocks.
+/// A peer on a bus that simulates any service: it owns a name, answers every call to every object with a
+/// function of the test, and sends signals. It has its own connection and thread, so it answers while the
+/// test blocks.
 class FakeBusService
 {
 public:
-    /// Makes the answer to a call, on the service's thread; a default message means that no answer is ever
+    /// Creates the answer to a call, on the service's thread. For a default-constructed message, no answer is
     /// sent.
     using Answer = std::function<QDBusMessage(const QDBusMessage& call)>;
 
-    /// Connects and takes the name; isRunning() tells whether that worked.
+    /// Connects and takes the name; isRunning() returns whether that succeeded.
     FakeBusService(const QString& address, const QString& serviceName, const Answer& answer);
-    /// Leaves the bus.
+    /// Disconnects from the bus.
     ~FakeBusService();
     FakeBusService(const FakeBusService&) = delete;
     FakeBusService& operator=(const FakeBusService&) = delete;
@@ -31,16 +31,16 @@ public:
     /// Sends a signal from the object at `path`. @return whether it was sent.
     bool sendSignal(const QString& path, const QString& name, const QVariantList& arguments) const;
 
-    /// The calls that have arrived, of whatever interface, oldest first.
+    /// The calls received so far, of any interface, oldest first.
     QList<QDBusMessage> calls() const;
 
-    /// An answer with one value.
+    /// Answers with one value.
     static Answer withValue(const QVariant& value);
-    /// An answer without a value.
+    /// Answers without a value.
     static Answer withoutValue();
-    /// An error as the answer.
+    /// Answers with an error.
     static Answer withError(const QString& name);
-    /// No answer, ever.
+    /// Never answers.
     static Answer never();
 
 private:

@@ -5,8 +5,8 @@
 #include <QtCore/QStringList>
 #include <QtCore/QtGlobal>
 
-/// One message as the Qt message handler received it. The function text has no blank before "&" and "*",
-/// which compilers spell differently.
+/// A message as the Qt message handler received it. Blanks before "&" and "*" are removed from the function
+/// text, because compilers differ in them.
 struct LoggedMessage
 {
     QtMsgType type = QtDebugMsg;
@@ -17,7 +17,8 @@ struct LoggedMessage
     QString category;
 };
 
-/// Collects every message logged while it lives, instead of printing it. One at a time, one thread.
+/// Collects all messages logged during its lifetime instead of printing them. One instance at a time, for one
+/// thread.
 class LogCapture
 {
 public:
@@ -26,9 +27,9 @@ public:
     LogCapture(const LogCapture&) = delete;
     LogCapture& operator=(const LogCapture&) = delete;
 
-    /// The messages since construction or the last take(), oldest first; they are forgotten here.
+    /// Takes the messages logged since construction or the last take() out of the log, oldest first.
     QList<LoggedMessage> take();
-    /// The texts of take().
+    /// The texts of the messages, see take().
     QStringList takeTexts();
 
 private:

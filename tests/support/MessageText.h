@@ -6,21 +6,21 @@
 
 #include "LogCapture.h"
 
-/// Stands for a line number that is positive, whichever.
+/// Represents any positive line number.
 constexpr int anyLine = -1;
 
-/// Whether line numbers are written out, or replaced by "any" where they are positive.
+/// Whether positive line numbers are printed or replaced by "any".
 enum class LineNumbers
 {
     Exact,
     Any
 };
 
-/// Everything about a message in one line of text: level, file, line, function, category, text.
+/// A message as one line of text: level, file, line, function, category, text.
 QString messageText(const LoggedMessage& message);
 
-/// The messages one by one.
+/// The texts of the messages, see messageText().
 QStringList messageTexts(const QList<LoggedMessage>& messages, LineNumbers lineNumbers = LineNumbers::Exact);
 
-/// The text that messageText() gives for a warning of the default category.
+/// The result of messageText() for a warning of the default category.
 QString warningText(const QString& file, int line, const QString& function, const QString& text);

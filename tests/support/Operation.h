@@ -1,14 +1,15 @@
 #pragma once
 
-/// Whether a class has an operation of exactly this signature, as in
-/// `hasOperation<Class, bool(int) const>(&Class::operation)`; if not, that does not compile.
+/// Checks that a class has a function with exactly this signature, as in
+/// `hasOperation<Class, bool(int) const>(&Class::operation)`; otherwise the call does not compile.
 template <typename Class, typename Signature>
 constexpr bool hasOperation(Signature Class::*)
 {
     return true;
 }
 
-/// The same for a static operation, as in `hasStaticOperation<bool(int)>(&Class::operation)`.
+/// Checks that a static function has exactly this signature, as in
+/// `hasStaticOperation<bool(int)>(&Class::operation)`; otherwise the call does not compile.
 template <typename Signature>
 constexpr bool hasStaticOperation(Signature*)
 {

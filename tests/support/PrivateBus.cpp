@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Ends with the test, even when that crashes.
+/// Ends with the test, even if the test crashes.
 class Daemon : public QProcess
 {
 protected:
@@ -27,7 +27,7 @@ bool writeFile(const QString& path, const QString& text)
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
-// The limits are those of the usual session bus: the ones built into the daemon are meant for the system bus.
+// The limits of the usual session bus; the daemon's built-in limits are meant for the system bus.
 QString configuration(const QString& socket, const QString& serviceDirectory, const QString& denied)
 {
     return QStringLiteral(R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
@@ -55,7 +55,7 @@ QString configuration(const QString& socket, const QString& serviceDirectory, co
 
 } // namespace
 
-// A short name, because the path of a socket is limited to about a hundred characters.
+// A short name, because the length of a socket path is limited to about a hundred characters.
 PrivateBus::PrivateBus() : m_directory(QDir::tempPath() + QStringLiteral("/bus-XXXXXX")), m_daemon(new Daemon)
 {
     m_daemon->setProgram(QStringLiteral("dbus-daemon"));
@@ -83,7 +83,7 @@ bool PrivateBus::start()
         return false;
 
     m_daemon->start(QIODevice::ReadOnly);
-    // The daemon prints its address when it listens.
+    // The daemon prints its address once it is listening.
     return m_daemon->waitForReadyRead(waitLimit);
 }
 

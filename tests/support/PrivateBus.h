@@ -6,9 +6,8 @@
 
 #include <memory>
 
-/// A message bus of the test's own: a dbus-daemon with its own configuration in a temporary directory, on an
-/// address that stays the same over stop() and start(). The user's buses are never touched. Needs no event
-/// loop.
+/// A private message bus: a dbus-daemon with its own configuration in a temporary directory, on an address
+/// that remains the same across stop() and start(). Never accesses the user's buses. Needs no event loop.
 ///
 ///     PrivateBus bus;
 ///     QVERIFY(bus.start());
@@ -21,25 +20,25 @@ public:
     PrivateBus(const PrivateBus&) = delete;
     PrivateBus& operator=(const PrivateBus&) = delete;
 
-    /// Starts the daemon, unless it runs, and waits until it listens. @return false when it does not come up
-    /// in a minute.
+    /// Starts the daemon, unless it runs, and waits until it listens. @return false if it does not start
+    /// within a minute.
     bool start();
-    /// Ends the daemon and waits for its end; the bus is gone for everybody on it.
+    /// Ends the daemon and waits for its end; all clients are disconnected.
     void stop();
-    /// Stops the daemon in its tracks: what it is asked stays without an answer until resume().
+    /// Suspends the daemon: calls remain unanswered until resume().
     void halt();
     void resume();
 
-    /// The D-Bus address, whether or not the daemon runs.
+    /// The D-Bus address, also while the daemon is not running.
     QString address() const;
-    /// Lets the bus answer every call of its own operation `member` with the error AccessDenied. Before
+    /// Makes the bus answer every call of its own method `member` with the error AccessDenied. Call before
     /// start().
     void deny(const QString& member);
 
-    /// A directory for the test's files; removed with this object.
+    /// A directory for files of the test; removed with this object.
     QString directory() const;
 
-    /// Lets the bus start `command` (a program and its arguments) when `serviceName` is called. Before
+    /// Lets the bus start `command` (a program and its arguments) when `serviceName` is called. Call before
     /// start().
     /// @return whether the service file was written.
     bool addActivatableService(const QString& serviceName, const QString& command);

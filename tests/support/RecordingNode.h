@@ -8,27 +8,27 @@
 
 #include "ConfigurationAndProcessDataBase.h"
 
-/// Parses a configuration document; a null pointer when it is none.
+/// Parses a configuration document. @return a null pointer if it is invalid
 BaseClassSharedPointer nodeFromJson(const QString& json);
 
-/// A node that answers as the one it wraps does, and writes down every question: one line each, made of the
-/// node's path ("unit", its child "unit/Polynomial") and the call, as in "unit.getChild(Polynomial)".
+/// A node that forwards every query to the wrapped node and records it as one line: the node's path ("unit",
+/// its child "unit/Polynomial") and the call, as in "unit.getChild(Polynomial)".
 class RecordingNode : public ConfigurationAndProcessDataBase
 {
 public:
     using Calls = QSharedPointer<QStringList>;
 
-    /// Wraps a tree, its children included.
+    /// Wraps a tree, including its children.
     ///
-    /// @param path path of the root in the lines written
-    /// @param calls where all nodes of the tree write
+    /// @param path path of the root in the recorded lines
+    /// @param calls receives the lines of all nodes of the tree
     RecordingNode(const BaseClassSharedPointer& node, const QString& path, const Calls& calls);
     ~RecordingNode() override;
 
-    /// Puts @p value in the place of a property's own, without writing a line; an invalid one makes it
-    /// absent.
+    /// Replaces the value of a property by @p value, without recording a line; an invalid value makes the
+    /// property absent.
     void replaceProperty(const QString& propertyKey, const QVariant& value);
-    /// Puts a child, which may be null, under @p key, without writing a line.
+    /// Sets a child, which may be null, under @p key, without recording a line.
     void insertChild(const QString& key, const BaseClassSharedPointer& child);
 
     BaseClassSharedPointer getChild(const QString& key) const override;
@@ -50,9 +50,9 @@ private:
     QHash<QString, QVariant> m_replaced;
 };
 
-/// A recording tree of a configuration document.
+/// A recording tree of a configuration document, see RecordingNode.
 QSharedPointer<RecordingNode> recordingNodeFromJson(const QString& json, const QString& path,
                                                     const RecordingNode::Calls& calls);
 
-/// The lines that the node at @p path wrote, its children's left out, oldest first; @p calls is emptied.
+/// The lines recorded by the node at @p path, without its children's, oldest first; clears @p calls.
 QStringList takeCallsOf(const QString& path, const RecordingNode::Calls& calls);

@@ -3,10 +3,11 @@
 #include <cstddef>
 #include <cstring>
 
-/// The place of a virtual function in its class's table, the first being 0; a destructor takes two places.
+/// The index of a virtual function in the virtual table of its class, from 0; a destructor occupies two
+/// entries.
 ///
-/// A pointer to a virtual function holds the byte offset into the table. Most processors' binary interfaces
-/// add one to it as a mark, which the division drops.
+/// A pointer to a virtual function contains the byte offset into the table. Most processors' ABIs add one to
+/// it as a marker, which the division removes.
 template <typename MemberFunction>
 std::size_t virtualSlot(MemberFunction function)
 {

@@ -1,5 +1,4 @@
 #pragma once
 
-/// How long a test waits at most for what must happen, in milliseconds: enough for a machine that is busy
-/// with more.
+/// Maximum wait of a test in milliseconds, sufficient for a busy machine.
 constexpr int waitLimit = 60000;

@@ -5,8 +5,7 @@
 
 #include "WaitLimit.h"
 
-/// Waits until `condition()` holds, without running an event loop. @return false when it does not within a
-/// minute.
+/// Waits until `condition()` is true, without an event loop. @return false if it is not within a minute.
 template <typename Condition>
 bool waitUntil(Condition condition)
 {
