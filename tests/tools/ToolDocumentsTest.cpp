@@ -5,7 +5,7 @@
 
 #include "ToolProcess.h"
 
-/// The documents that the tool is given: what it accepts, and how it names what is wrong with one.
+/// The tool's documents: which ones it accepts, and how it reports faults in them.
 class ToolDocumentsTest : public QObject
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ const QByteArray lengthDocument = R"({"Length": {"Meter": {"@displayPosition": 0
 "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]], "UnitLabel": "m"}}})";
 const QByteArray lengthDefault = R"({"Length": {"@type": "Selection", "@value": "Meter"}})";
 
-/// A folder with files of the given content.
+/// A folder that contains the given files.
 class Folder
 {
 public:

@@ -2,7 +2,7 @@
 
 #include "ToolProcess.h"
 
-/// Help and version, on the program and on every verb: on standard output, exit code 0.
+/// Help and version of the program and of every verb: on standard output, exit code 0.
 class ToolHelpTest : public QObject
 {
     Q_OBJECT

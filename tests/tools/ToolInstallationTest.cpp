@@ -5,7 +5,8 @@
 
 #include "ToolProcess.h"
 
-/// Where the program looks for the shipped documents, and what an installed one knows of the build.
+/// Where the program looks for the shipped documents, and that an installed one contains no path of the
+/// build.
 class ToolInstallationTest : public QObject
 {
     Q_OBJECT
@@ -70,7 +71,7 @@ void ToolInstallationTest::namesTheMissingDocument()
 void ToolInstallationTest::installedProgramKnowsNoPathOfTheBuild()
 {
     const QString destination = prefix->filePath("installed");
-    // Debug information names the build by its nature; installed programs come without.
+    // Debug information contains paths of the build; installed programs are stripped.
     const ToolRun install = ToolProcess::runProgram(CMAKE_PROGRAM, {"-DCMAKE_INSTALL_PREFIX=" + destination,
                                                                     "-DCMAKE_INSTALL_DO_STRIP=1", "-P",
                                                                     UNITMANAGER_TOOL_INSTALL_SCRIPT});

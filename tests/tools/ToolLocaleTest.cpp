@@ -4,7 +4,7 @@
 
 #include "ToolProcess.h"
 
-/// Input and output in a locale that writes decimals with a comma: nothing changes.
+/// A locale with a decimal comma changes neither input nor output.
 class ToolLocaleTest : public QObject
 {
     Q_OBJECT

@@ -10,7 +10,7 @@
 
 #include "ToolProcess.h"
 
-/// The numbers that the tool reads and writes.
+/// Reading and writing of numbers.
 class ToolNumbersTest : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ private slots:
 
 namespace {
 
-/// Doubles of every size, among them the extreme ones.
+/// Doubles of every magnitude, including the extreme ones.
 QVector<double> sampleDoubles()
 {
     using Limits = std::numeric_limits<double>;

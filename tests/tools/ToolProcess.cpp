@@ -36,7 +36,7 @@ ToolRun ToolProcess::run(const QStringList& arguments, const QByteArray& standar
 ToolRun ToolProcess::runProgram(const QString& program, const QStringList& arguments,
                                 const QByteArray& standardInput, const QProcessEnvironment& environment)
 {
-    // Arguments arrive as UTF-8, whatever the locale that the test itself runs in.
+    // Pass arguments as UTF-8, regardless of the locale of the test.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     QProcess process;
     process.setProcessEnvironment(environment);

@@ -7,31 +7,31 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-/// What a program printed and how it ended.
+/// The output and the exit code of a program.
 struct ToolRun
 {
-    /// The exit code; -1 for a program that did not start, crashed or did not end in time.
+    /// The exit code; -1 if the program did not start, crashed or did not end in time.
     int exitCode = -1;
     QByteArray standardOutput;
     QByteArray standardError;
 };
 
-/// Runs the command-line tool that the build has made.
+/// Runs the command-line tool from the build tree.
 namespace ToolProcess {
 
 /// The tool's path.
 QString path();
-/// The options that name the test's own documents.
+/// The options that select the test's own documents.
 QStringList testDocuments();
 
-/// The test's own environment with the system's messages in English, and without a forced hash seed, which Qt
-/// would announce on standard error.
+/// The test's environment with system messages in English, and without a fixed hash seed, about which Qt
+/// would print a message to standard error.
 QProcessEnvironment plainEnvironment();
 
-/// Runs the tool to its end.
+/// Runs the tool until it ends.
 ToolRun run(const QStringList& arguments, const QByteArray& standardInput = {},
             const QProcessEnvironment& environment = plainEnvironment());
-/// Runs any program to its end.
+/// Runs any program until it ends.
 ToolRun runProgram(const QString& program, const QStringList& arguments, const QByteArray& standardInput = {},
                    const QProcessEnvironment& environment = plainEnvironment());
 

@@ -8,7 +8,7 @@
 
 #include "ToolProcess.h"
 
-/// `convert -`: a value a line from standard input.
+/// `convert -`: one value per line of standard input.
 class ToolStreamTest : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ QByteArray notANumber(int line, const QByteArray& text)
            "' is not a decimal number such as -1234.5 or 1e-3, within the range of a double\n";
 }
 
-/// The program's greatest resident memory so far, in kB; -1 when that is not known.
+/// The program's peak resident memory so far, in kB; -1 if unknown.
 int peakMemory(const QProcess& process)
 {
     QFile status(QString("/proc/%1/status").arg(process.processId()));
@@ -46,7 +46,7 @@ int peakMemory(const QProcess& process)
     return match.hasMatch() ? match.captured(1).toInt() : -1;
 }
 
-/// Feeds lines to a running conversion and waits for as many in return. @return whether they came in time
+/// Writes lines to a running conversion and waits for as many results. @return whether they arrived in time
 bool convertLines(QProcess& process, int lineCount)
 {
     const int linesAtATime = 1000;
@@ -132,7 +132,7 @@ void ToolStreamTest::answersBeforeTheInputEnds()
 
 void ToolStreamTest::doesNotGrowOverAMillionLines()
 {
-    // The address sanitizer, if there is one, keeps freed memory for a while; a short while will do.
+    // The address sanitizer keeps freed memory for a while; this shortens it.
     QProcessEnvironment environment = ToolProcess::plainEnvironment();
     environment.insert("ASAN_OPTIONS", environment.value("ASAN_OPTIONS") +
                                            ":quarantine_size_mb=1:thread_local_quarantine_size_kb=64");
@@ -148,7 +148,7 @@ void ToolStreamTest::doesNotGrowOverAMillionLines()
     QVERIFY(process.waitForFinished(longestWaitMilliseconds));
     QCOMPARE(process.exitCode(), 0);
 
-    // A single byte kept of every line would already take half of it.
+    // Keeping one byte per line would already use half of it.
     const int allowedGrowth = 2048;
     QVERIFY2(peakAfterMany - peakAfterFew < allowedGrowth,
              qPrintable(QString("from %1 kB to %2 kB").arg(peakAfterFew).arg(peakAfterMany)));
@@ -164,7 +164,7 @@ void ToolStreamTest::endsQuietlyWhenTheReaderLeaves_data()
 void ToolStreamTest::endsQuietlyWhenTheReaderLeaves()
 {
     QFETCH(QString, preparation);
-    // Without end, unless the program stops by itself.
+    // Runs forever, unless the program ends by itself.
     const QString script = preparation + "; yes 1000 | \"$0\" \"$@\" | head -n 2";
     const ToolRun run = ToolProcess::runProgram("sh", QStringList{"-c", script, ToolProcess::path()} + toBar);
     QCOMPARE(run.standardOutput, QByteArray("1.000 bar\n1.000 bar\n"));

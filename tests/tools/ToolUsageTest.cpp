@@ -2,7 +2,7 @@
 
 #include "ToolProcess.h"
 
-/// What the tool says to requests that it cannot serve: nothing on standard output, the exact message, and 1
+/// The tool's response to invalid requests: nothing on standard output, the exact message, and exit code 1
 /// for unknown names, 2 for a wrong command line.
 class ToolUsageTest : public QObject
 {

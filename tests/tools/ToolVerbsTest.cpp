@@ -5,7 +5,7 @@
 
 #include "ToolProcess.h"
 
-/// What every verb prints for good requests: exact output, nothing on standard error, exit code 0.
+/// The output of every verb for valid requests: exact text, nothing on standard error, exit code 0.
 class ToolVerbsTest : public QObject
 {
     Q_OBJECT
@@ -213,7 +213,7 @@ void ToolVerbsTest::printsTheSameWhateverTheHashSeed()
         environment.insert("QT_HASH_SEED", QString::number(seed));
         const ToolRun run = ToolProcess::run(arguments, {}, environment);
         QCOMPARE(run.standardOutput, first.standardOutput);
-        // Qt announces such a seed before the program begins.
+        // Qt prints a message about such a seed before the program begins.
         QVERIFY2(run.standardError.endsWith(first.standardError), run.standardError.constData());
     }
 }

@@ -12,7 +12,7 @@
 #include "ToolProcess.h"
 #include "WaitLimit.h"
 
-/// The verb that follows the configuration service: what it prints, and how it ends.
+/// The verb that follows the configuration service: its output, and how it ends.
 class ToolWatchTest : public QObject
 {
     Q_OBJECT
@@ -41,10 +41,10 @@ const QByteArray threeUnits = R"({
     "Voltage": { "Volt": { "@displayPosition": 0, "UnitLabel": "V",
                            "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]] } }
 })";
-/// What a served TestFiles::units() makes the tool print.
+/// The tool's output for a served TestFiles::units().
 const QByteArray oneUnit = "ready\nadopted; unit types: 1, units: 1\n";
 
-/// The tool at work. It ends with this object.
+/// A running tool, which ends with this object.
 class Watcher
 {
 public:
@@ -68,7 +68,7 @@ public:
         m_process.start(ToolProcess::path(), m_arguments);
         return m_process.waitForStarted(waitLimit);
     }
-    /// Whether the tool prints this, and nothing else, after what was printed before.
+    /// Whether the tool prints exactly this text after its earlier output.
     bool prints(const QByteArray& text)
     {
         const bool isText =
@@ -78,12 +78,12 @@ public:
         m_known = m_output.size();
         return isText;
     }
-    /// Whether the tool prints this on standard error, among other things.
+    /// Whether the tool's standard error contains this text.
     bool complains(const QByteArray& text)
     {
         return QTest::qWaitFor([&] { return errors().contains(text); }, waitLimit);
     }
-    /// Everything on standard error so far.
+    /// The content of standard error so far.
     QByteArray errors()
     {
         m_errors += m_process.readAllStandardError();
@@ -97,7 +97,7 @@ public:
     {
         return m_process.processId();
     }
-    /// Sends a signal and waits for the end. @return the exit code; -1 for another end
+    /// Sends a signal and waits for the end. @return the exit code; -1 if the program did not exit normally
     int end(int signal)
     {
         ::kill(static_cast<pid_t>(m_process.processId()), signal);
@@ -124,13 +124,13 @@ private:
     int m_known = 0;
 };
 
-/// The processor time that a process has used, in clock ticks; -1 when that is not known.
+/// The processor time used by a process, in clock ticks; -1 if unknown.
 qint64 processorTime(qint64 processId)
 {
     QFile file(QStringLiteral("/proc/%1/stat").arg(processId));
     if (!file.open(QIODevice::ReadOnly))
         return -1;
-    // The name of the program, in parentheses, is the second field; the times are the 14th and 15th.
+    // The second field is the program name in parentheses; the times are the 14th and 15th field.
     const QList<QByteArray> fields = file.readAll().split(')').last().simplified().split(' ');
     return fields.value(11).toLongLong() + fields.value(12).toLongLong();
 }
