@@ -52,7 +52,8 @@ QString unitTypeOf(const QString& fixedUnit)
 
 QString unitOf(const QString& fixedUnit)
 {
-    return fixedUnit.mid(fixedUnit.lastIndexOf(separator) + 1);
+    const int last = fixedUnit.lastIndexOf(separator);
+    return last < 0 ? fixedUnit : fixedUnit.mid(last + 1);
 }
 
 Parts::Parts(const QString& fixedUnit)

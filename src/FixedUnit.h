@@ -14,7 +14,7 @@ bool isFixedUnitName(const QString& name);
 /// The part of a fixed unit before its last "/".
 QString unitTypeOf(const QString& fixedUnit);
 
-/// The part of a fixed unit after its last "/".
+/// The part of a fixed unit after its last "/"; the whole text when it has none.
 QString unitOf(const QString& fixedUnit);
 
 /// Both parts of a fixed unit, for look-ups. They refer to the characters of the fixed unit: nothing is

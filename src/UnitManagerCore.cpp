@@ -195,7 +195,7 @@ FoundConversion UnitManagerCore::find(const QString& unitType, const QString& un
         return FoundConversion::none(true);
     if (handler && !unit.isEmpty())
         return handler->find(unit, direction);
-    const QString unitOfType = unitOrDefault(unitType, unit);
+    const QString unitOfType = unit.isEmpty() ? defaultUnits.getDefaultUnit(unitType) : unit;
     FoundConversion found = UnitConversionLookUp::find(handler, unitType, unitOfType, direction);
     // Not reusable without a default unit, so that the missing default unit is reported at each use.
     found.isReusable = found.isReusable && !unitOfType.isEmpty();

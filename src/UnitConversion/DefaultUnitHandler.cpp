@@ -7,6 +7,7 @@
 #include "ConfigurationAndProcessDataParser.h"
 #include "ConfigurationDataAndProcessDescriptionAccess.h"
 #include "Diagnostics.h"
+#include "FixedUnit.h"
 #include "PropertyManagerConst.h"
 #include "UnitManagerDefinitions.h"
 
@@ -56,7 +57,7 @@ QString DefaultUnitHandler::getDefaultUnit(const QString& unitType) const
 {
     const auto unit = defaultUnits.constFind(unitType);
     if (unit != defaultUnits.constEnd())
-        return unit->mid(unit->lastIndexOf(QLatin1Char('/')) + 1);
+        return FixedUnit::unitOf(*unit);
 
     if (unitType != UnitManagerDefinitions::getUnitTypeUrlNoUnit())
         LogContext{sourceName, __LINE__, Q_FUNC_INFO}.warning()
