@@ -5,9 +5,10 @@
 #include "ProcessValue.h"
 #include "PropertyList.h"
 
-#include <QtCore/QMutex>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
+
+#include <mutex>
 
 /// A live measured value that is also a node of the configuration tree: a number node without children. Its
 /// value property is the value of the current ProcessValue, and its unit type is a property.
@@ -51,7 +52,7 @@ public:
 private:
     int setNumber(const QVariant& number);
 
-    mutable QRecursiveMutex m_mutex;
+    mutable std::recursive_mutex m_mutex;
     PropertyList m_properties;
     ProcessValue m_value;
     QVariant m_lastGood;
