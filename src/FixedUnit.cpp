@@ -34,6 +34,16 @@ QString headedBy(QStringData& header)
 
 namespace FixedUnit {
 
+QString unitTypeNamed(const QString& name)
+{
+    return PropertyManagerConst::getUnitTypeNamePrefix() + name;
+}
+
+QString join(const QString& unitType, const QString& unit)
+{
+    return unitType + separator + unit;
+}
+
 bool isFixedUnit(const QString& unitType)
 {
     static const int separators = countSeparators(PropertyManagerConst::getUnitTypeNamePrefix()) + 1;

@@ -2,8 +2,15 @@
 
 #include <QtCore/QString>
 
-/// Fixed units: unit types that name a unit directly, as in "UnitManager/UnitType/Pressure/Bar".
+/// Fixed units: unit types that name a unit directly, as in "UnitManager/UnitType/Pressure/Bar". The only
+/// place that composes and splits the identifiers of unit types and units.
 namespace FixedUnit {
+
+/// The identifier of a unit type: the unit-type prefix followed by @p name, its key in the documents.
+QString unitTypeNamed(const QString& name);
+
+/// The fixed unit for @p unit of a unit type: both, separated by "/".
+QString join(const QString& unitType, const QString& unit);
 
 /// Whether @p unitType has exactly one "/" more than the unit-type prefix. Nothing else is checked.
 bool isFixedUnit(const QString& unitType);

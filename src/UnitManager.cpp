@@ -5,8 +5,8 @@
 #include "Array2dDataTypeWrapper.h"
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "Diagnostics.h"
+#include "FixedUnit.h"
 #include "FloatRound.h"
-#include "PropertyManagerConst.h"
 #include "RowConversion.h"
 #include "UnitConversion/FoundConversion.h"
 #include "UnitManagerDefinitions.h"
@@ -148,7 +148,7 @@ UnitManager::operator bool() const
 
 QString UnitManager::getNoUnitLabelTextId() const
 {
-    return PropertyManagerConst::getUnitTypeNamePrefix() + UnitManagerDefinitions::getUnitTypeNoUnit();
+    return FixedUnit::unitTypeNamed(UnitManagerDefinitions::getUnitTypeNoUnit());
 }
 
 bool UnitManager::getDecimalPlacesForUnit(const QString& unitType, const QString& unit,

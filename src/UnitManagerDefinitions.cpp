@@ -1,5 +1,7 @@
 #include "UnitManagerDefinitions.h"
 
+#include "FixedUnit.h"
+
 UnitManagerDefinitions::~UnitManagerDefinitions() = default;
 
 const QString& UnitManagerDefinitions::getModuleName()
@@ -52,19 +54,20 @@ const QString& UnitManagerDefinitions::getUnitTypeUrlPressure()
 
 const QString& UnitManagerDefinitions::getUnitUrlPressureBar()
 {
-    static const QString identifier = getUnitTypeUrlPressure() + QStringLiteral("/Bar");
+    static const QString identifier = FixedUnit::join(getUnitTypeUrlPressure(), QStringLiteral("Bar"));
     return identifier;
 }
 
 const QString& UnitManagerDefinitions::getUnitUrlPressureHectoPascal()
 {
-    static const QString identifier = getUnitTypeUrlPressure() + QStringLiteral("/HectoPascal");
+    static const QString identifier =
+        FixedUnit::join(getUnitTypeUrlPressure(), QStringLiteral("HectoPascal"));
     return identifier;
 }
 
 const QString& UnitManagerDefinitions::getUnitUrlPressureMilliBar()
 {
-    static const QString identifier = getUnitTypeUrlPressure() + QStringLiteral("/MilliBar");
+    static const QString identifier = FixedUnit::join(getUnitTypeUrlPressure(), QStringLiteral("MilliBar"));
     return identifier;
 }
 
@@ -76,13 +79,14 @@ const QString& UnitManagerDefinitions::getUnitTypeUrlRatio()
 
 const QString& UnitManagerDefinitions::getUnitUrlRatioPercentage()
 {
-    static const QString identifier = getUnitTypeUrlRatio() + QStringLiteral("/Percentage");
+    static const QString identifier = FixedUnit::join(getUnitTypeUrlRatio(), QStringLiteral("Percentage"));
     return identifier;
 }
 
 const QString& UnitManagerDefinitions::getUnitUrlRatioPartsPerMillion()
 {
-    static const QString identifier = getUnitTypeUrlRatio() + QStringLiteral("/PartsPerMillion");
+    static const QString identifier =
+        FixedUnit::join(getUnitTypeUrlRatio(), QStringLiteral("PartsPerMillion"));
     return identifier;
 }
 
@@ -94,7 +98,8 @@ const QString& UnitManagerDefinitions::getUnitTypeUrlMixingRatio()
 
 const QString& UnitManagerDefinitions::getUnitUrlMixingRatioGramPerKiloGram()
 {
-    static const QString identifier = getUnitTypeUrlMixingRatio() + QStringLiteral("/GramPerKiloGram");
+    static const QString identifier =
+        FixedUnit::join(getUnitTypeUrlMixingRatio(), QStringLiteral("GramPerKiloGram"));
     return identifier;
 }
 
@@ -106,7 +111,8 @@ const QString& UnitManagerDefinitions::getUnitTypeUrlRelativeHumidity()
 
 const QString& UnitManagerDefinitions::getUnitUrlRelativeHumidityRelHumidity()
 {
-    static const QString identifier = getUnitTypeUrlRelativeHumidity() + QStringLiteral("/RelHumidity");
+    static const QString identifier =
+        FixedUnit::join(getUnitTypeUrlRelativeHumidity(), QStringLiteral("RelHumidity"));
     return identifier;
 }
 
@@ -118,7 +124,8 @@ const QString& UnitManagerDefinitions::getUnitTypeUrlAbsoluteHumidity()
 
 const QString& UnitManagerDefinitions::getUnitUrlAbsoluteHumidityGramPerCubicMeter()
 {
-    static const QString identifier = getUnitTypeUrlAbsoluteHumidity() + QStringLiteral("/GramPerCubicMeter");
+    static const QString identifier =
+        FixedUnit::join(getUnitTypeUrlAbsoluteHumidity(), QStringLiteral("GramPerCubicMeter"));
     return identifier;
 }
 
@@ -136,7 +143,7 @@ const QString& UnitManagerDefinitions::getUnitTypeUrlTime()
 
 const QString& UnitManagerDefinitions::getUnitUrlTimeSeconds()
 {
-    static const QString identifier = getUnitTypeUrlTime() + QStringLiteral("/Seconds");
+    static const QString identifier = FixedUnit::join(getUnitTypeUrlTime(), QStringLiteral("Seconds"));
     return identifier;
 }
 
@@ -149,7 +156,7 @@ const QString& UnitManagerDefinitions::getUnitTypeUrlSpecificEnthalpy()
 const QString& UnitManagerDefinitions::getUnitUrlSpecificEnthalpyKiloJoulePerKiloGram()
 {
     static const QString identifier =
-        getUnitTypeUrlSpecificEnthalpy() + QStringLiteral("/KiloJoulePerKiloGram");
+        FixedUnit::join(getUnitTypeUrlSpecificEnthalpy(), QStringLiteral("KiloJoulePerKiloGram"));
     return identifier;
 }
 

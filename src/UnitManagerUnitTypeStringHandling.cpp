@@ -3,6 +3,7 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
+#include "FixedUnit.h"
 #include "UnitManager.h"
 #include "hashFromString.h"
 
@@ -44,6 +45,6 @@ void UnitManagerUnitTypeStringHandling::updateUnitTypeHashMap(QHash<unsigned int
         insertIdentifier(map, unitType);
         const QStringList units = unitManager->getListofUnits(unitType);
         for (const QString& unit : units)
-            insertIdentifier(map, unitType + QLatin1Char('/') + unit);
+            insertIdentifier(map, FixedUnit::join(unitType, unit));
     }
 }

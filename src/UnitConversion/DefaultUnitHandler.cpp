@@ -43,7 +43,7 @@ bool DefaultUnitHandler::initByJsonString(const QString& json)
         const QVariant unit =
             node->getProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyValue());
         if (unit.canConvert(QVariant::String))
-            defaultUnits.insert(PropertyManagerConst::getUnitTypeNamePrefix() + child.key(), unit.toString());
+            defaultUnits.insert(FixedUnit::unitTypeNamed(child.key()), unit.toString());
     }
     return isValid();
 }

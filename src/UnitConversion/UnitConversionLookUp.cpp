@@ -5,6 +5,7 @@
 #include "ConfigurationAndProcessDataParser.h"
 #include "ConfigurationDataAndProcessDescriptionAccess.h"
 #include "Diagnostics.h"
+#include "FixedUnit.h"
 #include "PropertyManagerConst.h"
 #include "UnitConversion/FoundConversion.h"
 
@@ -63,7 +64,7 @@ bool UnitConversionLookUp::initByDocument(const BaseClassSharedPointer& root, co
     }
     const QHash<QString, BaseClassSharedPointer>& children = root->getChildMap();
     for (auto child = children.begin(); child != children.end(); ++child) {
-        const QString unitType = PropertyManagerConst::getUnitTypeNamePrefix() + child.key();
+        const QString unitType = FixedUnit::unitTypeNamed(child.key());
         conversions.insert(unitType, UnitConversionUnitTypeHandler(child.value(), child.key()));
         unitTypes.append(unitType);
     }

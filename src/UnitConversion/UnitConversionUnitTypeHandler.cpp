@@ -4,6 +4,7 @@
 
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "Diagnostics.h"
+#include "FixedUnit.h"
 #include "UnitConversion/FoundConversion.h"
 #include "UnitManagerDefinitions.h"
 
@@ -133,7 +134,7 @@ QString UnitConversionUnitTypeHandler::getBaseUnit(const QString& unitTypeName) 
 {
     if (unitTypeName == UnitManagerDefinitions::getUnitTypeNoUnit())
         return UnitManagerDefinitions::getUnitTypeNoUnit();
-    return unitTypeName + QLatin1Char('/') + baseUnit;
+    return FixedUnit::join(unitTypeName, baseUnit);
 }
 
 QList<QString> UnitConversionUnitTypeHandler::getUnitList() const

@@ -23,10 +23,10 @@ const QLatin1String noText("");
 /// this function.
 const LogContext loading{sourceName, __LINE__, "bool UnitTextHandler::initByJsonString(const QString&)"};
 
+/// Whether @p unitType is the unit-less type.
 bool isNoUnitType(const QString& unitType)
 {
-    static const QString noUnitType =
-        PropertyManagerConst::getUnitTypeNamePrefix() + UnitManagerDefinitions::getUnitTypeNoUnit();
+    static const QString noUnitType = FixedUnit::unitTypeNamed(UnitManagerDefinitions::getUnitTypeNoUnit());
     return unitType == noUnitType;
 }
 
@@ -79,7 +79,7 @@ bool UnitTextHandler::initByDocument(const BaseClassSharedPointer& root)
 
     const QHash<QString, BaseClassSharedPointer>& children = root->getChildMap();
     for (auto child = children.begin(); child != children.end(); ++child)
-        addUnitType(PropertyManagerConst::getUnitTypeNamePrefix() + child.key(), child.value());
+        addUnitType(FixedUnit::unitTypeNamed(child.key()), child.value());
     return isValid();
 }
 
