@@ -78,67 +78,67 @@ bool UnitManager::initByJsonFile(const QString& conversionPath)
 
 bool UnitManager::updateUnitConversionByJsonString(const QString& json)
 {
-    return core.updateUnitConversionByJsonString(json);
+    return m_core.updateUnitConversionByJsonString(json);
 }
 
 bool UnitManager::updateUnitConversionByJsonFile(const QString& path)
 {
-    return core.updateUnitConversionByJsonFile(path);
+    return m_core.updateUnitConversionByJsonFile(path);
 }
 
 bool UnitManager::updateDefaultUnitsByJsonString(const QString& json)
 {
-    return core.updateDefaultUnitsByJsonString(json);
+    return m_core.updateDefaultUnitsByJsonString(json);
 }
 
 bool UnitManager::updateDefaultUnitsByJsonFile(const QString& path)
 {
-    return core.updateDefaultUnitsByJsonFile(path);
+    return m_core.updateDefaultUnitsByJsonFile(path);
 }
 
 QStringList UnitManager::getListofUnitTypes() const
 {
-    return core.getListofUnitTypes();
+    return m_core.getListofUnitTypes();
 }
 
 QStringList UnitManager::getListofUnits(const QString& unitType) const
 {
-    return core.getListofUnits(unitType);
+    return m_core.getListofUnits(unitType);
 }
 
 QString UnitManager::getDefaultUnit(const QString& unitType) const
 {
-    return core.getDefaultUnit(unitType);
+    return m_core.getDefaultUnit(unitType);
 }
 
 QString UnitManager::getBaseUnit(const QString& unitType) const
 {
-    return core.getBaseUnit(unitType);
+    return m_core.getBaseUnit(unitType);
 }
 
 bool UnitManager::isFixedUnitType(const QString& unitType) const
 {
-    return core.isFixedUnitType(unitType);
+    return m_core.isFixedUnitType(unitType);
 }
 
 bool UnitManager::extractUnitTypeAndUnit(const QString& fixedUnit, QString& unitType, QString& unit) const
 {
-    return core.extractUnitTypeAndUnit(fixedUnit, unitType, unit);
+    return m_core.extractUnitTypeAndUnit(fixedUnit, unitType, unit);
 }
 
 QString UnitManager::getUnitText(const QString& unitType, const QString& language, const QString& unit) const
 {
-    return core.getUnitText(unitType, language, unit);
+    return m_core.getUnitText(unitType, language, unit);
 }
 
 QVariant UnitManager::getUnitTextJsonMap(const QString& key) const
 {
-    return core.getUnitTextJsonMap(key);
+    return m_core.getUnitTextJsonMap(key);
 }
 
 bool UnitManager::isValid() const
 {
-    return core.isValid();
+    return m_core.isValid();
 }
 
 UnitManager::operator bool() const
@@ -154,7 +154,7 @@ QString UnitManager::getNoUnitLabelTextId() const
 bool UnitManager::getDecimalPlacesForUnit(const QString& unitType, const QString& unit,
                                           unsigned int& decimalPlaces) const
 {
-    return core.getDecimalPlacesForUnit(unitType, unit, decimalPlaces);
+    return m_core.getDecimalPlacesForUnit(unitType, unit, decimalPlaces);
 }
 
 QVariant UnitManager::roundDouble(const QVariant& value, unsigned int decimalPlaces) const
@@ -179,7 +179,7 @@ QVariant UnitManager::convertAndRound(const QVariant& value, const QString& unit
 {
     QVariant converted = value;
     unsigned int decimalPlaces = 0;
-    if (core.convertForDisplay(converted, unitType, unit, direction, decimalPlaces))
+    if (m_core.convertForDisplay(converted, unitType, unit, direction, decimalPlaces))
         roundInPlace(converted, decimalPlaces);
     return converted;
 }
@@ -187,20 +187,20 @@ QVariant UnitManager::convertAndRound(const QVariant& value, const QString& unit
 QVariant UnitManager::fromBaseUnitRaw(const QVariant& value, const QString& unitType,
                                       const QString& unit) const
 {
-    return core.fromBaseUnit(value, unitType, unit);
+    return m_core.fromBaseUnit(value, unitType, unit);
 }
 
 QVariant UnitManager::toBaseUnitRaw(const QVariant& value, const QString& unitType, const QString& unit) const
 {
     QVariant converted = value;
-    core.toBaseUnit(converted, unitType, unit);
+    m_core.toBaseUnit(converted, unitType, unit);
     return converted;
 }
 
 bool UnitManager::getConversion(const QString& unitType, const QString& unit,
                                 ValueConversionWrapper& conversion) const
 {
-    const FoundConversion found = core.find(unitType, unit, ConversionDirection::FromBaseUnit);
+    const FoundConversion found = m_core.find(unitType, unit, ConversionDirection::FromBaseUnit);
     conversion = found.conversion ? *found.conversion : ValueConversionWrapper();
     return found.isKnown;
 }
@@ -208,7 +208,7 @@ bool UnitManager::getConversion(const QString& unitType, const QString& unit,
 bool UnitManager::fromBaseUnitArray(const double* values, double* results, std::size_t count,
                                     const QString& unitType, const QString& unit) const
 {
-    const FoundConversion found = core.find(unitType, unit, ConversionDirection::FromBaseUnit);
+    const FoundConversion found = m_core.find(unitType, unit, ConversionDirection::FromBaseUnit);
     found.convertArray(values, results, count);
     return found.isKnown;
 }
@@ -216,7 +216,7 @@ bool UnitManager::fromBaseUnitArray(const double* values, double* results, std::
 bool UnitManager::toBaseUnitArray(const double* values, double* results, std::size_t count,
                                   const QString& unitType, const QString& unit) const
 {
-    const FoundConversion found = core.find(unitType, unit, ConversionDirection::ToBaseUnit);
+    const FoundConversion found = m_core.find(unitType, unit, ConversionDirection::ToBaseUnit);
     found.convertArray(values, results, count);
     return found.isKnown;
 }
@@ -224,17 +224,17 @@ bool UnitManager::toBaseUnitArray(const double* values, double* results, std::si
 bool UnitManager::fromBaseUnitArray(QVector<double>& values, const QString& unitType,
                                     const QString& unit) const
 {
-    return convertVector(core.find(unitType, unit, ConversionDirection::FromBaseUnit), values);
+    return convertVector(m_core.find(unitType, unit, ConversionDirection::FromBaseUnit), values);
 }
 
 bool UnitManager::toBaseUnitArray(QVector<double>& values, const QString& unitType, const QString& unit) const
 {
-    return convertVector(core.find(unitType, unit, ConversionDirection::ToBaseUnit), values);
+    return convertVector(m_core.find(unitType, unit, ConversionDirection::ToBaseUnit), values);
 }
 
 QVariant UnitManager::getValue(const QVariant& value, const QString& unitType, const QString& unit) const
 {
-    return value.isValid() ? core.fromBaseUnit(value, unitType, unit) : QVariant();
+    return value.isValid() ? m_core.fromBaseUnit(value, unitType, unit) : QVariant();
 }
 
 QVariant UnitManager::getValue(const QString& key, const BaseClassSharedPointer& node,
@@ -246,7 +246,7 @@ QVariant UnitManager::getValue(const QString& key, const BaseClassSharedPointer&
     QVariant value = child->getProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyValue());
     if (!value.isValid() || !child->isNumberType() || child->isNumberNoInput())
         return value;
-    core.find(*child, unit, ConversionDirection::FromBaseUnit).convert(value);
+    m_core.find(*child, unit, ConversionDirection::FromBaseUnit).convert(value);
     return value;
 }
 
@@ -257,7 +257,7 @@ int UnitManager::setValueStatus(const QString& key, const BaseClassSharedPointer
     if (!child)
         return WriteResult::failed;
     QVariant converted = value;
-    if (!core.convertForStorage(*child, converted, unit))
+    if (!m_core.convertForStorage(*child, converted, unit))
         return WriteResult::failed;
     return child->setProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyValue(), converted);
 }
@@ -272,7 +272,7 @@ QString UnitManager::getUnitText(const QString& key, const BaseClassSharedPointe
                                  const QString& language, const QString& unit) const
 {
     const BaseClassSharedPointer child = node ? node->getChild(key) : BaseClassSharedPointer();
-    return child ? core.getUnitText(child, language, unit) : QString();
+    return child ? m_core.getUnitText(child, language, unit) : QString();
 }
 
 QStringList UnitManager::getUnitText(const Array2dDataTypeWrapper& array, const QString& language,
@@ -286,7 +286,7 @@ QStringList UnitManager::getUnitText(const Array2dDataTypeWrapper& array, const 
         return texts;
     for (unsigned int column = firstColumn; column < endColumn; ++column) {
         const QString& unitType = unitTypes.at(static_cast<int>(column));
-        texts.append(unitType.isEmpty() ? QString() : core.getUnitText(unitType, language, unit));
+        texts.append(unitType.isEmpty() ? QString() : m_core.getUnitText(unitType, language, unit));
     }
     return texts;
 }
@@ -308,7 +308,7 @@ QList<QVariant> UnitManager::getValueArray(const Array2dDataTypeWrapper& array, 
     if (row >= countRows(array, unitTypes, endColumn).value_or(0))
         return values;
     const QList<QVariant> cells = array.getRowValues(row);
-    RowConversion conversion(core, unit, ConversionDirection::FromBaseUnit);
+    RowConversion conversion(m_core, unit, ConversionDirection::FromBaseUnit);
     for (unsigned int column = firstColumn; column < endColumn; ++column) {
         values.append(cells.at(static_cast<int>(column)));
         conversion.convert(values.last(), unitTypes.at(static_cast<int>(column)));
@@ -325,7 +325,7 @@ bool UnitManager::setValueArray(Array2dDataTypeWrapper& array, unsigned int row,
     if (row >= countRows(array, unitTypes, endColumn).value_or(0))
         return false;
     QList<QVariant> cells = array.getRowValues(row);
-    RowConversion conversion(core, unit, ConversionDirection::ToBaseUnit);
+    RowConversion conversion(m_core, unit, ConversionDirection::ToBaseUnit);
     bool allConverted = true;
     for (unsigned int column = firstColumn; column < endColumn; ++column) {
         QVariant& cell = cells[static_cast<int>(column)];
@@ -338,5 +338,5 @@ bool UnitManager::setValueArray(Array2dDataTypeWrapper& array, unsigned int row,
 
 const UnitManagerCore& UnitManager::unitManagerCore() const
 {
-    return core;
+    return m_core;
 }

@@ -218,5 +218,5 @@ private:
     UNITMANAGER_NO_EXPORT QVariant convertAndRound(const QVariant& value, const QString& unitType,
                                                    const QString& unit, ConversionDirection direction) const;
 
-    UnitManagerCore core;
+    UnitManagerCore m_core;
 };

@@ -40,72 +40,72 @@ UnitManagerCore::~UnitManagerCore() = default;
 bool UnitManagerCore::updateUnitConversionByJsonString(const QString& json)
 {
     if (json.isEmpty()) {
-        conversionLookUp.reset();
-        unitTexts.reset();
+        m_conversionLookUp.reset();
+        m_unitTexts.reset();
         return false;
     }
     // Parsed once for both: parsing takes most of the loading time.
     const BaseClassSharedPointer root = ConfigurationAndProcessDataParser().parseFromJson(
         json, PropertyManagerConst::getConfigFileExtension());
-    const bool hasConversions = conversionLookUp.initByDocument(root, json);
-    const bool hasTexts = unitTexts.initByDocument(root);
+    const bool hasConversions = m_conversionLookUp.initByDocument(root, json);
+    const bool hasTexts = m_unitTexts.initByDocument(root);
     return hasConversions && hasTexts;
 }
 
 bool UnitManagerCore::updateUnitConversionByJsonFile(const QString& path)
 {
     if (path.isEmpty()) {
-        conversionLookUp.reset();
-        unitTexts.reset();
+        m_conversionLookUp.reset();
+        m_unitTexts.reset();
         return false;
     }
-    const bool hasConversions = conversionLookUp.initByJsonFile(path);
-    const bool hasTexts = unitTexts.initByJsonFile(path);
+    const bool hasConversions = m_conversionLookUp.initByJsonFile(path);
+    const bool hasTexts = m_unitTexts.initByJsonFile(path);
     return hasConversions && hasTexts;
 }
 
 bool UnitManagerCore::updateDefaultUnitsByJsonString(const QString& json)
 {
     if (json.isEmpty()) {
-        defaultUnits.reset();
+        m_defaultUnits.reset();
         return true;
     }
-    return defaultUnits.initByJsonString(json);
+    return m_defaultUnits.initByJsonString(json);
 }
 
 bool UnitManagerCore::updateDefaultUnitsByJsonFile(const QString& path)
 {
     if (path.isEmpty()) {
-        defaultUnits.reset();
+        m_defaultUnits.reset();
         return true;
     }
-    return defaultUnits.initByJsonFile(path);
+    return m_defaultUnits.initByJsonFile(path);
 }
 
 QStringList UnitManagerCore::getListofUnitTypes() const
 {
-    return conversionLookUp.getListofUnitTypes();
+    return m_conversionLookUp.getListofUnitTypes();
 }
 
 QStringList UnitManagerCore::getListofUnits(const QString& unitType) const
 {
-    return conversionLookUp.getListofUnits(unitType);
+    return m_conversionLookUp.getListofUnits(unitType);
 }
 
 QString UnitManagerCore::getDefaultUnit(const QString& unitType) const
 {
-    return defaultUnits.getDefaultUnit(unitType);
+    return m_defaultUnits.getDefaultUnit(unitType);
 }
 
 QString UnitManagerCore::getBaseUnit(const QString& unitType) const
 {
-    return conversionLookUp.getBaseUnit(unitType);
+    return m_conversionLookUp.getBaseUnit(unitType);
 }
 
 QString UnitManagerCore::getUnitText(const QString& unitType, const QString& language,
                                      const QString& unit) const
 {
-    return unitTexts.getUnitText(unitType, language, unitOrDefault(unitType, unit));
+    return m_unitTexts.getUnitText(unitType, language, unitOrDefault(unitType, unit));
 }
 
 QString UnitManagerCore::getUnitText(const QSharedPointer<ConfigurationAndProcessDataBase>& node,
@@ -119,7 +119,7 @@ QString UnitManagerCore::getUnitText(const QSharedPointer<ConfigurationAndProces
 
 QVariant UnitManagerCore::getUnitTextJsonMap(const QString& key) const
 {
-    return unitTexts.getUnitTextJsonMap(key);
+    return m_unitTexts.getUnitTextJsonMap(key);
 }
 
 bool UnitManagerCore::getUnitProperties(const QSharedPointer<ConfigurationAndProcessDataBase>& node,
@@ -189,13 +189,13 @@ FoundConversion UnitManagerCore::find(const QString& unitType, const QString& un
 {
     if (unitType.isEmpty())
         return FoundConversion::none(unit.isEmpty());
-    const UnitConversionUnitTypeHandler* const handler = conversionLookUp.findHandler(unitType);
+    const UnitConversionUnitTypeHandler* const handler = m_conversionLookUp.findHandler(unitType);
     // A known unit type has a short name, which is scanned faster than the whole identifier.
     if (handler ? FixedUnit::isFixedUnitName(handler->unitType) : FixedUnit::isFixedUnit(unitType))
         return FoundConversion::none(true);
     if (handler && !unit.isEmpty())
         return handler->find(unit, direction);
-    const QString unitOfType = unit.isEmpty() ? defaultUnits.getDefaultUnit(unitType) : unit;
+    const QString unitOfType = unit.isEmpty() ? m_defaultUnits.getDefaultUnit(unitType) : unit;
     FoundConversion found = UnitConversionLookUp::find(handler, unitType, unitOfType, direction);
     // Not reusable without a default unit, so that the missing default unit is reported at each use.
     found.isReusable = found.isReusable && !unitOfType.isEmpty();
@@ -224,15 +224,15 @@ bool UnitManagerCore::getDecimalPlacesForUnit(const QString& unitType, const QSt
                                               unsigned int& decimalPlaces) const
 {
     if (!isFixedUnitType(unitType))
-        return conversionLookUp.getDecimalPlacesForUnit(unitType, unitOrDefault(unitType, unit),
-                                                        decimalPlaces);
+        return m_conversionLookUp.getDecimalPlacesForUnit(unitType, unitOrDefault(unitType, unit),
+                                                          decimalPlaces);
     const FixedUnit::Parts parts(unitType);
     if (!parts.areValid()) {
         LogContext{sourceName, __LINE__, Q_FUNC_INFO}.warning()
             << "Error on extracting unit type and unit from fixed unit:" << unitType << "!";
-        return conversionLookUp.getDecimalPlacesForUnit(unitType, unit, decimalPlaces);
+        return m_conversionLookUp.getDecimalPlacesForUnit(unitType, unit, decimalPlaces);
     }
-    return conversionLookUp.getDecimalPlacesForUnit(parts.unitType(), parts.unit(), decimalPlaces);
+    return m_conversionLookUp.getDecimalPlacesForUnit(parts.unitType(), parts.unit(), decimalPlaces);
 }
 
 bool UnitManagerCore::convertForStorage(const ConfigurationAndProcessDataBase& node, QVariant& value,
@@ -248,7 +248,7 @@ QString UnitManagerCore::unitOrDefault(const QString& unitType, const QString& u
 
 bool UnitManagerCore::isValid() const
 {
-    return conversionLookUp && unitTexts;
+    return m_conversionLookUp && m_unitTexts;
 }
 
 UnitManagerCore::operator bool() const

@@ -138,7 +138,7 @@ private:
                                                  const QString& unit) const;
     UNITMANAGER_NO_EXPORT QString unitOrDefault(const QString& unitType, const QString& unit) const;
 
-    UnitConversionLookUp conversionLookUp;
-    DefaultUnitHandler defaultUnits;
-    UnitTextHandler unitTexts;
+    UnitConversionLookUp m_conversionLookUp;
+    DefaultUnitHandler m_defaultUnits;
+    UnitTextHandler m_unitTexts;
 };

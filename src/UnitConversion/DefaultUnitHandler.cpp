@@ -43,7 +43,7 @@ bool DefaultUnitHandler::initByJsonString(const QString& json)
         const QVariant unit =
             node->getProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyValue());
         if (unit.canConvert(QVariant::String))
-            defaultUnits.insert(FixedUnit::unitTypeNamed(child.key()), unit.toString());
+            m_defaultUnits.insert(FixedUnit::unitTypeNamed(child.key()), unit.toString());
     }
     return isValid();
 }
@@ -55,8 +55,8 @@ bool DefaultUnitHandler::initByJsonFile(const QString& path)
 
 QString DefaultUnitHandler::getDefaultUnit(const QString& unitType) const
 {
-    const auto unit = defaultUnits.constFind(unitType);
-    if (unit != defaultUnits.constEnd())
+    const auto unit = m_defaultUnits.constFind(unitType);
+    if (unit != m_defaultUnits.constEnd())
         return FixedUnit::unitOf(*unit);
 
     if (unitType != UnitManagerDefinitions::getUnitTypeUrlNoUnit())
@@ -67,12 +67,12 @@ QString DefaultUnitHandler::getDefaultUnit(const QString& unitType) const
 
 void DefaultUnitHandler::reset()
 {
-    defaultUnits.clear();
+    m_defaultUnits.clear();
 }
 
 bool DefaultUnitHandler::isValid() const
 {
-    return !defaultUnits.isEmpty();
+    return !m_defaultUnits.isEmpty();
 }
 
 DefaultUnitHandler::operator bool() const

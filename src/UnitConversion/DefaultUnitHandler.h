@@ -37,5 +37,5 @@ public:
     operator bool() const;
 
 private:
-    QHash<QString, QString> defaultUnits;
+    QHash<QString, QString> m_defaultUnits;
 };

@@ -87,7 +87,7 @@ void UnitTextHandler::addUnitType(const QString& unitType, const BaseClassShared
 {
     if (node)
         addUnits(unitType, node->getChildMap());
-    if (!baseUnitLabels.contains(unitType))
+    if (!m_baseUnitLabels.contains(unitType))
         loading.warning() << "No Base unit label given for" << unitType;
 }
 
@@ -105,10 +105,10 @@ void UnitTextHandler::addUnits(const QString& unitType, const QHash<QString, Bas
         if (text.isValid())
             texts.insert(unit.key(), text);
         if (isBaseUnit(*node))
-            baseUnitLabels.insert(unitType, unit.key());
+            m_baseUnitLabels.insert(unitType, unit.key());
     }
     if (!texts.isEmpty())
-        unitTexts.insert(unitType, texts);
+        m_unitTexts.insert(unitType, texts);
 }
 
 bool UnitTextHandler::initByJsonFile(const QString& path)
@@ -125,8 +125,8 @@ QString UnitTextHandler::getUnitText(const QString& unitType, const QString& lan
     const QString plainType = isFixed ? FixedUnit::unitTypeOf(unitType) : unitType;
     const QString plainUnit = isFixed ? FixedUnit::unitOf(unitType) : unit;
 
-    const auto texts = unitTexts.constFind(plainType);
-    if (texts == unitTexts.constEnd()) {
+    const auto texts = m_unitTexts.constFind(plainType);
+    if (texts == m_unitTexts.constEnd()) {
         warnUnknownUnitType({sourceName, __LINE__, Q_FUNC_INFO}, unitType);
         return noText;
     }
@@ -136,7 +136,7 @@ QString UnitTextHandler::getUnitText(const QString& unitType, const QString& lan
             warnUnknownUnit({sourceName, __LINE__, Q_FUNC_INFO}, unit, unitType);
             return noText;
         }
-        text = texts->constFind(baseUnitLabels.value(plainType));
+        text = texts->constFind(m_baseUnitLabels.value(plainType));
     }
     if (text == texts->constEnd() || !text->isValid())
         return noText;
@@ -173,13 +173,13 @@ QVariant UnitTextHandler::getUnitTextJsonMap(const QString& unitType) const
     const QString plainType = isFixed ? FixedUnit::unitTypeOf(unitType) : unitType;
     const QString unit = isFixed ? FixedUnit::unitOf(unitType) : QString();
 
-    const auto texts = unitTexts.constFind(plainType);
-    if (texts == unitTexts.constEnd()) {
+    const auto texts = m_unitTexts.constFind(plainType);
+    if (texts == m_unitTexts.constEnd()) {
         warnUnknownUnitType({sourceName, __LINE__, Q_FUNC_INFO}, unitType);
         return {};
     }
     if (unit.isEmpty())
-        return texts->value(baseUnitLabels.value(plainType));
+        return texts->value(m_baseUnitLabels.value(plainType));
     if (!texts->contains(unit))
         warnUnknownUnit({sourceName, __LINE__, Q_FUNC_INFO}, unit, unitType);
     return texts->value(unit);
@@ -192,13 +192,13 @@ bool UnitTextHandler::isFixedUnitType(const QString& unitType) const
 
 void UnitTextHandler::reset()
 {
-    unitTexts.clear();
-    baseUnitLabels.clear();
+    m_unitTexts.clear();
+    m_baseUnitLabels.clear();
 }
 
 bool UnitTextHandler::isValid() const
 {
-    return !unitTexts.isEmpty();
+    return !m_unitTexts.isEmpty();
 }
 
 UnitTextHandler::operator bool() const

@@ -79,6 +79,6 @@ private:
     UNITMANAGER_NO_EXPORT void addUnits(const QString& unitType,
                                         const QHash<QString, BaseClassSharedPointer>& units);
 
-    QHash<QString, QHash<QString, QVariant>> unitTexts;
-    QHash<QString, QString> baseUnitLabels;
+    QHash<QString, QHash<QString, QVariant>> m_unitTexts;
+    QHash<QString, QString> m_baseUnitLabels;
 };
