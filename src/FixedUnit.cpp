@@ -17,14 +17,16 @@ int countSeparators(const QString& text)
     return count;
 }
 
-/// Header for a static string whose characters begin at @p characters, as in a string literal. Its reference
-/// count marks it as never freed.
+/// Content of @p header for a static string whose characters begin at @p characters, as in a string literal.
+/// Its reference count marks it as never freed. Only the address of @p header is used.
 QStringData headerOf(const QStringData& header, const QChar* characters, int size)
 {
+    // A distance between two objects: pointers into different objects must not be subtracted.
     const quintptr offset = reinterpret_cast<quintptr>(characters) - reinterpret_cast<quintptr>(&header);
     return {{Q_REFCOUNT_INITIALIZE_STATIC, size, 0, 0, static_cast<qptrdiff>(offset)}};
 }
 
+/// The string that @p header describes.
 QString headedBy(QStringData& header)
 {
     return QString(QStringDataPtr{&header});

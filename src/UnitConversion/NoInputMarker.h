@@ -21,6 +21,12 @@ enum class Content
     Other
 };
 
+/// The number in a value of type double. QVariant::toDouble() takes longer.
+inline double storedDouble(const QVariant& value)
+{
+    return *static_cast<const double*>(value.constData());
+}
+
 /// Whether @p number carries the marker.
 inline bool isSet(double number)
 {
@@ -32,7 +38,7 @@ inline bool isSet(double number)
 inline bool isSet(const QVariant& value)
 {
     return value.userType() == QMetaType::Double
-               ? isSet(*static_cast<const double*>(value.constData()))
+               ? isSet(storedDouble(value))
                : ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value);
 }
 
@@ -40,7 +46,7 @@ inline bool isSet(const QVariant& value)
 inline Content read(const QVariant& value, double& number)
 {
     if (value.userType() == QMetaType::Double) {
-        number = *static_cast<const double*>(value.constData());
+        number = storedDouble(value);
         return isSet(number) ? Content::Marker : Content::Number;
     }
     if (!ConfigurationAndProcessDataTools::isVariantNumber(value))

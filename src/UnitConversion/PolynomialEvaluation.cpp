@@ -12,6 +12,8 @@ namespace {
 
 /// Polynomials with more coefficients are evaluated in several passes over a block.
 constexpr std::size_t coefficientsPerPass = 4;
+/// Bytes in the widest vector register.
+constexpr std::size_t vectorSize = 64;
 /// Chosen so that two blocks fit into the smallest first-level cache.
 constexpr std::size_t blockLength = 512;
 
@@ -87,8 +89,8 @@ UNITMANAGER_INLINE void continueBlock(const double* coefficients, const double* 
 UNITMANAGER_INLINE void evaluateBlock(const double* coefficients, std::size_t coefficientCount,
                                       const double* values, double* results, std::size_t count)
 {
-    alignas(64) double x[blockLength];
-    alignas(64) double value[blockLength];
+    alignas(vectorSize) double x[blockLength];
+    alignas(vectorSize) double value[blockLength];
     std::copy_n(values, count, x);
     std::fill_n(value, count, 0.0);
     std::size_t index = 0;
