@@ -5,6 +5,7 @@
 
 #include "LogCapture.h"
 #include "MessageText.h"
+#include "Row.h"
 #include "UnitConversion/DefaultUnitHandler.h"
 #include "UnitManagerDefinitions.h"
 
@@ -84,30 +85,27 @@ void DefaultUnitHandlerTest::documentResult_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    QTest::newRow("empty text") << "" << false << none;
-    QTest::newRow("null text") << QString() << false << none;
-    QTest::newRow("text that does not parse") << "{" << false << QStringList(invalidDocument());
-    QTest::newRow("list") << "[]" << false << QStringList(invalidDocument());
-    QTest::newRow("blank") << " " << false << QStringList(invalidDocument());
-    QTest::newRow("empty object") << "{}" << false << none;
-    QTest::newRow("selection") << document << true << none;
-    QTest::newRow("null child") << R"({"A": null})" << false << none;
-    QTest::newRow("text node") << R"({"A": "Bar"})" << false << none;
-    QTest::newRow("tree node") << R"({"A": {}})" << false << none;
-    QTest::newRow("other types")
-        << R"({"A": {"@type": "Text", "@value": "Bar"}, "B": {"@type": "selection", "@value": "Bar"}})"
-        << false << none;
-    QTest::newRow("selection without value") << R"({"A": {"@type": "Selection"}})" << false << none;
-    QTest::newRow("selection of a list")
-        << R"({"A": {"@type": "Selection", "@value": ["Bar"]}})" << false << none;
-    QTest::newRow("selection of an object")
-        << R"({"A": {"@type": "Selection", "@value": {"en": "Bar"}}})" << false << none;
-    QTest::newRow("selection of an empty text")
-        << R"({"A": {"@type": "Selection", "@value": ""}})" << true << none;
-    QTest::newRow("selection of a number") << R"({"A": {"@type": "Selection", "@value": 5}})" << true << none;
-    QTest::newRow("one selection among others")
-        << R"({"A": null, "B": "Bar", "C": {"@type": "Selection"}, "D": {"@type": "Selection", "@value": "Bar"}})"
-        << true << none;
+    row("empty text", "", false, none);
+    row("null text", QString(), false, none);
+    row("text that does not parse", "{", false, QStringList(invalidDocument()));
+    row("list", "[]", false, QStringList(invalidDocument()));
+    row("blank", " ", false, QStringList(invalidDocument()));
+    row("empty object", "{}", false, none);
+    row("selection", document, true, none);
+    row("null child", R"({"A": null})", false, none);
+    row("text node", R"({"A": "Bar"})", false, none);
+    row("tree node", R"({"A": {}})", false, none);
+    row("other types",
+        R"({"A": {"@type": "Text", "@value": "Bar"}, "B": {"@type": "selection", "@value": "Bar"}})", false,
+        none);
+    row("selection without value", R"({"A": {"@type": "Selection"}})", false, none);
+    row("selection of a list", R"({"A": {"@type": "Selection", "@value": ["Bar"]}})", false, none);
+    row("selection of an object", R"({"A": {"@type": "Selection", "@value": {"en": "Bar"}}})", false, none);
+    row("selection of an empty text", R"({"A": {"@type": "Selection", "@value": ""}})", true, none);
+    row("selection of a number", R"({"A": {"@type": "Selection", "@value": 5}})", true, none);
+    row("one selection among others",
+        R"({"A": null, "B": "Bar", "C": {"@type": "Selection"}, "D": {"@type": "Selection", "@value": "Bar"}})",
+        true, none);
 }
 
 void DefaultUnitHandlerTest::documentResult()
@@ -128,10 +126,10 @@ void DefaultUnitHandlerTest::everyLoadDropsTheOldTable_data()
     QTest::addColumn<QString>("json");
     QTest::addColumn<bool>("result");
 
-    QTest::newRow("empty text") << "" << false;
-    QTest::newRow("text that does not parse") << "{" << false;
-    QTest::newRow("document without selection") << R"({"Pressure": "Bar"})" << false;
-    QTest::newRow("other document") << R"({"Time": {"@type": "Selection", "@value": "Seconds"}})" << true;
+    row("empty text", "", false);
+    row("text that does not parse", "{", false);
+    row("document without selection", R"({"Pressure": "Bar"})", false);
+    row("other document", R"({"Time": {"@type": "Selection", "@value": "Seconds"}})", true);
 }
 
 void DefaultUnitHandlerTest::everyLoadDropsTheOldTable()
@@ -154,10 +152,10 @@ void DefaultUnitHandlerTest::readsFile_data()
     QTest::addColumn<QString>("content");
     QTest::addColumn<QStringList>("messages");
 
-    QTest::newRow("no file") << false << "" << QStringList();
-    QTest::newRow("empty file") << true << "" << QStringList();
-    QTest::newRow("document") << true << document << QStringList();
-    QTest::newRow("file that does not parse") << true << "{" << QStringList(invalidDocument());
+    row("no file", false, "", QStringList());
+    row("empty file", true, "", QStringList());
+    row("document", true, document, QStringList());
+    row("file that does not parse", true, "{", QStringList(invalidDocument()));
 }
 
 void DefaultUnitHandlerTest::readsFile()
@@ -185,27 +183,17 @@ void DefaultUnitHandlerTest::answersTheLastPartOfTheValue_data()
     QTest::addColumn<QString>("value");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("unit name") << R"("Bar")"
-                               << "Bar";
-    QTest::newRow("fixed unit") << '"' + UnitManagerDefinitions::getUnitUrlPressureBar() + '"' << "Bar";
-    QTest::newRow("two parts") << R"("a/b")"
-                               << "b";
-    QTest::newRow("slash at the end") << R"("a/b/")"
-                                      << "";
-    QTest::newRow("slash in front") << R"("/b")"
-                                    << "b";
-    QTest::newRow("two slashes") << R"("a//b")"
-                                 << "b";
-    QTest::newRow("slash alone") << R"("/")"
-                                 << "";
-    QTest::newRow("empty text") << R"("")"
-                                << "";
-    QTest::newRow("backslash") << R"("a\\b")"
-                               << "a\\b";
-    QTest::newRow("number") << "5"
-                            << "5";
-    QTest::newRow("boolean") << "true"
-                             << "true";
+    row("unit name", R"("Bar")", "Bar");
+    row("fixed unit", '"' + UnitManagerDefinitions::getUnitUrlPressureBar() + '"', "Bar");
+    row("two parts", R"("a/b")", "b");
+    row("slash at the end", R"("a/b/")", "");
+    row("slash in front", R"("/b")", "b");
+    row("two slashes", R"("a//b")", "b");
+    row("slash alone", R"("/")", "");
+    row("empty text", R"("")", "");
+    row("backslash", R"("a\\b")", "a\\b");
+    row("number", "5", "5");
+    row("boolean", "true", "true");
 }
 
 void DefaultUnitHandlerTest::answersTheLastPartOfTheValue()
@@ -224,13 +212,13 @@ void DefaultUnitHandlerTest::unknownTypeWarns_data()
 {
     QTest::addColumn<QString>("unitType");
 
-    QTest::newRow("unknown type") << "UnitManager/UnitType/Nope";
-    QTest::newRow("plain key") << "Pressure";
-    QTest::newRow("other spelling") << "UnitManager/UnitType/pressure";
-    QTest::newRow("fixed unit") << pressure + "/Bar";
-    QTest::newRow("no unit without prefix") << "NoUnit";
-    QTest::newRow("no unit with a slash behind") << "UnitManager/UnitType/NoUnit/";
-    QTest::newRow("empty text") << "";
+    row("unknown type", "UnitManager/UnitType/Nope");
+    row("plain key", "Pressure");
+    row("other spelling", "UnitManager/UnitType/pressure");
+    row("fixed unit", pressure + "/Bar");
+    row("no unit without prefix", "NoUnit");
+    row("no unit with a slash behind", "UnitManager/UnitType/NoUnit/");
+    row("empty text", "");
 }
 
 void DefaultUnitHandlerTest::unknownTypeWarns()

@@ -2,6 +2,8 @@
 
 #include <dlfcn.h>
 
+#include "Row.h"
+
 /// The registries of a process that loads the libraries like plugins, each in a separate scope, and links
 /// none of them.
 class FactoryLocalScopeTest : public QObject
@@ -37,15 +39,14 @@ void FactoryLocalScopeTest::librariesShareTheRegistries_data()
     QTest::addColumn<QByteArray>("getter");
 
     // The mangled names are those of the static objects in Factory<...>::instance().
-    QTest::newRow("states") << true
-                            << QByteArray("_ZZN13VESKFactories7FactoryI21StateMachineStateBaseJP7QObjectEE8"
-                                          "instanceEvE7factory")
-                            << QByteArray("stateFactoryOfPlugin");
-    QTest::newRow("converters")
-        << false
-        << QByteArray("_ZZN13VESKFactories7FactoryI18ValueConverterBaseJRK14QSharedPointerI31"
-                      "ConfigurationAndProcessDataBaseEEE8instanceEvE7factory")
-        << QByteArray("converterFactoryOfPlugin");
+    row("states", true,
+        QByteArray("_ZZN13VESKFactories7FactoryI21StateMachineStateBaseJP7QObjectEE8"
+                   "instanceEvE7factory"),
+        QByteArray("stateFactoryOfPlugin"));
+    row("converters", false,
+        QByteArray("_ZZN13VESKFactories7FactoryI18ValueConverterBaseJRK14QSharedPointerI31"
+                   "ConfigurationAndProcessDataBaseEEE8instanceEvE7factory"),
+        QByteArray("converterFactoryOfPlugin"));
 }
 
 void FactoryLocalScopeTest::librariesShareTheRegistries()

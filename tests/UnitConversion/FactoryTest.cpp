@@ -8,6 +8,7 @@
 #include "FactoryProbe.h"
 #include "LogCapture.h"
 #include "RecordingNode.h"
+#include "Row.h"
 #include "UnitConversion/ValueConversionWrapper.h"
 #include "UnitConversion/ValueConverterArbitraryTable.h"
 #include "UnitConversion/ValueConverterEquidistantTable.h"
@@ -169,12 +170,9 @@ void FactoryTest::createsConverters_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("polynomial") << "Polynomial"
-                                << "ValueConverterPolynomial";
-    QTest::newRow("equidistant table") << "EquidistantTable"
-                                       << "ValueConverterEquidistantTable";
-    QTest::newRow("arbitrary table") << "ArbitraryTable"
-                                     << "ValueConverterArbitraryTable";
+    row("polynomial", "Polynomial", "ValueConverterPolynomial");
+    row("equidistant table", "EquidistantTable", "ValueConverterEquidistantTable");
+    row("arbitrary table", "ArbitraryTable", "ValueConverterArbitraryTable");
 }
 
 void FactoryTest::createsConverters()
@@ -198,12 +196,12 @@ void FactoryTest::missingKeyGivesNullSilently_data()
 {
     QTest::addColumn<QString>("key");
 
-    QTest::newRow("null text") << QString();
-    QTest::newRow("empty text") << "";
-    QTest::newRow("key of the table's rows") << "Table";
-    QTest::newRow("lower case") << "polynomial";
-    QTest::newRow("blank in front") << " Polynomial";
-    QTest::newRow("class name") << "ValueConverterPolynomial";
+    row("null text", QString());
+    row("empty text", "");
+    row("key of the table's rows", "Table");
+    row("lower case", "polynomial");
+    row("blank in front", " Polynomial");
+    row("class name", "ValueConverterPolynomial");
 }
 
 void FactoryTest::missingKeyGivesNullSilently()
@@ -287,9 +285,9 @@ void FactoryTest::hashIsNotSeeded_data()
     QTest::addColumn<std::size_t>("expected");
 
     // Per character: hash = 31 * hash + character.
-    QTest::newRow("empty") << "" << std::size_t(0);
-    QTest::newRow("one character") << "a" << std::size_t(97);
-    QTest::newRow("two characters") << "ab" << std::size_t(97 * 31 + 98);
+    row("empty", "", std::size_t(0));
+    row("one character", "a", std::size_t(97));
+    row("two characters", "ab", std::size_t(97 * 31 + 98));
 }
 
 void FactoryTest::hashIsNotSeeded()

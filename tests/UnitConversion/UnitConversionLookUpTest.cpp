@@ -6,6 +6,7 @@
 #include "ExactText.h"
 #include "LogCapture.h"
 #include "MessageText.h"
+#include "Row.h"
 #include "UnitConversion/UnitConversionLookUp.h"
 
 namespace {
@@ -122,16 +123,15 @@ void UnitConversionLookUpTest::documentResult_data()
     QTest::addColumn<QString>("json");
     QTest::addColumn<bool>("result");
 
-    QTest::newRow("empty text") << "" << false;
-    QTest::newRow("null text") << QString() << false;
-    QTest::newRow("empty object") << "{}" << false;
-    QTest::newRow("properties only") << R"({"@type": "TreeNode", "@version": 1})" << false;
-    QTest::newRow("unit type without units") << R"({"A": {}})" << true;
-    QTest::newRow("unit type without usable units")
-        << R"({"A": {"B": {"DecimalPlaces": 1}, "C": 2}})" << true;
-    QTest::newRow("unit type that is a value") << R"({"A": 1})" << true;
-    QTest::newRow("unit type without node") << R"({"A": null})" << true;
-    QTest::newRow("whole document") << document << true;
+    row("empty text", "", false);
+    row("null text", QString(), false);
+    row("empty object", "{}", false);
+    row("properties only", R"({"@type": "TreeNode", "@version": 1})", false);
+    row("unit type without units", R"({"A": {}})", true);
+    row("unit type without usable units", R"({"A": {"B": {"DecimalPlaces": 1}, "C": 2}})", true);
+    row("unit type that is a value", R"({"A": 1})", true);
+    row("unit type without node", R"({"A": null})", true);
+    row("whole document", document, true);
 }
 
 void UnitConversionLookUpTest::documentResult()
@@ -150,10 +150,10 @@ void UnitConversionLookUpTest::failedLoadLosesTheCatalogue_data()
 {
     QTest::addColumn<QString>("json");
 
-    QTest::newRow("empty text") << "";
-    QTest::newRow("empty object") << "{}";
-    QTest::newRow("text that does not parse") << "{";
-    QTest::newRow("list") << "[]";
+    row("empty text", "");
+    row("empty object", "{}");
+    row("text that does not parse", "{");
+    row("list", "[]");
 }
 
 void UnitConversionLookUpTest::failedLoadLosesTheCatalogue()
@@ -172,15 +172,11 @@ void UnitConversionLookUpTest::unparsableTextIsLoggedWhole_data()
     QTest::addColumn<QString>("json");
     QTest::addColumn<QString>("logged");
 
-    QTest::newRow("one bracket") << "{"
-                                 << R"("{")";
-    QTest::newRow("blank") << " "
-                           << R"(" ")";
-    QTest::newRow("list") << "[1]"
-                          << R"("[1]")";
-    QTest::newRow("quotes, backslash, line end and tabulator") << "{\"a\": \"b\\c\"\n\t"
-                                                               << R"("{\"a\": \"b\\c\"\n\t")";
-    QTest::newRow("long text") << QString(5000, '{') << '"' + QString(5000, '{') + '"';
+    row("one bracket", "{", R"("{")");
+    row("blank", " ", R"(" ")");
+    row("list", "[1]", R"("[1]")");
+    row("quotes, backslash, line end and tabulator", "{\"a\": \"b\\c\"\n\t", R"("{\"a\": \"b\\c\"\n\t")");
+    row("long text", QString(5000, '{'), '"' + QString(5000, '{') + '"');
 }
 
 void UnitConversionLookUpTest::unparsableTextIsLoggedWhole()
@@ -211,14 +207,12 @@ void UnitConversionLookUpTest::readsFile_data()
     QTest::addColumn<QString>("content");
     QTest::addColumn<QStringList>("messages");
 
-    QTest::newRow("no file") << false << "" << QStringList();
-    QTest::newRow("empty file") << true << "" << QStringList();
-    QTest::newRow("document") << true << document << QStringList();
-    QTest::newRow("file that does not parse")
-        << true << "{"
-        << QStringList(warningText(sourceName, 75,
-                                   "bool UnitConversionLookUp::initByJsonString(const QString&)",
-                                   "Conversion configuration invalid \"{\""));
+    row("no file", false, "", QStringList());
+    row("empty file", true, "", QStringList());
+    row("document", true, document, QStringList());
+    row("file that does not parse", true, "{",
+        QStringList(warningText(sourceName, 75, "bool UnitConversionLookUp::initByJsonString(const QString&)",
+                                "Conversion configuration invalid \"{\"")));
 }
 
 void UnitConversionLookUpTest::readsFile()
@@ -245,15 +239,15 @@ void UnitConversionLookUpTest::listsUnits_data()
     QTest::addColumn<QString>("unitType");
     QTest::addColumn<QStringList>("units");
 
-    QTest::newRow("known type") << pressure << QStringList({"Bar", "HectoPascal"});
-    QTest::newRow("type without unit") << "UnitManager/UnitType/NoUnit" << QStringList();
-    QTest::newRow("type without units") << "UnitManager/UnitType/Bare" << QStringList();
-    QTest::newRow("type that is a value") << "UnitManager/UnitType/Value" << QStringList();
-    QTest::newRow("type without node") << unread << QStringList();
-    QTest::newRow("unknown type") << "UnitManager/UnitType/Nope" << QStringList();
-    QTest::newRow("plain key") << "Pressure" << QStringList();
-    QTest::newRow("fixed unit") << pressure + "/Bar" << QStringList();
-    QTest::newRow("empty text") << "" << QStringList();
+    row("known type", pressure, QStringList({"Bar", "HectoPascal"}));
+    row("type without unit", "UnitManager/UnitType/NoUnit", QStringList());
+    row("type without units", "UnitManager/UnitType/Bare", QStringList());
+    row("type that is a value", "UnitManager/UnitType/Value", QStringList());
+    row("type without node", unread, QStringList());
+    row("unknown type", "UnitManager/UnitType/Nope", QStringList());
+    row("plain key", "Pressure", QStringList());
+    row("fixed unit", pressure + "/Bar", QStringList());
+    row("empty text", "", QStringList());
 }
 
 void UnitConversionLookUpTest::listsUnits()
@@ -290,13 +284,10 @@ void UnitConversionLookUpTest::baseUnits_data()
     QTest::addColumn<QString>("unitType");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("known type") << pressure << pressure + "/Bar";
-    QTest::newRow("no unit at position 0") << "UnitManager/UnitType/Plain"
-                                           << "UnitManager/UnitType/Plain/";
-    QTest::newRow("type without units") << "UnitManager/UnitType/Bare"
-                                        << "UnitManager/UnitType/Bare/";
-    QTest::newRow("type without unit") << "UnitManager/UnitType/NoUnit"
-                                       << "UnitManager/UnitType/NoUnit/NoUnit";
+    row("known type", pressure, pressure + "/Bar");
+    row("no unit at position 0", "UnitManager/UnitType/Plain", "UnitManager/UnitType/Plain/");
+    row("type without units", "UnitManager/UnitType/Bare", "UnitManager/UnitType/Bare/");
+    row("type without unit", "UnitManager/UnitType/NoUnit", "UnitManager/UnitType/NoUnit/NoUnit");
 }
 
 void UnitConversionLookUpTest::baseUnits()
@@ -311,14 +302,14 @@ void UnitConversionLookUpTest::failsForUnknownTypes_data()
 {
     QTest::addColumn<QString>("unitType");
 
-    QTest::newRow("unknown type") << "UnitManager/UnitType/Nope";
-    QTest::newRow("plain key") << "Pressure";
-    QTest::newRow("other spelling") << "UnitManager/UnitType/pressure";
-    QTest::newRow("fixed unit") << pressure + "/Bar";
-    QTest::newRow("type without node") << unread;
-    QTest::newRow("no unit without prefix") << "NoUnit";
-    QTest::newRow("prefix alone") << "UnitManager/UnitType/";
-    QTest::newRow("empty text") << "";
+    row("unknown type", "UnitManager/UnitType/Nope");
+    row("plain key", "Pressure");
+    row("other spelling", "UnitManager/UnitType/pressure");
+    row("fixed unit", pressure + "/Bar");
+    row("type without node", unread);
+    row("no unit without prefix", "NoUnit");
+    row("prefix alone", "UnitManager/UnitType/");
+    row("empty text", "");
 }
 
 void UnitConversionLookUpTest::failsForUnknownTypes()

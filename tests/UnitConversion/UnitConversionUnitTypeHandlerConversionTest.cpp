@@ -7,6 +7,7 @@
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "RecordingNode.h"
+#include "Row.h"
 #include "UnitConversion/UnitConversionUnitTypeHandler.h"
 
 namespace {
@@ -90,21 +91,19 @@ void UnitConversionUnitTypeHandlerConversionTest::convertsNumbers_data()
     QTest::addColumn<double>("toBase");
     QTest::addColumn<double>("fromBase");
 
-    QTest::newRow("double") << QVariant(2.5) << "HectoPascal" << 2.5 * 0.001 << 2500.0;
-    QTest::newRow("int") << QVariant(3) << "HectoPascal" << 3 * 0.001 << 3000.0;
-    QTest::newRow("unsigned int") << QVariant(4000000000U) << "HectoPascal" << 4000000.0 << 4e12;
-    QTest::newRow("long long") << QVariant(-5LL) << "HectoPascal" << -5 * 0.001 << -5000.0;
-    QTest::newRow("unsigned long long") << QVariant(5ULL) << "Offset" << 0.0 << 15.0;
-    QTest::newRow("short") << QVariant::fromValue<short>(-2) << "Bar" << -2.0 << -2.0;
-    QTest::newRow("float") << QVariant(0.5F) << "Offset" << 0.0 << 6.0;
-    QTest::newRow("negative") << QVariant(-2.5) << "Offset" << 0.0 << 0.0;
-    QTest::newRow("int of the base unit") << QVariant(7) << "Bar" << 7.0 << 7.0;
-    QTest::newRow("int of a table unit") << QVariant(5) << "Step" << 5.0 << 5.0;
-    QTest::newRow("infinity") << QVariant(Limits::infinity()) << "Step" << Limits::infinity()
-                              << Limits::infinity();
-    QTest::newRow("largest number") << QVariant(Limits::max()) << "Bar" << Limits::max() << Limits::max();
-    QTest::newRow("smallest number") << QVariant(Limits::denorm_min()) << "Bar" << Limits::denorm_min()
-                                     << Limits::denorm_min();
+    row("double", QVariant(2.5), "HectoPascal", 2.5 * 0.001, 2500.0);
+    row("int", QVariant(3), "HectoPascal", 3 * 0.001, 3000.0);
+    row("unsigned int", QVariant(4000000000U), "HectoPascal", 4000000.0, 4e12);
+    row("long long", QVariant(-5LL), "HectoPascal", -5 * 0.001, -5000.0);
+    row("unsigned long long", QVariant(5ULL), "Offset", 0.0, 15.0);
+    row("short", QVariant::fromValue<short>(-2), "Bar", -2.0, -2.0);
+    row("float", QVariant(0.5F), "Offset", 0.0, 6.0);
+    row("negative", QVariant(-2.5), "Offset", 0.0, 0.0);
+    row("int of the base unit", QVariant(7), "Bar", 7.0, 7.0);
+    row("int of a table unit", QVariant(5), "Step", 5.0, 5.0);
+    row("infinity", QVariant(Limits::infinity()), "Step", Limits::infinity(), Limits::infinity());
+    row("largest number", QVariant(Limits::max()), "Bar", Limits::max(), Limits::max());
+    row("smallest number", QVariant(Limits::denorm_min()), "Bar", Limits::denorm_min(), Limits::denorm_min());
 }
 
 void UnitConversionUnitTypeHandlerConversionTest::convertsNumbers()
@@ -129,18 +128,18 @@ void UnitConversionUnitTypeHandlerConversionTest::leavesValueAndSucceeds_data()
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QString>("unit");
 
-    QTest::newRow("number without unit") << QVariant(3) << "NoUnit";
-    QTest::newRow("text without unit") << QVariant("abc") << "NoUnit";
-    QTest::newRow("invalid variant without unit") << QVariant() << "NoUnit";
-    QTest::newRow("marker without unit") << marker << "NoUnit";
-    QTest::newRow("number, empty unit") << QVariant(3) << "";
-    QTest::newRow("number, null unit") << QVariant(3) << QString();
-    QTest::newRow("text, empty unit") << QVariant("abc") << "";
-    QTest::newRow("invalid variant, empty unit") << QVariant() << "";
-    QTest::newRow("marker, empty unit") << marker << "";
-    QTest::newRow("marker of a known unit") << marker << "HectoPascal";
-    QTest::newRow("marker of a table unit") << marker << "Step";
-    QTest::newRow("marker as float") << QVariant(std::numeric_limits<float>::quiet_NaN()) << "HectoPascal";
+    row("number without unit", QVariant(3), "NoUnit");
+    row("text without unit", QVariant("abc"), "NoUnit");
+    row("invalid variant without unit", QVariant(), "NoUnit");
+    row("marker without unit", marker, "NoUnit");
+    row("number, empty unit", QVariant(3), "");
+    row("number, null unit", QVariant(3), QString());
+    row("text, empty unit", QVariant("abc"), "");
+    row("invalid variant, empty unit", QVariant(), "");
+    row("marker, empty unit", marker, "");
+    row("marker of a known unit", marker, "HectoPascal");
+    row("marker of a table unit", marker, "Step");
+    row("marker as float", QVariant(std::numeric_limits<float>::quiet_NaN()), "HectoPascal");
 }
 
 void UnitConversionUnitTypeHandlerConversionTest::leavesValueAndSucceeds()
@@ -161,12 +160,12 @@ void UnitConversionUnitTypeHandlerConversionTest::otherTypesOfAKnownUnitFail_dat
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QString>("typeName");
 
-    QTest::newRow("text") << QVariant("abc") << "QString";
-    QTest::newRow("number in a text") << QVariant("3") << "QString";
-    QTest::newRow("boolean") << QVariant(true) << "bool";
-    QTest::newRow("list") << QVariant(QVariantList{3}) << "QVariantList";
-    QTest::newRow("map") << QVariant(QVariantMap{{"a", 3}}) << "QVariantMap";
-    QTest::newRow("invalid variant has no type name") << QVariant() << "";
+    row("text", QVariant("abc"), "QString");
+    row("number in a text", QVariant("3"), "QString");
+    row("boolean", QVariant(true), "bool");
+    row("list", QVariant(QVariantList{3}), "QVariantList");
+    row("map", QVariant(QVariantMap{{"a", 3}}), "QVariantMap");
+    row("invalid variant has no type name", QVariant(), "");
 }
 
 void UnitConversionUnitTypeHandlerConversionTest::otherTypesOfAKnownUnitFail()
@@ -190,14 +189,14 @@ void UnitConversionUnitTypeHandlerConversionTest::unknownUnitFails_data()
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QString>("unit");
 
-    QTest::newRow("number") << QVariant(3) << "Nope";
-    QTest::newRow("text") << QVariant("abc") << "Nope";
-    QTest::newRow("invalid variant") << QVariant() << "Nope";
-    QTest::newRow("marker") << marker << "Nope";
-    QTest::newRow("unit in another spelling") << QVariant(3) << "hectopascal";
-    QTest::newRow("no unit in another spelling") << QVariant(3) << "nounit";
-    QTest::newRow("blank") << QVariant(3) << " ";
-    QTest::newRow("fixed unit") << QVariant(3) << "Pressure/Bar";
+    row("number", QVariant(3), "Nope");
+    row("text", QVariant("abc"), "Nope");
+    row("invalid variant", QVariant(), "Nope");
+    row("marker", marker, "Nope");
+    row("unit in another spelling", QVariant(3), "hectopascal");
+    row("no unit in another spelling", QVariant(3), "nounit");
+    row("blank", QVariant(3), " ");
+    row("fixed unit", QVariant(3), "Pressure/Bar");
 }
 
 void UnitConversionUnitTypeHandlerConversionTest::unknownUnitFails()

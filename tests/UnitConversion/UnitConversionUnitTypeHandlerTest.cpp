@@ -10,6 +10,7 @@
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "RecordingNode.h"
+#include "Row.h"
 #include "UnitConversion/UnitConversionUnitTypeHandler.h"
 
 namespace {
@@ -112,30 +113,26 @@ void UnitConversionUnitTypeHandlerTest::acceptsUnits_data()
     QTest::addColumn<QString>("json");
     QTest::addColumn<QStringList>("units");
 
-    QTest::newRow("no children") << "{}" << QStringList();
-    QTest::newRow("three units") << pressure << QStringList({"Bar", "HectoPascal", "Step"});
-    QTest::newRow("each kind of converter")
-        << R"({"A": {"Polynomial": "x"}, "B": {"ArbitraryTable": 1}, "C": {"EquidistantTable": {}}})"
-        << QStringList({"A", "B", "C"});
-    QTest::newRow("unit without converter")
-        << R"({"A": {"Polynomial": [1]}, "B": {"DecimalPlaces": 1}})" << QStringList("A");
-    QTest::newRow("unit with null converter") << R"({"B": {"Polynomial": null}})" << QStringList();
-    QTest::newRow("children that are values")
-        << R"({"A": 1, "B": "x", "C": true, "D": [[1]]})" << QStringList();
-    QTest::newRow("unit of another type")
-        << R"({"A": {"@type": "Number", "Polynomial": [1]}, "B": {"@type": "treenode", "Polynomial": [1]}})"
-        << QStringList();
-    QTest::newRow("unit whose type is written out")
-        << R"({"A": {"@type": "TreeNode", "Polynomial": [1]}})" << QStringList("A");
-    QTest::newRow("texts of the type")
-        << R"({"Text": {"@displayPosition": 0, "Polynomial": [1]}})" << QStringList();
-    QTest::newRow("texts in another spelling") << R"({"text": {"Polynomial": [1]}})" << QStringList("text");
-    QTest::newRow("no unit") << R"({"NoUnit": {"@displayPosition": 0, "Polynomial": [1]}})" << QStringList();
-    QTest::newRow("no unit that is a value")
-        << R"({"NoUnit": 1, "A": {"Polynomial": [1]}})" << QStringList("A");
-    QTest::newRow("no unit in another spelling")
-        << R"({"nounit": {"Polynomial": [1]}})" << QStringList("nounit");
-    QTest::newRow("unit with an empty name") << R"({"": {"Polynomial": [1]}})" << QStringList("");
+    row("no children", "{}", QStringList());
+    row("three units", pressure, QStringList({"Bar", "HectoPascal", "Step"}));
+    row("each kind of converter",
+        R"({"A": {"Polynomial": "x"}, "B": {"ArbitraryTable": 1}, "C": {"EquidistantTable": {}}})",
+        QStringList({"A", "B", "C"}));
+    row("unit without converter", R"({"A": {"Polynomial": [1]}, "B": {"DecimalPlaces": 1}})",
+        QStringList("A"));
+    row("unit with null converter", R"({"B": {"Polynomial": null}})", QStringList());
+    row("children that are values", R"({"A": 1, "B": "x", "C": true, "D": [[1]]})", QStringList());
+    row("unit of another type",
+        R"({"A": {"@type": "Number", "Polynomial": [1]}, "B": {"@type": "treenode", "Polynomial": [1]}})",
+        QStringList());
+    row("unit whose type is written out", R"({"A": {"@type": "TreeNode", "Polynomial": [1]}})",
+        QStringList("A"));
+    row("texts of the type", R"({"Text": {"@displayPosition": 0, "Polynomial": [1]}})", QStringList());
+    row("texts in another spelling", R"({"text": {"Polynomial": [1]}})", QStringList("text"));
+    row("no unit", R"({"NoUnit": {"@displayPosition": 0, "Polynomial": [1]}})", QStringList());
+    row("no unit that is a value", R"({"NoUnit": 1, "A": {"Polynomial": [1]}})", QStringList("A"));
+    row("no unit in another spelling", R"({"nounit": {"Polynomial": [1]}})", QStringList("nounit"));
+    row("unit with an empty name", R"({"": {"Polynomial": [1]}})", QStringList(""));
 }
 
 void UnitConversionUnitTypeHandlerTest::acceptsUnits()
@@ -214,23 +211,23 @@ void UnitConversionUnitTypeHandlerTest::baseUnitStandsAtPositionZero_data()
     QTest::addColumn<QVariant>("position");
     QTest::addColumn<bool>("isBase");
 
-    QTest::newRow("missing") << QVariant() << false;
-    QTest::newRow("zero") << QVariant(0) << true;
-    QTest::newRow("zero as double") << QVariant(0.0) << true;
-    QTest::newRow("zero in a text") << QVariant("0") << true;
-    QTest::newRow("any text") << QVariant("abc") << true;
-    QTest::newRow("empty text") << QVariant("") << true;
-    QTest::newRow("fraction in a text") << QVariant("1.5") << true;
-    QTest::newRow("false") << QVariant(false) << true;
-    QTest::newRow("true") << QVariant(true) << false;
-    QTest::newRow("rounded down to zero") << QVariant(0.4) << true;
-    QTest::newRow("negative, rounded up to zero") << QVariant(-0.4) << true;
-    QTest::newRow("rounded up to one") << QVariant(0.6) << false;
-    QTest::newRow("one") << QVariant(1) << false;
-    QTest::newRow("one in a text") << QVariant("1") << false;
-    QTest::newRow("negative") << QVariant(-1) << false;
-    QTest::newRow("list") << QVariant(QVariantList{0}) << false;
-    QTest::newRow("map") << QVariant(QVariantMap{{"a", 0}}) << false;
+    row("missing", QVariant(), false);
+    row("zero", QVariant(0), true);
+    row("zero as double", QVariant(0.0), true);
+    row("zero in a text", QVariant("0"), true);
+    row("any text", QVariant("abc"), true);
+    row("empty text", QVariant(""), true);
+    row("fraction in a text", QVariant("1.5"), true);
+    row("false", QVariant(false), true);
+    row("true", QVariant(true), false);
+    row("rounded down to zero", QVariant(0.4), true);
+    row("negative, rounded up to zero", QVariant(-0.4), true);
+    row("rounded up to one", QVariant(0.6), false);
+    row("one", QVariant(1), false);
+    row("one in a text", QVariant("1"), false);
+    row("negative", QVariant(-1), false);
+    row("list", QVariant(QVariantList{0}), false);
+    row("map", QVariant(QVariantMap{{"a", 0}}), false);
 }
 
 void UnitConversionUnitTypeHandlerTest::baseUnitStandsAtPositionZero()
@@ -311,13 +308,13 @@ void UnitConversionUnitTypeHandlerTest::decimalPlaces_data()
     QTest::addColumn<bool>("known");
     QTest::addColumn<unsigned int>("expected");
 
-    QTest::newRow("polynomial") << "HectoPascal" << true << 1U;
-    QTest::newRow("table has none") << "Step" << true << 0U;
-    QTest::newRow("unknown unit") << "Nope" << false << 77U;
-    QTest::newRow("other spelling") << "bar" << false << 77U;
-    QTest::newRow("fixed unit") << "Pressure/Bar" << false << 77U;
-    QTest::newRow("empty unit") << "" << false << 77U;
-    QTest::newRow("no unit") << "NoUnit" << false << 77U;
+    row("polynomial", "HectoPascal", true, 1U);
+    row("table has none", "Step", true, 0U);
+    row("unknown unit", "Nope", false, 77U);
+    row("other spelling", "bar", false, 77U);
+    row("fixed unit", "Pressure/Bar", false, 77U);
+    row("empty unit", "", false, 77U);
+    row("no unit", "NoUnit", false, 77U);
 }
 
 void UnitConversionUnitTypeHandlerTest::decimalPlaces()
@@ -337,23 +334,15 @@ void UnitConversionUnitTypeHandlerTest::baseUnitName_data()
     QTest::addColumn<QString>("expected");
 
     const QString noUnit = QStringLiteral(R"({"NoUnit": {}})");
-    QTest::newRow("plain name") << pressure << "Pressure"
-                                << "Pressure/Bar";
-    QTest::newRow("name with prefix") << pressure << "UnitManager/UnitType/Pressure"
-                                      << "UnitManager/UnitType/Pressure/Bar";
-    QTest::newRow("the name asked for counts") << pressure << "Other"
-                                               << "Other/Bar";
-    QTest::newRow("empty name") << pressure << ""
-                                << "/Bar";
-    QTest::newRow("no unit") << pressure << "NoUnit"
-                             << "NoUnit";
-    QTest::newRow("no unit with prefix") << noUnit << "UnitManager/UnitType/NoUnit"
-                                         << "UnitManager/UnitType/NoUnit/NoUnit";
-    QTest::newRow("type marked as without unit") << noUnit << "Pressure"
-                                                 << "Pressure/NoUnit";
-    QTest::newRow("no base unit") << R"({"A": {"Polynomial": [1]}})"
-                                  << "UnitManager/UnitType/Plain"
-                                  << "UnitManager/UnitType/Plain/";
+    row("plain name", pressure, "Pressure", "Pressure/Bar");
+    row("name with prefix", pressure, "UnitManager/UnitType/Pressure", "UnitManager/UnitType/Pressure/Bar");
+    row("the name asked for counts", pressure, "Other", "Other/Bar");
+    row("empty name", pressure, "", "/Bar");
+    row("no unit", pressure, "NoUnit", "NoUnit");
+    row("no unit with prefix", noUnit, "UnitManager/UnitType/NoUnit", "UnitManager/UnitType/NoUnit/NoUnit");
+    row("type marked as without unit", noUnit, "Pressure", "Pressure/NoUnit");
+    row("no base unit", R"({"A": {"Polynomial": [1]}})", "UnitManager/UnitType/Plain",
+        "UnitManager/UnitType/Plain/");
 }
 
 void UnitConversionUnitTypeHandlerTest::baseUnitName()

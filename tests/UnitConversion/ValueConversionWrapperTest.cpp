@@ -7,6 +7,7 @@
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "RecordingNode.h"
+#include "Row.h"
 #include "UnitConversion/ValueConversionWrapper.h"
 #include "UnitConversion/ValueConverterFactory.h"
 
@@ -127,14 +128,12 @@ void ValueConversionWrapperTest::withoutConverter_data()
 {
     QTest::addColumn<BaseClassSharedPointer>("node");
 
-    QTest::newRow("null node") << BaseClassSharedPointer();
-    QTest::newRow("empty node") << nodeFromJson(QStringLiteral("{}"));
-    QTest::newRow("null children") << nodeFromJson(
-        QStringLiteral(R"({"Polynomial": null, "ArbitraryTable": null, "EquidistantTable": null})"));
-    QTest::newRow("inverse only") << nodeFromJson(
-        QStringLiteral(R"({"InversePolynomial": [[1]], "Table": [[1, 2]]})"));
-    QTest::newRow("other spelling") << nodeFromJson(
-        QStringLiteral(R"({"polynomial": [[1]], "Polynom": [[1]]})"));
+    row("null node", BaseClassSharedPointer());
+    row("empty node", nodeFromJson(QStringLiteral("{}")));
+    row("null children", nodeFromJson(QStringLiteral(
+                             R"({"Polynomial": null, "ArbitraryTable": null, "EquidistantTable": null})")));
+    row("inverse only", nodeFromJson(QStringLiteral(R"({"InversePolynomial": [[1]], "Table": [[1, 2]]})")));
+    row("other spelling", nodeFromJson(QStringLiteral(R"({"polynomial": [[1]], "Polynom": [[1]]})")));
 }
 
 void ValueConversionWrapperTest::withoutConverter()
@@ -172,16 +171,14 @@ void ValueConversionWrapperTest::firstChildNamesTheKind_data()
     QTest::addColumn<QString>("json");
     QTest::addColumn<double>("number");
 
-    QTest::newRow("polynomial") << R"({"Polynomial": [[1]]})" << 1.0;
-    QTest::newRow("arbitrary table") << R"({"ArbitraryTable": {}})" << 2.0;
-    QTest::newRow("equidistant table") << R"({"EquidistantTable": {}})" << 3.0;
-    QTest::newRow("both tables") << R"({"EquidistantTable": {}, "ArbitraryTable": {}})" << 2.0;
-    QTest::newRow("all three") << R"({"EquidistantTable": {}, "ArbitraryTable": {}, "Polynomial": [[1]]})"
-                               << 1.0;
-    QTest::newRow("polynomial and equidistant table")
-        << R"({"EquidistantTable": {}, "Polynomial": {}})" << 1.0;
-    QTest::newRow("null polynomial") << R"({"Polynomial": null, "EquidistantTable": {}})" << 3.0;
-    QTest::newRow("polynomial that is a text") << R"({"Polynomial": "x", "ArbitraryTable": {}})" << 1.0;
+    row("polynomial", R"({"Polynomial": [[1]]})", 1.0);
+    row("arbitrary table", R"({"ArbitraryTable": {}})", 2.0);
+    row("equidistant table", R"({"EquidistantTable": {}})", 3.0);
+    row("both tables", R"({"EquidistantTable": {}, "ArbitraryTable": {}})", 2.0);
+    row("all three", R"({"EquidistantTable": {}, "ArbitraryTable": {}, "Polynomial": [[1]]})", 1.0);
+    row("polynomial and equidistant table", R"({"EquidistantTable": {}, "Polynomial": {}})", 1.0);
+    row("null polynomial", R"({"Polynomial": null, "EquidistantTable": {}})", 3.0);
+    row("polynomial that is a text", R"({"Polynomial": "x", "ArbitraryTable": {}})", 1.0);
 }
 
 void ValueConversionWrapperTest::firstChildNamesTheKind()
@@ -208,12 +205,10 @@ void ValueConversionWrapperTest::probesInOrderAndStopsAtTheFirst_data()
 
     const QStringList all{"unit.getChild(Polynomial)", "unit.getChild(ArbitraryTable)",
                           "unit.getChild(EquidistantTable)"};
-    QTest::newRow("no child") << "{}" << all;
-    QTest::newRow("polynomial") << R"({"Polynomial": [[1]], "ArbitraryTable": {}})"
-                                << QStringList(all.mid(0, 1));
-    QTest::newRow("arbitrary table") << R"({"ArbitraryTable": {}, "EquidistantTable": {}})"
-                                     << QStringList(all.mid(0, 2));
-    QTest::newRow("equidistant table") << R"({"EquidistantTable": {}})" << all;
+    row("no child", "{}", all);
+    row("polynomial", R"({"Polynomial": [[1]], "ArbitraryTable": {}})", QStringList(all.mid(0, 1)));
+    row("arbitrary table", R"({"ArbitraryTable": {}, "EquidistantTable": {}})", QStringList(all.mid(0, 2)));
+    row("equidistant table", R"({"EquidistantTable": {}})", all);
 }
 
 void ValueConversionWrapperTest::probesInOrderAndStopsAtTheFirst()

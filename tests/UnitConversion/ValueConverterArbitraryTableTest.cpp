@@ -4,6 +4,7 @@
 
 #include "LogCapture.h"
 #include "RecordingNode.h"
+#include "Row.h"
 #include "TableText.h"
 #include "UnitConversion/ValueConverterArbitraryTable.h"
 #include "VirtualSlot.h"
@@ -69,20 +70,18 @@ void ValueConverterArbitraryTableTest::readsConfiguration_data()
     QTest::addColumn<QString>("json");
     QTest::addColumn<QStringList>("expected");
 
-    QTest::newRow("nothing configured") << "{}" << state(noRows, noRows);
-    QTest::newRow("both tables") << bothTables << state(forward, inverse);
-    QTest::newRow("forward table only") << R"({"Table": [[0, 0], [10, 100]]})" << state(forward, noRows);
-    QTest::newRow("inverse table only")
-        << R"({"InverseTable": [[100, 10], [0, 0]]})" << state(noRows, noRows);
-    QTest::newRow("forward table is a text")
-        << R"({"Table": "x", "InverseTable": [[100, 10], [0, 0]]})" << state(noRows, noRows);
-    QTest::newRow("inverse table is a number")
-        << R"({"Table": [[0, 0], [10, 100]], "InverseTable": 3})" << state(forward, noRows);
-    QTest::newRow("one column") << R"({"Table": [[4], [5]]})"
-                                << state({{{0, 4}, {0, 5}}, {0, 4}, {0, 4}}, noRows);
-    QTest::newRow("limits and distances are not its own")
-        << R"({"Table": [[0, 0], [10, 100]], "DistanceBaseTable": 2, "OrdinateMin": -1, "OrdinateMax": 9})"
-        << state(forward, noRows);
+    row("nothing configured", "{}", state(noRows, noRows));
+    row("both tables", bothTables, state(forward, inverse));
+    row("forward table only", R"({"Table": [[0, 0], [10, 100]]})", state(forward, noRows));
+    row("inverse table only", R"({"InverseTable": [[100, 10], [0, 0]]})", state(noRows, noRows));
+    row("forward table is a text", R"({"Table": "x", "InverseTable": [[100, 10], [0, 0]]})",
+        state(noRows, noRows));
+    row("inverse table is a number", R"({"Table": [[0, 0], [10, 100]], "InverseTable": 3})",
+        state(forward, noRows));
+    row("one column", R"({"Table": [[4], [5]]})", state({{{0, 4}, {0, 5}}, {0, 4}, {0, 4}}, noRows));
+    row("limits and distances are not its own",
+        R"({"Table": [[0, 0], [10, 100]], "DistanceBaseTable": 2, "OrdinateMin": -1, "OrdinateMax": 9})",
+        state(forward, noRows));
 }
 
 void ValueConverterArbitraryTableTest::readsConfiguration()
@@ -108,16 +107,16 @@ void ValueConverterArbitraryTableTest::returnsTheArgument_data()
     using Limits = std::numeric_limits<double>;
     QTest::addColumn<double>("x");
 
-    QTest::newRow("zero") << 0.0;
-    QTest::newRow("negative zero") << -0.0;
-    QTest::newRow("between two points") << 5.0;
-    QTest::newRow("below the first point") << -100.0;
-    QTest::newRow("beyond the last point") << 1000.0;
-    QTest::newRow("largest number") << Limits::max();
-    QTest::newRow("smallest number") << -Limits::denorm_min();
-    QTest::newRow("no number") << Limits::quiet_NaN();
-    QTest::newRow("infinity") << Limits::infinity();
-    QTest::newRow("negative infinity") << -Limits::infinity();
+    row("zero", 0.0);
+    row("negative zero", -0.0);
+    row("between two points", 5.0);
+    row("below the first point", -100.0);
+    row("beyond the last point", 1000.0);
+    row("largest number", Limits::max());
+    row("smallest number", -Limits::denorm_min());
+    row("no number", Limits::quiet_NaN());
+    row("infinity", Limits::infinity());
+    row("negative infinity", -Limits::infinity());
 }
 
 void ValueConverterArbitraryTableTest::returnsTheArgument()

@@ -4,6 +4,7 @@
 #include <type_traits>
 
 #include "LogCapture.h"
+#include "Row.h"
 #include "TableText.h"
 #include "UnitConversion/ValueConverterBase.h"
 #include "VirtualSlot.h"
@@ -38,7 +39,7 @@ public:
     }
 };
 
-QVariant row(const QVariantList& values)
+QVariant tableRow(const QVariantList& values)
 {
     return values;
 }
@@ -79,43 +80,40 @@ void ValueConverterBaseTest::loadsTable_data()
     QTest::addColumn<QVariantList>("data");
     QTest::addColumn<Table>("expected");
 
-    QTest::newRow("one point") << QVariantList{row({7, 8})} << Table{{{7, 8}}, {7, 8}, {7, 8}};
-    QTest::newRow("the first of equal largest x stays")
-        << QVariantList{row({1, 10}), row({3, 30}), row({3, 31}), row({0, 0})}
-        << Table{{{1, 10}, {3, 30}, {3, 31}, {0, 0}}, {3, 30}, {0, 0}};
-    QTest::newRow("the first of equal smallest x stays")
-        << QVariantList{row({2, 5}), row({0, 1}), row({0, 2})}
-        << Table{{{2, 5}, {0, 1}, {0, 2}}, {2, 5}, {0, 1}};
-    QTest::newRow("a zero does not replace a zero of the other sign")
-        << QVariantList{row({-0.0, 1}), row({0.0, 2})} << Table{{{-0.0, 1}, {0.0, 2}}, {-0.0, 1}, {-0.0, 1}};
-    QTest::newRow("negative x") << QVariantList{row({-1, 1}), row({-5, 2}), row({-3, 3})}
-                                << Table{{{-1, 1}, {-5, 2}, {-3, 3}}, {-1, 1}, {-5, 2}};
-    QTest::newRow("infinite x") << QVariantList{row({0, 3}), row({infinity, 1}), row({-infinity, 2})}
-                                << Table{{{0, 3}, {infinity, 1}, {-infinity, 2}},
-                                         {infinity, 1},
-                                         {-infinity, 2}};
-    QTest::newRow("x that is no number, first, is never replaced")
-        << QVariantList{row({notANumber, 1}), row({4, 2})}
-        << Table{{{notANumber, 1}, {4, 2}}, {notANumber, 1}, {notANumber, 1}};
-    QTest::newRow("x that is no number, later, never replaces")
-        << QVariantList{row({4, 2}), row({notANumber, 1})}
-        << Table{{{4, 2}, {notANumber, 1}}, {4, 2}, {4, 2}};
-    QTest::newRow("one column") << QVariantList{row({4}), row({5})}
-                                << Table{{{0, 4}, {0, 5}}, {0, 4}, {0, 4}};
-    QTest::newRow("bare numbers are one column")
-        << QVariantList{4, 5} << Table{{{0, 4}, {0, 5}}, {0, 4}, {0, 4}};
-    QTest::newRow("three columns") << QVariantList{row({1, 2, 3}), row({4, 5, 6})}
-                                   << Table{{{0, 1}, {0, 4}}, {0, 1}, {0, 1}};
-    QTest::newRow("rows without columns")
-        << QVariantList{row({}), row({})} << Table{{{0, 0}, {0, 0}}, {0, 0}, {0, 0}};
-    QTest::newRow("the second value of a short row is missing")
-        << QVariantList{row({1, 2}), row({3})} << Table{{{1, 2}, {3, 0}}, {3, 0}, {1, 2}};
-    QTest::newRow("a longer row behind makes two columns")
-        << QVariantList{row({1}), row({2, 3})} << Table{{{1, 0}, {2, 3}}, {2, 3}, {1, 0}};
-    QTest::newRow("a longer row behind makes three columns")
-        << QVariantList{row({1, 2}), row({3, 4, 5})} << Table{{{0, 1}, {0, 3}}, {0, 1}, {0, 1}};
-    QTest::newRow("texts") << QVariantList{row({"1", "2.5"}), row({"x", true})}
-                           << Table{{{1, 2.5}, {0, 1}}, {1, 2.5}, {0, 1}};
+    row("one point", QVariantList{tableRow({7, 8})}, Table{{{7, 8}}, {7, 8}, {7, 8}});
+    row("the first of equal largest x stays",
+        QVariantList{tableRow({1, 10}), tableRow({3, 30}), tableRow({3, 31}), tableRow({0, 0})},
+        Table{{{1, 10}, {3, 30}, {3, 31}, {0, 0}}, {3, 30}, {0, 0}});
+    row("the first of equal smallest x stays",
+        QVariantList{tableRow({2, 5}), tableRow({0, 1}), tableRow({0, 2})},
+        Table{{{2, 5}, {0, 1}, {0, 2}}, {2, 5}, {0, 1}});
+    row("a zero does not replace a zero of the other sign",
+        QVariantList{tableRow({-0.0, 1}), tableRow({0.0, 2})},
+        Table{{{-0.0, 1}, {0.0, 2}}, {-0.0, 1}, {-0.0, 1}});
+    row("negative x", QVariantList{tableRow({-1, 1}), tableRow({-5, 2}), tableRow({-3, 3})},
+        Table{{{-1, 1}, {-5, 2}, {-3, 3}}, {-1, 1}, {-5, 2}});
+    row("infinite x", QVariantList{tableRow({0, 3}), tableRow({infinity, 1}), tableRow({-infinity, 2})},
+        Table{{{0, 3}, {infinity, 1}, {-infinity, 2}}, {infinity, 1}, {-infinity, 2}});
+    row("x that is no number, first, is never replaced",
+        QVariantList{tableRow({notANumber, 1}), tableRow({4, 2})},
+        Table{{{notANumber, 1}, {4, 2}}, {notANumber, 1}, {notANumber, 1}});
+    row("x that is no number, later, never replaces",
+        QVariantList{tableRow({4, 2}), tableRow({notANumber, 1})},
+        Table{{{4, 2}, {notANumber, 1}}, {4, 2}, {4, 2}});
+    row("one column", QVariantList{tableRow({4}), tableRow({5})}, Table{{{0, 4}, {0, 5}}, {0, 4}, {0, 4}});
+    row("bare numbers are one column", QVariantList{4, 5}, Table{{{0, 4}, {0, 5}}, {0, 4}, {0, 4}});
+    row("three columns", QVariantList{tableRow({1, 2, 3}), tableRow({4, 5, 6})},
+        Table{{{0, 1}, {0, 4}}, {0, 1}, {0, 1}});
+    row("rows without columns", QVariantList{tableRow({}), tableRow({})},
+        Table{{{0, 0}, {0, 0}}, {0, 0}, {0, 0}});
+    row("the second value of a short row is missing", QVariantList{tableRow({1, 2}), tableRow({3})},
+        Table{{{1, 2}, {3, 0}}, {3, 0}, {1, 2}});
+    row("a longer row behind makes two columns", QVariantList{tableRow({1}), tableRow({2, 3})},
+        Table{{{1, 0}, {2, 3}}, {2, 3}, {1, 0}});
+    row("a longer row behind makes three columns", QVariantList{tableRow({1, 2}), tableRow({3, 4, 5})},
+        Table{{{0, 1}, {0, 3}}, {0, 1}, {0, 1}});
+    row("texts", QVariantList{tableRow({"1", "2.5"}), tableRow({"x", true})},
+        Table{{{1, 2.5}, {0, 1}}, {1, 2.5}, {0, 1}});
 }
 
 void ValueConverterBaseTest::loadsTable()
@@ -133,8 +131,8 @@ void ValueConverterBaseTest::appendsAndStartsTheLimitsAnew()
 {
     Table table;
     Converter converter;
-    QVERIFY(converter.loadTable({row({-100, 1}), row({100, 2})}, table));
-    QVERIFY(converter.loadTable({row({5, 3}), row({6, 4})}, table));
+    QVERIFY(converter.loadTable({tableRow({-100, 1}), tableRow({100, 2})}, table));
+    QVERIFY(converter.loadTable({tableRow({5, 3}), tableRow({6, 4})}, table));
     QCOMPARE(tableTexts(table), tableTexts({{{-100, 1}, {100, 2}, {5, 3}, {6, 4}}, {6, 4}, {5, 3}}));
 }
 

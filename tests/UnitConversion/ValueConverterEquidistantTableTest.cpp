@@ -4,6 +4,7 @@
 
 #include "LogCapture.h"
 #include "RecordingNode.h"
+#include "Row.h"
 #include "TableText.h"
 #include "UnitConversion/ValueConverterEquidistantTable.h"
 #include "VirtualSlot.h"
@@ -80,50 +81,47 @@ void ValueConverterEquidistantTableTest::readsConfiguration_data()
     QTest::addColumn<QString>("json");
     QTest::addColumn<QStringList>("expected");
 
-    QTest::newRow("nothing configured") << "{}" << state(noRows, 0, noRows, 0);
-    QTest::newRow("both tables") << withoutLimits << state(forward, 0.5, inverse, 0.25);
-    QTest::newRow("limits are stored crossed")
-        << withLimits << state(limitedForward, 0.5, limitedInverse, 0.25);
-    QTest::newRow("forward table only")
-        << R"({"Table": [4, 5], "DistanceBaseTable": 0.5})" << state(forward, 0.5, noRows, 0);
-    QTest::newRow("the inverse distance goes with the inverse table")
-        << R"({"Table": [4, 5], "DistanceBaseTable": 0.5, "DistanceBaseInverseTable": 3})"
-        << state(forward, 0.5, noRows, 0);
-    QTest::newRow("inverse table only")
-        << R"({"InverseTable": [6, 7], "DistanceBaseTable": 0.5, "DistanceBaseInverseTable": 0.25})"
-        << state(noRows, 0, noRows, 0);
-    QTest::newRow("limits without forward table")
-        << R"({"InverseTable": [6, 7], "DistanceBaseTable": 0.5, "OrdinateMin": -1, "OrdinateMax": 9,
-               "OrdinateMinInversion": -2, "OrdinateMaxInversion": 8})"
-        << state(noRows, 0, noRows, 0);
-    QTest::newRow("largest ordinate without smallest")
-        << R"({"Table": [4, 5], "OrdinateMax": 9, "OrdinateMinInversion": -2, "OrdinateMaxInversion": 8})"
-        << state(forward, 0, noRows, 0);
-    QTest::newRow("limits of an inverse table that is not there")
-        << R"({"Table": [4, 5], "OrdinateMin": -1, "OrdinateMax": 9, "OrdinateMinInversion": -2,
-               "OrdinateMaxInversion": 8})"
-        << state(limitedForward, 0, {{}, {-2, 0}, {8, 0}}, 0);
-    QTest::newRow("smallest ordinate alone") << R"({"Table": [4, 5], "OrdinateMin": -1})"
-                                             << state({{{0, 4}, {0, 5}}, {-1, 4}, {0, 4}}, 0, noRows, 0);
-    QTest::newRow("any text counts as smallest ordinate")
-        << R"({"Table": [4, 5], "OrdinateMin": "abc", "OrdinateMax": "9"})"
-        << state({{{0, 4}, {0, 5}}, {0, 4}, {9, 4}}, 0, noRows, 0);
-    QTest::newRow("a list is no smallest ordinate")
-        << R"({"Table": [4, 5], "OrdinateMin": [-1], "OrdinateMax": 9})" << state(forward, 0, noRows, 0);
-    QTest::newRow("a null node is no smallest ordinate")
-        << R"({"Table": [4, 5], "OrdinateMin": null, "OrdinateMax": 9})" << state(forward, 0, noRows, 0);
-    QTest::newRow("numbers in texts")
-        << R"({"Table": ["4", "5"], "DistanceBaseTable": "0.5", "InverseTable": ["6", "7"],
-               "DistanceBaseInverseTable": "0.25"})"
-        << state(forward, 0.5, inverse, 0.25);
-    QTest::newRow("values of other types")
-        << R"({"Table": "x", "DistanceBaseTable": [1], "InverseTable": 3, "DistanceBaseInverseTable": [1]})"
-        << state(noRows, 0, noRows, 0);
-    QTest::newRow("a distance that is a list")
-        << R"({"Table": [4, 5], "DistanceBaseTable": [0.5]})" << state(forward, 0, noRows, 0);
-    QTest::newRow("two columns") << R"({"Table": [[1, 4], [2, 5]], "InverseTable": [[3, 6], [1, 7]]})"
-                                 << state({{{1, 4}, {2, 5}}, {2, 5}, {1, 4}}, 0,
-                                          {{{3, 6}, {1, 7}}, {3, 6}, {1, 7}}, 0);
+    row("nothing configured", "{}", state(noRows, 0, noRows, 0));
+    row("both tables", withoutLimits, state(forward, 0.5, inverse, 0.25));
+    row("limits are stored crossed", withLimits, state(limitedForward, 0.5, limitedInverse, 0.25));
+    row("forward table only", R"({"Table": [4, 5], "DistanceBaseTable": 0.5})",
+        state(forward, 0.5, noRows, 0));
+    row("the inverse distance goes with the inverse table",
+        R"({"Table": [4, 5], "DistanceBaseTable": 0.5, "DistanceBaseInverseTable": 3})",
+        state(forward, 0.5, noRows, 0));
+    row("inverse table only",
+        R"({"InverseTable": [6, 7], "DistanceBaseTable": 0.5, "DistanceBaseInverseTable": 0.25})",
+        state(noRows, 0, noRows, 0));
+    row("limits without forward table",
+        R"({"InverseTable": [6, 7], "DistanceBaseTable": 0.5, "OrdinateMin": -1, "OrdinateMax": 9,
+               "OrdinateMinInversion": -2, "OrdinateMaxInversion": 8})",
+        state(noRows, 0, noRows, 0));
+    row("largest ordinate without smallest",
+        R"({"Table": [4, 5], "OrdinateMax": 9, "OrdinateMinInversion": -2, "OrdinateMaxInversion": 8})",
+        state(forward, 0, noRows, 0));
+    row("limits of an inverse table that is not there",
+        R"({"Table": [4, 5], "OrdinateMin": -1, "OrdinateMax": 9, "OrdinateMinInversion": -2,
+               "OrdinateMaxInversion": 8})",
+        state(limitedForward, 0, {{}, {-2, 0}, {8, 0}}, 0));
+    row("smallest ordinate alone", R"({"Table": [4, 5], "OrdinateMin": -1})",
+        state({{{0, 4}, {0, 5}}, {-1, 4}, {0, 4}}, 0, noRows, 0));
+    row("any text counts as smallest ordinate",
+        R"({"Table": [4, 5], "OrdinateMin": "abc", "OrdinateMax": "9"})",
+        state({{{0, 4}, {0, 5}}, {0, 4}, {9, 4}}, 0, noRows, 0));
+    row("a list is no smallest ordinate", R"({"Table": [4, 5], "OrdinateMin": [-1], "OrdinateMax": 9})",
+        state(forward, 0, noRows, 0));
+    row("a null node is no smallest ordinate", R"({"Table": [4, 5], "OrdinateMin": null, "OrdinateMax": 9})",
+        state(forward, 0, noRows, 0));
+    row("numbers in texts", R"({"Table": ["4", "5"], "DistanceBaseTable": "0.5", "InverseTable": ["6", "7"],
+               "DistanceBaseInverseTable": "0.25"})",
+        state(forward, 0.5, inverse, 0.25));
+    row("values of other types",
+        R"({"Table": "x", "DistanceBaseTable": [1], "InverseTable": 3, "DistanceBaseInverseTable": [1]})",
+        state(noRows, 0, noRows, 0));
+    row("a distance that is a list", R"({"Table": [4, 5], "DistanceBaseTable": [0.5]})",
+        state(forward, 0, noRows, 0));
+    row("two columns", R"({"Table": [[1, 4], [2, 5]], "InverseTable": [[3, 6], [1, 7]]})",
+        state({{{1, 4}, {2, 5}}, {2, 5}, {1, 4}}, 0, {{{3, 6}, {1, 7}}, {3, 6}, {1, 7}}, 0));
 }
 
 void ValueConverterEquidistantTableTest::readsConfiguration()
@@ -139,12 +137,11 @@ void ValueConverterEquidistantTableTest::asksForLimitsBehindTheMinimumOnly_data(
     QTest::addColumn<QString>("json");
     QTest::addColumn<bool>("limitsRead");
 
-    QTest::newRow("nothing configured") << "{}" << false;
-    QTest::newRow("no smallest ordinate")
-        << R"({"Table": [4], "OrdinateMax": 9, "DecimalPlaces": 3})" << false;
-    QTest::newRow("smallest ordinate is a list") << R"({"OrdinateMin": [1], "OrdinateMax": 9})" << false;
-    QTest::newRow("smallest ordinate") << R"({"OrdinateMin": 1, "DecimalPlaces": 3})" << true;
-    QTest::newRow("smallest ordinate is a text") << R"({"OrdinateMin": "abc"})" << true;
+    row("nothing configured", "{}", false);
+    row("no smallest ordinate", R"({"Table": [4], "OrdinateMax": 9, "DecimalPlaces": 3})", false);
+    row("smallest ordinate is a list", R"({"OrdinateMin": [1], "OrdinateMax": 9})", false);
+    row("smallest ordinate", R"({"OrdinateMin": 1, "DecimalPlaces": 3})", true);
+    row("smallest ordinate is a text", R"({"OrdinateMin": "abc"})", true);
 }
 
 void ValueConverterEquidistantTableTest::asksForLimitsBehindTheMinimumOnly()
@@ -170,16 +167,16 @@ void ValueConverterEquidistantTableTest::returnsTheArgument_data()
     using Limits = std::numeric_limits<double>;
     QTest::addColumn<double>("x");
 
-    QTest::newRow("zero") << 0.0;
-    QTest::newRow("negative zero") << -0.0;
-    QTest::newRow("between two rows") << 4.5;
-    QTest::newRow("below the smallest ordinate") << -100.0;
-    QTest::newRow("above the largest ordinate") << 100.0;
-    QTest::newRow("largest number") << Limits::max();
-    QTest::newRow("smallest number") << -Limits::denorm_min();
-    QTest::newRow("no number") << Limits::quiet_NaN();
-    QTest::newRow("infinity") << Limits::infinity();
-    QTest::newRow("negative infinity") << -Limits::infinity();
+    row("zero", 0.0);
+    row("negative zero", -0.0);
+    row("between two rows", 4.5);
+    row("below the smallest ordinate", -100.0);
+    row("above the largest ordinate", 100.0);
+    row("largest number", Limits::max());
+    row("smallest number", -Limits::denorm_min());
+    row("no number", Limits::quiet_NaN());
+    row("infinity", Limits::infinity());
+    row("negative infinity", -Limits::infinity());
 }
 
 void ValueConverterEquidistantTableTest::returnsTheArgument()

@@ -6,6 +6,7 @@
 #include "ExactText.h"
 #include "LogCapture.h"
 #include "RecordingNode.h"
+#include "Row.h"
 #include "UnitConversion/ValueConverterPolynomial.h"
 #include "VirtualSlot.h"
 
@@ -88,31 +89,27 @@ void ValueConverterPolynomialTest::readsCoefficients_data()
     QTest::addColumn<QStringList>("expected");
 
     const QStringList nothing = state({}, -1, {}, 0);
-    QTest::newRow("nothing configured") << "{}" << nothing;
-    QTest::newRow("both, constant term first")
-        << R"({"Polynomial": [[5], [2]], "InversePolynomial": [[-2.5], [0.5], [3]]})"
-        << state({2, 5}, 1, {3, 0.5, -2.5}, 2);
-    QTest::newRow("forward only") << R"({"Polynomial": [[7]]})" << state({7}, 0, {}, 0);
-    QTest::newRow("inverse only") << R"({"InversePolynomial": [[7]]})" << state({}, -1, {7}, 0);
-    QTest::newRow("bare numbers") << R"({"Polynomial": [5, 2], "InversePolynomial": [1, 4]})"
-                                  << state({2, 5}, 1, {4, 1}, 1);
-    QTest::newRow("only the first column counts")
-        << R"({"Polynomial": [[5, 50], [2, 20]], "InversePolynomial": [[1, 10]]})"
-        << state({2, 5}, 1, {1}, 0);
-    QTest::newRow("empty lists") << R"({"Polynomial": [], "InversePolynomial": []})" << nothing;
-    QTest::newRow("rows without columns")
-        << R"({"Polynomial": [[]], "InversePolynomial": [[]]})" << state({}, -1, {}, -1);
-    QTest::newRow("texts instead of lists") << R"({"Polynomial": "x", "InversePolynomial": "1"})" << nothing;
-    QTest::newRow("numbers instead of lists") << R"({"Polynomial": 5, "InversePolynomial": 2})" << nothing;
-    QTest::newRow("tree nodes instead of lists")
-        << R"({"Polynomial": {}, "InversePolynomial": {}})" << nothing;
-    QTest::newRow("objects instead of lists")
-        << R"({"Polynomial": {"@value": {"a": 1}}, "InversePolynomial": {"@value": {}}})" << nothing;
-    QTest::newRow("null nodes") << R"({"Polynomial": null, "InversePolynomial": null})" << nothing;
-    QTest::newRow("coefficients that are texts")
-        << R"({"Polynomial": [["2"], ["x"], [true]]})" << state({1, 0, 2}, 2, {}, 0);
-    QTest::newRow("leading zeros are kept")
-        << R"({"Polynomial": [[1], [0], [0]]})" << state({0, 0, 1}, 2, {}, 0);
+    row("nothing configured", "{}", nothing);
+    row("both, constant term first",
+        R"({"Polynomial": [[5], [2]], "InversePolynomial": [[-2.5], [0.5], [3]]})",
+        state({2, 5}, 1, {3, 0.5, -2.5}, 2));
+    row("forward only", R"({"Polynomial": [[7]]})", state({7}, 0, {}, 0));
+    row("inverse only", R"({"InversePolynomial": [[7]]})", state({}, -1, {7}, 0));
+    row("bare numbers", R"({"Polynomial": [5, 2], "InversePolynomial": [1, 4]})",
+        state({2, 5}, 1, {4, 1}, 1));
+    row("only the first column counts",
+        R"({"Polynomial": [[5, 50], [2, 20]], "InversePolynomial": [[1, 10]]})", state({2, 5}, 1, {1}, 0));
+    row("empty lists", R"({"Polynomial": [], "InversePolynomial": []})", nothing);
+    row("rows without columns", R"({"Polynomial": [[]], "InversePolynomial": [[]]})", state({}, -1, {}, -1));
+    row("texts instead of lists", R"({"Polynomial": "x", "InversePolynomial": "1"})", nothing);
+    row("numbers instead of lists", R"({"Polynomial": 5, "InversePolynomial": 2})", nothing);
+    row("tree nodes instead of lists", R"({"Polynomial": {}, "InversePolynomial": {}})", nothing);
+    row("objects instead of lists",
+        R"({"Polynomial": {"@value": {"a": 1}}, "InversePolynomial": {"@value": {}}})", nothing);
+    row("null nodes", R"({"Polynomial": null, "InversePolynomial": null})", nothing);
+    row("coefficients that are texts", R"({"Polynomial": [["2"], ["x"], [true]]})",
+        state({1, 0, 2}, 2, {}, 0));
+    row("leading zeros are kept", R"({"Polynomial": [[1], [0], [0]]})", state({0, 0, 1}, 2, {}, 0));
 }
 
 void ValueConverterPolynomialTest::readsCoefficients()
@@ -144,20 +141,20 @@ void ValueConverterPolynomialTest::readsDecimalPlaces_data()
     QTest::addColumn<QString>("json");
     QTest::addColumn<unsigned int>("expected");
 
-    QTest::newRow("missing") << "{}" << 0U;
-    QTest::newRow("null node") << R"({"DecimalPlaces": null})" << 0U;
-    QTest::newRow("without value") << R"({"DecimalPlaces": {}})" << 0U;
-    QTest::newRow("number") << R"({"DecimalPlaces": 2})" << 2U;
-    QTest::newRow("fraction is rounded up") << R"({"DecimalPlaces": 2.7})" << 3U;
-    QTest::newRow("fraction is rounded down") << R"({"DecimalPlaces": 2.4})" << 2U;
-    QTest::newRow("number in a text") << R"({"DecimalPlaces": "2"})" << 2U;
-    QTest::newRow("fraction in a text") << R"({"DecimalPlaces": "2.7"})" << 0U;
-    QTest::newRow("another text") << R"({"DecimalPlaces": "abc"})" << 0U;
-    QTest::newRow("true") << R"({"DecimalPlaces": true})" << 1U;
-    QTest::newRow("false") << R"({"DecimalPlaces": false})" << 0U;
-    QTest::newRow("negative number wraps") << R"({"DecimalPlaces": -1})" << 4294967295U;
-    QTest::newRow("list") << R"({"DecimalPlaces": [3]})" << 0U;
-    QTest::newRow("object") << R"({"DecimalPlaces": {"@value": {"a": 3}}})" << 0U;
+    row("missing", "{}", 0U);
+    row("null node", R"({"DecimalPlaces": null})", 0U);
+    row("without value", R"({"DecimalPlaces": {}})", 0U);
+    row("number", R"({"DecimalPlaces": 2})", 2U);
+    row("fraction is rounded up", R"({"DecimalPlaces": 2.7})", 3U);
+    row("fraction is rounded down", R"({"DecimalPlaces": 2.4})", 2U);
+    row("number in a text", R"({"DecimalPlaces": "2"})", 2U);
+    row("fraction in a text", R"({"DecimalPlaces": "2.7"})", 0U);
+    row("another text", R"({"DecimalPlaces": "abc"})", 0U);
+    row("true", R"({"DecimalPlaces": true})", 1U);
+    row("false", R"({"DecimalPlaces": false})", 0U);
+    row("negative number wraps", R"({"DecimalPlaces": -1})", 4294967295U);
+    row("list", R"({"DecimalPlaces": [3]})", 0U);
+    row("object", R"({"DecimalPlaces": {"@value": {"a": 3}}})", 0U);
 }
 
 void ValueConverterPolynomialTest::readsDecimalPlaces()
@@ -208,25 +205,25 @@ void ValueConverterPolynomialTest::converts_data()
     const double largest = std::numeric_limits<double>::max();
     const double smallest = std::numeric_limits<double>::denorm_min();
 
-    QTest::newRow("without coefficients") << none << 3.0 << 0.0 << 0.0;
-    QTest::newRow("without coefficients, no number") << none << notANumber << 0.0 << 0.0;
-    QTest::newRow("without coefficients, infinity") << none << -infinity << 0.0 << 0.0;
-    QTest::newRow("text instead of coefficients") << R"({"Polynomial": "x"})" << 3.0 << 0.0 << 0.0;
-    QTest::newRow("linear without inverse") << linear << 3.0 << 11.0 << 0.0;
-    QTest::newRow("linear at a negative number") << linear << -4.0 << -3.0 << 0.0;
-    QTest::newRow("constant at zero") << constant << 0.0 << 7.0 << -7.0;
-    QTest::newRow("constant at a negative number") << constant << -1e30 << 7.0 << -7.0;
-    QTest::newRow("constant at the largest number") << constant << largest << 7.0 << -7.0;
-    QTest::newRow("constant at the smallest number") << constant << smallest << 7.0 << -7.0;
-    QTest::newRow("forward and inverse are independent") << bothWays << 2.0 << 2000.0 << 0.002;
-    QTest::newRow("linear at infinity") << linear << infinity << notANumber << 0.0;
-    QTest::newRow("overflow") << bothWays << largest << infinity << largest * 0.001;
-    QTest::newRow("cubic") << cubic << 2.0 << 49.0 << 0.0;
-    QTest::newRow("cubic at a negative number") << cubic << -1.0 << -2.0 << 0.0;
-    QTest::newRow("multiplied and added in one rounding")
-        << R"({"Polynomial": [[-1], [0.1]]})" << 10.0 << 5.5511151231257827e-17 << 0.0;
-    QTest::newRow("inverse multiplied and added in one rounding")
-        << R"({"InversePolynomial": [[-1], [0.1]]})" << 10.0 << 0.0 << 5.5511151231257827e-17;
+    row("without coefficients", none, 3.0, 0.0, 0.0);
+    row("without coefficients, no number", none, notANumber, 0.0, 0.0);
+    row("without coefficients, infinity", none, -infinity, 0.0, 0.0);
+    row("text instead of coefficients", R"({"Polynomial": "x"})", 3.0, 0.0, 0.0);
+    row("linear without inverse", linear, 3.0, 11.0, 0.0);
+    row("linear at a negative number", linear, -4.0, -3.0, 0.0);
+    row("constant at zero", constant, 0.0, 7.0, -7.0);
+    row("constant at a negative number", constant, -1e30, 7.0, -7.0);
+    row("constant at the largest number", constant, largest, 7.0, -7.0);
+    row("constant at the smallest number", constant, smallest, 7.0, -7.0);
+    row("forward and inverse are independent", bothWays, 2.0, 2000.0, 0.002);
+    row("linear at infinity", linear, infinity, notANumber, 0.0);
+    row("overflow", bothWays, largest, infinity, largest * 0.001);
+    row("cubic", cubic, 2.0, 49.0, 0.0);
+    row("cubic at a negative number", cubic, -1.0, -2.0, 0.0);
+    row("multiplied and added in one rounding", R"({"Polynomial": [[-1], [0.1]]})", 10.0,
+        5.5511151231257827e-17, 0.0);
+    row("inverse multiplied and added in one rounding", R"({"InversePolynomial": [[-1], [0.1]]})", 10.0, 0.0,
+        5.5511151231257827e-17);
 }
 
 void ValueConverterPolynomialTest::converts()
@@ -248,11 +245,11 @@ void ValueConverterPolynomialTest::evaluatesHighestPowerFirst_data()
     QTest::addColumn<Coefficients>("coefficients");
     QTest::addColumn<double>("expected");
 
-    QTest::newRow("no coefficients") << 3.0 << Coefficients() << 0.0;
-    QTest::newRow("constant") << 3.0 << Coefficients{-7} << -7.0;
-    QTest::newRow("linear") << 3.0 << Coefficients{2, 5} << 11.0;
-    QTest::newRow("quadratic") << -2.0 << Coefficients{1, 0, 0.5} << 4.5;
-    QTest::newRow("one rounding per step") << 10.0 << Coefficients{0.1, -1} << 5.5511151231257827e-17;
+    row("no coefficients", 3.0, Coefficients(), 0.0);
+    row("constant", 3.0, Coefficients{-7}, -7.0);
+    row("linear", 3.0, Coefficients{2, 5}, 11.0);
+    row("quadratic", -2.0, Coefficients{1, 0, 0.5}, 4.5);
+    row("one rounding per step", 10.0, Coefficients{0.1, -1}, 5.5511151231257827e-17);
 }
 
 void ValueConverterPolynomialTest::evaluatesHighestPowerFirst()

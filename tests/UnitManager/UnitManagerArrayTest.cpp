@@ -7,6 +7,7 @@
 #include "Described.h"
 #include "LogCapture.h"
 #include "RecordingArray.h"
+#include "Row.h"
 #include "TestDocuments.h"
 
 using Dimensions = QVector<unsigned int>;
@@ -81,34 +82,32 @@ void UnitManagerArrayTest::ranges_data()
 
     // Two rows and two columns, each with a unit type.
     const Dimensions real = {2, 2};
-    QTest::newRow("all columns") << real << 1U << 0U << 2U << 2 << 2 << true;
-    QTest::newRow("last column") << real << 1U << 1U << 1U << 1 << 1 << true;
-    QTest::newRow("no column") << real << 1U << 1U << 0U << 0 << 0 << true;
-    QTest::newRow("no column behind the last") << real << 1U << 2U << 0U << 0 << 0 << true;
-    QTest::newRow("no column beyond that") << real << 1U << 3U << 0U << 0 << 0 << false;
-    QTest::newRow("no column from the largest number on") << real << 1U << last << 0U << 0 << 0 << false;
-    QTest::newRow("too many columns") << real << 1U << 0U << 3U << 0 << 0 << false;
-    QTest::newRow("column behind the last") << real << 1U << 2U << 1U << 0 << 0 << false;
-    QTest::newRow("largest number of columns") << real << 1U << 0U << last << 0 << 0 << false;
-    QTest::newRow("end wraps around to 0") << real << 1U << last << 1U << 0 << 0 << true;
-    QTest::newRow("end wraps around to 1") << real << 1U << last << 2U << 0 << 0 << true;
-    QTest::newRow("end wraps around below the first column") << real << 1U << 2U << last << 0 << 0 << true;
-    QTest::newRow("end wraps around beyond the columns") << real << 1U << last << 4U << 0 << 0 << false;
-    QTest::newRow("row behind the last") << real << 2U << 0U << 2U << 2 << 0 << false;
-    QTest::newRow("largest row") << real << last << 0U << 2U << 2 << 0 << false;
-    QTest::newRow("row behind the last, no column") << real << 2U << 0U << 0U << 0 << 0 << false;
-    QTest::newRow("row behind the last, wrapped around") << real << 2U << last << 1U << 0 << 0 << false;
-    QTest::newRow("no rows") << Dimensions{0, 2} << 0U << 0U << 2U << 2 << 0 << false;
-    QTest::newRow("no dimensions") << Dimensions{} << 0U << 0U << 2U << 0 << 0 << false;
-    QTest::newRow("one dimension") << Dimensions{2} << 0U << 0U << 2U << 0 << 0 << false;
-    QTest::newRow("three dimensions") << Dimensions{2, 2, 2} << 0U << 0U << 2U << 0 << 0 << false;
-    QTest::newRow("one dimension, no column") << Dimensions{2} << 0U << 0U << 0U << 0 << 0 << false;
-    QTest::newRow("fewer columns than unit types") << Dimensions{2, 1} << 0U << 0U << 2U << 0 << 0 << false;
-    QTest::newRow("fewer columns than unit types, first one")
-        << Dimensions{2, 1} << 0U << 0U << 1U << 1 << 1 << true;
-    QTest::newRow("more columns than unit types") << Dimensions{2, 9} << 0U << 0U << 3U << 0 << 0 << false;
-    QTest::newRow("more columns than unit types, existing ones")
-        << Dimensions{2, 9} << 0U << 0U << 2U << 2 << 2 << true;
+    row("all columns", real, 1U, 0U, 2U, 2, 2, true);
+    row("last column", real, 1U, 1U, 1U, 1, 1, true);
+    row("no column", real, 1U, 1U, 0U, 0, 0, true);
+    row("no column behind the last", real, 1U, 2U, 0U, 0, 0, true);
+    row("no column beyond that", real, 1U, 3U, 0U, 0, 0, false);
+    row("no column from the largest number on", real, 1U, last, 0U, 0, 0, false);
+    row("too many columns", real, 1U, 0U, 3U, 0, 0, false);
+    row("column behind the last", real, 1U, 2U, 1U, 0, 0, false);
+    row("largest number of columns", real, 1U, 0U, last, 0, 0, false);
+    row("end wraps around to 0", real, 1U, last, 1U, 0, 0, true);
+    row("end wraps around to 1", real, 1U, last, 2U, 0, 0, true);
+    row("end wraps around below the first column", real, 1U, 2U, last, 0, 0, true);
+    row("end wraps around beyond the columns", real, 1U, last, 4U, 0, 0, false);
+    row("row behind the last", real, 2U, 0U, 2U, 2, 0, false);
+    row("largest row", real, last, 0U, 2U, 2, 0, false);
+    row("row behind the last, no column", real, 2U, 0U, 0U, 0, 0, false);
+    row("row behind the last, wrapped around", real, 2U, last, 1U, 0, 0, false);
+    row("no rows", Dimensions{0, 2}, 0U, 0U, 2U, 2, 0, false);
+    row("no dimensions", Dimensions{}, 0U, 0U, 2U, 0, 0, false);
+    row("one dimension", Dimensions{2}, 0U, 0U, 2U, 0, 0, false);
+    row("three dimensions", Dimensions{2, 2, 2}, 0U, 0U, 2U, 0, 0, false);
+    row("one dimension, no column", Dimensions{2}, 0U, 0U, 0U, 0, 0, false);
+    row("fewer columns than unit types", Dimensions{2, 1}, 0U, 0U, 2U, 0, 0, false);
+    row("fewer columns than unit types, first one", Dimensions{2, 1}, 0U, 0U, 1U, 1, 1, true);
+    row("more columns than unit types", Dimensions{2, 9}, 0U, 0U, 3U, 0, 0, false);
+    row("more columns than unit types, existing ones", Dimensions{2, 9}, 0U, 0U, 2U, 2, 2, true);
 }
 
 void UnitManagerArrayTest::ranges()
@@ -159,22 +158,18 @@ void UnitManagerArrayTest::getValueArray_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    QTest::newRow("unit") << 0U << 0U << 1U << "HectoPascal" << QStringList{"double 1500"} << none;
-    QTest::newRow("default units of the columns")
-        << 0U << 0U << 3U << "" << QStringList{"double 1500", "double 2.5", described(300.15 - 273.15)}
-        << none;
-    QTest::newRow("columns from the middle")
-        << 0U << 1U << 3U << "Celsius" << QStringList{"double 2.5", described(300.15 - 273.15), "double 3.5"}
-        << none;
-    QTest::newRow("unit of another column")
-        << 0U << 0U << 3U << "HectoPascal" << QStringList{"double 1500", "double 2.5", described(300.15)}
-        << QStringList{Expected::unknownUnit(Conversion::FromBase, "HectoPascal", "AbsoluteTemperature")};
-    QTest::newRow("unknown unit type")
-        << 0U << 3U << 2U << "Bar" << QStringList{"double 3.5", "int 4"}
-        << QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)};
-    QTest::newRow("markers, also with unknown units, and texts")
-        << 1U << 0U << 5U << "Nope"
-        << QStringList{"double nan", "QString abc", "double nan", "QString def", "double nan"} << none;
+    row("unit", 0U, 0U, 1U, "HectoPascal", QStringList{"double 1500"}, none);
+    row("default units of the columns", 0U, 0U, 3U, "",
+        QStringList{"double 1500", "double 2.5", described(300.15 - 273.15)}, none);
+    row("columns from the middle", 0U, 1U, 3U, "Celsius",
+        QStringList{"double 2.5", described(300.15 - 273.15), "double 3.5"}, none);
+    row("unit of another column", 0U, 0U, 3U, "HectoPascal",
+        QStringList{"double 1500", "double 2.5", described(300.15)},
+        QStringList{Expected::unknownUnit(Conversion::FromBase, "HectoPascal", "AbsoluteTemperature")});
+    row("unknown unit type", 0U, 3U, 2U, "Bar", QStringList{"double 3.5", "int 4"},
+        QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)});
+    row("markers, also with unknown units, and texts", 1U, 0U, 5U, "Nope",
+        QStringList{"double nan", "QString abc", "double nan", "QString def", "double nan"}, none);
 }
 
 void UnitManagerArrayTest::getValueArray()
@@ -202,29 +197,23 @@ void UnitManagerArrayTest::setValueArray_data()
     const QStringList none;
     const QStringList old = {"double 1.5", "double 2.5", described(300.15), "double 3.5", "int 4"};
     const QString hPa = QStringLiteral("HectoPascal");
-    QTest::newRow("unit, not rounded")
-        << 0U << QVariantList{1234.56} << hPa << true
-        << QStringList{described(1234.56 * 0.001), old[1], old[2], old[3], old[4]} << none;
-    QTest::newRow("default units of the columns")
-        << 0U << QVariantList{2000, 7, 0} << "" << true
-        << QStringList{"double 2", "int 7", described(273.15), old[3], old[4]} << none;
-    QTest::newRow("columns from the middle, fixed unit as it is")
-        << 1U << QVariantList{"text", 0.0, 5} << "Celsius" << true
-        << QStringList{old[0], "QString text", described(273.15), "int 5", old[4]} << none;
-    QTest::newRow("markers are written also with unknown units")
-        << 0U << QVariantList{marker, marker, marker, marker, marker} << "Nope" << true
-        << QStringList{"double nan", "double nan", "double nan", "double nan", "double nan"} << none;
-    QTest::newRow("failure in the last column")
-        << 3U << QVariantList{5, 6} << "Bar" << false << old
-        << QStringList{Expected::noConversion(Conversion::ToBase, T::unknown)};
-    QTest::newRow("failure in the first column")
-        << 2U << QVariantList{7, 5} << hPa << false << old
-        << QStringList{Expected::unknownUnit(Conversion::ToBase, hPa, "AbsoluteTemperature")};
-    QTest::newRow("every failure is reported")
-        << 0U << QVariantList{"abc", 7, 8, 9, 10} << "Bar" << false << old
-        << Expected::notConverted(Conversion::ToBase, "QString", "Bar", "Pressure") +
-               QStringList{Expected::unknownUnit(Conversion::ToBase, "Bar", "AbsoluteTemperature"),
-                           Expected::noConversion(Conversion::ToBase, T::unknown)};
+    row("unit, not rounded", 0U, QVariantList{1234.56}, hPa, true,
+        QStringList{described(1234.56 * 0.001), old[1], old[2], old[3], old[4]}, none);
+    row("default units of the columns", 0U, QVariantList{2000, 7, 0}, "", true,
+        QStringList{"double 2", "int 7", described(273.15), old[3], old[4]}, none);
+    row("columns from the middle, fixed unit as it is", 1U, QVariantList{"text", 0.0, 5}, "Celsius", true,
+        QStringList{old[0], "QString text", described(273.15), "int 5", old[4]}, none);
+    row("markers are written also with unknown units", 0U,
+        QVariantList{marker, marker, marker, marker, marker}, "Nope", true,
+        QStringList{"double nan", "double nan", "double nan", "double nan", "double nan"}, none);
+    row("failure in the last column", 3U, QVariantList{5, 6}, "Bar", false, old,
+        QStringList{Expected::noConversion(Conversion::ToBase, T::unknown)});
+    row("failure in the first column", 2U, QVariantList{7, 5}, hPa, false, old,
+        QStringList{Expected::unknownUnit(Conversion::ToBase, hPa, "AbsoluteTemperature")});
+    row("every failure is reported", 0U, QVariantList{"abc", 7, 8, 9, 10}, "Bar", false, old,
+        Expected::notConverted(Conversion::ToBase, "QString", "Bar", "Pressure") +
+            QStringList{Expected::unknownUnit(Conversion::ToBase, "Bar", "AbsoluteTemperature"),
+                        Expected::noConversion(Conversion::ToBase, T::unknown)});
 }
 
 void UnitManagerArrayTest::setValueArray()
@@ -257,9 +246,9 @@ void UnitManagerArrayTest::emptyRangeWritesTheRowBack_data()
     QTest::addColumn<unsigned int>("firstColumn");
     QTest::addColumn<unsigned int>("columnCount");
 
-    QTest::newRow("no column") << 0U << 0U;
-    QTest::newRow("no column behind the last") << 2U << 0U;
-    QTest::newRow("end wraps around") << last << 1U;
+    row("no column", 0U, 0U);
+    row("no column behind the last", 2U, 0U);
+    row("end wraps around", last, 1U);
 }
 
 void UnitManagerArrayTest::emptyRangeWritesTheRowBack()
@@ -294,14 +283,12 @@ void UnitManagerArrayTest::getUnitText_data()
     QTest::addColumn<QStringList>("messages");
 
     const QString fixedBar = T::pressure + QStringLiteral("/Bar");
-    QTest::newRow("unit") << 0U << 2U << "Bar" << QStringList{"Bar", ""} << QStringList();
-    QTest::newRow("default units of the columns")
-        << 0U << 3U << "" << QStringList{"Hektopascal", "", "deg C"} << QStringList();
-    QTest::newRow("fixed unit without unit")
-        << 2U << 2U << "" << QStringList{"deg C", "Bar"} << QStringList{Expected::noDefaultUnit(fixedBar)};
-    QTest::newRow("unit of another column") << 0U << 5U << "Bar" << QStringList{"Bar", "", "", "Bar", ""}
-                                            << QStringList{Expected::unknownTextUnit("Bar", T::temperature),
-                                                           Expected::unknownTextType(T::unknown)};
+    row("unit", 0U, 2U, "Bar", QStringList{"Bar", ""}, QStringList());
+    row("default units of the columns", 0U, 3U, "", QStringList{"Hektopascal", "", "deg C"}, QStringList());
+    row("fixed unit without unit", 2U, 2U, "", QStringList{"deg C", "Bar"},
+        QStringList{Expected::noDefaultUnit(fixedBar)});
+    row("unit of another column", 0U, 5U, "Bar", QStringList{"Bar", "", "", "Bar", ""},
+        QStringList{Expected::unknownTextUnit("Bar", T::temperature), Expected::unknownTextType(T::unknown)});
 }
 
 void UnitManagerArrayTest::getUnitText()
@@ -324,20 +311,13 @@ void UnitManagerArrayTest::getUnitTextOfOneColumn_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    QTest::newRow("unit") << 0U << "Bar"
-                          << "Bar" << none;
-    QTest::newRow("default unit") << 0U << ""
-                                  << "Hektopascal" << none;
-    QTest::newRow("no unit type") << 1U << ""
-                                  << "" << none;
-    QTest::newRow("fixed unit") << 3U << "Celsius"
-                                << "Bar" << none;
-    QTest::newRow("unknown unit") << 0U << "Nope"
-                                  << "" << QStringList{Expected::unknownTextUnit("Nope", T::pressure)};
-    QTest::newRow("column behind the last") << 5U << "Bar"
-                                            << "" << none;
-    QTest::newRow("end wraps around") << last << "Bar"
-                                      << "" << none;
+    row("unit", 0U, "Bar", "Bar", none);
+    row("default unit", 0U, "", "Hektopascal", none);
+    row("no unit type", 1U, "", "", none);
+    row("fixed unit", 3U, "Celsius", "Bar", none);
+    row("unknown unit", 0U, "Nope", "", QStringList{Expected::unknownTextUnit("Nope", T::pressure)});
+    row("column behind the last", 5U, "Bar", "", none);
+    row("end wraps around", last, "Bar", "", none);
 }
 
 void UnitManagerArrayTest::getUnitTextOfOneColumn()

@@ -6,6 +6,7 @@
 
 #include "Described.h"
 #include "LogCapture.h"
+#include "Row.h"
 #include "TestDocuments.h"
 
 class UnitManagerConversionTest : public QObject
@@ -64,66 +65,45 @@ void addRowsOfBothDirections(Conversion conversion)
     const QStringList none;
     const QString fixedBar = T::pressure + QStringLiteral("/Bar");
 
-    QTest::newRow("base unit") << QVariant(1.23456) << T::pressure << "Bar" << described(1.235) << none;
-    QTest::newRow("negative half") << QVariant(-0.0005) << T::pressure << "Bar" << described(-0.001) << none;
-    QTest::newRow("whole number becomes a double") << QVariant(3) << T::pressure << "Bar"
-                                                   << "double 3" << none;
-    QTest::newRow("huge number has nothing to round")
-        << QVariant(1e20) << T::pressure << "Bar" << described(1e20) << none;
-    QTest::newRow("table unit has no places") << QVariant(1.5) << T::ratio << "Counts"
-                                              << "double 2" << none;
-    QTest::newRow("fixed unit is rounded only")
-        << QVariant(1.23456) << fixedBar << "" << described(1.235) << none;
-    QTest::newRow("fixed unit beats the unit")
-        << QVariant(1234.56789) << fixedBar << "HectoPascal" << described(1234.568) << none;
-    QTest::newRow("whole number in a fixed unit") << QVariant(3) << fixedBar << ""
-                                                  << "double 3" << none;
-    QTest::newRow("text in a fixed unit") << QVariant("abc") << fixedBar << ""
-                                          << "double 0" << QStringList{notRounded(streamedAbc)};
-    QTest::newRow("unknown fixed unit") << QVariant(1.23456) << T::pressure + "/Nope"
-                                        << "Bar" << described(1.23456) << none;
-    QTest::newRow("fixed unit of an unknown type")
-        << QVariant(1.23456) << "x/y/z/w"
-        << "" << described(1.23456) << QStringList{noConversionForDecimalPlaces("x/y/z")};
-    QTest::newRow("no unit") << QVariant(1.23456) << T::pressure << "NoUnit" << described(1.23456) << none;
-    QTest::newRow("unknown unit") << QVariant(1.23456) << T::pressure << "Nope" << described(1.23456)
-                                  << QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")};
-    QTest::newRow("unknown unit type")
-        << QVariant(1.23456) << T::unknown << "Bar" << described(1.23456)
-        << QStringList{noConversion(conversion, T::unknown), noConversionForDecimalPlaces(T::unknown)};
-    QTest::newRow("unknown unit type without unit")
-        << QVariant(7) << T::unknown << ""
-        << "int 7"
-        << QStringList{noDefaultUnit(T::unknown), noConversion(conversion, T::unknown),
-                       noDefaultUnit(T::unknown), noConversionForDecimalPlaces(T::unknown)};
-    QTest::newRow("no default unit") << QVariant(7) << T::ratio << ""
-                                     << "int 7"
-                                     << QStringList{noDefaultUnit(T::ratio), noDefaultUnit(T::ratio)};
-    QTest::newRow("unit without unit type") << QVariant(7) << ""
-                                            << "Bar"
-                                            << "int 7" << QStringList{noConversionForDecimalPlaces("")};
-    QTest::newRow("neither unit type nor unit")
-        << QVariant(7) << ""
-        << ""
-        << "int 7" << QStringList{noDefaultUnit(""), noConversionForDecimalPlaces("")};
-    QTest::newRow("text that is no number")
-        << QVariant("abc") << T::pressure << "Bar"
-        << "double 0"
-        << notConverted(conversion, "QString", "Bar", "Pressure") + QStringList{notRounded(streamedAbc)};
-    QTest::newRow("text that is a number is rounded all the same")
-        << QVariant("1.23456") << T::pressure << "Bar" << described(1.235)
-        << notConverted(conversion, "QString", "Bar", "Pressure");
-    QTest::newRow("truth value") << QVariant(true) << T::pressure << "Bar"
-                                 << "double 1" << notConverted(conversion, "bool", "Bar", "Pressure");
-    QTest::newRow("invalid value") << QVariant() << T::pressure << "Bar"
-                                   << "double 0"
-                                   << notConverted(conversion, "", "Bar", "Pressure") +
-                                          QStringList{notRounded("QVariant(Invalid)")};
-    QTest::newRow("invalid value with an unknown unit")
-        << QVariant() << T::pressure << "Nope"
-        << "invalid" << QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")};
-    QTest::newRow("marker") << QVariant(marker) << T::pressure << "HectoPascal"
-                            << "double nan" << none;
+    row("base unit", QVariant(1.23456), T::pressure, "Bar", described(1.235), none);
+    row("negative half", QVariant(-0.0005), T::pressure, "Bar", described(-0.001), none);
+    row("whole number becomes a double", QVariant(3), T::pressure, "Bar", "double 3", none);
+    row("huge number has nothing to round", QVariant(1e20), T::pressure, "Bar", described(1e20), none);
+    row("table unit has no places", QVariant(1.5), T::ratio, "Counts", "double 2", none);
+    row("fixed unit is rounded only", QVariant(1.23456), fixedBar, "", described(1.235), none);
+    row("fixed unit beats the unit", QVariant(1234.56789), fixedBar, "HectoPascal", described(1234.568),
+        none);
+    row("whole number in a fixed unit", QVariant(3), fixedBar, "", "double 3", none);
+    row("text in a fixed unit", QVariant("abc"), fixedBar, "", "double 0",
+        QStringList{notRounded(streamedAbc)});
+    row("unknown fixed unit", QVariant(1.23456), T::pressure + "/Nope", "Bar", described(1.23456), none);
+    row("fixed unit of an unknown type", QVariant(1.23456), "x/y/z/w", "", described(1.23456),
+        QStringList{noConversionForDecimalPlaces("x/y/z")});
+    row("no unit", QVariant(1.23456), T::pressure, "NoUnit", described(1.23456), none);
+    row("unknown unit", QVariant(1.23456), T::pressure, "Nope", described(1.23456),
+        QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")});
+    row("unknown unit type", QVariant(1.23456), T::unknown, "Bar", described(1.23456),
+        QStringList{noConversion(conversion, T::unknown), noConversionForDecimalPlaces(T::unknown)});
+    row("unknown unit type without unit", QVariant(7), T::unknown, "", "int 7",
+        QStringList{noDefaultUnit(T::unknown), noConversion(conversion, T::unknown),
+                    noDefaultUnit(T::unknown), noConversionForDecimalPlaces(T::unknown)});
+    row("no default unit", QVariant(7), T::ratio, "", "int 7",
+        QStringList{noDefaultUnit(T::ratio), noDefaultUnit(T::ratio)});
+    row("unit without unit type", QVariant(7), "", "Bar", "int 7",
+        QStringList{noConversionForDecimalPlaces("")});
+    row("neither unit type nor unit", QVariant(7), "", "", "int 7",
+        QStringList{noDefaultUnit(""), noConversionForDecimalPlaces("")});
+    row("text that is no number", QVariant("abc"), T::pressure, "Bar", "double 0",
+        notConverted(conversion, "QString", "Bar", "Pressure") + QStringList{notRounded(streamedAbc)});
+    row("text that is a number is rounded all the same", QVariant("1.23456"), T::pressure, "Bar",
+        described(1.235), notConverted(conversion, "QString", "Bar", "Pressure"));
+    row("truth value", QVariant(true), T::pressure, "Bar", "double 1",
+        notConverted(conversion, "bool", "Bar", "Pressure"));
+    row("invalid value", QVariant(), T::pressure, "Bar", "double 0",
+        notConverted(conversion, "", "Bar", "Pressure") + QStringList{notRounded("QVariant(Invalid)")});
+    row("invalid value with an unknown unit", QVariant(), T::pressure, "Nope", "invalid",
+        QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")});
+    row("marker", QVariant(marker), T::pressure, "HectoPascal", "double nan", none);
 }
 
 } // namespace
@@ -141,30 +121,25 @@ void UnitManagerConversionTest::roundDouble_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    QTest::newRow("half") << QVariant(1.25) << 1U << described(1.3) << none;
-    QTest::newRow("negative half") << QVariant(-1.25) << 1U << described(-1.3) << none;
-    QTest::newRow("no places") << QVariant(2.5) << 0U << "double 3" << none;
-    QTest::newRow("whole number becomes a double") << QVariant(3) << 2U << "double 3" << none;
-    QTest::newRow("unsigned number becomes a double")
-        << QVariant(4294967295U) << 0U << "double 4294967295" << none;
-    QTest::newRow("long number becomes a double")
-        << QVariant(-4294967296LL) << 1U << "double -4294967296" << none;
-    QTest::newRow("single-precision number becomes a double") << QVariant(2.5F) << 0U << "double 3" << none;
-    QTest::newRow("truth value becomes a double") << QVariant(true) << 0U << "double 1" << none;
-    QTest::newRow("text that is a number") << QVariant("1.25") << 1U << described(1.3) << none;
-    QTest::newRow("marker") << QVariant(marker) << 1U << "double nan" << none;
-    QTest::newRow("infinity") << QVariant(-infinity) << 1U << "double -inf" << none;
-    QTest::newRow("largest number of places") << QVariant(0.1) << 4294967295U << described(0.1) << none;
-    QTest::newRow("text that is no number")
-        << QVariant("abc") << 1U << "double 0" << QStringList{notRounded(streamedAbc)};
-    QTest::newRow("empty text") << QVariant("") << 1U << "double 0"
-                                << QStringList{notRounded("QVariant(QString, \"\")")};
-    QTest::newRow("text with a decimal comma")
-        << QVariant("1,5") << 1U << "double 0" << QStringList{notRounded("QVariant(QString, \"1,5\")")};
-    QTest::newRow("list") << QVariant(QVariantList{1}) << 1U << "double 0"
-                          << QStringList{notRounded("QVariant(QVariantList, (QVariant(int, 1)))")};
-    QTest::newRow("invalid value") << QVariant() << 1U << "double 0"
-                                   << QStringList{notRounded("QVariant(Invalid)")};
+    row("half", QVariant(1.25), 1U, described(1.3), none);
+    row("negative half", QVariant(-1.25), 1U, described(-1.3), none);
+    row("no places", QVariant(2.5), 0U, "double 3", none);
+    row("whole number becomes a double", QVariant(3), 2U, "double 3", none);
+    row("unsigned number becomes a double", QVariant(4294967295U), 0U, "double 4294967295", none);
+    row("long number becomes a double", QVariant(-4294967296LL), 1U, "double -4294967296", none);
+    row("single-precision number becomes a double", QVariant(2.5F), 0U, "double 3", none);
+    row("truth value becomes a double", QVariant(true), 0U, "double 1", none);
+    row("text that is a number", QVariant("1.25"), 1U, described(1.3), none);
+    row("marker", QVariant(marker), 1U, "double nan", none);
+    row("infinity", QVariant(-infinity), 1U, "double -inf", none);
+    row("largest number of places", QVariant(0.1), 4294967295U, described(0.1), none);
+    row("text that is no number", QVariant("abc"), 1U, "double 0", QStringList{notRounded(streamedAbc)});
+    row("empty text", QVariant(""), 1U, "double 0", QStringList{notRounded("QVariant(QString, \"\")")});
+    row("text with a decimal comma", QVariant("1,5"), 1U, "double 0",
+        QStringList{notRounded("QVariant(QString, \"1,5\")")});
+    row("list", QVariant(QVariantList{1}), 1U, "double 0",
+        QStringList{notRounded("QVariant(QVariantList, (QVariant(int, 1)))")});
+    row("invalid value", QVariant(), 1U, "double 0", QStringList{notRounded("QVariant(Invalid)")});
 }
 
 void UnitManagerConversionTest::roundDouble()
@@ -181,13 +156,10 @@ void UnitManagerConversionTest::fromBaseUnit_data()
 {
     addColumns();
     const QStringList none;
-    QTest::newRow("unit") << QVariant(1.23456) << T::pressure << "HectoPascal" << described(1234.6) << none;
-    QTest::newRow("empty unit is the default unit")
-        << QVariant(1.23456) << T::pressure << "" << described(1234.6) << none;
-    QTest::newRow("default unit written as a fixed unit")
-        << QVariant(300.0) << T::temperature << "" << described(26.9) << none;
-    QTest::newRow("polynomial without places") << QVariant(1.23456) << T::pressure << "MilliBar"
-                                               << "double 1235" << none;
+    row("unit", QVariant(1.23456), T::pressure, "HectoPascal", described(1234.6), none);
+    row("empty unit is the default unit", QVariant(1.23456), T::pressure, "", described(1234.6), none);
+    row("default unit written as a fixed unit", QVariant(300.0), T::temperature, "", described(26.9), none);
+    row("polynomial without places", QVariant(1.23456), T::pressure, "MilliBar", "double 1235", none);
     addRowsOfBothDirections(Conversion::FromBase);
 }
 
@@ -206,17 +178,13 @@ void UnitManagerConversionTest::toBaseUnit_data()
 {
     addColumns();
     const QStringList none;
-    QTest::newRow("rounded to the places of the given unit")
-        << QVariant(1234.56) << T::pressure << "HectoPascal" << described(1.2) << none;
-    QTest::newRow("nothing left at the places of the given unit")
-        << QVariant(1.234) << T::pressure << "HectoPascal"
-        << "double 0" << none;
-    QTest::newRow("base unit has more places")
-        << QVariant(1.234) << T::temperature << "Celsius" << described(274.4) << none;
-    QTest::newRow("empty unit is the default unit")
-        << QVariant(1234.56) << T::pressure << "" << described(1.2) << none;
-    QTest::newRow("polynomial without places") << QVariant(1634.56) << T::pressure << "MilliBar"
-                                               << "double 2" << none;
+    row("rounded to the places of the given unit", QVariant(1234.56), T::pressure, "HectoPascal",
+        described(1.2), none);
+    row("nothing left at the places of the given unit", QVariant(1.234), T::pressure, "HectoPascal",
+        "double 0", none);
+    row("base unit has more places", QVariant(1.234), T::temperature, "Celsius", described(274.4), none);
+    row("empty unit is the default unit", QVariant(1234.56), T::pressure, "", described(1.2), none);
+    row("polynomial without places", QVariant(1634.56), T::pressure, "MilliBar", "double 2", none);
     addRowsOfBothDirections(Conversion::ToBase);
 }
 
@@ -243,40 +211,24 @@ void UnitManagerConversionTest::rawFormsDoNotRound_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    QTest::newRow("unit") << QVariant(1.23456) << T::pressure << "HectoPascal" << described(1.23456 * 1000.0)
-                          << described(1.23456 * 0.001) << none;
-    QTest::newRow("empty unit is the default unit") << QVariant(2) << T::pressure << ""
-                                                    << "double 2000" << described(2 * 0.001) << none;
-    QTest::newRow("table unit") << QVariant(1.5) << T::ratio << "Counts"
-                                << "double 1.5"
-                                << "double 1.5" << none;
-    QTest::newRow("fixed unit") << QVariant(1.23456) << T::pressure + "/Bar"
-                                << "" << described(1.23456) << described(1.23456) << none;
-    QTest::newRow("whole number in a fixed unit") << QVariant(3) << T::pressure + "/Bar"
-                                                  << ""
-                                                  << "int 3"
-                                                  << "int 3" << none;
-    QTest::newRow("unit without unit type") << QVariant(3) << ""
-                                            << "Bar"
-                                            << "int 3"
-                                            << "int 3" << none;
-    QTest::newRow("no default unit") << QVariant(7) << T::ratio << ""
-                                     << "int 7"
-                                     << "int 7"
-                                     << QStringList{noDefaultUnit(T::ratio), noDefaultUnit(T::ratio)};
-    QTest::newRow("text") << QVariant("abc") << T::pressure << "Bar"
-                          << "QString abc"
-                          << "QString abc"
-                          << notConverted(Conversion::FromBase, "QString", "Bar", "Pressure") +
-                                 notConverted(Conversion::ToBase, "QString", "Bar", "Pressure");
-    QTest::newRow("invalid value") << QVariant() << T::pressure << "Bar"
-                                   << "invalid"
-                                   << "invalid"
-                                   << notConverted(Conversion::FromBase, "", "Bar", "Pressure") +
-                                          notConverted(Conversion::ToBase, "", "Bar", "Pressure");
-    QTest::newRow("marker") << QVariant(marker) << T::pressure << "HectoPascal"
-                            << "double nan"
-                            << "double nan" << none;
+    row("unit", QVariant(1.23456), T::pressure, "HectoPascal", described(1.23456 * 1000.0),
+        described(1.23456 * 0.001), none);
+    row("empty unit is the default unit", QVariant(2), T::pressure, "", "double 2000", described(2 * 0.001),
+        none);
+    row("table unit", QVariant(1.5), T::ratio, "Counts", "double 1.5", "double 1.5", none);
+    row("fixed unit", QVariant(1.23456), T::pressure + "/Bar", "", described(1.23456), described(1.23456),
+        none);
+    row("whole number in a fixed unit", QVariant(3), T::pressure + "/Bar", "", "int 3", "int 3", none);
+    row("unit without unit type", QVariant(3), "", "Bar", "int 3", "int 3", none);
+    row("no default unit", QVariant(7), T::ratio, "", "int 7", "int 7",
+        QStringList{noDefaultUnit(T::ratio), noDefaultUnit(T::ratio)});
+    row("text", QVariant("abc"), T::pressure, "Bar", "QString abc", "QString abc",
+        notConverted(Conversion::FromBase, "QString", "Bar", "Pressure") +
+            notConverted(Conversion::ToBase, "QString", "Bar", "Pressure"));
+    row("invalid value", QVariant(), T::pressure, "Bar", "invalid", "invalid",
+        notConverted(Conversion::FromBase, "", "Bar", "Pressure") +
+            notConverted(Conversion::ToBase, "", "Bar", "Pressure"));
+    row("marker", QVariant(marker), T::pressure, "HectoPascal", "double nan", "double nan", none);
 }
 
 void UnitManagerConversionTest::rawFormsDoNotRound()
@@ -299,25 +251,19 @@ void UnitManagerConversionTest::everyTypeOfNumber_data()
     QTest::addColumn<QString>("fromBase");
     QTest::addColumn<QString>("toBase");
 
-    QTest::newRow("double") << QVariant(2.5) << "double 2500" << described(2.5 * 0.001);
-    QTest::newRow("double that is null") << QVariant(QVariant::Double) << "double 0"
-                                         << "double 0";
-    QTest::newRow("negative zero") << QVariant(-0.0) << described(-0.0 + 0.0) << described(-0.0 + 0.0);
-    QTest::newRow("infinity, of which the polynomial takes nothing") << QVariant(-infinity) << "double nan"
-                                                                     << "double nan";
-    QTest::newRow("float") << QVariant(2.5F) << "double 2500" << described(2.5 * 0.001);
-    QTest::newRow("float marker") << QVariant(std::numeric_limits<float>::quiet_NaN()) << "float nan"
-                                  << "float nan";
-    QTest::newRow("int") << QVariant(-2) << "double -2000" << described(-2 * 0.001);
-    QTest::newRow("unsigned int") << QVariant(4294967295U) << "double 4294967295000"
-                                  << described(4294967295.0 * 0.001);
-    QTest::newRow("long long") << QVariant(-4294967296LL) << "double -4294967296000"
-                               << described(-4294967296.0 * 0.001);
-    QTest::newRow("unsigned long long")
-        << QVariant(4294967296ULL) << "double 4294967296000" << described(4294967296.0 * 0.001);
-    QTest::newRow("short") << QVariant::fromValue(short(-2)) << "double -2000" << described(-2 * 0.001);
-    QTest::newRow("signed char") << QVariant::fromValue<signed char>(-2) << "double -2000"
-                                 << described(-2 * 0.001);
+    row("double", QVariant(2.5), "double 2500", described(2.5 * 0.001));
+    row("double that is null", QVariant(QVariant::Double), "double 0", "double 0");
+    row("negative zero", QVariant(-0.0), described(-0.0 + 0.0), described(-0.0 + 0.0));
+    row("infinity, of which the polynomial takes nothing", QVariant(-infinity), "double nan", "double nan");
+    row("float", QVariant(2.5F), "double 2500", described(2.5 * 0.001));
+    row("float marker", QVariant(std::numeric_limits<float>::quiet_NaN()), "float nan", "float nan");
+    row("int", QVariant(-2), "double -2000", described(-2 * 0.001));
+    row("unsigned int", QVariant(4294967295U), "double 4294967295000", described(4294967295.0 * 0.001));
+    row("long long", QVariant(-4294967296LL), "double -4294967296000", described(-4294967296.0 * 0.001));
+    row("unsigned long long", QVariant(4294967296ULL), "double 4294967296000",
+        described(4294967296.0 * 0.001));
+    row("short", QVariant::fromValue(short(-2)), "double -2000", described(-2 * 0.001));
+    row("signed char", QVariant::fromValue<signed char>(-2), "double -2000", described(-2 * 0.001));
 }
 
 void UnitManagerConversionTest::everyTypeOfNumber()
@@ -345,14 +291,13 @@ void UnitManagerConversionTest::namesWithSeparators_data()
 
     const QStringList none;
     const QString parent = QStringLiteral("UnitManager/UnitType/Gauge");
-    QTest::newRow("none") << parent << described(1.23456 * 1000.0) << described(1234.6)
-                          << described(1.23456 * 0.001) << none;
-    QTest::newRow("one is a fixed unit")
-        << parent + "/Low" << described(1.23456) << described(1.23456) << described(1.23456) << none;
-    QTest::newRow("one at the end is a fixed unit")
-        << parent + "/" << described(1.23456) << described(1.23456) << described(1.23456) << none;
-    QTest::newRow("two are none") << parent + "/Low/Er" << described(1.23456 * 1000.0) << described(1234.6)
-                                  << described(1.23456 * 0.001) << none;
+    row("none", parent, described(1.23456 * 1000.0), described(1234.6), described(1.23456 * 0.001), none);
+    row("one is a fixed unit", parent + "/Low", described(1.23456), described(1.23456), described(1.23456),
+        none);
+    row("one at the end is a fixed unit", parent + "/", described(1.23456), described(1.23456),
+        described(1.23456), none);
+    row("two are none", parent + "/Low/Er", described(1.23456 * 1000.0), described(1234.6),
+        described(1.23456 * 0.001), none);
 }
 
 void UnitManagerConversionTest::namesWithSeparators()
@@ -380,24 +325,16 @@ void UnitManagerConversionTest::getValue_data()
 {
     addColumns();
     const QStringList none;
-    QTest::newRow("unit") << QVariant(1.23456) << T::pressure << "HectoPascal" << described(1.23456 * 1000.0)
-                          << none;
-    QTest::newRow("empty unit is the default unit") << QVariant(2) << T::pressure << ""
-                                                    << "double 2000" << none;
-    QTest::newRow("fixed unit") << QVariant(1.23456) << T::pressure + "/Bar"
-                                << "" << described(1.23456) << none;
-    QTest::newRow("marker") << QVariant(marker) << T::pressure << "HectoPascal"
-                            << "double nan" << none;
-    QTest::newRow("invalid value") << QVariant() << T::pressure << "Bar"
-                                   << "invalid" << none;
-    QTest::newRow("invalid value of an unknown type") << QVariant() << T::unknown << ""
-                                                      << "invalid" << none;
-    QTest::newRow("text") << QVariant("abc") << T::pressure << "Bar"
-                          << "QString abc"
-                          << notConverted(Conversion::FromBase, "QString", "Bar", "Pressure");
-    QTest::newRow("unknown unit type")
-        << QVariant(7) << T::unknown << "Bar"
-        << "int 7" << QStringList{noConversion(Conversion::FromBase, T::unknown)};
+    row("unit", QVariant(1.23456), T::pressure, "HectoPascal", described(1.23456 * 1000.0), none);
+    row("empty unit is the default unit", QVariant(2), T::pressure, "", "double 2000", none);
+    row("fixed unit", QVariant(1.23456), T::pressure + "/Bar", "", described(1.23456), none);
+    row("marker", QVariant(marker), T::pressure, "HectoPascal", "double nan", none);
+    row("invalid value", QVariant(), T::pressure, "Bar", "invalid", none);
+    row("invalid value of an unknown type", QVariant(), T::unknown, "", "invalid", none);
+    row("text", QVariant("abc"), T::pressure, "Bar", "QString abc",
+        notConverted(Conversion::FromBase, "QString", "Bar", "Pressure"));
+    row("unknown unit type", QVariant(7), T::unknown, "Bar", "int 7",
+        QStringList{noConversion(Conversion::FromBase, T::unknown)});
 }
 
 void UnitManagerConversionTest::getValue()

@@ -8,6 +8,7 @@
 #include "Described.h"
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
+#include "Row.h"
 #include "TestDocuments.h"
 
 class UnitManagerCoreConversionTest : public QObject
@@ -58,57 +59,45 @@ void addUnconvertedRows(Conversion conversion)
     const QStringList none;
     const QString fixedBar = T::pressure + QStringLiteral("/Bar");
 
-    QTest::newRow("fixed unit") << QVariant(1.5) << fixedBar << "" << true << "double 1.5" << none;
-    QTest::newRow("fixed unit beats the unit")
-        << QVariant(1.5) << fixedBar << "HectoPascal" << true << "double 1.5" << none;
-    QTest::newRow("fixed unit takes any value")
-        << QVariant("abc") << fixedBar << "" << true << "QString abc" << none;
-    QTest::newRow("unknown fixed unit") << QVariant(3) << "x/y/z/w"
-                                        << "Bar" << true << "int 3" << none;
-    QTest::newRow("no unit") << QVariant("abc") << T::pressure << "NoUnit" << true << "QString abc" << none;
-    QTest::newRow("no default unit") << QVariant(7) << T::ratio << "" << true << "int 7"
-                                     << QStringList{Expected::noDefaultUnit(T::ratio)};
-    QTest::newRow("text without default unit") << QVariant("abc") << T::ratio << "" << true << "QString abc"
-                                               << QStringList{Expected::noDefaultUnit(T::ratio)};
-    QTest::newRow("unknown unit") << QVariant(3) << T::pressure << "Nope" << false << "int 3"
-                                  << QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")};
-    QTest::newRow("unit in other case") << QVariant(3) << T::pressure << "bar" << false << "int 3"
-                                        << QStringList{Expected::unknownUnit(conversion, "bar", "Pressure")};
-    QTest::newRow("text with an unknown unit")
-        << QVariant("abc") << T::pressure << "Nope" << false << "QString abc"
-        << QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")};
-    QTest::newRow("text") << QVariant("1.5") << T::pressure << "Bar" << false << "QString 1.5"
-                          << notConverted(conversion, "QString", "Bar", "Pressure");
-    QTest::newRow("text in the default unit")
-        << QVariant("1.5") << T::pressure << "" << false << "QString 1.5"
-        << notConverted(conversion, "QString", "HectoPascal", "Pressure");
-    QTest::newRow("truth value") << QVariant(true) << T::pressure << "Bar" << false << "bool true"
-                                 << notConverted(conversion, "bool", "Bar", "Pressure");
-    QTest::newRow("invalid value") << QVariant() << T::pressure << "Bar" << false << "invalid"
-                                   << notConverted(conversion, "", "Bar", "Pressure");
-    QTest::newRow("marker") << QVariant(marker) << T::pressure << "HectoPascal" << true << "double nan"
-                            << none;
-    QTest::newRow("single-precision marker")
-        << QVariant(floatMarker) << T::pressure << "HectoPascal" << true << "float nan" << none;
-    QTest::newRow("marker in the default unit")
-        << QVariant(marker) << T::pressure << "" << true << "double nan" << none;
-    QTest::newRow("marker with an unknown unit")
-        << QVariant(marker) << T::pressure << "Nope" << false << "double nan"
-        << QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")};
-    QTest::newRow("unknown unit type") << QVariant(3) << T::unknown << "Bar" << false << "int 3"
-                                       << QStringList{Expected::noConversion(conversion, T::unknown)};
-    QTest::newRow("unknown unit type without unit")
-        << QVariant(3) << T::unknown << "" << false << "int 3"
-        << QStringList{Expected::noDefaultUnit(T::unknown), Expected::noConversion(conversion, T::unknown)};
-    QTest::newRow("unit type without prefix")
-        << QVariant(3) << "Pressure"
-        << "Bar" << false << "int 3" << QStringList{Expected::noConversion(conversion, "Pressure")};
-    QTest::newRow("four slashes") << QVariant(3) << fixedBar + "/x"
-                                  << "Bar" << false << "int 3"
-                                  << QStringList{Expected::noConversion(conversion, fixedBar + "/x")};
-    QTest::newRow("unit-less type that the document has not")
-        << QVariant(3) << T::noUnit << "" << false << "int 3"
-        << QStringList{Expected::noConversion(conversion, T::noUnit)};
+    row("fixed unit", QVariant(1.5), fixedBar, "", true, "double 1.5", none);
+    row("fixed unit beats the unit", QVariant(1.5), fixedBar, "HectoPascal", true, "double 1.5", none);
+    row("fixed unit takes any value", QVariant("abc"), fixedBar, "", true, "QString abc", none);
+    row("unknown fixed unit", QVariant(3), "x/y/z/w", "Bar", true, "int 3", none);
+    row("no unit", QVariant("abc"), T::pressure, "NoUnit", true, "QString abc", none);
+    row("no default unit", QVariant(7), T::ratio, "", true, "int 7",
+        QStringList{Expected::noDefaultUnit(T::ratio)});
+    row("text without default unit", QVariant("abc"), T::ratio, "", true, "QString abc",
+        QStringList{Expected::noDefaultUnit(T::ratio)});
+    row("unknown unit", QVariant(3), T::pressure, "Nope", false, "int 3",
+        QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")});
+    row("unit in other case", QVariant(3), T::pressure, "bar", false, "int 3",
+        QStringList{Expected::unknownUnit(conversion, "bar", "Pressure")});
+    row("text with an unknown unit", QVariant("abc"), T::pressure, "Nope", false, "QString abc",
+        QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")});
+    row("text", QVariant("1.5"), T::pressure, "Bar", false, "QString 1.5",
+        notConverted(conversion, "QString", "Bar", "Pressure"));
+    row("text in the default unit", QVariant("1.5"), T::pressure, "", false, "QString 1.5",
+        notConverted(conversion, "QString", "HectoPascal", "Pressure"));
+    row("truth value", QVariant(true), T::pressure, "Bar", false, "bool true",
+        notConverted(conversion, "bool", "Bar", "Pressure"));
+    row("invalid value", QVariant(), T::pressure, "Bar", false, "invalid",
+        notConverted(conversion, "", "Bar", "Pressure"));
+    row("marker", QVariant(marker), T::pressure, "HectoPascal", true, "double nan", none);
+    row("single-precision marker", QVariant(floatMarker), T::pressure, "HectoPascal", true, "float nan",
+        none);
+    row("marker in the default unit", QVariant(marker), T::pressure, "", true, "double nan", none);
+    row("marker with an unknown unit", QVariant(marker), T::pressure, "Nope", false, "double nan",
+        QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")});
+    row("unknown unit type", QVariant(3), T::unknown, "Bar", false, "int 3",
+        QStringList{Expected::noConversion(conversion, T::unknown)});
+    row("unknown unit type without unit", QVariant(3), T::unknown, "", false, "int 3",
+        QStringList{Expected::noDefaultUnit(T::unknown), Expected::noConversion(conversion, T::unknown)});
+    row("unit type without prefix", QVariant(3), "Pressure", "Bar", false, "int 3",
+        QStringList{Expected::noConversion(conversion, "Pressure")});
+    row("four slashes", QVariant(3), fixedBar + "/x", "Bar", false, "int 3",
+        QStringList{Expected::noConversion(conversion, fixedBar + "/x")});
+    row("unit-less type that the document has not", QVariant(3), T::noUnit, "", false, "int 3",
+        QStringList{Expected::noConversion(conversion, T::noUnit)});
 }
 
 } // namespace
@@ -123,24 +112,17 @@ void UnitManagerCoreConversionTest::toBaseUnit_data()
 {
     addConversionColumns();
     const QStringList none;
-    QTest::newRow("unit") << QVariant(1500.0) << T::pressure << "HectoPascal" << true << "double 1.5" << none;
-    QTest::newRow("empty unit is the default unit")
-        << QVariant(1500.0) << T::pressure << "" << true << "double 1.5" << none;
-    QTest::newRow("default unit written as a fixed unit")
-        << QVariant(-273.15) << T::temperature << "" << true << "double 0" << none;
-    QTest::newRow("whole number becomes a double")
-        << QVariant(3) << T::pressure << "Bar" << true << "double 3" << none;
-    QTest::newRow("whole number in the default unit")
-        << QVariant(2000U) << T::pressure << "" << true << "double 2" << none;
-    QTest::newRow("no rounding") << QVariant(1234.5678) << T::pressure << "Bar" << true
-                                 << described(1234.5678) << none;
-    QTest::newRow("table unit") << QVariant(1.5) << T::ratio << "Counts" << true << "double 1.5" << none;
-    QTest::newRow("neither unit type nor unit") << QVariant("abc") << ""
-                                                << "" << true << "QString abc" << none;
-    QTest::newRow("unit without unit type") << QVariant(3) << ""
-                                            << "Bar" << false << "int 3" << none;
-    QTest::newRow("no unit without unit type") << QVariant(3) << ""
-                                               << "NoUnit" << false << "int 3" << none;
+    row("unit", QVariant(1500.0), T::pressure, "HectoPascal", true, "double 1.5", none);
+    row("empty unit is the default unit", QVariant(1500.0), T::pressure, "", true, "double 1.5", none);
+    row("default unit written as a fixed unit", QVariant(-273.15), T::temperature, "", true, "double 0",
+        none);
+    row("whole number becomes a double", QVariant(3), T::pressure, "Bar", true, "double 3", none);
+    row("whole number in the default unit", QVariant(2000U), T::pressure, "", true, "double 2", none);
+    row("no rounding", QVariant(1234.5678), T::pressure, "Bar", true, described(1234.5678), none);
+    row("table unit", QVariant(1.5), T::ratio, "Counts", true, "double 1.5", none);
+    row("neither unit type nor unit", QVariant("abc"), "", "", true, "QString abc", none);
+    row("unit without unit type", QVariant(3), "", "Bar", false, "int 3", none);
+    row("no unit without unit type", QVariant(3), "", "NoUnit", false, "int 3", none);
     addUnconvertedRows(Conversion::ToBase);
 }
 
@@ -160,20 +142,14 @@ void UnitManagerCoreConversionTest::fromBaseUnit_data()
 {
     addConversionColumns();
     const QStringList none;
-    QTest::newRow("unit") << QVariant(1.5) << T::pressure << "HectoPascal" << true << "double 1500" << none;
-    QTest::newRow("empty unit is the default unit")
-        << QVariant(1.5) << T::pressure << "" << true << "double 1500" << none;
-    QTest::newRow("default unit written as a fixed unit")
-        << QVariant(273.15) << T::temperature << "" << true << "double 0" << none;
-    QTest::newRow("whole number becomes a double")
-        << QVariant(3) << T::pressure << "Bar" << true << "double 3" << none;
-    QTest::newRow("no rounding") << QVariant(1234.5678) << T::pressure << "Bar" << true
-                                 << described(1234.5678) << none;
-    QTest::newRow("table unit") << QVariant(1.5) << T::ratio << "Counts" << true << "double 1.5" << none;
-    QTest::newRow("neither unit type nor unit") << QVariant("abc") << ""
-                                                << "" << true << "QString abc" << none;
-    QTest::newRow("unit without unit type") << QVariant(3) << ""
-                                            << "Bar" << true << "int 3" << none;
+    row("unit", QVariant(1.5), T::pressure, "HectoPascal", true, "double 1500", none);
+    row("empty unit is the default unit", QVariant(1.5), T::pressure, "", true, "double 1500", none);
+    row("default unit written as a fixed unit", QVariant(273.15), T::temperature, "", true, "double 0", none);
+    row("whole number becomes a double", QVariant(3), T::pressure, "Bar", true, "double 3", none);
+    row("no rounding", QVariant(1234.5678), T::pressure, "Bar", true, described(1234.5678), none);
+    row("table unit", QVariant(1.5), T::ratio, "Counts", true, "double 1.5", none);
+    row("neither unit type nor unit", QVariant("abc"), "", "", true, "QString abc", none);
+    row("unit without unit type", QVariant(3), "", "Bar", true, "int 3", none);
     addUnconvertedRows(Conversion::FromBase);
 }
 
@@ -216,21 +192,17 @@ void UnitManagerCoreConversionTest::nodeToBaseUnit_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    QTest::newRow("unit") << QVariant(T::pressure) << "HectoPascal" << true << "double 2" << none;
-    QTest::newRow("default unit") << QVariant(T::pressure) << "" << true << "double 2" << none;
-    QTest::newRow("fixed unit") << QVariant(T::pressure + "/Bar") << "HectoPascal" << true << "int 2000"
-                                << none;
-    QTest::newRow("no unit type, no unit") << QVariant() << "" << true << "int 2000" << none;
-    QTest::newRow("no unit type, a unit") << QVariant() << "Bar" << false << "int 2000" << none;
-    QTest::newRow("unit type that is no text, no unit")
-        << QVariant(QVariantList{1}) << "" << true << "int 2000" << none;
-    QTest::newRow("unit type that is no text, a unit")
-        << QVariant(QVariantList{1}) << "Bar" << false << "int 2000" << none;
-    QTest::newRow("unknown unit") << QVariant(T::pressure) << "Nope" << false << "int 2000"
-                                  << QStringList{
-                                         Expected::unknownUnit(Conversion::ToBase, "Nope", "Pressure")};
-    QTest::newRow("unknown unit type") << QVariant(T::unknown) << "Bar" << false << "int 2000"
-                                       << QStringList{Expected::noConversion(Conversion::ToBase, T::unknown)};
+    row("unit", QVariant(T::pressure), "HectoPascal", true, "double 2", none);
+    row("default unit", QVariant(T::pressure), "", true, "double 2", none);
+    row("fixed unit", QVariant(T::pressure + "/Bar"), "HectoPascal", true, "int 2000", none);
+    row("no unit type, no unit", QVariant(), "", true, "int 2000", none);
+    row("no unit type, a unit", QVariant(), "Bar", false, "int 2000", none);
+    row("unit type that is no text, no unit", QVariant(QVariantList{1}), "", true, "int 2000", none);
+    row("unit type that is no text, a unit", QVariant(QVariantList{1}), "Bar", false, "int 2000", none);
+    row("unknown unit", QVariant(T::pressure), "Nope", false, "int 2000",
+        QStringList{Expected::unknownUnit(Conversion::ToBase, "Nope", "Pressure")});
+    row("unknown unit type", QVariant(T::unknown), "Bar", false, "int 2000",
+        QStringList{Expected::noConversion(Conversion::ToBase, T::unknown)});
 }
 
 void UnitManagerCoreConversionTest::nodeToBaseUnit()
@@ -255,23 +227,15 @@ void UnitManagerCoreConversionTest::nodeFromBaseUnit_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    QTest::newRow("unit") << QVariant(T::pressure) << "HectoPascal"
-                          << "double 2000" << none;
-    QTest::newRow("default unit") << QVariant(T::pressure) << ""
-                                  << "double 2000" << none;
-    QTest::newRow("fixed unit") << QVariant(T::pressure + "/Bar") << "HectoPascal"
-                                << "int 2" << none;
-    QTest::newRow("no unit type") << QVariant() << "Bar"
-                                  << "int 2" << none;
-    QTest::newRow("unit type that is no text") << QVariant(QVariantList{1}) << "Bar"
-                                               << "int 2" << none;
-    QTest::newRow("unknown unit") << QVariant(T::pressure) << "Nope"
-                                  << "int 2"
-                                  << QStringList{
-                                         Expected::unknownUnit(Conversion::FromBase, "Nope", "Pressure")};
-    QTest::newRow("unknown unit type")
-        << QVariant(T::unknown) << "Bar"
-        << "int 2" << QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)};
+    row("unit", QVariant(T::pressure), "HectoPascal", "double 2000", none);
+    row("default unit", QVariant(T::pressure), "", "double 2000", none);
+    row("fixed unit", QVariant(T::pressure + "/Bar"), "HectoPascal", "int 2", none);
+    row("no unit type", QVariant(), "Bar", "int 2", none);
+    row("unit type that is no text", QVariant(QVariantList{1}), "Bar", "int 2", none);
+    row("unknown unit", QVariant(T::pressure), "Nope", "int 2",
+        QStringList{Expected::unknownUnit(Conversion::FromBase, "Nope", "Pressure")});
+    row("unknown unit type", QVariant(T::unknown), "Bar", "int 2",
+        QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)});
 }
 
 void UnitManagerCoreConversionTest::nodeFromBaseUnit()

@@ -6,6 +6,7 @@
 
 #include "Described.h"
 #include "LogCapture.h"
+#include "Row.h"
 #include "TestDocuments.h"
 
 class UnitManagerCoreLoadingTest : public QObject
@@ -63,10 +64,10 @@ void addUnreadableFiles()
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isReported");
 
-    QTest::newRow("missing file") << "missing.json" << true;
-    QTest::newRow("missing folder") << "missing/units.json" << true;
-    QTest::newRow("folder") << "." << true;
-    QTest::newRow("empty file") << "empty.json" << false;
+    row("missing file", "missing.json", true);
+    row("missing folder", "missing/units.json", true);
+    row("folder", ".", true);
+    row("empty file", "empty.json", false);
 }
 
 } // namespace
@@ -110,24 +111,23 @@ void UnitManagerCoreLoadingTest::unitDocument_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    QTest::newRow("units and labels") << TestDocuments::voltage() << true << QStringList{T::voltage} << none;
-    QTest::newRow("labels without conversions")
-        << R"({ "Voltage": { "Volt": { "@displayPosition": 0, "UnitLabel": "V" } } })" << true
-        << QStringList{T::voltage} << none;
-    QTest::newRow("no base unit")
-        << R"({ "Voltage": { "Volt": { "@displayPosition": 1, "UnitLabel": "V" } } })" << true
-        << QStringList{T::voltage} << QStringList{Expected::noBaseUnitLabel(T::voltage)};
-    QTest::newRow("no labels") << unitsWithoutLabels << false << QStringList{T::voltage} << none;
-    QTest::newRow("no units") << R"({ "Voltage": {} })" << false << QStringList{T::voltage}
-                              << QStringList{Expected::noBaseUnitLabel(T::voltage)};
-    QTest::newRow("null unit type") << R"({ "Voltage": null })" << false << QStringList{T::voltage}
-                                    << QStringList{Expected::noBaseUnitLabel(T::voltage)};
-    QTest::newRow("no unit types") << "{}" << false << none << none;
-    QTest::newRow("empty text") << "" << false << none << none;
-    QTest::newRow("blanks") << "  " << false << none << QStringList{Expected::invalidUnitDocument("  ")};
-    QTest::newRow("torn document") << R"({ "Voltage": )" << false << none
-                                   << QStringList{Expected::invalidUnitDocument(R"({ \"Voltage\": )")};
-    QTest::newRow("list") << "[1]" << false << none << QStringList{Expected::invalidUnitDocument("[1]")};
+    row("units and labels", TestDocuments::voltage(), true, QStringList{T::voltage}, none);
+    row("labels without conversions",
+        R"({ "Voltage": { "Volt": { "@displayPosition": 0, "UnitLabel": "V" } } })", true,
+        QStringList{T::voltage}, none);
+    row("no base unit", R"({ "Voltage": { "Volt": { "@displayPosition": 1, "UnitLabel": "V" } } })", true,
+        QStringList{T::voltage}, QStringList{Expected::noBaseUnitLabel(T::voltage)});
+    row("no labels", unitsWithoutLabels, false, QStringList{T::voltage}, none);
+    row("no units", R"({ "Voltage": {} })", false, QStringList{T::voltage},
+        QStringList{Expected::noBaseUnitLabel(T::voltage)});
+    row("null unit type", R"({ "Voltage": null })", false, QStringList{T::voltage},
+        QStringList{Expected::noBaseUnitLabel(T::voltage)});
+    row("no unit types", "{}", false, none, none);
+    row("empty text", "", false, none, none);
+    row("blanks", "  ", false, none, QStringList{Expected::invalidUnitDocument("  ")});
+    row("torn document", R"({ "Voltage": )", false, none,
+        QStringList{Expected::invalidUnitDocument(R"({ \"Voltage\": )")});
+    row("list", "[1]", false, none, QStringList{Expected::invalidUnitDocument("[1]")});
 }
 
 void UnitManagerCoreLoadingTest::unitDocument()
@@ -147,9 +147,9 @@ void UnitManagerCoreLoadingTest::failedUnitDocumentLeavesNothing_data()
 {
     QTest::addColumn<QString>("json");
 
-    QTest::newRow("empty text") << "";
-    QTest::newRow("torn document") << "{";
-    QTest::newRow("no unit types") << "{}";
+    row("empty text", "");
+    row("torn document", "{");
+    row("no unit types", "{}");
 }
 
 void UnitManagerCoreLoadingTest::failedUnitDocumentLeavesNothing()
@@ -213,21 +213,17 @@ void UnitManagerCoreLoadingTest::defaultUnitDocument_data()
     const auto selection = [](const QString& value) {
         return QStringLiteral(R"({ "Pressure": { "@type": "Selection", "@value": %1 } })").arg(value);
     };
-    QTest::newRow("unit name") << selection(R"("Bar")") << true << "Bar" << none;
-    QTest::newRow("fixed unit") << selection(R"("UnitManager/UnitType/Pressure/Bar")") << true << "Bar"
-                                << none;
-    QTest::newRow("value that ends in a slash") << selection(R"("a/b/")") << true << "" << none;
-    QTest::newRow("number as value") << selection("5") << true << "5" << none;
-    QTest::newRow("list as value") << selection("[1]") << false << "" << unknown;
-    QTest::newRow("other type") << R"({ "Pressure": { "@type": "Text", "@value": "Bar" } })" << false << ""
-                                << unknown;
-    QTest::newRow("null entry") << R"({ "Pressure": null })" << false << "" << unknown;
-    QTest::newRow("other unit type") << R"({ "Ratio": { "@type": "Selection", "@value": "Counts" } })" << true
-                                     << "" << unknown;
-    QTest::newRow("no entries") << "{}" << false << "" << unknown;
-    QTest::newRow("empty text") << "" << true << "" << unknown;
-    QTest::newRow("torn document") << "{" << false << ""
-                                   << QStringList{Expected::invalidDefaultUnitDocument()} + unknown;
+    row("unit name", selection(R"("Bar")"), true, "Bar", none);
+    row("fixed unit", selection(R"("UnitManager/UnitType/Pressure/Bar")"), true, "Bar", none);
+    row("value that ends in a slash", selection(R"("a/b/")"), true, "", none);
+    row("number as value", selection("5"), true, "5", none);
+    row("list as value", selection("[1]"), false, "", unknown);
+    row("other type", R"({ "Pressure": { "@type": "Text", "@value": "Bar" } })", false, "", unknown);
+    row("null entry", R"({ "Pressure": null })", false, "", unknown);
+    row("other unit type", R"({ "Ratio": { "@type": "Selection", "@value": "Counts" } })", true, "", unknown);
+    row("no entries", "{}", false, "", unknown);
+    row("empty text", "", true, "", unknown);
+    row("torn document", "{", false, "", QStringList{Expected::invalidDefaultUnitDocument()} + unknown);
 }
 
 void UnitManagerCoreLoadingTest::defaultUnitDocument()

@@ -7,6 +7,7 @@
 #include "Described.h"
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
+#include "Row.h"
 #include "TestDocuments.h"
 
 static_assert(std::has_virtual_destructor_v<UnitManagerCore>);
@@ -64,19 +65,19 @@ void UnitManagerCoreTest::fixedUnitsAreCountedBySlashes_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("isFixed");
 
-    QTest::newRow("unit identifier") << T::pressure + "/Bar" << true;
-    QTest::newRow("unit type") << T::pressure << false;
-    QTest::newRow("two slashes of other text") << "a/b/c" << false;
-    QTest::newRow("three slashes of other text") << "x/y/z/w" << true;
-    QTest::newRow("four slashes") << T::pressure + "/Bar/x" << false;
-    QTest::newRow("last part empty") << "a/b/c/" << true;
-    QTest::newRow("last two parts empty") << "a/b//" << true;
-    QTest::newRow("all parts empty") << "///" << true;
-    QTest::newRow("first part empty") << "/a/b/c" << true;
-    QTest::newRow("prefix alone") << "UnitManager/UnitType/" << false;
-    QTest::newRow("backslashes do not count") << "a\\b\\c\\d" << false;
-    QTest::newRow("division slashes do not count") << QStringLiteral("a\u2215b\u2215c\u2215d") << false;
-    QTest::newRow("empty") << "" << false;
+    row("unit identifier", T::pressure + "/Bar", true);
+    row("unit type", T::pressure, false);
+    row("two slashes of other text", "a/b/c", false);
+    row("three slashes of other text", "x/y/z/w", true);
+    row("four slashes", T::pressure + "/Bar/x", false);
+    row("last part empty", "a/b/c/", true);
+    row("last two parts empty", "a/b//", true);
+    row("all parts empty", "///", true);
+    row("first part empty", "/a/b/c", true);
+    row("prefix alone", "UnitManager/UnitType/", false);
+    row("backslashes do not count", "a\\b\\c\\d", false);
+    row("division slashes do not count", QStringLiteral("a\u2215b\u2215c\u2215d"), false);
+    row("empty", "", false);
 }
 
 void UnitManagerCoreTest::fixedUnitsAreCountedBySlashes()
@@ -93,22 +94,12 @@ void UnitManagerCoreTest::fixedUnitsAreSplitAtTheLastSlash_data()
     QTest::addColumn<QString>("unitType");
     QTest::addColumn<QString>("unit");
 
-    QTest::newRow("unit identifier") << T::pressure + "/Bar" << T::pressure << "Bar";
-    QTest::newRow("other text") << "x/y/z/w"
-                                << "x/y/z"
-                                << "w";
-    QTest::newRow("last part empty") << "a/b/c/"
-                                     << "a/b/c"
-                                     << "";
-    QTest::newRow("last two parts empty") << "a/b//"
-                                          << "a/b/"
-                                          << "";
-    QTest::newRow("inner parts empty") << "a///b"
-                                       << "a//"
-                                       << "b";
-    QTest::newRow("all parts empty") << "///"
-                                     << "//"
-                                     << "";
+    row("unit identifier", T::pressure + "/Bar", T::pressure, "Bar");
+    row("other text", "x/y/z/w", "x/y/z", "w");
+    row("last part empty", "a/b/c/", "a/b/c", "");
+    row("last two parts empty", "a/b//", "a/b/", "");
+    row("inner parts empty", "a///b", "a//", "b");
+    row("all parts empty", "///", "//", "");
 }
 
 void UnitManagerCoreTest::fixedUnitsAreSplitAtTheLastSlash()
@@ -128,10 +119,10 @@ void UnitManagerCoreTest::otherTextsAreNotSplit_data()
 {
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("unit type") << T::pressure;
-    QTest::newRow("four slashes") << T::pressure + "/Bar/x";
-    QTest::newRow("unit name") << "Bar";
-    QTest::newRow("empty") << "";
+    row("unit type", T::pressure);
+    row("four slashes", T::pressure + "/Bar/x");
+    row("unit name", "Bar");
+    row("empty", "");
 }
 
 void UnitManagerCoreTest::otherTextsAreNotSplit()
@@ -176,15 +167,13 @@ void UnitManagerCoreTest::unitTypeOfNode_data()
     const QStringList asked{QStringLiteral("hasProperty @unitType")};
     const QStringList read = asked + QStringList{QStringLiteral("getProperty @unitType")};
 
-    QTest::newRow("text") << QVariant(T::pressure) << true << T::pressure << read;
-    QTest::newRow("fixed unit stays whole")
-        << QVariant(T::pressure + "/Bar") << true << T::pressure + "/Bar" << read;
-    QTest::newRow("empty text") << QVariant(QString("")) << true << "" << read;
-    QTest::newRow("number converts to a text") << QVariant(5) << true << "5" << read;
-    QTest::newRow("list does not convert") << QVariant(QVariantList{1}) << false << "old type" << read;
-    QTest::newRow("map does not convert")
-        << QVariant(QVariantMap{{"en", "bar"}}) << false << "old type" << read;
-    QTest::newRow("no property") << QVariant() << false << "old type" << asked;
+    row("text", QVariant(T::pressure), true, T::pressure, read);
+    row("fixed unit stays whole", QVariant(T::pressure + "/Bar"), true, T::pressure + "/Bar", read);
+    row("empty text", QVariant(QString("")), true, "", read);
+    row("number converts to a text", QVariant(5), true, "5", read);
+    row("list does not convert", QVariant(QVariantList{1}), false, "old type", read);
+    row("map does not convert", QVariant(QVariantMap{{"en", "bar"}}), false, "old type", read);
+    row("no property", QVariant(), false, "old type", asked);
 }
 
 void UnitManagerCoreTest::unitTypeOfNode()
@@ -241,36 +230,27 @@ void UnitManagerCoreTest::decimalPlaces_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    QTest::newRow("unit") << T::pressure << "Bar" << true << 3U << none;
-    QTest::newRow("empty unit is the default unit") << T::pressure << "" << true << 1U << none;
-    QTest::newRow("default unit written as a fixed unit") << T::temperature << "" << true << 1U << none;
-    QTest::newRow("fixed unit") << T::pressure + "/Bar"
-                                << "" << true << 3U << none;
-    QTest::newRow("fixed unit beats the unit") << T::pressure + "/Bar"
-                                               << "HectoPascal" << true << 3U << none;
-    QTest::newRow("polynomial without places") << T::pressure << "MilliBar" << true << 0U << none;
-    QTest::newRow("table unit") << T::ratio << "Counts" << true << 0U << none;
-    QTest::newRow("unknown unit") << T::pressure << "Nope" << false << 77U << none;
-    QTest::newRow("unit in other case") << T::pressure << "bar" << false << 77U << none;
-    QTest::newRow("unknown fixed unit") << T::pressure + "/Nope"
-                                        << "Bar" << false << 77U << none;
-    QTest::newRow("fixed unit with empty last part") << T::pressure + "/"
-                                                     << "Bar" << false << 77U << none;
-    QTest::newRow("no unit") << T::pressure << "NoUnit" << false << 77U << none;
-    QTest::newRow("no default unit") << T::ratio << "" << false << 77U
-                                     << QStringList{Expected::noDefaultUnit(T::ratio)};
-    QTest::newRow("unknown unit type") << T::unknown << "Bar" << false << 77U
-                                       << QStringList{Expected::noConversionForDecimalPlaces(T::unknown)};
-    QTest::newRow("fixed unit of an unknown type")
-        << T::unknown + "/Bar"
-        << "" << false << 77U << QStringList{Expected::noConversionForDecimalPlaces(T::unknown)};
-    QTest::newRow("unit type without prefix")
-        << "Pressure"
-        << "Bar" << false << 77U << QStringList{Expected::noConversionForDecimalPlaces("Pressure")};
-    QTest::newRow("no unit type") << ""
-                                  << "" << false << 77U
-                                  << QStringList{Expected::noDefaultUnit(""),
-                                                 Expected::noConversionForDecimalPlaces("")};
+    row("unit", T::pressure, "Bar", true, 3U, none);
+    row("empty unit is the default unit", T::pressure, "", true, 1U, none);
+    row("default unit written as a fixed unit", T::temperature, "", true, 1U, none);
+    row("fixed unit", T::pressure + "/Bar", "", true, 3U, none);
+    row("fixed unit beats the unit", T::pressure + "/Bar", "HectoPascal", true, 3U, none);
+    row("polynomial without places", T::pressure, "MilliBar", true, 0U, none);
+    row("table unit", T::ratio, "Counts", true, 0U, none);
+    row("unknown unit", T::pressure, "Nope", false, 77U, none);
+    row("unit in other case", T::pressure, "bar", false, 77U, none);
+    row("unknown fixed unit", T::pressure + "/Nope", "Bar", false, 77U, none);
+    row("fixed unit with empty last part", T::pressure + "/", "Bar", false, 77U, none);
+    row("no unit", T::pressure, "NoUnit", false, 77U, none);
+    row("no default unit", T::ratio, "", false, 77U, QStringList{Expected::noDefaultUnit(T::ratio)});
+    row("unknown unit type", T::unknown, "Bar", false, 77U,
+        QStringList{Expected::noConversionForDecimalPlaces(T::unknown)});
+    row("fixed unit of an unknown type", T::unknown + "/Bar", "", false, 77U,
+        QStringList{Expected::noConversionForDecimalPlaces(T::unknown)});
+    row("unit type without prefix", "Pressure", "Bar", false, 77U,
+        QStringList{Expected::noConversionForDecimalPlaces("Pressure")});
+    row("no unit type", "", "", false, 77U,
+        QStringList{Expected::noDefaultUnit(""), Expected::noConversionForDecimalPlaces("")});
 }
 
 void UnitManagerCoreTest::decimalPlaces()

@@ -5,6 +5,7 @@
 #include "Described.h"
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
+#include "Row.h"
 #include "TestDocuments.h"
 
 class UnitManagerCoreTextTest : public QObject
@@ -51,51 +52,24 @@ void UnitManagerCoreTextTest::unitText_data()
 
     const QStringList none;
     const QString fixedBar = T::pressure + QStringLiteral("/Bar");
-    QTest::newRow("unit") << T::pressure << "de"
-                          << "Bar"
-                          << "Bar" << none;
-    QTest::newRow("unit in another language") << T::pressure << "en"
-                                              << "Bar"
-                                              << "bar" << none;
-    QTest::newRow("language falls back") << T::pressure << "de"
-                                         << "MilliBar"
-                                         << "mbar" << none;
-    QTest::newRow("empty unit is the default unit") << T::pressure << "de"
-                                                    << ""
-                                                    << "Hektopascal" << none;
-    QTest::newRow("without default unit the base unit")
-        << T::ratio << "de"
-        << ""
-        << "%" << QStringList{Expected::noDefaultUnit(T::ratio)};
-    QTest::newRow("fixed unit beats the unit") << fixedBar << "de"
-                                               << "HectoPascal"
-                                               << "Bar" << none;
-    QTest::newRow("fixed unit without unit asks for its default unit")
-        << fixedBar << "de"
-        << ""
-        << "Bar" << QStringList{Expected::noDefaultUnit(fixedBar)};
-    QTest::newRow("unit-less type") << T::noUnit << "de"
-                                    << ""
-                                    << "" << none;
-    QTest::newRow("unit-less type with a unit") << T::noUnit << "de"
-                                                << "Bar"
-                                                << "" << none;
-    QTest::newRow("unknown unit") << T::pressure << "de"
-                                  << "Nope"
-                                  << "" << QStringList{Expected::unknownTextUnit("Nope", T::pressure)};
-    QTest::newRow("unknown fixed unit")
-        << T::pressure + "/Nope"
-        << "de"
-        << "Bar"
-        << "" << QStringList{Expected::unknownTextUnit("Bar", T::pressure + "/Nope")};
-    QTest::newRow("unknown unit type") << T::unknown << "de"
-                                       << "Bar"
-                                       << "" << QStringList{Expected::unknownTextType(T::unknown)};
-    QTest::newRow("no unit type") << ""
-                                  << "de"
-                                  << ""
-                                  << ""
-                                  << QStringList{Expected::noDefaultUnit(""), Expected::unknownTextType("")};
+    row("unit", T::pressure, "de", "Bar", "Bar", none);
+    row("unit in another language", T::pressure, "en", "Bar", "bar", none);
+    row("language falls back", T::pressure, "de", "MilliBar", "mbar", none);
+    row("empty unit is the default unit", T::pressure, "de", "", "Hektopascal", none);
+    row("without default unit the base unit", T::ratio, "de", "", "%",
+        QStringList{Expected::noDefaultUnit(T::ratio)});
+    row("fixed unit beats the unit", fixedBar, "de", "HectoPascal", "Bar", none);
+    row("fixed unit without unit asks for its default unit", fixedBar, "de", "", "Bar",
+        QStringList{Expected::noDefaultUnit(fixedBar)});
+    row("unit-less type", T::noUnit, "de", "", "", none);
+    row("unit-less type with a unit", T::noUnit, "de", "Bar", "", none);
+    row("unknown unit", T::pressure, "de", "Nope", "",
+        QStringList{Expected::unknownTextUnit("Nope", T::pressure)});
+    row("unknown fixed unit", T::pressure + "/Nope", "de", "Bar", "",
+        QStringList{Expected::unknownTextUnit("Bar", T::pressure + "/Nope")});
+    row("unknown unit type", T::unknown, "de", "Bar", "", QStringList{Expected::unknownTextType(T::unknown)});
+    row("no unit type", "", "de", "", "",
+        QStringList{Expected::noDefaultUnit(""), Expected::unknownTextType("")});
 }
 
 void UnitManagerCoreTextTest::unitText()
@@ -118,16 +92,11 @@ void UnitManagerCoreTextTest::unitTextOfNode_data()
 
     const QStringList none;
     const QStringList withoutType{Expected::noDefaultUnit(""), Expected::unknownTextType("")};
-    QTest::newRow("unit") << QVariant(T::pressure) << "Bar"
-                          << "Bar" << none;
-    QTest::newRow("empty unit is the default unit") << QVariant(T::pressure) << ""
-                                                    << "Hektopascal" << none;
-    QTest::newRow("fixed unit") << QVariant(T::pressure + "/MilliBar") << "Bar"
-                                << "mbar" << none;
-    QTest::newRow("no unit type") << QVariant() << ""
-                                  << "" << withoutType;
-    QTest::newRow("unit type that is no text") << QVariant(QVariantList{1}) << ""
-                                               << "" << withoutType;
+    row("unit", QVariant(T::pressure), "Bar", "Bar", none);
+    row("empty unit is the default unit", QVariant(T::pressure), "", "Hektopascal", none);
+    row("fixed unit", QVariant(T::pressure + "/MilliBar"), "Bar", "mbar", none);
+    row("no unit type", QVariant(), "", "", withoutType);
+    row("unit type that is no text", QVariant(QVariantList{1}), "", "", withoutType);
 }
 
 void UnitManagerCoreTextTest::unitTextOfNode()
@@ -148,15 +117,13 @@ void UnitManagerCoreTextTest::unitTextMap_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    QTest::newRow("unit type gives the base unit, not the default unit")
-        << T::pressure << QVariant(barLabel()) << none;
-    QTest::newRow("fixed unit") << T::pressure + "/MilliBar" << QVariant(QVariantMap{{"en", "mbar"}}) << none;
-    QTest::newRow("plain text") << T::ratio + "/Counts" << QVariant("cts") << none;
-    QTest::newRow("unit-less type") << T::noUnit << QVariant(QVariantMap{{"en", ""}}) << none;
-    QTest::newRow("unknown unit") << T::pressure + "/Nope" << QVariant()
-                                  << QStringList{Expected::unknownTextMapUnit("Nope", T::pressure + "/Nope")};
-    QTest::newRow("unknown unit type")
-        << T::unknown << QVariant() << QStringList{Expected::unknownTextMapType(T::unknown)};
+    row("unit type gives the base unit, not the default unit", T::pressure, QVariant(barLabel()), none);
+    row("fixed unit", T::pressure + "/MilliBar", QVariant(QVariantMap{{"en", "mbar"}}), none);
+    row("plain text", T::ratio + "/Counts", QVariant("cts"), none);
+    row("unit-less type", T::noUnit, QVariant(QVariantMap{{"en", ""}}), none);
+    row("unknown unit", T::pressure + "/Nope", QVariant(),
+        QStringList{Expected::unknownTextMapUnit("Nope", T::pressure + "/Nope")});
+    row("unknown unit type", T::unknown, QVariant(), QStringList{Expected::unknownTextMapType(T::unknown)});
 }
 
 void UnitManagerCoreTextTest::unitTextMap()

@@ -7,6 +7,7 @@
 #include "ConfigurationAndProcessDataTools.h"
 #include "Described.h"
 #include "LogCapture.h"
+#include "Row.h"
 #include "TestDocuments.h"
 
 namespace {
@@ -56,13 +57,10 @@ void UnitManagerFiniteMarkerTest::singleConversions_data()
     QTest::addColumn<QString>("fromBase");
     QTest::addColumn<QString>("toBase");
 
-    QTest::newRow("marker") << QVariant(marker) << "double -999"
-                            << "double -999";
-    QTest::newRow("the same number of another type")
-        << QVariant(-999) << "double -999000" << described(-999 * 0.001);
-    QTest::newRow("another number") << QVariant(2.0) << "double 2000" << described(2.0 * 0.001);
-    QTest::newRow("NaN") << QVariant(notANumber) << "double nan"
-                         << "double nan";
+    row("marker", QVariant(marker), "double -999", "double -999");
+    row("the same number of another type", QVariant(-999), "double -999000", described(-999 * 0.001));
+    row("another number", QVariant(2.0), "double 2000", described(2.0 * 0.001));
+    row("NaN", QVariant(notANumber), "double nan", "double nan");
 }
 
 void UnitManagerFiniteMarkerTest::singleConversions()

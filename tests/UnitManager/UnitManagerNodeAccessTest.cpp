@@ -9,6 +9,7 @@
 #include "LogCapture.h"
 #include "PropertyManagerConst.h"
 #include "RecordingValueNode.h"
+#include "Row.h"
 #include "TestDocuments.h"
 
 class UnitManagerNodeAccessTest : public QObject
@@ -69,36 +70,22 @@ void UnitManagerNodeAccessTest::getValue_data()
     const auto number = &RecordingValueNode::number;
     const QString fixedBar = T::pressure + QStringLiteral("/Bar");
     const QStringList none;
-    QTest::newRow("unit, not rounded")
-        << number(1.23456, T::pressure) << "HectoPascal" << described(1.23456 * 1000.0) << none;
-    QTest::newRow("default unit") << number(2.0, T::pressure) << ""
-                                  << "double 2000" << none;
-    QTest::newRow("whole number") << number(2, T::pressure) << "HectoPascal"
-                                  << "double 2000" << none;
-    QTest::newRow("fixed unit") << number(1.23456, fixedBar) << "HectoPascal" << described(1.23456) << none;
-    QTest::newRow("number without unit type") << number(2, QVariant()) << "Bar"
-                                              << "int 2" << none;
-    QTest::newRow("unit type that is no text") << number(2, QVariantList{1}) << "Bar"
-                                               << "int 2" << none;
-    QTest::newRow("marker") << number(marker, T::pressure) << "HectoPascal"
-                            << "double nan" << none;
-    QTest::newRow("marker with an unknown unit") << number(marker, T::pressure) << "Nope"
-                                                 << "double nan" << none;
-    QTest::newRow("no value") << number(QVariant(), T::pressure) << "HectoPascal"
-                              << "invalid" << none;
-    QTest::newRow("text") << RecordingValueNode::text("abc", T::pressure) << "HectoPascal"
-                          << "QString abc" << none;
-    QTest::newRow("number in a text node") << RecordingValueNode::text(2, T::pressure) << "HectoPascal"
-                                           << "int 2" << none;
-    QTest::newRow("text in a number node") << number("abc", T::pressure) << "HectoPascal"
-                                           << "QString abc" << none;
-    QTest::newRow("unknown unit") << number(2, T::pressure) << "Nope"
-                                  << "int 2"
-                                  << QStringList{
-                                         Expected::unknownUnit(Conversion::FromBase, "Nope", "Pressure")};
-    QTest::newRow("unknown unit type")
-        << number(2, T::unknown) << "Bar"
-        << "int 2" << QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)};
+    row("unit, not rounded", number(1.23456, T::pressure), "HectoPascal", described(1.23456 * 1000.0), none);
+    row("default unit", number(2.0, T::pressure), "", "double 2000", none);
+    row("whole number", number(2, T::pressure), "HectoPascal", "double 2000", none);
+    row("fixed unit", number(1.23456, fixedBar), "HectoPascal", described(1.23456), none);
+    row("number without unit type", number(2, QVariant()), "Bar", "int 2", none);
+    row("unit type that is no text", number(2, QVariantList{1}), "Bar", "int 2", none);
+    row("marker", number(marker, T::pressure), "HectoPascal", "double nan", none);
+    row("marker with an unknown unit", number(marker, T::pressure), "Nope", "double nan", none);
+    row("no value", number(QVariant(), T::pressure), "HectoPascal", "invalid", none);
+    row("text", RecordingValueNode::text("abc", T::pressure), "HectoPascal", "QString abc", none);
+    row("number in a text node", RecordingValueNode::text(2, T::pressure), "HectoPascal", "int 2", none);
+    row("text in a number node", number("abc", T::pressure), "HectoPascal", "QString abc", none);
+    row("unknown unit", number(2, T::pressure), "Nope", "int 2",
+        QStringList{Expected::unknownUnit(Conversion::FromBase, "Nope", "Pressure")});
+    row("unknown unit type", number(2, T::unknown), "Bar", "int 2",
+        QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)});
 }
 
 void UnitManagerNodeAccessTest::getValue()
@@ -124,11 +111,11 @@ void UnitManagerNodeAccessTest::getValueAsksForTheUnitTypeOfNumbersOnly_data()
     QTest::addColumn<QStringList>("unitTypeCalls");
 
     const QStringList none;
-    QTest::newRow("number") << RecordingValueNode::number(2, T::pressure) << read;
-    QTest::newRow("number without unit type") << RecordingValueNode::number(2) << asked;
-    QTest::newRow("marker") << RecordingValueNode::number(marker, T::pressure) << none;
-    QTest::newRow("no value") << RecordingValueNode::number(QVariant(), T::pressure) << none;
-    QTest::newRow("text") << RecordingValueNode::text("abc", T::pressure) << none;
+    row("number", RecordingValueNode::number(2, T::pressure), read);
+    row("number without unit type", RecordingValueNode::number(2), asked);
+    row("marker", RecordingValueNode::number(marker, T::pressure), none);
+    row("no value", RecordingValueNode::number(QVariant(), T::pressure), none);
+    row("text", RecordingValueNode::text("abc", T::pressure), none);
 }
 
 void UnitManagerNodeAccessTest::getValueAsksForTheUnitTypeOfNumbersOnly()
@@ -156,45 +143,36 @@ void UnitManagerNodeAccessTest::setValue_data()
     const QString fixedBar = T::pressure + QStringLiteral("/Bar");
     const QStringList none;
     const QStringList readAndWritten = read + QStringList{written};
-    QTest::newRow("unit, not rounded") << number(T::pressure) << QVariant(1234.56) << "HectoPascal" << 0
-                                       << described(1234.56 * 0.001) << readAndWritten << none;
-    QTest::newRow("default unit") << number(T::pressure) << QVariant(2000) << "" << 0 << "double 2"
-                                  << readAndWritten << none;
-    QTest::newRow("fixed unit") << number(fixedBar) << QVariant(3) << "HectoPascal" << 0 << "int 3"
-                                << readAndWritten << none;
-    QTest::newRow("text in a fixed unit")
-        << number(fixedBar) << QVariant("abc") << "" << 0 << "QString abc" << readAndWritten << none;
-    QTest::newRow("no unit type, no unit") << number(QVariant()) << QVariant("abc") << "" << 0
-                                           << "QString abc" << asked + QStringList{written} << none;
-    QTest::newRow("no unit type, a unit")
-        << number(QVariant()) << QVariant(3) << "Bar" << 2 << "double 1.5" << asked << none;
-    QTest::newRow("unit type that is no text")
-        << number(QVariantList{1}) << QVariant(3) << "" << 0 << "int 3" << readAndWritten << none;
-    QTest::newRow("text") << number(T::pressure) << QVariant("abc") << "Bar" << 2 << "double 1.5" << read
-                          << notConverted(Conversion::ToBase, "QString", "Bar", "Pressure");
-    QTest::newRow("text into a text node with unit type")
-        << RecordingValueNode::text("old", T::pressure) << QVariant("abc") << "Bar" << 2 << "QString old"
-        << read << notConverted(Conversion::ToBase, "QString", "Bar", "Pressure");
-    QTest::newRow("number into a text node is converted")
-        << RecordingValueNode::text("old", T::pressure) << QVariant(2000) << "HectoPascal" << 0 << "double 2"
-        << readAndWritten << none;
-    QTest::newRow("unknown unit") << number(T::pressure) << QVariant(3) << "Nope" << 2 << "double 1.5" << read
-                                  << QStringList{
-                                         Expected::unknownUnit(Conversion::ToBase, "Nope", "Pressure")};
-    QTest::newRow("unknown unit type")
-        << number(T::unknown) << QVariant(3) << "Bar" << 2 << "double 1.5" << read
-        << QStringList{Expected::noConversion(Conversion::ToBase, T::unknown)};
-    QTest::newRow("no default unit") << number(T::ratio) << QVariant(3) << "" << 0 << "int 3"
-                                     << readAndWritten << QStringList{Expected::noDefaultUnit(T::ratio)};
-    QTest::newRow("invalid value") << number(T::pressure) << QVariant() << "Bar" << 2 << "double 1.5" << read
-                                   << notConverted(Conversion::ToBase, "", "Bar", "Pressure");
-    QTest::newRow("marker") << number(T::pressure) << QVariant(marker) << "Bar" << 0 << "double nan"
-                            << QStringList{written} << none;
-    QTest::newRow("marker with an unknown unit") << number(T::pressure) << QVariant(marker) << "Nope" << 0
-                                                 << "double nan" << QStringList{written} << none;
-    QTest::newRow("marker without unit type, with a unit")
-        << number(QVariant()) << QVariant(marker) << "Bar" << 0 << "double nan" << QStringList{written}
-        << none;
+    row("unit, not rounded", number(T::pressure), QVariant(1234.56), "HectoPascal", 0,
+        described(1234.56 * 0.001), readAndWritten, none);
+    row("default unit", number(T::pressure), QVariant(2000), "", 0, "double 2", readAndWritten, none);
+    row("fixed unit", number(fixedBar), QVariant(3), "HectoPascal", 0, "int 3", readAndWritten, none);
+    row("text in a fixed unit", number(fixedBar), QVariant("abc"), "", 0, "QString abc", readAndWritten,
+        none);
+    row("no unit type, no unit", number(QVariant()), QVariant("abc"), "", 0, "QString abc",
+        asked + QStringList{written}, none);
+    row("no unit type, a unit", number(QVariant()), QVariant(3), "Bar", 2, "double 1.5", asked, none);
+    row("unit type that is no text", number(QVariantList{1}), QVariant(3), "", 0, "int 3", readAndWritten,
+        none);
+    row("text", number(T::pressure), QVariant("abc"), "Bar", 2, "double 1.5", read,
+        notConverted(Conversion::ToBase, "QString", "Bar", "Pressure"));
+    row("text into a text node with unit type", RecordingValueNode::text("old", T::pressure), QVariant("abc"),
+        "Bar", 2, "QString old", read, notConverted(Conversion::ToBase, "QString", "Bar", "Pressure"));
+    row("number into a text node is converted", RecordingValueNode::text("old", T::pressure), QVariant(2000),
+        "HectoPascal", 0, "double 2", readAndWritten, none);
+    row("unknown unit", number(T::pressure), QVariant(3), "Nope", 2, "double 1.5", read,
+        QStringList{Expected::unknownUnit(Conversion::ToBase, "Nope", "Pressure")});
+    row("unknown unit type", number(T::unknown), QVariant(3), "Bar", 2, "double 1.5", read,
+        QStringList{Expected::noConversion(Conversion::ToBase, T::unknown)});
+    row("no default unit", number(T::ratio), QVariant(3), "", 0, "int 3", readAndWritten,
+        QStringList{Expected::noDefaultUnit(T::ratio)});
+    row("invalid value", number(T::pressure), QVariant(), "Bar", 2, "double 1.5", read,
+        notConverted(Conversion::ToBase, "", "Bar", "Pressure"));
+    row("marker", number(T::pressure), QVariant(marker), "Bar", 0, "double nan", QStringList{written}, none);
+    row("marker with an unknown unit", number(T::pressure), QVariant(marker), "Nope", 0, "double nan",
+        QStringList{written}, none);
+    row("marker without unit type, with a unit", number(QVariant()), QVariant(marker), "Bar", 0, "double nan",
+        QStringList{written}, none);
 }
 
 void UnitManagerNodeAccessTest::setValue()
@@ -219,10 +197,10 @@ void UnitManagerNodeAccessTest::writeStatusIsHandedOn_data()
     QTest::addColumn<int>("status");
     QTest::addColumn<bool>("isWritten");
 
-    QTest::newRow("changed") << 0 << true;
-    QTest::newRow("equal already") << 1 << true;
-    QTest::newRow("refused") << 2 << false;
-    QTest::newRow("beyond the known ones") << 3 << false;
+    row("changed", 0, true);
+    row("equal already", 1, true);
+    row("refused", 2, false);
+    row("beyond the known ones", 3, false);
 }
 
 void UnitManagerNodeAccessTest::writeStatusIsHandedOn()
@@ -242,11 +220,10 @@ void UnitManagerNodeAccessTest::nothingWithoutChild_data()
     QTest::addColumn<Node>("node");
     QTest::addColumn<QString>("childKey");
 
-    QTest::newRow("null node") << Node() << key;
-    QTest::newRow("no such child") << RecordingValueNode::parentOf(
-                                          RecordingValueNode::number(1.5, T::pressure))
-                                   << "Missing";
-    QTest::newRow("null child") << RecordingValueNode::parentOf(Node()) << key;
+    row("null node", Node(), key);
+    row("no such child", RecordingValueNode::parentOf(RecordingValueNode::number(1.5, T::pressure)),
+        "Missing");
+    row("null child", RecordingValueNode::parentOf(Node()), key);
 }
 
 void UnitManagerNodeAccessTest::nothingWithoutChild()
@@ -275,23 +252,16 @@ void UnitManagerNodeAccessTest::getUnitText_data()
     };
     const QString fixedBar = T::pressure + QStringLiteral("/Bar");
     const QStringList none;
-    QTest::newRow("unit") << number(T::pressure) << "Bar"
-                          << "Bar" << none;
-    QTest::newRow("default unit") << number(T::pressure) << ""
-                                  << "Hektopascal" << none;
-    QTest::newRow("fixed unit") << number(fixedBar) << "HectoPascal"
-                                << "Bar" << none;
-    QTest::newRow("fixed unit without unit") << number(fixedBar) << ""
-                                             << "Bar" << QStringList{Expected::noDefaultUnit(fixedBar)};
-    QTest::newRow("unit-less type") << number(T::noUnit) << ""
-                                    << "" << none;
-    QTest::newRow("text node") << RecordingValueNode::text("abc", T::pressure) << "Bar"
-                               << "Bar" << none;
-    QTest::newRow("no unit type") << number(QVariant()) << "Bar"
-                                  << "" << QStringList{Expected::unknownTextType("")};
-    QTest::newRow("no unit type, no unit")
-        << number(QVariant()) << ""
-        << "" << QStringList{Expected::noDefaultUnit(""), Expected::unknownTextType("")};
+    row("unit", number(T::pressure), "Bar", "Bar", none);
+    row("default unit", number(T::pressure), "", "Hektopascal", none);
+    row("fixed unit", number(fixedBar), "HectoPascal", "Bar", none);
+    row("fixed unit without unit", number(fixedBar), "", "Bar",
+        QStringList{Expected::noDefaultUnit(fixedBar)});
+    row("unit-less type", number(T::noUnit), "", "", none);
+    row("text node", RecordingValueNode::text("abc", T::pressure), "Bar", "Bar", none);
+    row("no unit type", number(QVariant()), "Bar", "", QStringList{Expected::unknownTextType("")});
+    row("no unit type, no unit", number(QVariant()), "", "",
+        QStringList{Expected::noDefaultUnit(""), Expected::unknownTextType("")});
 }
 
 void UnitManagerNodeAccessTest::getUnitText()

@@ -11,6 +11,7 @@
 #include "Described.h"
 #include "DoubleBits.h"
 #include "LogCapture.h"
+#include "Row.h"
 #include "TestDocuments.h"
 
 // Not overloaded, so that their addresses can be taken without a cast.
@@ -69,12 +70,8 @@ void addUnits()
 {
     QTest::addColumn<QString>("unitType");
     QTest::addColumn<QString>("unit");
-
     QTest::addColumn<bool>("isKnown");
 
-    const auto row = [](const char* name, const QString& unitType, const char* unit, bool isKnown) {
-        QTest::newRow(name) << unitType << QString::fromLatin1(unit) << isKnown;
-    };
     row("unit", T::pressure, "HectoPascal", true);
     row("default unit", T::pressure, "", true);
     row("table unit", T::ratio, "Counts", true);

@@ -8,6 +8,7 @@
 
 #include "Described.h"
 #include "LogCapture.h"
+#include "Row.h"
 #include "TestDocuments.h"
 
 static_assert(std::has_virtual_destructor_v<UnitManager>);
@@ -108,16 +109,13 @@ void UnitManagerTest::bothTextsAreLoaded_data()
     QTest::addColumn<bool>("isValid");
     QTest::addColumn<QString>("defaultUnit");
 
-    QTest::newRow("both good") << TestDocuments::units() << TestDocuments::defaultUnits() << true << true
-                               << "HectoPascal";
-    QTest::newRow("units bad") << "{" << TestDocuments::defaultUnits() << false << false << "HectoPascal";
-    QTest::newRow("units empty") << "" << TestDocuments::defaultUnits() << false << false << "HectoPascal";
-    QTest::newRow("default units bad") << TestDocuments::units() << "{" << false << true << "";
-    QTest::newRow("default units empty") << TestDocuments::units() << "" << true << true << "";
-    QTest::newRow("both bad") << "{"
-                              << "{" << false << false << "";
-    QTest::newRow("both empty") << ""
-                                << "" << false << false << "";
+    row("both good", TestDocuments::units(), TestDocuments::defaultUnits(), true, true, "HectoPascal");
+    row("units bad", "{", TestDocuments::defaultUnits(), false, false, "HectoPascal");
+    row("units empty", "", TestDocuments::defaultUnits(), false, false, "HectoPascal");
+    row("default units bad", TestDocuments::units(), "{", false, true, "");
+    row("default units empty", TestDocuments::units(), "", true, true, "");
+    row("both bad", "{", "{", false, false, "");
+    row("both empty", "", "", false, false, "");
 }
 
 void UnitManagerTest::bothTextsAreLoaded()
@@ -143,12 +141,12 @@ void UnitManagerTest::bothFilesAreLoaded_data()
     QTest::addColumn<QString>("defaultUnit");
 
     const QString missing = m_folder.filePath(QStringLiteral("missing.json"));
-    QTest::newRow("both there") << m_unitPath << m_defaultUnitPath << true << true << "HectoPascal";
-    QTest::newRow("units missing") << missing << m_defaultUnitPath << false << false << "HectoPascal";
-    QTest::newRow("no unit path") << "" << m_defaultUnitPath << false << false << "HectoPascal";
-    QTest::newRow("default units missing") << m_unitPath << missing << false << true << "";
-    QTest::newRow("no default-unit path") << m_unitPath << "" << true << true << "";
-    QTest::newRow("files swapped") << m_defaultUnitPath << m_unitPath << false << false << "";
+    row("both there", m_unitPath, m_defaultUnitPath, true, true, "HectoPascal");
+    row("units missing", missing, m_defaultUnitPath, false, false, "HectoPascal");
+    row("no unit path", "", m_defaultUnitPath, false, false, "HectoPascal");
+    row("default units missing", m_unitPath, missing, false, true, "");
+    row("no default-unit path", m_unitPath, "", true, true, "");
+    row("files swapped", m_defaultUnitPath, m_unitPath, false, false, "");
 }
 
 void UnitManagerTest::bothFilesAreLoaded()
@@ -170,9 +168,9 @@ void UnitManagerTest::oneFileResetsDefaultUnits_data()
     QTest::addColumn<QString>("unitPath");
     QTest::addColumn<bool>("loads");
 
-    QTest::newRow("there") << m_unitPath << true;
-    QTest::newRow("missing") << m_folder.filePath(QStringLiteral("missing.json")) << false;
-    QTest::newRow("no path") << "" << false;
+    row("there", m_unitPath, true);
+    row("missing", m_folder.filePath(QStringLiteral("missing.json")), false);
+    row("no path", "", false);
 }
 
 void UnitManagerTest::oneFileResetsDefaultUnits()
@@ -272,16 +270,14 @@ void UnitManagerTest::decimalPlacesAreHandedOn_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    QTest::newRow("unit") << T::pressure << "Bar" << true << 3U << none;
-    QTest::newRow("default unit") << T::pressure << "" << true << 1U << none;
-    QTest::newRow("fixed unit beats the unit") << T::pressure + "/Bar"
-                                               << "HectoPascal" << true << 3U << none;
-    QTest::newRow("no places given") << T::pressure << "MilliBar" << true << 0U << none;
-    QTest::newRow("unknown unit") << T::pressure << "Nope" << false << 77U << none;
-    QTest::newRow("no default unit") << T::ratio << "" << false << 77U
-                                     << QStringList{Expected::noDefaultUnit(T::ratio)};
-    QTest::newRow("unknown unit type") << T::unknown << "Bar" << false << 77U
-                                       << QStringList{Expected::noConversionForDecimalPlaces(T::unknown)};
+    row("unit", T::pressure, "Bar", true, 3U, none);
+    row("default unit", T::pressure, "", true, 1U, none);
+    row("fixed unit beats the unit", T::pressure + "/Bar", "HectoPascal", true, 3U, none);
+    row("no places given", T::pressure, "MilliBar", true, 0U, none);
+    row("unknown unit", T::pressure, "Nope", false, 77U, none);
+    row("no default unit", T::ratio, "", false, 77U, QStringList{Expected::noDefaultUnit(T::ratio)});
+    row("unknown unit type", T::unknown, "Bar", false, 77U,
+        QStringList{Expected::noConversionForDecimalPlaces(T::unknown)});
 }
 
 void UnitManagerTest::decimalPlacesAreHandedOn()

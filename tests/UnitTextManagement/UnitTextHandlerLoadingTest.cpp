@@ -6,6 +6,7 @@
 
 #include "LogCapture.h"
 #include "MessageText.h"
+#include "Row.h"
 #include "UnitTextManagement/UnitTextHandler.h"
 
 namespace {
@@ -88,38 +89,32 @@ void UnitTextHandlerLoadingTest::documentResult_data()
 
     const QStringList none;
     const QStringList noBase(noBaseUnit());
-    QTest::newRow("empty text") << "" << false << none;
-    QTest::newRow("null text") << QString() << false << none;
-    QTest::newRow("text that does not parse") << "{" << false << none;
-    QTest::newRow("list") << "[]" << false << none;
-    QTest::newRow("empty object") << "{}" << false << none;
-    QTest::newRow("type without units") << documentOf("{}") << false << noBase;
-    QTest::newRow("type without node") << documentOf("null") << false << noBase;
-    QTest::newRow("type that is a value") << documentOf("5") << false << noBase;
-    QTest::newRow("base unit with label") << documentAt("0") << true << none;
-    QTest::newRow("base unit without label")
-        << documentOf(R"({"U": {"@displayPosition": 0}})") << false << none;
-    QTest::newRow("other unit with label") << documentAt("1") << true << noBase;
-    QTest::newRow("null unit") << documentOf(R"({"U": null})") << false << noBase;
-    QTest::newRow("unit that is a value") << documentOf(R"({"U": 5})") << false << noBase;
-    QTest::newRow("unit of another type")
-        << documentOf(R"({"U": {"@type": "Number", "@displayPosition": 0, "UnitLabel": "u"}})") << false
-        << noBase;
-    QTest::newRow("label for each language")
-        << documentOf(R"({"U": {"@displayPosition": 0, "UnitLabel": {"@value": {"en": "u"}}}})") << true
-        << none;
-    QTest::newRow("null label") << documentOf(R"({"U": {"@displayPosition": 0, "UnitLabel": null}})") << false
-                                << none;
-    QTest::newRow("label without value")
-        << documentOf(R"({"U": {"@displayPosition": 0, "UnitLabel": {}}})") << false << none;
-    QTest::newRow("empty label") << documentOf(R"({"U": {"@displayPosition": 0, "UnitLabel": ""}})") << true
-                                 << none;
-    QTest::newRow("label in another spelling")
-        << documentOf(R"({"U": {"@displayPosition": 0, "unitLabel": "u"}})") << false << none;
-    QTest::newRow("keys that the conversions pass over")
-        << documentOf(R"({"Text": {"@displayPosition": 0, "UnitLabel": "t"},
-                          "NoUnit": {"@displayPosition": 1, "UnitLabel": "n"}})")
-        << true << none;
+    row("empty text", "", false, none);
+    row("null text", QString(), false, none);
+    row("text that does not parse", "{", false, none);
+    row("list", "[]", false, none);
+    row("empty object", "{}", false, none);
+    row("type without units", documentOf("{}"), false, noBase);
+    row("type without node", documentOf("null"), false, noBase);
+    row("type that is a value", documentOf("5"), false, noBase);
+    row("base unit with label", documentAt("0"), true, none);
+    row("base unit without label", documentOf(R"({"U": {"@displayPosition": 0}})"), false, none);
+    row("other unit with label", documentAt("1"), true, noBase);
+    row("null unit", documentOf(R"({"U": null})"), false, noBase);
+    row("unit that is a value", documentOf(R"({"U": 5})"), false, noBase);
+    row("unit of another type",
+        documentOf(R"({"U": {"@type": "Number", "@displayPosition": 0, "UnitLabel": "u"}})"), false, noBase);
+    row("label for each language",
+        documentOf(R"({"U": {"@displayPosition": 0, "UnitLabel": {"@value": {"en": "u"}}}})"), true, none);
+    row("null label", documentOf(R"({"U": {"@displayPosition": 0, "UnitLabel": null}})"), false, none);
+    row("label without value", documentOf(R"({"U": {"@displayPosition": 0, "UnitLabel": {}}})"), false, none);
+    row("empty label", documentOf(R"({"U": {"@displayPosition": 0, "UnitLabel": ""}})"), true, none);
+    row("label in another spelling", documentOf(R"({"U": {"@displayPosition": 0, "unitLabel": "u"}})"), false,
+        none);
+    row("keys that the conversions pass over",
+        documentOf(R"({"Text": {"@displayPosition": 0, "UnitLabel": "t"},
+                          "NoUnit": {"@displayPosition": 1, "UnitLabel": "n"}})"),
+        true, none);
 }
 
 void UnitTextHandlerLoadingTest::documentResult()
@@ -147,24 +142,22 @@ void UnitTextHandlerLoadingTest::positionZeroIsTheBaseUnit_data()
 
     const QStringList none;
     const QStringList noBase(noBaseUnit());
-    QTest::newRow("zero") << "0" << true << none;
-    QTest::newRow("one") << "1" << false << noBase;
-    QTest::newRow("negative") << "-1" << false << noBase;
-    QTest::newRow("rounded down to zero") << "0.4" << true << none;
-    QTest::newRow("rounded up to one") << "0.6" << false << noBase;
-    QTest::newRow("zero in a text") << R"("0")" << true << none;
-    QTest::newRow("any text") << R"("abc")" << true << none;
-    QTest::newRow("empty text") << R"("")" << true << none;
-    QTest::newRow("one in a text") << R"("1")" << false << noBase;
-    QTest::newRow("false") << "false" << true << none;
-    QTest::newRow("true") << "true" << false << noBase;
-    QTest::newRow("list") << "[0]" << false
-                          << QStringList(
-                                 {noPosition("QVariant(QVariantList, (QVariant(double, 0)))"), noBaseUnit()});
-    QTest::newRow("object") << R"({"a": 0})" << false
-                            << QStringList(
-                                   {noPosition(R"(QVariant(QVariantMap, QMap(("a", QVariant(double, 0)))))"),
-                                    noBaseUnit()});
+    row("zero", "0", true, none);
+    row("one", "1", false, noBase);
+    row("negative", "-1", false, noBase);
+    row("rounded down to zero", "0.4", true, none);
+    row("rounded up to one", "0.6", false, noBase);
+    row("zero in a text", R"("0")", true, none);
+    row("any text", R"("abc")", true, none);
+    row("empty text", R"("")", true, none);
+    row("one in a text", R"("1")", false, noBase);
+    row("false", "false", true, none);
+    row("true", "true", false, noBase);
+    row("list", "[0]", false,
+        QStringList({noPosition("QVariant(QVariantList, (QVariant(double, 0)))"), noBaseUnit()}));
+    row("object", R"({"a": 0})", false,
+        QStringList(
+            {noPosition(R"(QVariant(QVariantMap, QMap(("a", QVariant(double, 0)))))"), noBaseUnit()}));
 }
 
 void UnitTextHandlerLoadingTest::positionZeroIsTheBaseUnit()
@@ -209,10 +202,10 @@ void UnitTextHandlerLoadingTest::everyLoadDropsTheOldLabels_data()
 {
     QTest::addColumn<QString>("json");
 
-    QTest::newRow("empty text") << "";
-    QTest::newRow("text that does not parse") << "{";
-    QTest::newRow("empty object") << "{}";
-    QTest::newRow("document without labels") << R"({"B": {"U": {"@displayPosition": 0}}})";
+    row("empty text", "");
+    row("text that does not parse", "{");
+    row("empty object", "{}");
+    row("document without labels", R"({"B": {"U": {"@displayPosition": 0}}})");
 }
 
 void UnitTextHandlerLoadingTest::everyLoadDropsTheOldLabels()
@@ -243,12 +236,11 @@ void UnitTextHandlerLoadingTest::readsFile_data()
     QTest::addColumn<bool>("result");
     QTest::addColumn<QStringList>("messages");
 
-    QTest::newRow("no file") << false << "" << false << QStringList();
-    QTest::newRow("empty file") << true << "" << false << QStringList();
-    QTest::newRow("file that does not parse") << true << "{" << false << QStringList();
-    QTest::newRow("document") << true << documentAt("0") << true << QStringList();
-    QTest::newRow("document without base unit")
-        << true << documentAt("1") << true << QStringList(noBaseUnit());
+    row("no file", false, "", false, QStringList());
+    row("empty file", true, "", false, QStringList());
+    row("file that does not parse", true, "{", false, QStringList());
+    row("document", true, documentAt("0"), true, QStringList());
+    row("document without base unit", true, documentAt("1"), true, QStringList(noBaseUnit()));
 }
 
 void UnitTextHandlerLoadingTest::readsFile()

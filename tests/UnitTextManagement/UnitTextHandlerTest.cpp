@@ -8,6 +8,7 @@
 #include "MessageText.h"
 #include "Operation.h"
 #include "RecordingNode.h"
+#include "Row.h"
 #include "TextDocument.h"
 #include "UnitTextManagement/UnitTextHandler.h"
 
@@ -86,35 +87,17 @@ void UnitTextHandlerTest::findsText_data()
     QTest::addColumn<QString>("unit");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("unit of a type") << pressure << "HectoPascal"
-                                    << "hPa";
-    QTest::newRow("empty unit is the base unit") << pressure << ""
-                                                 << "bar";
-    QTest::newRow("null unit is the base unit") << pressure << QString() << "bar";
-    QTest::newRow("fixed unit") << pressure + "/HectoPascal"
-                                << ""
-                                << "hPa";
-    QTest::newRow("fixed unit with the same unit") << pressure + "/HectoPascal"
-                                                   << "HectoPascal"
-                                                   << "hPa";
-    QTest::newRow("fixed unit with another unit") << pressure + "/HectoPascal"
-                                                  << "Bar"
-                                                  << "hPa";
-    QTest::newRow("fixed unit with an unknown unit") << pressure + "/HectoPascal"
-                                                     << "Nope"
-                                                     << "hPa";
-    QTest::newRow("fixed unit without name is the base unit") << pressure + "/"
-                                                              << "HectoPascal"
-                                                              << "bar";
-    QTest::newRow("unit of a type without base unit") << prefix + "Headless"
-                                                      << "Only"
-                                                      << "only";
-    QTest::newRow("fixed unit of the type without unit") << prefix + "NoUnit/NoUnit"
-                                                         << ""
-                                                         << "none";
-    QTest::newRow("fixed unit without name of the type without unit") << prefix + "NoUnit/"
-                                                                      << ""
-                                                                      << "none";
+    row("unit of a type", pressure, "HectoPascal", "hPa");
+    row("empty unit is the base unit", pressure, "", "bar");
+    row("null unit is the base unit", pressure, QString(), "bar");
+    row("fixed unit", pressure + "/HectoPascal", "", "hPa");
+    row("fixed unit with the same unit", pressure + "/HectoPascal", "HectoPascal", "hPa");
+    row("fixed unit with another unit", pressure + "/HectoPascal", "Bar", "hPa");
+    row("fixed unit with an unknown unit", pressure + "/HectoPascal", "Nope", "hPa");
+    row("fixed unit without name is the base unit", pressure + "/", "HectoPascal", "bar");
+    row("unit of a type without base unit", prefix + "Headless", "Only", "only");
+    row("fixed unit of the type without unit", prefix + "NoUnit/NoUnit", "", "none");
+    row("fixed unit without name of the type without unit", prefix + "NoUnit/", "", "none");
 }
 
 void UnitTextHandlerTest::findsText()
@@ -133,22 +116,13 @@ void UnitTextHandlerTest::findsLanguage_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("language") << pressure << "de"
-                              << "Bar";
-    QTest::newRow("language of a country") << pressure << "fr_CH"
-                                           << "bar suisse";
-    QTest::newRow("country falls back to its language") << pressure << "de_AT"
-                                                        << "Bar";
-    QTest::newRow("missing language falls back") << pressure << "fr"
-                                                 << "bar";
-    QTest::newRow("empty language falls back") << pressure << ""
-                                               << "bar";
-    QTest::newRow("without the fallback language, the first") << prefix + "Time"
-                                                              << "de"
-                                                              << "segundos";
-    QTest::newRow("one text for every language") << pressure + "/HectoPascal"
-                                                 << "xx"
-                                                 << "hPa";
+    row("language", pressure, "de", "Bar");
+    row("language of a country", pressure, "fr_CH", "bar suisse");
+    row("country falls back to its language", pressure, "de_AT", "Bar");
+    row("missing language falls back", pressure, "fr", "bar");
+    row("empty language falls back", pressure, "", "bar");
+    row("without the fallback language, the first", prefix + "Time", "de", "segundos");
+    row("one text for every language", pressure + "/HectoPascal", "xx", "hPa");
 }
 
 void UnitTextHandlerTest::findsLanguage()
@@ -163,18 +137,12 @@ void UnitTextHandlerTest::emptyTextSilently_data()
     QTest::addColumn<QString>("unitType");
     QTest::addColumn<QString>("unit");
 
-    QTest::newRow("type without unit") << prefix + "NoUnit"
-                                       << "";
-    QTest::newRow("type without unit, known unit") << prefix + "NoUnit"
-                                                   << "NoUnit";
-    QTest::newRow("type without unit, unknown unit") << prefix + "NoUnit"
-                                                     << "Nope";
-    QTest::newRow("no base unit") << prefix + "Headless"
-                                  << "";
-    QTest::newRow("base unit without label") << prefix + "Tailless"
-                                             << "";
-    QTest::newRow("fixed unit without name, base unit without label") << prefix + "Tailless/"
-                                                                      << "Other";
+    row("type without unit", prefix + "NoUnit", "");
+    row("type without unit, known unit", prefix + "NoUnit", "NoUnit");
+    row("type without unit, unknown unit", prefix + "NoUnit", "Nope");
+    row("no base unit", prefix + "Headless", "");
+    row("base unit without label", prefix + "Tailless", "");
+    row("fixed unit without name, base unit without label", prefix + "Tailless/", "Other");
 }
 
 void UnitTextHandlerTest::emptyTextSilently()
@@ -194,10 +162,10 @@ void UnitTextHandlerTest::unknownNamesWarn_data()
     QTest::addColumn<QString>("text");
 
     const auto typeRow = [](const char* name, const QString& unitType, const QString& unit) {
-        QTest::newRow(name) << unitType << unit << unknownType(unitType);
+        row(name, unitType, unit, unknownType(unitType));
     };
     const auto unitRow = [](const char* name, const QString& unitType, const QString& unit) {
-        QTest::newRow(name) << unitType << unit << unknownUnit(unit, unitType);
+        row(name, unitType, unit, unknownUnit(unit, unitType));
     };
     typeRow("unknown type", prefix + "Nope", "Bar");
     typeRow("unknown type, empty unit", prefix + "Nope", "");
@@ -245,30 +213,16 @@ void UnitTextHandlerTest::textOfNode_data()
 
     const QStringList none;
     const QString ofPressure = R"({"@value": 1, "@unitType": "UnitManager/UnitType/Pressure"})";
-    QTest::newRow("unit type") << ofPressure << "HectoPascal"
-                               << "hPa" << none;
-    QTest::newRow("unit type, empty unit") << ofPressure << ""
-                                           << "bar" << none;
-    QTest::newRow("fixed unit") << R"({"@unitType": "UnitManager/UnitType/Pressure/HectoPascal"})"
-                                << "Bar"
-                                << "hPa" << none;
-    QTest::newRow("no unit type") << R"({"@value": 1})"
-                                  << "Bar"
-                                  << "" << none;
-    QTest::newRow("unit type that is a list") << R"({"@unitType": ["UnitManager/UnitType/Pressure"]})"
-                                              << "Bar"
-                                              << "" << none;
-    QTest::newRow("type without unit") << R"({"@unitType": "UnitManager/UnitType/NoUnit"})"
-                                       << "Bar"
-                                       << "" << none;
-    QTest::newRow("unit type that is a number") << R"({"@unitType": 5})"
-                                                << "Bar"
-                                                << "" << QStringList(textWarning(unknownType("5")));
-    QTest::newRow("empty unit type") << R"({"@unitType": ""})"
-                                     << "Bar"
-                                     << "" << QStringList(textWarning(unknownType("")));
-    QTest::newRow("unknown unit") << ofPressure << "Nope"
-                                  << "" << QStringList(textWarning(unknownUnit("Nope", pressure)));
+    row("unit type", ofPressure, "HectoPascal", "hPa", none);
+    row("unit type, empty unit", ofPressure, "", "bar", none);
+    row("fixed unit", R"({"@unitType": "UnitManager/UnitType/Pressure/HectoPascal"})", "Bar", "hPa", none);
+    row("no unit type", R"({"@value": 1})", "Bar", "", none);
+    row("unit type that is a list", R"({"@unitType": ["UnitManager/UnitType/Pressure"]})", "Bar", "", none);
+    row("type without unit", R"({"@unitType": "UnitManager/UnitType/NoUnit"})", "Bar", "", none);
+    row("unit type that is a number", R"({"@unitType": 5})", "Bar", "",
+        QStringList(textWarning(unknownType("5"))));
+    row("empty unit type", R"({"@unitType": ""})", "Bar", "", QStringList(textWarning(unknownType(""))));
+    row("unknown unit", ofPressure, "Nope", "", QStringList(textWarning(unknownUnit("Nope", pressure))));
 }
 
 void UnitTextHandlerTest::textOfNode()
@@ -313,18 +267,18 @@ void UnitTextHandlerTest::fixedUnitTypes_data()
     QTest::addColumn<QString>("unitType");
     QTest::addColumn<bool>("isFixed");
 
-    QTest::newRow("unit type") << pressure << false;
-    QTest::newRow("fixed unit") << pressure + "/Bar" << true;
-    QTest::newRow("one part more") << pressure + "/Bar/x" << false;
-    QTest::newRow("prefix") << prefix << false;
-    QTest::newRow("prefix and slash") << prefix + "/" << true;
-    QTest::newRow("only slashes count") << "x/y/z/w" << true;
-    QTest::newRow("slash at the end") << "a/b/c/" << true;
-    QTest::newRow("three slashes") << "///" << true;
-    QTest::newRow("two slashes") << "//" << false;
-    QTest::newRow("four slashes") << "////" << false;
-    QTest::newRow("backslashes") << R"(a\b\c\d)" << false;
-    QTest::newRow("empty text") << "" << false;
+    row("unit type", pressure, false);
+    row("fixed unit", pressure + "/Bar", true);
+    row("one part more", pressure + "/Bar/x", false);
+    row("prefix", prefix, false);
+    row("prefix and slash", prefix + "/", true);
+    row("only slashes count", "x/y/z/w", true);
+    row("slash at the end", "a/b/c/", true);
+    row("three slashes", "///", true);
+    row("two slashes", "//", false);
+    row("four slashes", "////", false);
+    row("backslashes", R"(a\b\c\d)", false);
+    row("empty text", "", false);
 }
 
 void UnitTextHandlerTest::fixedUnitTypes()

@@ -4,6 +4,7 @@
 #include "ExactText.h"
 #include "LogCapture.h"
 #include "MessageText.h"
+#include "Row.h"
 #include "TextDocument.h"
 
 using namespace TextDocument;
@@ -37,14 +38,14 @@ void UnitTextHandlerTextMapTest::textMap_data()
     QTest::addColumn<QVariant>("expected");
 
     const QVariant bar = QVariantMap{{"en", "bar"}, {"de", "Bar"}, {"fr_CH", "bar suisse"}};
-    QTest::newRow("plain type gives the base unit") << pressure << bar;
-    QTest::newRow("fixed unit") << pressure + "/Bar" << bar;
-    QTest::newRow("fixed unit without name gives the base unit") << pressure + "/" << bar;
-    QTest::newRow("one text for every language") << pressure + "/HectoPascal" << QVariant("hPa");
-    QTest::newRow("type without unit") << prefix + "NoUnit" << QVariant(QVariantMap{{"en", ""}});
-    QTest::newRow("fixed unit of the type without unit") << prefix + "NoUnit/NoUnit" << QVariant("none");
-    QTest::newRow("no base unit") << prefix + "Headless" << QVariant();
-    QTest::newRow("base unit without label") << prefix + "Tailless" << QVariant();
+    row("plain type gives the base unit", pressure, bar);
+    row("fixed unit", pressure + "/Bar", bar);
+    row("fixed unit without name gives the base unit", pressure + "/", bar);
+    row("one text for every language", pressure + "/HectoPascal", QVariant("hPa"));
+    row("type without unit", prefix + "NoUnit", QVariant(QVariantMap{{"en", ""}}));
+    row("fixed unit of the type without unit", prefix + "NoUnit/NoUnit", QVariant("none"));
+    row("no base unit", prefix + "Headless", QVariant());
+    row("base unit without label", prefix + "Tailless", QVariant());
 }
 
 void UnitTextHandlerTextMapTest::textMap()
@@ -70,14 +71,14 @@ void UnitTextHandlerTextMapTest::unknownNamesInTextMapWarn_data()
 
     const QString nopeUnit = pressure + "/Nope";
     const QString bareUnit = pressure + "/Bare";
-    QTest::newRow("unknown type") << prefix + "Nope" << unknownType(prefix + "Nope");
-    QTest::newRow("fixed unit of an unknown type is named whole")
-        << prefix + "Nope/Bar" << unknownType(prefix + "Nope/Bar");
-    QTest::newRow("type without labels") << prefix + "Unlabelled" << unknownType(prefix + "Unlabelled");
-    QTest::newRow("no unit without prefix") << "NoUnit" << unknownType("NoUnit");
-    QTest::newRow("empty type") << "" << unknownType("");
-    QTest::newRow("unknown unit") << nopeUnit << unknownUnit("Nope", nopeUnit);
-    QTest::newRow("unit without label") << bareUnit << unknownUnit("Bare", bareUnit);
+    row("unknown type", prefix + "Nope", unknownType(prefix + "Nope"));
+    row("fixed unit of an unknown type is named whole", prefix + "Nope/Bar",
+        unknownType(prefix + "Nope/Bar"));
+    row("type without labels", prefix + "Unlabelled", unknownType(prefix + "Unlabelled"));
+    row("no unit without prefix", "NoUnit", unknownType("NoUnit"));
+    row("empty type", "", unknownType(""));
+    row("unknown unit", nopeUnit, unknownUnit("Nope", nopeUnit));
+    row("unit without label", bareUnit, unknownUnit("Bare", bareUnit));
 }
 
 void UnitTextHandlerTextMapTest::unknownNamesInTextMapWarn()

@@ -2,6 +2,7 @@
 
 #include "ExactText.h"
 #include "LogCapture.h"
+#include "Row.h"
 #include "ShippedCatalogue.h"
 #include "UnitManagerDefinitions.h"
 
@@ -60,28 +61,17 @@ void CatalogueTest::unitTypesAreThose_data()
     QTest::addColumn<QString>("baseUnit");
     QTest::addColumn<QString>("defaultUnit");
 
-    QTest::newRow("Pressure") << 14 << "Bar"
-                              << "HectoPascal";
-    QTest::newRow("Ratio") << 4 << "Percentage"
-                           << "Percentage";
-    QTest::newRow("MixingRatio") << 3 << "GramPerKiloGram"
-                                 << "GramPerKiloGram";
-    QTest::newRow("RelativeHumidity") << 1 << "RelHumidity"
-                                      << "RelHumidity";
-    QTest::newRow("AbsoluteHumidity") << 4 << "GramPerCubicMeter"
-                                      << "GramPerCubicMeter";
-    QTest::newRow("AbsoluteTemperature") << 4 << "DegreeCelsius"
-                                         << "DegreeCelsius";
-    QTest::newRow("Resistance") << 4 << "Ohm"
-                                << "Ohm";
-    QTest::newRow("Voltage") << 4 << "Volt"
-                             << "Volt";
-    QTest::newRow("Time") << 5 << "Seconds"
-                          << "Seconds";
-    QTest::newRow("SpecificEnthalpy") << 4 << "KiloJoulePerKiloGram"
-                                      << "KiloJoulePerKiloGram";
-    QTest::newRow("NoUnit") << 0 << "NoUnit"
-                            << "";
+    row("Pressure", 14, "Bar", "HectoPascal");
+    row("Ratio", 4, "Percentage", "Percentage");
+    row("MixingRatio", 3, "GramPerKiloGram", "GramPerKiloGram");
+    row("RelativeHumidity", 1, "RelHumidity", "RelHumidity");
+    row("AbsoluteHumidity", 4, "GramPerCubicMeter", "GramPerCubicMeter");
+    row("AbsoluteTemperature", 4, "DegreeCelsius", "DegreeCelsius");
+    row("Resistance", 4, "Ohm", "Ohm");
+    row("Voltage", 4, "Volt", "Volt");
+    row("Time", 5, "Seconds", "Seconds");
+    row("SpecificEnthalpy", 4, "KiloJoulePerKiloGram", "KiloJoulePerKiloGram");
+    row("NoUnit", 0, "NoUnit", "");
 }
 
 void CatalogueTest::unitTypesAreThose()
@@ -118,18 +108,16 @@ void CatalogueTest::listsNoOtherUnitType()
 void CatalogueTest::identifierNamesShippedUnit_data()
 {
     QTest::addColumn<QString>("identifier");
-    QTest::newRow("bar") << UnitManagerDefinitions::getUnitUrlPressureBar();
-    QTest::newRow("hectopascal") << UnitManagerDefinitions::getUnitUrlPressureHectoPascal();
-    QTest::newRow("millibar") << UnitManagerDefinitions::getUnitUrlPressureMilliBar();
-    QTest::newRow("percentage") << UnitManagerDefinitions::getUnitUrlRatioPercentage();
-    QTest::newRow("parts per million") << UnitManagerDefinitions::getUnitUrlRatioPartsPerMillion();
-    QTest::newRow("gram per kilogram") << UnitManagerDefinitions::getUnitUrlMixingRatioGramPerKiloGram();
-    QTest::newRow("relative humidity") << UnitManagerDefinitions::getUnitUrlRelativeHumidityRelHumidity();
-    QTest::newRow("gram per cubic metre")
-        << UnitManagerDefinitions::getUnitUrlAbsoluteHumidityGramPerCubicMeter();
-    QTest::newRow("seconds") << UnitManagerDefinitions::getUnitUrlTimeSeconds();
-    QTest::newRow("kilojoule per kilogram")
-        << UnitManagerDefinitions::getUnitUrlSpecificEnthalpyKiloJoulePerKiloGram();
+    row("bar", UnitManagerDefinitions::getUnitUrlPressureBar());
+    row("hectopascal", UnitManagerDefinitions::getUnitUrlPressureHectoPascal());
+    row("millibar", UnitManagerDefinitions::getUnitUrlPressureMilliBar());
+    row("percentage", UnitManagerDefinitions::getUnitUrlRatioPercentage());
+    row("parts per million", UnitManagerDefinitions::getUnitUrlRatioPartsPerMillion());
+    row("gram per kilogram", UnitManagerDefinitions::getUnitUrlMixingRatioGramPerKiloGram());
+    row("relative humidity", UnitManagerDefinitions::getUnitUrlRelativeHumidityRelHumidity());
+    row("gram per cubic metre", UnitManagerDefinitions::getUnitUrlAbsoluteHumidityGramPerCubicMeter());
+    row("seconds", UnitManagerDefinitions::getUnitUrlTimeSeconds());
+    row("kilojoule per kilogram", UnitManagerDefinitions::getUnitUrlSpecificEnthalpyKiloJoulePerKiloGram());
 }
 
 void CatalogueTest::identifierNamesShippedUnit()
@@ -164,61 +152,21 @@ void CatalogueTest::labelReads_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("label");
 
-    QTest::newRow("bar") << "Pressure"
-                         << "Bar"
-                         << "en"
-                         << "bar";
-    QTest::newRow("hectopascal") << "Pressure"
-                                 << "HectoPascal"
-                                 << "de"
-                                 << "hPa";
-    QTest::newRow("default unit") << "Pressure"
-                                  << ""
-                                  << "en"
-                                  << "hPa";
-    QTest::newRow("water column") << "Pressure"
-                                  << "InchOfWater"
-                                  << "en" << u8"inH\u2082O";
-    QTest::newRow("degree sign") << "AbsoluteTemperature"
-                                 << "DegreeCelsius"
-                                 << "fr" << u8"\u00b0C";
-    QTest::newRow("kelvin without degree sign") << "AbsoluteTemperature"
-                                                << "Kelvin"
-                                                << "en"
-                                                << "K";
-    QTest::newRow("cubic metre") << "AbsoluteHumidity"
-                                 << "GramPerCubicMeter"
-                                 << "en" << u8"g/m\u00b3";
-    QTest::newRow("micro sign") << "Voltage"
-                                << "MicroVolt"
-                                << "de" << u8"\u00b5V";
-    QTest::newRow("Greek omega") << "Resistance"
-                                 << "KiloOhm"
-                                 << "fr" << u8"k\u03a9";
-    QTest::newRow("relative humidity in English") << "RelativeHumidity"
-                                                  << "RelHumidity"
-                                                  << "en"
-                                                  << "%RH";
-    QTest::newRow("relative humidity in German") << "RelativeHumidity"
-                                                 << "RelHumidity"
-                                                 << "de"
-                                                 << "% r.F.";
-    QTest::newRow("relative humidity in French") << "RelativeHumidity"
-                                                 << "RelHumidity"
-                                                 << "fr"
-                                                 << "% HR";
-    QTest::newRow("fraction in German") << "Ratio"
-                                        << "Fraction"
-                                        << "de"
-                                        << "Anteil";
-    QTest::newRow("day in French") << "Time"
-                                   << "Days"
-                                   << "fr"
-                                   << "j";
-    QTest::newRow("day in German") << "Time"
-                                   << "Days"
-                                   << "de"
-                                   << "d";
+    row("bar", "Pressure", "Bar", "en", "bar");
+    row("hectopascal", "Pressure", "HectoPascal", "de", "hPa");
+    row("default unit", "Pressure", "", "en", "hPa");
+    row("water column", "Pressure", "InchOfWater", "en", u8"inH\u2082O");
+    row("degree sign", "AbsoluteTemperature", "DegreeCelsius", "fr", u8"\u00b0C");
+    row("kelvin without degree sign", "AbsoluteTemperature", "Kelvin", "en", "K");
+    row("cubic metre", "AbsoluteHumidity", "GramPerCubicMeter", "en", u8"g/m\u00b3");
+    row("micro sign", "Voltage", "MicroVolt", "de", u8"\u00b5V");
+    row("Greek omega", "Resistance", "KiloOhm", "fr", u8"k\u03a9");
+    row("relative humidity in English", "RelativeHumidity", "RelHumidity", "en", "%RH");
+    row("relative humidity in German", "RelativeHumidity", "RelHumidity", "de", "% r.F.");
+    row("relative humidity in French", "RelativeHumidity", "RelHumidity", "fr", "% HR");
+    row("fraction in German", "Ratio", "Fraction", "de", "Anteil");
+    row("day in French", "Time", "Days", "fr", "j");
+    row("day in German", "Time", "Days", "de", "d");
 }
 
 void CatalogueTest::labelReads()
@@ -247,17 +195,16 @@ void CatalogueTest::standardConditionsAreShownAs_data()
     QTest::addColumn<QString>("unit");
     QTest::addColumn<double>("shown");
 
-    QTest::newRow("bar") << "Pressure" << 1.01325 << "Bar" << 1.013;
-    QTest::newRow("default unit") << "Pressure" << 1.01325 << "" << 1013.3;
-    QTest::newRow("pascal") << "Pressure" << 1.01325 << "Pascal" << 101325.0;
-    QTest::newRow("pound-force per square inch")
-        << "Pressure" << 1.01325 << "PoundForcePerSquareInch" << 14.70;
-    QTest::newRow("inch of mercury") << "Pressure" << 1.01325 << "InchOfMercury" << 29.92;
-    QTest::newRow("torr") << "Pressure" << 1.01325 << "Torr" << 760.0;
-    QTest::newRow("degree Celsius") << "AbsoluteTemperature" << 20.04 << "DegreeCelsius" << 20.0;
-    QTest::newRow("degree Fahrenheit") << "AbsoluteTemperature" << 20.04 << "DegreeFahrenheit" << 68.1;
-    QTest::newRow("parts per million") << "Ratio" << 0.04213 << "PartsPerMillion" << 421.3;
-    QTest::newRow("grain per pound") << "MixingRatio" << 7.26 << "GrainPerPound" << 50.8;
+    row("bar", "Pressure", 1.01325, "Bar", 1.013);
+    row("default unit", "Pressure", 1.01325, "", 1013.3);
+    row("pascal", "Pressure", 1.01325, "Pascal", 101325.0);
+    row("pound-force per square inch", "Pressure", 1.01325, "PoundForcePerSquareInch", 14.70);
+    row("inch of mercury", "Pressure", 1.01325, "InchOfMercury", 29.92);
+    row("torr", "Pressure", 1.01325, "Torr", 760.0);
+    row("degree Celsius", "AbsoluteTemperature", 20.04, "DegreeCelsius", 20.0);
+    row("degree Fahrenheit", "AbsoluteTemperature", 20.04, "DegreeFahrenheit", 68.1);
+    row("parts per million", "Ratio", 0.04213, "PartsPerMillion", 421.3);
+    row("grain per pound", "MixingRatio", 7.26, "GrainPerPound", 50.8);
 }
 
 void CatalogueTest::standardConditionsAreShownAs()
