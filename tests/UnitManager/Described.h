@@ -1,48 +1,20 @@
 #pragma once
 
-#include <QtCore/QList>
-#include <QtCore/QString>
-#include <QtCore/QStringList>
-#include <QtCore/QVariant>
+#include "DebugText.h"
+#include "ExpectedMessages.h"
 
-class LogCapture;
-
-/// A variant's type and value as text, "double 1.5", with all digits; "invalid" for an invalid one. Unlike
-/// QVariant's own comparison, it distinguishes types, NaN and the signs of zero.
-QString described(const QVariant& value);
-QStringList described(const QList<QVariant>& values);
-
-/// Takes the captured messages out of the log, as one text each with level, category, location, function and
-/// text.
-QStringList describedMessages(LogCapture& log);
-
-/// The texts of describedMessages() for each of the library's warnings.
-namespace Expected {
-
-enum class Conversion
+// Previous names, which the tests of the device integration still use.
+inline QString described(const QVariant& value)
 {
-    ToBase,
-    FromBase
-};
+    return toDebugText(value);
+}
 
-QString noDefaultUnit(const QString& unitType);
-QString noConversion(Conversion conversion, const QString& unitType);
-QString noConversionForDecimalPlaces(const QString& unitType);
-QString noBaseUnit(const QString& unitType);
-QString invalidType(Conversion conversion, const QString& typeName);
-QString unknownUnit(Conversion conversion, const QString& unit, const QString& unitTypeKey);
-/// The two warnings for a value that is not a number.
-QStringList notConverted(Conversion conversion, const QString& typeName, const QString& unit,
-                         const QString& unitTypeKey);
-QString notRounded(const QString& streamedValue);
-QString noFixedUnit(const QString& text);
-QString unknownTextType(const QString& unitType);
-QString unknownTextUnit(const QString& unit, const QString& unitType);
-QString unknownTextMapType(const QString& unitType);
-QString unknownTextMapUnit(const QString& unit, const QString& unitType);
-QString noBaseUnitLabel(const QString& unitType);
-/// @param streamedDocument the document as quoted by the stream
-QString invalidUnitDocument(const QString& streamedDocument);
-QString invalidDefaultUnitDocument();
+inline QStringList described(const QList<QVariant>& values)
+{
+    return toDebugText(values);
+}
 
-} // namespace Expected
+inline QStringList describedMessages(LogCapture& log)
+{
+    return takeMessageTexts(log);
+}

@@ -4,7 +4,8 @@
 
 #include <limits>
 
-#include "Described.h"
+#include "DebugText.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "RecordingArray.h"
 #include "Row.h"
@@ -126,7 +127,7 @@ void UnitManagerArrayTest::ranges()
     QTEST(m_manager.getValueArray(array, row, firstColumn, columnCount, bar).size(), "values");
     QCOMPARE(array.getData(), data);
     QTEST(m_manager.setValueArray(array, row, firstColumn, columnCount, given, bar), "writes");
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 
     QFETCH(int, values);
     QList<QVariant> expected = row < 2 ? data.at(static_cast<int>(row)).toList() : QList<QVariant>();
@@ -160,11 +161,11 @@ void UnitManagerArrayTest::getValueArray_data()
     const QStringList none;
     row("unit", 0U, 0U, 1U, "HectoPascal", QStringList{"double 1500"}, none);
     row("default units of the columns", 0U, 0U, 3U, "",
-        QStringList{"double 1500", "double 2.5", described(300.15 - 273.15)}, none);
+        QStringList{"double 1500", "double 2.5", toDebugText(300.15 - 273.15)}, none);
     row("columns from the middle", 0U, 1U, 3U, "Celsius",
-        QStringList{"double 2.5", described(300.15 - 273.15), "double 3.5"}, none);
+        QStringList{"double 2.5", toDebugText(300.15 - 273.15), "double 3.5"}, none);
     row("unit of another column", 0U, 0U, 3U, "HectoPascal",
-        QStringList{"double 1500", "double 2.5", described(300.15)},
+        QStringList{"double 1500", "double 2.5", toDebugText(300.15)},
         QStringList{Expected::unknownUnit(Conversion::FromBase, "HectoPascal", "AbsoluteTemperature")});
     row("unknown unit type", 0U, 3U, 2U, "Bar", QStringList{"double 3.5", "int 4"},
         QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)});
@@ -181,8 +182,8 @@ void UnitManagerArrayTest::getValueArray()
     const Array2dDataTypeWrapper array = fiveColumns();
     LogCapture log;
 
-    QTEST(described(m_manager.getValueArray(array, row, firstColumn, columnCount, unit)), "values");
-    QTEST(describedMessages(log), "messages");
+    QTEST(toDebugText(m_manager.getValueArray(array, row, firstColumn, columnCount, unit)), "values");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerArrayTest::setValueArray_data()
@@ -195,14 +196,14 @@ void UnitManagerArrayTest::setValueArray_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    const QStringList old = {"double 1.5", "double 2.5", described(300.15), "double 3.5", "int 4"};
+    const QStringList old = {"double 1.5", "double 2.5", toDebugText(300.15), "double 3.5", "int 4"};
     const QString hPa = QStringLiteral("HectoPascal");
     row("unit, not rounded", 0U, QVariantList{1234.56}, hPa, true,
-        QStringList{described(1234.56 * 0.001), old[1], old[2], old[3], old[4]}, none);
+        QStringList{toDebugText(1234.56 * 0.001), old[1], old[2], old[3], old[4]}, none);
     row("default units of the columns", 0U, QVariantList{2000, 7, 0}, "", true,
-        QStringList{"double 2", "int 7", described(273.15), old[3], old[4]}, none);
+        QStringList{"double 2", "int 7", toDebugText(273.15), old[3], old[4]}, none);
     row("columns from the middle, fixed unit as it is", 1U, QVariantList{"text", 0.0, 5}, "Celsius", true,
-        QStringList{old[0], "QString text", described(273.15), "int 5", old[4]}, none);
+        QStringList{old[0], "QString text", toDebugText(273.15), "int 5", old[4]}, none);
     row("markers are written also with unknown units", 0U,
         QVariantList{marker, marker, marker, marker, marker}, "Nope", true,
         QStringList{"double nan", "double nan", "double nan", "double nan", "double nan"}, none);
@@ -227,9 +228,9 @@ void UnitManagerArrayTest::setValueArray()
     QTEST(m_manager.setValueArray(array, 0, firstColumn, static_cast<unsigned int>(values.size()), values,
                                   unit),
           "writes");
-    QTEST(described(array.getRowValues(0)), "stored");
-    QCOMPARE(described(array.getRowValues(1)), described(fiveColumns().getRowValues(1)));
-    QTEST(describedMessages(log), "messages");
+    QTEST(toDebugText(array.getRowValues(0)), "stored");
+    QCOMPARE(toDebugText(array.getRowValues(1)), toDebugText(fiveColumns().getRowValues(1)));
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerArrayTest::setValueArrayMayGetMoreValues()
@@ -237,8 +238,8 @@ void UnitManagerArrayTest::setValueArrayMayGetMoreValues()
     Array2dDataTypeWrapper array = fiveColumns();
 
     QVERIFY(m_manager.setValueArray(array, 0, 1, 1, {7.5, 8.5, 9.5}, QString()));
-    QCOMPARE(described(array.getRowValues(0)),
-             (QStringList{"double 1.5", "double 7.5", described(300.15), "double 3.5", "int 4"}));
+    QCOMPARE(toDebugText(array.getRowValues(0)),
+             (QStringList{"double 1.5", "double 7.5", toDebugText(300.15), "double 3.5", "int 4"}));
 }
 
 void UnitManagerArrayTest::emptyRangeWritesTheRowBack_data()
@@ -300,7 +301,7 @@ void UnitManagerArrayTest::getUnitText()
     LogCapture log;
 
     QTEST(m_manager.getUnitText(array, QStringLiteral("de"), firstColumn, columnCount, unit), "texts");
-    QTEST(describedMessages(log), "messages");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerArrayTest::getUnitTextOfOneColumn_data()
@@ -328,7 +329,7 @@ void UnitManagerArrayTest::getUnitTextOfOneColumn()
     LogCapture log;
 
     QTEST(m_manager.getUnitText(array, QStringLiteral("de"), column, unit), "text");
-    QTEST(describedMessages(log), "messages");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 QTEST_GUILESS_MAIN(UnitManagerArrayTest)

@@ -4,7 +4,8 @@
 
 #include <limits>
 
-#include "Described.h"
+#include "DebugText.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestDocuments.h"
@@ -65,24 +66,24 @@ void addRowsOfBothDirections(Conversion conversion)
     const QStringList none;
     const QString fixedBar = T::pressure + QStringLiteral("/Bar");
 
-    row("base unit", QVariant(1.23456), T::pressure, "Bar", described(1.235), none);
-    row("negative half", QVariant(-0.0005), T::pressure, "Bar", described(-0.001), none);
+    row("base unit", QVariant(1.23456), T::pressure, "Bar", toDebugText(1.235), none);
+    row("negative half", QVariant(-0.0005), T::pressure, "Bar", toDebugText(-0.001), none);
     row("whole number becomes a double", QVariant(3), T::pressure, "Bar", "double 3", none);
-    row("huge number has nothing to round", QVariant(1e20), T::pressure, "Bar", described(1e20), none);
+    row("huge number has nothing to round", QVariant(1e20), T::pressure, "Bar", toDebugText(1e20), none);
     row("table unit has no places", QVariant(1.5), T::ratio, "Counts", "double 2", none);
-    row("fixed unit is rounded only", QVariant(1.23456), fixedBar, "", described(1.235), none);
-    row("fixed unit beats the unit", QVariant(1234.56789), fixedBar, "HectoPascal", described(1234.568),
+    row("fixed unit is rounded only", QVariant(1.23456), fixedBar, "", toDebugText(1.235), none);
+    row("fixed unit beats the unit", QVariant(1234.56789), fixedBar, "HectoPascal", toDebugText(1234.568),
         none);
     row("whole number in a fixed unit", QVariant(3), fixedBar, "", "double 3", none);
     row("text in a fixed unit", QVariant("abc"), fixedBar, "", "double 0",
         QStringList{notRounded(streamedAbc)});
-    row("unknown fixed unit", QVariant(1.23456), T::pressure + "/Nope", "Bar", described(1.23456), none);
-    row("fixed unit of an unknown type", QVariant(1.23456), "x/y/z/w", "", described(1.23456),
+    row("unknown fixed unit", QVariant(1.23456), T::pressure + "/Nope", "Bar", toDebugText(1.23456), none);
+    row("fixed unit of an unknown type", QVariant(1.23456), "x/y/z/w", "", toDebugText(1.23456),
         QStringList{noConversionForDecimalPlaces("x/y/z")});
-    row("no unit", QVariant(1.23456), T::pressure, "NoUnit", described(1.23456), none);
-    row("unknown unit", QVariant(1.23456), T::pressure, "Nope", described(1.23456),
+    row("no unit", QVariant(1.23456), T::pressure, "NoUnit", toDebugText(1.23456), none);
+    row("unknown unit", QVariant(1.23456), T::pressure, "Nope", toDebugText(1.23456),
         QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")});
-    row("unknown unit type", QVariant(1.23456), T::unknown, "Bar", described(1.23456),
+    row("unknown unit type", QVariant(1.23456), T::unknown, "Bar", toDebugText(1.23456),
         QStringList{noConversion(conversion, T::unknown), noConversionForDecimalPlaces(T::unknown)});
     row("unknown unit type without unit", QVariant(7), T::unknown, "", "int 7",
         QStringList{noDefaultUnit(T::unknown), noConversion(conversion, T::unknown),
@@ -96,7 +97,7 @@ void addRowsOfBothDirections(Conversion conversion)
     row("text that is no number", QVariant("abc"), T::pressure, "Bar", "double 0",
         notConverted(conversion, "QString", "Bar", "Pressure") + QStringList{notRounded(streamedAbc)});
     row("text that is a number is rounded all the same", QVariant("1.23456"), T::pressure, "Bar",
-        described(1.235), notConverted(conversion, "QString", "Bar", "Pressure"));
+        toDebugText(1.235), notConverted(conversion, "QString", "Bar", "Pressure"));
     row("truth value", QVariant(true), T::pressure, "Bar", "double 1",
         notConverted(conversion, "bool", "Bar", "Pressure"));
     row("invalid value", QVariant(), T::pressure, "Bar", "double 0",
@@ -121,18 +122,18 @@ void UnitManagerConversionTest::roundDouble_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    row("half", QVariant(1.25), 1U, described(1.3), none);
-    row("negative half", QVariant(-1.25), 1U, described(-1.3), none);
+    row("half", QVariant(1.25), 1U, toDebugText(1.3), none);
+    row("negative half", QVariant(-1.25), 1U, toDebugText(-1.3), none);
     row("no places", QVariant(2.5), 0U, "double 3", none);
     row("whole number becomes a double", QVariant(3), 2U, "double 3", none);
     row("unsigned number becomes a double", QVariant(4294967295U), 0U, "double 4294967295", none);
     row("long number becomes a double", QVariant(-4294967296LL), 1U, "double -4294967296", none);
     row("single-precision number becomes a double", QVariant(2.5F), 0U, "double 3", none);
     row("truth value becomes a double", QVariant(true), 0U, "double 1", none);
-    row("text that is a number", QVariant("1.25"), 1U, described(1.3), none);
+    row("text that is a number", QVariant("1.25"), 1U, toDebugText(1.3), none);
     row("marker", QVariant(marker), 1U, "double nan", none);
     row("infinity", QVariant(-infinity), 1U, "double -inf", none);
-    row("largest number of places", QVariant(0.1), 4294967295U, described(0.1), none);
+    row("largest number of places", QVariant(0.1), 4294967295U, toDebugText(0.1), none);
     row("text that is no number", QVariant("abc"), 1U, "double 0", QStringList{notRounded(streamedAbc)});
     row("empty text", QVariant(""), 1U, "double 0", QStringList{notRounded("QVariant(QString, \"\")")});
     row("text with a decimal comma", QVariant("1,5"), 1U, "double 0",
@@ -148,17 +149,17 @@ void UnitManagerConversionTest::roundDouble()
     QFETCH(unsigned int, places);
     LogCapture log;
 
-    QTEST(described(UnitManager().roundDouble(value, places)), "result");
-    QTEST(describedMessages(log), "messages");
+    QTEST(toDebugText(UnitManager().roundDouble(value, places)), "result");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerConversionTest::fromBaseUnit_data()
 {
     addColumns();
     const QStringList none;
-    row("unit", QVariant(1.23456), T::pressure, "HectoPascal", described(1234.6), none);
-    row("empty unit is the default unit", QVariant(1.23456), T::pressure, "", described(1234.6), none);
-    row("default unit written as a fixed unit", QVariant(300.0), T::temperature, "", described(26.9), none);
+    row("unit", QVariant(1.23456), T::pressure, "HectoPascal", toDebugText(1234.6), none);
+    row("empty unit is the default unit", QVariant(1.23456), T::pressure, "", toDebugText(1234.6), none);
+    row("default unit written as a fixed unit", QVariant(300.0), T::temperature, "", toDebugText(26.9), none);
     row("polynomial without places", QVariant(1.23456), T::pressure, "MilliBar", "double 1235", none);
     addRowsOfBothDirections(Conversion::FromBase);
 }
@@ -170,8 +171,8 @@ void UnitManagerConversionTest::fromBaseUnit()
     QFETCH(QString, unit);
     LogCapture log;
 
-    QTEST(described(m_manager.fromBaseUnit(value, unitType, unit)), "result");
-    QTEST(describedMessages(log), "messages");
+    QTEST(toDebugText(m_manager.fromBaseUnit(value, unitType, unit)), "result");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerConversionTest::toBaseUnit_data()
@@ -179,11 +180,11 @@ void UnitManagerConversionTest::toBaseUnit_data()
     addColumns();
     const QStringList none;
     row("rounded to the places of the given unit", QVariant(1234.56), T::pressure, "HectoPascal",
-        described(1.2), none);
+        toDebugText(1.2), none);
     row("nothing left at the places of the given unit", QVariant(1.234), T::pressure, "HectoPascal",
         "double 0", none);
-    row("base unit has more places", QVariant(1.234), T::temperature, "Celsius", described(274.4), none);
-    row("empty unit is the default unit", QVariant(1234.56), T::pressure, "", described(1.2), none);
+    row("base unit has more places", QVariant(1.234), T::temperature, "Celsius", toDebugText(274.4), none);
+    row("empty unit is the default unit", QVariant(1234.56), T::pressure, "", toDebugText(1.2), none);
     row("polynomial without places", QVariant(1634.56), T::pressure, "MilliBar", "double 2", none);
     addRowsOfBothDirections(Conversion::ToBase);
 }
@@ -193,12 +194,12 @@ void UnitManagerConversionTest::toBaseUnit()
     QFETCH(QVariant, value);
     QFETCH(QString, unitType);
     QFETCH(QString, unit);
-    const QString given = described(value);
+    const QString given = toDebugText(value);
     LogCapture log;
 
-    QTEST(described(m_manager.toBaseUnit(value, unitType, unit)), "result");
-    QCOMPARE(described(value), given);
-    QTEST(describedMessages(log), "messages");
+    QTEST(toDebugText(m_manager.toBaseUnit(value, unitType, unit)), "result");
+    QCOMPARE(toDebugText(value), given);
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerConversionTest::rawFormsDoNotRound_data()
@@ -211,12 +212,12 @@ void UnitManagerConversionTest::rawFormsDoNotRound_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    row("unit", QVariant(1.23456), T::pressure, "HectoPascal", described(1.23456 * 1000.0),
-        described(1.23456 * 0.001), none);
-    row("empty unit is the default unit", QVariant(2), T::pressure, "", "double 2000", described(2 * 0.001),
+    row("unit", QVariant(1.23456), T::pressure, "HectoPascal", toDebugText(1.23456 * 1000.0),
+        toDebugText(1.23456 * 0.001), none);
+    row("empty unit is the default unit", QVariant(2), T::pressure, "", "double 2000", toDebugText(2 * 0.001),
         none);
     row("table unit", QVariant(1.5), T::ratio, "Counts", "double 1.5", "double 1.5", none);
-    row("fixed unit", QVariant(1.23456), T::pressure + "/Bar", "", described(1.23456), described(1.23456),
+    row("fixed unit", QVariant(1.23456), T::pressure + "/Bar", "", toDebugText(1.23456), toDebugText(1.23456),
         none);
     row("whole number in a fixed unit", QVariant(3), T::pressure + "/Bar", "", "int 3", "int 3", none);
     row("unit without unit type", QVariant(3), "", "Bar", "int 3", "int 3", none);
@@ -236,13 +237,13 @@ void UnitManagerConversionTest::rawFormsDoNotRound()
     QFETCH(QVariant, value);
     QFETCH(QString, unitType);
     QFETCH(QString, unit);
-    const QString given = described(value);
+    const QString given = toDebugText(value);
     LogCapture log;
 
-    QTEST(described(m_manager.fromBaseUnitRaw(value, unitType, unit)), "fromBase");
-    QTEST(described(m_manager.toBaseUnitRaw(value, unitType, unit)), "toBase");
-    QCOMPARE(described(value), given);
-    QTEST(describedMessages(log), "messages");
+    QTEST(toDebugText(m_manager.fromBaseUnitRaw(value, unitType, unit)), "fromBase");
+    QTEST(toDebugText(m_manager.toBaseUnitRaw(value, unitType, unit)), "toBase");
+    QCOMPARE(toDebugText(value), given);
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerConversionTest::everyTypeOfNumber_data()
@@ -251,19 +252,19 @@ void UnitManagerConversionTest::everyTypeOfNumber_data()
     QTest::addColumn<QString>("fromBase");
     QTest::addColumn<QString>("toBase");
 
-    row("double", QVariant(2.5), "double 2500", described(2.5 * 0.001));
+    row("double", QVariant(2.5), "double 2500", toDebugText(2.5 * 0.001));
     row("double that is null", QVariant(QVariant::Double), "double 0", "double 0");
-    row("negative zero", QVariant(-0.0), described(-0.0 + 0.0), described(-0.0 + 0.0));
+    row("negative zero", QVariant(-0.0), toDebugText(-0.0 + 0.0), toDebugText(-0.0 + 0.0));
     row("infinity, of which the polynomial takes nothing", QVariant(-infinity), "double nan", "double nan");
-    row("float", QVariant(2.5F), "double 2500", described(2.5 * 0.001));
+    row("float", QVariant(2.5F), "double 2500", toDebugText(2.5 * 0.001));
     row("float marker", QVariant(std::numeric_limits<float>::quiet_NaN()), "float nan", "float nan");
-    row("int", QVariant(-2), "double -2000", described(-2 * 0.001));
-    row("unsigned int", QVariant(4294967295U), "double 4294967295000", described(4294967295.0 * 0.001));
-    row("long long", QVariant(-4294967296LL), "double -4294967296000", described(-4294967296.0 * 0.001));
+    row("int", QVariant(-2), "double -2000", toDebugText(-2 * 0.001));
+    row("unsigned int", QVariant(4294967295U), "double 4294967295000", toDebugText(4294967295.0 * 0.001));
+    row("long long", QVariant(-4294967296LL), "double -4294967296000", toDebugText(-4294967296.0 * 0.001));
     row("unsigned long long", QVariant(4294967296ULL), "double 4294967296000",
-        described(4294967296.0 * 0.001));
-    row("short", QVariant::fromValue(short(-2)), "double -2000", described(-2 * 0.001));
-    row("signed char", QVariant::fromValue<signed char>(-2), "double -2000", described(-2 * 0.001));
+        toDebugText(4294967296.0 * 0.001));
+    row("short", QVariant::fromValue(short(-2)), "double -2000", toDebugText(-2 * 0.001));
+    row("signed char", QVariant::fromValue<signed char>(-2), "double -2000", toDebugText(-2 * 0.001));
 }
 
 void UnitManagerConversionTest::everyTypeOfNumber()
@@ -271,14 +272,15 @@ void UnitManagerConversionTest::everyTypeOfNumber()
     QFETCH(QVariant, value);
     LogCapture log;
 
-    QTEST(described(m_manager.fromBaseUnitRaw(value, T::pressure, "HectoPascal")), "fromBase");
-    QTEST(described(m_manager.toBaseUnitRaw(value, T::pressure, "HectoPascal")), "toBase");
+    QTEST(toDebugText(m_manager.fromBaseUnitRaw(value, T::pressure, "HectoPascal")), "fromBase");
+    QTEST(toDebugText(m_manager.toBaseUnitRaw(value, T::pressure, "HectoPascal")), "toBase");
     QCOMPARE(
-        described(m_manager.fromBaseUnit(value, T::pressure, "HectoPascal")),
-        described(m_manager.roundDouble(m_manager.fromBaseUnitRaw(value, T::pressure, "HectoPascal"), 1)));
-    QCOMPARE(described(m_manager.toBaseUnit(value, T::pressure, "HectoPascal")),
-             described(m_manager.roundDouble(m_manager.toBaseUnitRaw(value, T::pressure, "HectoPascal"), 1)));
-    QCOMPARE(describedMessages(log), QStringList());
+        toDebugText(m_manager.fromBaseUnit(value, T::pressure, "HectoPascal")),
+        toDebugText(m_manager.roundDouble(m_manager.fromBaseUnitRaw(value, T::pressure, "HectoPascal"), 1)));
+    QCOMPARE(
+        toDebugText(m_manager.toBaseUnit(value, T::pressure, "HectoPascal")),
+        toDebugText(m_manager.roundDouble(m_manager.toBaseUnitRaw(value, T::pressure, "HectoPascal"), 1)));
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerConversionTest::namesWithSeparators_data()
@@ -291,13 +293,14 @@ void UnitManagerConversionTest::namesWithSeparators_data()
 
     const QStringList none;
     const QString parent = QStringLiteral("UnitManager/UnitType/Gauge");
-    row("none", parent, described(1.23456 * 1000.0), described(1234.6), described(1.23456 * 0.001), none);
-    row("one is a fixed unit", parent + "/Low", described(1.23456), described(1.23456), described(1.23456),
+    row("none", parent, toDebugText(1.23456 * 1000.0), toDebugText(1234.6), toDebugText(1.23456 * 0.001),
         none);
-    row("one at the end is a fixed unit", parent + "/", described(1.23456), described(1.23456),
-        described(1.23456), none);
-    row("two are none", parent + "/Low/Er", described(1.23456 * 1000.0), described(1234.6),
-        described(1.23456 * 0.001), none);
+    row("one is a fixed unit", parent + "/Low", toDebugText(1.23456), toDebugText(1.23456),
+        toDebugText(1.23456), none);
+    row("one at the end is a fixed unit", parent + "/", toDebugText(1.23456), toDebugText(1.23456),
+        toDebugText(1.23456), none);
+    row("two are none", parent + "/Low/Er", toDebugText(1.23456 * 1000.0), toDebugText(1234.6),
+        toDebugText(1.23456 * 0.001), none);
 }
 
 void UnitManagerConversionTest::namesWithSeparators()
@@ -312,22 +315,22 @@ void UnitManagerConversionTest::namesWithSeparators()
         QString()));
     LogCapture log;
 
-    QTEST(described(manager.fromBaseUnitRaw(1.23456, unitType, "Milli")), "raw");
-    QTEST(described(manager.fromBaseUnit(1.23456, unitType, "Milli")), "rounded");
-    QTEST(described(manager.toBaseUnitRaw(1.23456, unitType, "Milli")), "toBase");
+    QTEST(toDebugText(manager.fromBaseUnitRaw(1.23456, unitType, "Milli")), "raw");
+    QTEST(toDebugText(manager.fromBaseUnit(1.23456, unitType, "Milli")), "rounded");
+    QTEST(toDebugText(manager.toBaseUnitRaw(1.23456, unitType, "Milli")), "toBase");
     double value = 1.23456;
     QVERIFY(manager.fromBaseUnitArray(&value, &value, 1, unitType, "Milli"));
-    QTEST(described(value), "raw");
-    QTEST(describedMessages(log), "messages");
+    QTEST(toDebugText(value), "raw");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerConversionTest::getValue_data()
 {
     addColumns();
     const QStringList none;
-    row("unit", QVariant(1.23456), T::pressure, "HectoPascal", described(1.23456 * 1000.0), none);
+    row("unit", QVariant(1.23456), T::pressure, "HectoPascal", toDebugText(1.23456 * 1000.0), none);
     row("empty unit is the default unit", QVariant(2), T::pressure, "", "double 2000", none);
-    row("fixed unit", QVariant(1.23456), T::pressure + "/Bar", "", described(1.23456), none);
+    row("fixed unit", QVariant(1.23456), T::pressure + "/Bar", "", toDebugText(1.23456), none);
     row("marker", QVariant(marker), T::pressure, "HectoPascal", "double nan", none);
     row("invalid value", QVariant(), T::pressure, "Bar", "invalid", none);
     row("invalid value of an unknown type", QVariant(), T::unknown, "", "invalid", none);
@@ -344,8 +347,8 @@ void UnitManagerConversionTest::getValue()
     QFETCH(QString, unit);
     LogCapture log;
 
-    QTEST(described(m_manager.getValue(value, unitType, unit)), "result");
-    QTEST(describedMessages(log), "messages");
+    QTEST(toDebugText(m_manager.getValue(value, unitType, unit)), "result");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 QTEST_GUILESS_MAIN(UnitManagerConversionTest)

@@ -5,7 +5,8 @@
 #include <cmath>
 #include <limits>
 
-#include "Described.h"
+#include "DebugText.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
 #include "Row.h"
@@ -118,7 +119,7 @@ void UnitManagerCoreConversionTest::toBaseUnit_data()
         none);
     row("whole number becomes a double", QVariant(3), T::pressure, "Bar", true, "double 3", none);
     row("whole number in the default unit", QVariant(2000U), T::pressure, "", true, "double 2", none);
-    row("no rounding", QVariant(1234.5678), T::pressure, "Bar", true, described(1234.5678), none);
+    row("no rounding", QVariant(1234.5678), T::pressure, "Bar", true, toDebugText(1234.5678), none);
     row("table unit", QVariant(1.5), T::ratio, "Counts", true, "double 1.5", none);
     row("neither unit type nor unit", QVariant("abc"), "", "", true, "QString abc", none);
     row("unit without unit type", QVariant(3), "", "Bar", false, "int 3", none);
@@ -134,8 +135,8 @@ void UnitManagerCoreConversionTest::toBaseUnit()
     LogCapture log;
 
     QTEST(m_core.toBaseUnit(value, unitType, unit), "succeeds");
-    QTEST(described(value), "result");
-    QTEST(describedMessages(log), "messages");
+    QTEST(toDebugText(value), "result");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerCoreConversionTest::fromBaseUnit_data()
@@ -146,7 +147,7 @@ void UnitManagerCoreConversionTest::fromBaseUnit_data()
     row("empty unit is the default unit", QVariant(1.5), T::pressure, "", true, "double 1500", none);
     row("default unit written as a fixed unit", QVariant(273.15), T::temperature, "", true, "double 0", none);
     row("whole number becomes a double", QVariant(3), T::pressure, "Bar", true, "double 3", none);
-    row("no rounding", QVariant(1234.5678), T::pressure, "Bar", true, described(1234.5678), none);
+    row("no rounding", QVariant(1234.5678), T::pressure, "Bar", true, toDebugText(1234.5678), none);
     row("table unit", QVariant(1.5), T::ratio, "Counts", true, "double 1.5", none);
     row("neither unit type nor unit", QVariant("abc"), "", "", true, "QString abc", none);
     row("unit without unit type", QVariant(3), "", "Bar", true, "int 3", none);
@@ -158,12 +159,12 @@ void UnitManagerCoreConversionTest::fromBaseUnit()
     QFETCH(QVariant, value);
     QFETCH(QString, unitType);
     QFETCH(QString, unit);
-    const QString given = described(value);
+    const QString given = toDebugText(value);
     LogCapture log;
 
-    QTEST(described(m_core.fromBaseUnit(value, unitType, unit)), "result");
-    QCOMPARE(described(value), given);
-    QTEST(describedMessages(log), "messages");
+    QTEST(toDebugText(m_core.fromBaseUnit(value, unitType, unit)), "result");
+    QCOMPARE(toDebugText(value), given);
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerCoreConversionTest::emptyCoreConvertsFixedUnitsOnly()
@@ -175,12 +176,12 @@ void UnitManagerCoreConversionTest::emptyCoreConvertsFixedUnitsOnly()
     QVERIFY(core.toBaseUnit(value, T::pressure + "/Bar", QString()));
     QVERIFY(core.toBaseUnit(value, QString(), QString()));
     QVERIFY(!core.toBaseUnit(value, QString(), QStringLiteral("Bar")));
-    QCOMPARE(described(core.fromBaseUnit(value, T::pressure + "/Bar", QString())), QStringLiteral("int 3"));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(toDebugText(core.fromBaseUnit(value, T::pressure + "/Bar", QString())), QStringLiteral("int 3"));
+    QCOMPARE(takeMessageTexts(log), QStringList());
 
     QVERIFY(!core.toBaseUnit(value, T::pressure, QStringLiteral("Bar")));
-    QCOMPARE(described(value), QStringLiteral("int 3"));
-    QCOMPARE(describedMessages(log), QStringList{Expected::noConversion(Conversion::ToBase, T::pressure)});
+    QCOMPARE(toDebugText(value), QStringLiteral("int 3"));
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::noConversion(Conversion::ToBase, T::pressure)});
 }
 
 void UnitManagerCoreConversionTest::nodeToBaseUnit_data()
@@ -214,9 +215,9 @@ void UnitManagerCoreConversionTest::nodeToBaseUnit()
     LogCapture log;
 
     QTEST(m_core.toBaseUnit(node, value, unit), "succeeds");
-    QTEST(described(value), "result");
-    QTEST(describedMessages(log), "messages");
-    QCOMPARE(described(node->value()), QStringLiteral("double 1.5"));
+    QTEST(toDebugText(value), "result");
+    QTEST(takeMessageTexts(log), "messages");
+    QCOMPARE(toDebugText(node->value()), QStringLiteral("double 1.5"));
 }
 
 void UnitManagerCoreConversionTest::nodeFromBaseUnit_data()
@@ -245,8 +246,8 @@ void UnitManagerCoreConversionTest::nodeFromBaseUnit()
     const auto node = RecordingValueNode::number(1.5, unitType);
     LogCapture log;
 
-    QTEST(described(m_core.fromBaseUnit(node, QVariant(2), unit)), "result");
-    QTEST(describedMessages(log), "messages");
+    QTEST(toDebugText(m_core.fromBaseUnit(node, QVariant(2), unit)), "result");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerCoreConversionTest::defaultUnitIsAskedAtEachUse()
@@ -254,14 +255,14 @@ void UnitManagerCoreConversionTest::defaultUnitIsAskedAtEachUse()
     UnitManagerCore core = m_core;
     QVERIFY(core.updateDefaultUnitsByJsonString(
         QStringLiteral(R"({ "Pressure": { "@type": "Selection", "@value": "Bar" } })")));
-    QCOMPARE(described(core.fromBaseUnit(1.5, T::pressure, QString())), QStringLiteral("double 1.5"));
-    QCOMPARE(described(m_core.fromBaseUnit(1.5, T::pressure, QString())), QStringLiteral("double 1500"));
+    QCOMPARE(toDebugText(core.fromBaseUnit(1.5, T::pressure, QString())), QStringLiteral("double 1.5"));
+    QCOMPARE(toDebugText(m_core.fromBaseUnit(1.5, T::pressure, QString())), QStringLiteral("double 1500"));
 
     QVERIFY(core.updateDefaultUnitsByJsonString(QString()));
     LogCapture log;
-    QCOMPARE(described(core.fromBaseUnit(7, T::pressure, QString())), QStringLiteral("int 7"));
-    QCOMPARE(described(core.fromBaseUnit(7, T::pressure, QString())), QStringLiteral("int 7"));
-    QCOMPARE(describedMessages(log),
+    QCOMPARE(toDebugText(core.fromBaseUnit(7, T::pressure, QString())), QStringLiteral("int 7"));
+    QCOMPARE(toDebugText(core.fromBaseUnit(7, T::pressure, QString())), QStringLiteral("int 7"));
+    QCOMPARE(takeMessageTexts(log),
              (QStringList{Expected::noDefaultUnit(T::pressure), Expected::noDefaultUnit(T::pressure)}));
 }
 
@@ -276,9 +277,9 @@ void UnitManagerCoreConversionTest::documentsMayGiveUnitLessTypes()
 
     QVariant value(QStringLiteral("abc"));
     QVERIFY(core.toBaseUnit(value, T::noUnit, QString()));
-    QCOMPARE(described(value), QStringLiteral("QString abc"));
+    QCOMPARE(toDebugText(value), QStringLiteral("QString abc"));
     QCOMPARE(core.getBaseUnit(T::noUnit), T::noUnit + "/NoUnit");
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 QTEST_GUILESS_MAIN(UnitManagerCoreConversionTest)

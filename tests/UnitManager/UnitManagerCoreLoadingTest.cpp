@@ -4,7 +4,8 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
-#include "Described.h"
+#include "DebugText.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestDocuments.h"
@@ -100,7 +101,7 @@ void UnitManagerCoreLoadingTest::newCoreIsEmpty()
     QVERIFY(!usable);
     QCOMPARE(core.getListofUnitTypes(), QStringList());
     QCOMPARE(core.getListofUnits(T::pressure), QStringList());
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerCoreLoadingTest::unitDocument_data()
@@ -137,7 +138,7 @@ void UnitManagerCoreLoadingTest::unitDocument()
     LogCapture log;
 
     QCOMPARE(m_core.updateUnitConversionByJsonString(json), loads);
-    QTEST(describedMessages(log), "messages");
+    QTEST(takeMessageTexts(log), "messages");
     QCOMPARE(m_core.isValid(), loads);
     QTEST(m_core.getListofUnitTypes(), "unitTypes");
     QCOMPARE(m_core.getDefaultUnit(T::pressure), QStringLiteral("HectoPascal"));
@@ -163,7 +164,7 @@ void UnitManagerCoreLoadingTest::failedUnitDocumentLeavesNothing()
     QCOMPARE(m_core.getListofUnitTypes(), QStringList());
     QCOMPARE(m_core.getUnitText(T::pressure, QStringLiteral("de"), QStringLiteral("Bar")), QString());
     QCOMPARE(m_core.getBaseUnit(T::pressure), QString());
-    QCOMPARE(describedMessages(log),
+    QCOMPARE(takeMessageTexts(log),
              (QStringList{Expected::unknownTextType(T::pressure), Expected::noBaseUnit(T::pressure)}));
 }
 
@@ -175,19 +176,19 @@ void UnitManagerCoreLoadingTest::rejectedLabelsKeepTheNewCatalogue()
     QVERIFY(!m_core.isValid());
     QCOMPARE(m_core.getListofUnits(T::voltage), QStringList{QStringLiteral("Volt")});
     QCOMPARE(m_core.getListofUnits(T::pressure), QStringList());
-    QCOMPARE(described(m_core.fromBaseUnit(3, T::voltage, QStringLiteral("Volt"))),
+    QCOMPARE(toDebugText(m_core.fromBaseUnit(3, T::voltage, QStringLiteral("Volt"))),
              QStringLiteral("double 3"));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerCoreLoadingTest::labelsAreLoadedAfterAFailedCatalogue()
 {
     LogCapture log;
     QVERIFY(!m_core.updateUnitConversionByJsonString(QStringLiteral("{")));
-    QCOMPARE(describedMessages(log), QStringList{Expected::invalidUnitDocument("{")});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::invalidUnitDocument("{")});
 
     QCOMPARE(m_core.getUnitTextJsonMap(T::pressure), QVariant());
-    QCOMPARE(describedMessages(log), QStringList{Expected::unknownTextMapType(T::pressure)});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::unknownTextMapType(T::pressure)});
 }
 
 void UnitManagerCoreLoadingTest::secondUnitDocumentReplacesTheFirst()
@@ -198,7 +199,7 @@ void UnitManagerCoreLoadingTest::secondUnitDocumentReplacesTheFirst()
     QCOMPARE(m_core.getUnitTextJsonMap(T::voltage), QVariant("V"));
     LogCapture log;
     QCOMPARE(m_core.getUnitTextJsonMap(T::pressure), QVariant());
-    QCOMPARE(describedMessages(log), QStringList{Expected::unknownTextMapType(T::pressure)});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::unknownTextMapType(T::pressure)});
 }
 
 void UnitManagerCoreLoadingTest::defaultUnitDocument_data()
@@ -233,7 +234,7 @@ void UnitManagerCoreLoadingTest::defaultUnitDocument()
 
     QTEST(m_core.updateDefaultUnitsByJsonString(json), "loads");
     QTEST(m_core.getDefaultUnit(T::pressure), "unit");
-    QTEST(describedMessages(log), "messages");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerCoreLoadingTest::failedDefaultUnitDocumentLeavesNothing()
@@ -242,7 +243,7 @@ void UnitManagerCoreLoadingTest::failedDefaultUnitDocumentLeavesNothing()
     QVERIFY(!m_core.updateDefaultUnitsByJsonString(QStringLiteral("{}")));
 
     QCOMPARE(m_core.getDefaultUnit(T::temperature), QString());
-    QCOMPARE(describedMessages(log), QStringList{Expected::noDefaultUnit(T::temperature)});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::noDefaultUnit(T::temperature)});
 }
 
 void UnitManagerCoreLoadingTest::defaultUnitsDoNotMatterForValidity()
@@ -267,7 +268,7 @@ void UnitManagerCoreLoadingTest::unitFile()
     QVERIFY(m_core.isValid());
     QCOMPARE(m_core.getListofUnitTypes(), QStringList{T::voltage});
     QCOMPARE(m_core.getUnitTextJsonMap(T::voltage), QVariant("V"));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerCoreLoadingTest::unitFileThatCannotBeRead_data()
@@ -289,7 +290,7 @@ void UnitManagerCoreLoadingTest::unitFileThatCannotBeRead()
     QVERIFY(!m_core.isValid());
     QCOMPARE(m_core.getListofUnitTypes(), QStringList());
     QCOMPARE(m_core.getUnitTextJsonMap(T::pressure), QVariant());
-    QCOMPARE(describedMessages(log), QStringList{Expected::unknownTextMapType(T::pressure)});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::unknownTextMapType(T::pressure)});
 }
 
 void UnitManagerCoreLoadingTest::emptyUnitPathReadsNothing()
@@ -299,9 +300,9 @@ void UnitManagerCoreLoadingTest::emptyUnitPathReadsNothing()
     QVERIFY(!m_core.updateUnitConversionByJsonFile(QString()));
     QVERIFY(!m_core.isValid());
     QCOMPARE(m_core.getListofUnitTypes(), QStringList());
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
     QCOMPARE(m_core.getUnitTextJsonMap(T::pressure), QVariant());
-    QCOMPARE(describedMessages(log), QStringList{Expected::unknownTextMapType(T::pressure)});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::unknownTextMapType(T::pressure)});
 }
 
 void UnitManagerCoreLoadingTest::defaultUnitFile()
@@ -314,9 +315,9 @@ void UnitManagerCoreLoadingTest::defaultUnitFile()
 
     QVERIFY(m_core.updateDefaultUnitsByJsonFile(path));
     QCOMPARE(m_core.getDefaultUnit(T::ratio), QStringLiteral("Counts"));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
     QCOMPARE(m_core.getDefaultUnit(T::pressure), QString());
-    QCOMPARE(describedMessages(log), QStringList{Expected::noDefaultUnit(T::pressure)});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::noDefaultUnit(T::pressure)});
 }
 
 void UnitManagerCoreLoadingTest::defaultUnitFileThatCannotBeRead_data()
@@ -337,7 +338,7 @@ void UnitManagerCoreLoadingTest::defaultUnitFileThatCannotBeRead()
     QCOMPARE(failedReads(log, path), isReported ? 1 : 0);
     QVERIFY(m_core.isValid());
     QCOMPARE(m_core.getDefaultUnit(T::pressure), QString());
-    QCOMPARE(describedMessages(log), QStringList{Expected::noDefaultUnit(T::pressure)});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::noDefaultUnit(T::pressure)});
 }
 
 void UnitManagerCoreLoadingTest::emptyDefaultUnitPathReadsNothing()
@@ -346,9 +347,9 @@ void UnitManagerCoreLoadingTest::emptyDefaultUnitPathReadsNothing()
 
     QVERIFY(m_core.updateDefaultUnitsByJsonFile(QString()));
     QVERIFY(m_core.isValid());
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
     QCOMPARE(m_core.getDefaultUnit(T::pressure), QString());
-    QCOMPARE(describedMessages(log), QStringList{Expected::noDefaultUnit(T::pressure)});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::noDefaultUnit(T::pressure)});
 }
 
 QTEST_GUILESS_MAIN(UnitManagerCoreLoadingTest)

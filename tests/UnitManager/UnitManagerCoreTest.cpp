@@ -4,7 +4,7 @@
 
 #include <type_traits>
 
-#include "Described.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
 #include "Row.h"
@@ -112,7 +112,7 @@ void UnitManagerCoreTest::fixedUnitsAreSplitAtTheLastSlash()
     QVERIFY(m_core.extractUnitTypeAndUnit(fixedUnit, unitType, unit));
     QTEST(unitType, "unitType");
     QTEST(unit, "unit");
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerCoreTest::otherTextsAreNotSplit_data()
@@ -135,7 +135,7 @@ void UnitManagerCoreTest::otherTextsAreNotSplit()
     QVERIFY(!m_core.extractUnitTypeAndUnit(text, unitType, unit));
     QCOMPARE(unitType, QStringLiteral("old type"));
     QCOMPARE(unit, QStringLiteral("old unit"));
-    QCOMPARE(describedMessages(log), QStringList{Expected::noFixedUnit(text)});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::noFixedUnit(text)});
 }
 
 void UnitManagerCoreTest::splittingMayOverwriteItsInput()
@@ -189,7 +189,7 @@ void UnitManagerCoreTest::unitTypeOfNode()
     QCOMPARE(foundType, unitType);
     QCOMPARE(unit, QStringLiteral("old unit"));
     QTEST(node->calls(), "calls");
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerCoreTest::unitTypeOfNullNode()
@@ -202,7 +202,7 @@ void UnitManagerCoreTest::unitTypeOfNullNode()
     QVERIFY(!m_core.getUnitProperties(BaseClassSharedPointer(), QStringLiteral("Value"), unitType, unit));
     QCOMPARE(unitType, QStringLiteral("old type"));
     QCOMPARE(unit, QStringLiteral("old unit"));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerCoreTest::unitTypeOfChild()
@@ -262,7 +262,7 @@ void UnitManagerCoreTest::decimalPlaces()
 
     QTEST(m_core.getDecimalPlacesForUnit(unitType, unit, places), "found");
     QTEST(places, "places");
-    QTEST(describedMessages(log), "messages");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerCoreTest::catalogueQuestions()
@@ -280,11 +280,11 @@ void UnitManagerCoreTest::catalogueQuestions()
     QCOMPARE(m_core.getBaseUnit(T::pressure), T::pressure + "/Bar");
     QCOMPARE(m_core.getDefaultUnit(T::temperature), QStringLiteral("Celsius"));
     QCOMPARE(m_core.getDefaultUnit(T::noUnit), QString());
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 
     QCOMPARE(m_core.getBaseUnit(QStringLiteral("NoUnit")), QString());
     QCOMPARE(m_core.getDefaultUnit(T::ratio), QString());
-    QCOMPARE(describedMessages(log),
+    QCOMPARE(takeMessageTexts(log),
              (QStringList{Expected::noBaseUnit("NoUnit"), Expected::noDefaultUnit(T::ratio)}));
 }
 

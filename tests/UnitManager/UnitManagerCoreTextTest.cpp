@@ -2,7 +2,7 @@
 
 #include <QtTest/QTest>
 
-#include "Described.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
 #include "Row.h"
@@ -80,7 +80,7 @@ void UnitManagerCoreTextTest::unitText()
     LogCapture log;
 
     QTEST(m_core.getUnitText(unitType, language, unit), "text");
-    QTEST(describedMessages(log), "messages");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerCoreTextTest::unitTextOfNode_data()
@@ -107,7 +107,7 @@ void UnitManagerCoreTextTest::unitTextOfNode()
     LogCapture log;
 
     QTEST(m_core.getUnitText(node, QStringLiteral("de"), unit), "text");
-    QTEST(describedMessages(log), "messages");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerCoreTextTest::unitTextMap_data()
@@ -132,7 +132,7 @@ void UnitManagerCoreTextTest::unitTextMap()
     LogCapture log;
 
     QTEST(m_core.getUnitTextJsonMap(key), "map");
-    QTEST(describedMessages(log), "messages");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 QTEST_GUILESS_MAIN(UnitManagerCoreTextTest)

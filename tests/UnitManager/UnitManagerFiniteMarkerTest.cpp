@@ -5,7 +5,8 @@
 #include <limits>
 
 #include "ConfigurationAndProcessDataTools.h"
-#include "Described.h"
+#include "DebugText.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestDocuments.h"
@@ -58,8 +59,8 @@ void UnitManagerFiniteMarkerTest::singleConversions_data()
     QTest::addColumn<QString>("toBase");
 
     row("marker", QVariant(marker), "double -999", "double -999");
-    row("the same number of another type", QVariant(-999), "double -999000", described(-999 * 0.001));
-    row("another number", QVariant(2.0), "double 2000", described(2.0 * 0.001));
+    row("the same number of another type", QVariant(-999), "double -999000", toDebugText(-999 * 0.001));
+    row("another number", QVariant(2.0), "double 2000", toDebugText(2.0 * 0.001));
     row("NaN", QVariant(notANumber), "double nan", "double nan");
 }
 
@@ -68,10 +69,10 @@ void UnitManagerFiniteMarkerTest::singleConversions()
     QFETCH(QVariant, value);
     LogCapture log;
 
-    QTEST(described(m_manager.fromBaseUnitRaw(value, T::pressure, "HectoPascal")), "fromBase");
-    QTEST(described(m_manager.toBaseUnitRaw(value, T::pressure, "HectoPascal")), "toBase");
-    QTEST(described(m_manager.fromBaseUnit(value, T::pressure, "HectoPascal")), "fromBase");
-    QCOMPARE(describedMessages(log), QStringList());
+    QTEST(toDebugText(m_manager.fromBaseUnitRaw(value, T::pressure, "HectoPascal")), "fromBase");
+    QTEST(toDebugText(m_manager.toBaseUnitRaw(value, T::pressure, "HectoPascal")), "toBase");
+    QTEST(toDebugText(m_manager.fromBaseUnit(value, T::pressure, "HectoPascal")), "fromBase");
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerFiniteMarkerTest::runs()
@@ -79,11 +80,11 @@ void UnitManagerFiniteMarkerTest::runs()
     const double values[] = {marker, 2.0, notANumber};
     double results[3] = {};
     m_manager.fromBaseUnitArray(values, results, 3, T::pressure, "HectoPascal");
-    QCOMPARE(described(QVariantList{results[0], results[1], results[2]}),
+    QCOMPARE(toDebugText(QVariantList{results[0], results[1], results[2]}),
              (QStringList{"double -999", "double 2000", "double nan"}));
     m_manager.toBaseUnitArray(values, results, 3, T::pressure, "HectoPascal");
-    QCOMPARE(described(QVariantList{results[0], results[1], results[2]}),
-             (QStringList{"double -999", described(2.0 * 0.001), "double nan"}));
+    QCOMPARE(toDebugText(QVariantList{results[0], results[1], results[2]}),
+             (QStringList{"double -999", toDebugText(2.0 * 0.001), "double nan"}));
 }
 
 QTEST_GUILESS_MAIN(UnitManagerFiniteMarkerTest)

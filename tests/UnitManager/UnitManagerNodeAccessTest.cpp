@@ -5,7 +5,8 @@
 #include <limits>
 
 #include "ConfigurationAndProcessDataParser.h"
-#include "Described.h"
+#include "DebugText.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "PropertyManagerConst.h"
 #include "RecordingValueNode.h"
@@ -70,10 +71,11 @@ void UnitManagerNodeAccessTest::getValue_data()
     const auto number = &RecordingValueNode::number;
     const QString fixedBar = T::pressure + QStringLiteral("/Bar");
     const QStringList none;
-    row("unit, not rounded", number(1.23456, T::pressure), "HectoPascal", described(1.23456 * 1000.0), none);
+    row("unit, not rounded", number(1.23456, T::pressure), "HectoPascal", toDebugText(1.23456 * 1000.0),
+        none);
     row("default unit", number(2.0, T::pressure), "", "double 2000", none);
     row("whole number", number(2, T::pressure), "HectoPascal", "double 2000", none);
-    row("fixed unit", number(1.23456, fixedBar), "HectoPascal", described(1.23456), none);
+    row("fixed unit", number(1.23456, fixedBar), "HectoPascal", toDebugText(1.23456), none);
     row("number without unit type", number(2, QVariant()), "Bar", "int 2", none);
     row("unit type that is no text", number(2, QVariantList{1}), "Bar", "int 2", none);
     row("marker", number(marker, T::pressure), "HectoPascal", "double nan", none);
@@ -92,17 +94,17 @@ void UnitManagerNodeAccessTest::getValue()
 {
     QFETCH(Node, node);
     QFETCH(QString, unit);
-    const QString stored = described(node->value());
+    const QString stored = toDebugText(node->value());
     const Node parent = RecordingValueNode::parentOf(node);
     LogCapture log;
 
-    QTEST(described(m_manager.getValue(key, parent, unit)), "result");
-    QTEST(describedMessages(log), "messages");
+    QTEST(toDebugText(m_manager.getValue(key, parent, unit)), "result");
+    QTEST(takeMessageTexts(log), "messages");
     QCOMPARE(parent->calls(), QStringList{QStringLiteral("getChild Value")});
     QCOMPARE(node->calls().value(0), QStringLiteral("getProperty @value"));
     QCOMPARE(node->calls().filter(QStringLiteral("setProperty")), QStringList());
     QCOMPARE(node->calls().filter(QStringLiteral("changeProperty")), QStringList());
-    QCOMPARE(described(node->value()), stored);
+    QCOMPARE(toDebugText(node->value()), stored);
 }
 
 void UnitManagerNodeAccessTest::getValueAsksForTheUnitTypeOfNumbersOnly_data()
@@ -144,7 +146,7 @@ void UnitManagerNodeAccessTest::setValue_data()
     const QStringList none;
     const QStringList readAndWritten = read + QStringList{written};
     row("unit, not rounded", number(T::pressure), QVariant(1234.56), "HectoPascal", 0,
-        described(1234.56 * 0.001), readAndWritten, none);
+        toDebugText(1234.56 * 0.001), readAndWritten, none);
     row("default unit", number(T::pressure), QVariant(2000), "", 0, "double 2", readAndWritten, none);
     row("fixed unit", number(fixedBar), QVariant(3), "HectoPascal", 0, "int 3", readAndWritten, none);
     row("text in a fixed unit", number(fixedBar), QVariant("abc"), "", 0, "QString abc", readAndWritten,
@@ -180,16 +182,16 @@ void UnitManagerNodeAccessTest::setValue()
     QFETCH(Node, node);
     QFETCH(QVariant, value);
     QFETCH(QString, unit);
-    const QString given = described(value);
+    const QString given = toDebugText(value);
     const Node parent = RecordingValueNode::parentOf(node);
     LogCapture log;
 
     QTEST(m_manager.setValueStatus(key, parent, value, unit), "status");
-    QTEST(described(node->value()), "stored");
+    QTEST(toDebugText(node->value()), "stored");
     QTEST(node->calls(), "calls");
-    QTEST(describedMessages(log), "messages");
+    QTEST(takeMessageTexts(log), "messages");
     QCOMPARE(parent->calls(), QStringList{QStringLiteral("getChild Value")});
-    QCOMPARE(described(value), given);
+    QCOMPARE(toDebugText(value), given);
 }
 
 void UnitManagerNodeAccessTest::writeStatusIsHandedOn_data()
@@ -232,12 +234,12 @@ void UnitManagerNodeAccessTest::nothingWithoutChild()
     QFETCH(QString, childKey);
     LogCapture log;
 
-    QCOMPARE(described(m_manager.getValue(childKey, node, QString())), QStringLiteral("invalid"));
+    QCOMPARE(toDebugText(m_manager.getValue(childKey, node, QString())), QStringLiteral("invalid"));
     QCOMPARE(m_manager.setValueStatus(childKey, node, 3, QString()), 2);
     QCOMPARE(m_manager.setValueStatus(childKey, node, marker, QString()), 2);
     QVERIFY(!m_manager.setValue(childKey, node, 3, QString()));
     QCOMPARE(m_manager.getUnitText(childKey, node, QStringLiteral("de"), QStringLiteral("Bar")), QString());
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerNodeAccessTest::getUnitText_data()
@@ -272,7 +274,7 @@ void UnitManagerNodeAccessTest::getUnitText()
     LogCapture log;
 
     QTEST(m_manager.getUnitText(key, parent, QStringLiteral("de"), unit), "text");
-    QTEST(describedMessages(log), "messages");
+    QTEST(takeMessageTexts(log), "messages");
     QCOMPARE(parent->calls(), QStringList{QStringLiteral("getChild Value")});
 }
 
@@ -291,21 +293,21 @@ void UnitManagerNodeAccessTest::parsedNodes()
     const QString pressure = QStringLiteral("Pressure");
     LogCapture log;
 
-    QCOMPARE(described(m_manager.getValue(pressure, root, hectoPascal)), QStringLiteral("double 1500"));
-    QCOMPARE(described(m_manager.getValue(QStringLiteral("Empty"), root, hectoPascal)),
+    QCOMPARE(toDebugText(m_manager.getValue(pressure, root, hectoPascal)), QStringLiteral("double 1500"));
+    QCOMPARE(toDebugText(m_manager.getValue(QStringLiteral("Empty"), root, hectoPascal)),
              QStringLiteral("double nan"));
-    QCOMPARE(described(m_manager.getValue(QStringLiteral("Name"), root, hectoPascal)),
+    QCOMPARE(toDebugText(m_manager.getValue(QStringLiteral("Name"), root, hectoPascal)),
              QStringLiteral("QString pump"));
 
     QCOMPARE(m_manager.setValueStatus(pressure, root, 2000, hectoPascal), 0);
     QCOMPARE(m_manager.setValueStatus(pressure, root, 2000, hectoPascal), 1);
     QCOMPARE(m_manager.setValueStatus(QStringLiteral("Locked"), root, 2000, hectoPascal), 2);
     QVERIFY(m_manager.setValue(pressure, root, 2000, hectoPascal));
-    QCOMPARE(described(m_manager.getValue(pressure, root, QStringLiteral("Bar"))),
+    QCOMPARE(toDebugText(m_manager.getValue(pressure, root, QStringLiteral("Bar"))),
              QStringLiteral("double 2"));
     QCOMPARE(m_manager.setValueStatus(pressure, root, marker, hectoPascal), 0);
-    QCOMPARE(described(m_manager.getValue(pressure, root, hectoPascal)), QStringLiteral("double nan"));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(toDebugText(m_manager.getValue(pressure, root, hectoPascal)), QStringLiteral("double nan"));
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 QTEST_GUILESS_MAIN(UnitManagerNodeAccessTest)

@@ -8,8 +8,8 @@
 #include <type_traits>
 #include <vector>
 
-#include "Described.h"
 #include "DoubleBits.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestDocuments.h"
@@ -94,7 +94,7 @@ QStringList messagesOf(const UnitManager& manager, Conversion conversion, const 
         manager.fromBaseUnitRaw(1.0, unitType, unit);
     else
         manager.toBaseUnitRaw(1.0, unitType, unit);
-    return describedMessages(log);
+    return takeMessageTexts(log);
 }
 
 /// All samples converted one by one: the expected result of the array conversion.
@@ -140,12 +140,12 @@ void UnitManagerNumberArrayTest::arrayIsLikeSingleConversions()
     QFETCH(bool, isKnown);
     QCOMPARE(m_manager.fromBaseUnitArray(values.data(), results.data(), values.size(), unitType, unit),
              isKnown);
-    QCOMPARE(describedMessages(log), fromBaseMessages);
+    QCOMPARE(takeMessageTexts(log), fromBaseMessages);
     QCOMPARE(bits(results), bits(fromBase));
 
     QCOMPARE(m_manager.toBaseUnitArray(values.data(), results.data(), values.size(), unitType, unit),
              isKnown);
-    QCOMPARE(describedMessages(log), toBaseMessages);
+    QCOMPARE(takeMessageTexts(log), toBaseMessages);
     QCOMPARE(bits(results), bits(toBase));
     QCOMPARE(bits(values), bits(samples()));
 }
@@ -166,7 +166,7 @@ void UnitManagerNumberArrayTest::emptyArray()
     LogCapture log;
     m_manager.fromBaseUnitArray(nullptr, nullptr, 0, T::pressure, QStringLiteral("HectoPascal"));
     m_manager.toBaseUnitArray(nullptr, nullptr, 0, T::pressure, QStringLiteral("HectoPascal"));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerNumberArrayTest::markerKeepsItsBits()
@@ -194,7 +194,7 @@ void UnitManagerNumberArrayTest::conversionIsLikeSingleConversions()
     ValueConversionWrapper conversion;
     QFETCH(bool, isKnown);
     QCOMPARE(m_manager.getConversion(unitType, unit, conversion), isKnown);
-    QCOMPARE(describedMessages(log), messages);
+    QCOMPARE(takeMessageTexts(log), messages);
 
     std::vector<double> fromBase;
     std::vector<double> toBase;
@@ -249,7 +249,7 @@ void UnitManagerNumberArrayTest::vectorIsLikeSingleConversions()
 
     QVector<double> converted = values;
     QCOMPARE(m_manager.fromBaseUnitArray(converted, unitType, unit), isKnown);
-    QCOMPARE(describedMessages(log), messages);
+    QCOMPARE(takeMessageTexts(log), messages);
     QCOMPARE(bits({converted.begin(), converted.end()}), bits(fromBase));
 
     converted = values;

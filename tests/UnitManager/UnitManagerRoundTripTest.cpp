@@ -10,7 +10,8 @@
 #include <random>
 
 #include "Array2dDataTypeWrapper.h"
-#include "Described.h"
+#include "DebugText.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
 
@@ -138,12 +139,12 @@ void UnitManagerRoundTripTest::conversionsEvaluateTheirPolynomials()
     LogCapture log;
 
     for (const double number : randomNumbers()) {
-        QCOMPARE(described(m_manager.fromBaseUnitRaw(number, unitType, name)),
-                 described(evaluated(unit.polynomial, number)));
-        QCOMPARE(described(m_manager.toBaseUnitRaw(number, unitType, name)),
-                 described(evaluated(unit.inversePolynomial, number)));
+        QCOMPARE(toDebugText(m_manager.fromBaseUnitRaw(number, unitType, name)),
+                 toDebugText(evaluated(unit.polynomial, number)));
+        QCOMPARE(toDebugText(m_manager.toBaseUnitRaw(number, unitType, name)),
+                 toDebugText(evaluated(unit.inversePolynomial, number)));
     }
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerRoundTripTest::linearUnitsComeBack_data()
@@ -181,12 +182,13 @@ void UnitManagerRoundTripTest::roundedFormsAreTheRoundedRawForms()
     const unsigned int places = static_cast<unsigned int>(units().at(index).decimalPlaces);
 
     for (const double number : randomNumbers()) {
-        QCOMPARE(described(m_manager.fromBaseUnit(number, unitType, name)),
-                 described(m_manager.roundDouble(m_manager.fromBaseUnitRaw(number, unitType, name), places)));
-        QCOMPARE(described(m_manager.toBaseUnit(number, unitType, name)),
-                 described(m_manager.roundDouble(m_manager.toBaseUnitRaw(number, unitType, name), places)));
-        QCOMPARE(described(m_manager.fromBaseUnit(number, unitType + '/' + name, QString())),
-                 described(m_manager.roundDouble(number, places)));
+        QCOMPARE(
+            toDebugText(m_manager.fromBaseUnit(number, unitType, name)),
+            toDebugText(m_manager.roundDouble(m_manager.fromBaseUnitRaw(number, unitType, name), places)));
+        QCOMPARE(toDebugText(m_manager.toBaseUnit(number, unitType, name)),
+                 toDebugText(m_manager.roundDouble(m_manager.toBaseUnitRaw(number, unitType, name), places)));
+        QCOMPARE(toDebugText(m_manager.fromBaseUnit(number, unitType + '/' + name, QString())),
+                 toDebugText(m_manager.roundDouble(number, places)));
     }
 }
 
@@ -202,19 +204,19 @@ void UnitManagerRoundTripTest::nodesAndArraysHoldTheRawForms()
     const QString key = QStringLiteral("Value");
 
     for (const double number : randomNumbers()) {
-        const QString fromBase = described(m_manager.fromBaseUnitRaw(number, unitType, name));
-        const QString toBase = described(m_manager.toBaseUnitRaw(number, unitType, name));
+        const QString fromBase = toDebugText(m_manager.fromBaseUnitRaw(number, unitType, name));
+        const QString toBase = toDebugText(m_manager.toBaseUnitRaw(number, unitType, name));
         const auto child = RecordingValueNode::number(number, unitType);
         const auto node = RecordingValueNode::parentOf(child);
         Array2dDataTypeWrapper array({QVariant(QVariantList{number})}, {unitType});
 
-        QCOMPARE(described(m_manager.getValue(QVariant(number), unitType, name)), fromBase);
-        QCOMPARE(described(m_manager.getValue(key, node, name)), fromBase);
-        QCOMPARE(described(m_manager.getValueArray(array, 0, 0, 1, name)), QStringList{fromBase});
+        QCOMPARE(toDebugText(m_manager.getValue(QVariant(number), unitType, name)), fromBase);
+        QCOMPARE(toDebugText(m_manager.getValue(key, node, name)), fromBase);
+        QCOMPARE(toDebugText(m_manager.getValueArray(array, 0, 0, 1, name)), QStringList{fromBase});
         QVERIFY(m_manager.setValue(key, node, number, name));
-        QCOMPARE(described(child->value()), toBase);
+        QCOMPARE(toDebugText(child->value()), toBase);
         QVERIFY(m_manager.setValueArray(array, 0, 0, 1, {number}, name));
-        QCOMPARE(described(array.getRowValues(0)), QStringList{toBase});
+        QCOMPARE(toDebugText(array.getRowValues(0)), QStringList{toBase});
     }
 }
 

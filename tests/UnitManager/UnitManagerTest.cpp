@@ -6,7 +6,8 @@
 
 #include <type_traits>
 
-#include "Described.h"
+#include "DebugText.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestDocuments.h"
@@ -98,7 +99,7 @@ void UnitManagerTest::newManagerIsEmpty()
     QVERIFY(!manager.isValid());
     QVERIFY(!usable);
     QCOMPARE(manager.getListofUnitTypes(), QStringList());
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerTest::bothTextsAreLoaded_data()
@@ -183,7 +184,7 @@ void UnitManagerTest::oneFileResetsDefaultUnits()
     QTEST(manager.isValid(), "loads");
     log.take();
     QCOMPARE(manager.getDefaultUnit(T::voltage), QString());
-    QCOMPARE(describedMessages(log), QStringList{Expected::noDefaultUnit(T::voltage)});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::noDefaultUnit(T::voltage)});
 }
 
 void UnitManagerTest::singleDocumentsAreReplaced()
@@ -220,11 +221,11 @@ void UnitManagerTest::catalogueQuestionsAreHandedOn()
     QCOMPARE(manager.getListofUnits(T::unknown), QStringList());
     QCOMPARE(manager.getBaseUnit(T::ratio), T::ratio + "/Percentage");
     QCOMPARE(manager.getDefaultUnit(T::noUnit), QString());
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 
     QCOMPARE(manager.getBaseUnit(T::unknown), QString());
     QCOMPARE(manager.getDefaultUnit(T::unknown), QString());
-    QCOMPARE(describedMessages(log),
+    QCOMPARE(takeMessageTexts(log),
              (QStringList{Expected::noBaseUnit(T::unknown), Expected::noDefaultUnit(T::unknown)}));
 }
 
@@ -237,12 +238,12 @@ void UnitManagerTest::labelsAreHandedOn()
     QCOMPARE(manager.getUnitText(T::pressure, german, QString()), QStringLiteral("Hektopascal"));
     QCOMPARE(manager.getUnitText(T::noUnit, german, QString()), QString());
     QCOMPARE(manager.getUnitTextJsonMap(T::pressure + "/MilliBar"), QVariant(QVariantMap{{"en", "mbar"}}));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 
     QCOMPARE(manager.getUnitText(T::pressure + "/Bar", german, QString()), QStringLiteral("Bar"));
     QCOMPARE(manager.getUnitText(T::pressure, german, QStringLiteral("Nope")), QString());
-    QCOMPARE(describedMessages(log), (QStringList{Expected::noDefaultUnit(T::pressure + "/Bar"),
-                                                  Expected::unknownTextUnit("Nope", T::pressure)}));
+    QCOMPARE(takeMessageTexts(log), (QStringList{Expected::noDefaultUnit(T::pressure + "/Bar"),
+                                                 Expected::unknownTextUnit("Nope", T::pressure)}));
 }
 
 void UnitManagerTest::fixedUnitsAreHandedOn()
@@ -255,7 +256,7 @@ void UnitManagerTest::fixedUnitsAreHandedOn()
     QVERIFY(manager.isFixedUnitType(QStringLiteral("///")));
     QVERIFY(!manager.isFixedUnitType(T::pressure));
     QVERIFY(!manager.extractUnitTypeAndUnit(T::pressure, unitType, unit));
-    QCOMPARE(describedMessages(log), QStringList{Expected::noFixedUnit(T::pressure)});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::noFixedUnit(T::pressure)});
     QVERIFY(manager.extractUnitTypeAndUnit(T::pressure + "/Bar", unitType, unit));
     QCOMPARE(unitType, T::pressure);
     QCOMPARE(unit, QStringLiteral("Bar"));
@@ -290,7 +291,7 @@ void UnitManagerTest::decimalPlacesAreHandedOn()
 
     QTEST(manager.getDecimalPlacesForUnit(unitType, unit, places), "found");
     QTEST(places, "places");
-    QTEST(describedMessages(log), "messages");
+    QTEST(takeMessageTexts(log), "messages");
 }
 
 void UnitManagerTest::noUnitLabel()
@@ -313,10 +314,10 @@ void UnitManagerTest::copiesAreIndependent()
     QVERIFY(!copy.isValid());
     QCOMPARE(original.getListofUnitTypes(), QStringList{T::voltage});
     QCOMPARE(original.getDefaultUnit(T::pressure), QStringLiteral("HectoPascal"));
-    QCOMPARE(described(assigned.fromBaseUnit(1.5, T::pressure, QString())), QStringLiteral("double 1500"));
+    QCOMPARE(toDebugText(assigned.fromBaseUnit(1.5, T::pressure, QString())), QStringLiteral("double 1500"));
     QCOMPARE(assigned.getUnitText(T::pressure, QStringLiteral("de"), QString()),
              QStringLiteral("Hektopascal"));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerTest::copyOutlivesItsOriginal()
@@ -326,7 +327,7 @@ void UnitManagerTest::copyOutlivesItsOriginal()
     original.reset();
 
     QVERIFY(copy.isValid());
-    QCOMPARE(described(copy.toBaseUnit(1500, T::pressure, QStringLiteral("HectoPascal"))),
+    QCOMPARE(toDebugText(copy.toBaseUnit(1500, T::pressure, QStringLiteral("HectoPascal"))),
              QStringLiteral("double 1.5"));
 }
 

@@ -6,7 +6,7 @@
 #include <thread>
 
 #include "Array2dDataTypeWrapper.h"
-#include "Described.h"
+#include "DebugText.h"
 #include "TestDocuments.h"
 
 /// Const functions in several threads at the same time, also under ThreadSanitizer.
@@ -38,11 +38,11 @@ QStringList answersOf(const UnitManager& manager)
     answers += QString::number(manager.extractUnitTypeAndUnit(T::pressure + "/Bar", unitType, unit));
     answers += manager.getUnitText(T::pressure, german, QString());
     answers += manager.getUnitText(array, german, 0, 2, QString());
-    answers += described(manager.getUnitTextJsonMap(T::ratio + "/Counts"));
-    answers += described(manager.fromBaseUnit(1.23456, T::pressure, QString()));
-    answers += described(manager.toBaseUnit(1234.56, T::pressure, QStringLiteral("HectoPascal")));
-    answers += described(manager.getValue(QVariant(7), T::temperature, QStringLiteral("Celsius")));
-    answers += described(manager.getValueArray(array, 0, 0, 2, QString()));
+    answers += toDebugText(manager.getUnitTextJsonMap(T::ratio + "/Counts"));
+    answers += toDebugText(manager.fromBaseUnit(1.23456, T::pressure, QString()));
+    answers += toDebugText(manager.toBaseUnit(1234.56, T::pressure, QStringLiteral("HectoPascal")));
+    answers += toDebugText(manager.getValue(QVariant(7), T::temperature, QStringLiteral("Celsius")));
+    answers += toDebugText(manager.getValueArray(array, 0, 0, 2, QString()));
     return answers;
 }
 
@@ -73,7 +73,7 @@ void UnitManagerThreadTest::oneManagerIsReadByTwoThreads()
     const UnitManager manager = loadedManager();
     const QStringList expected = answersOf(manager);
     QVERIFY(manager.isValid());
-    QVERIFY(expected.contains(described(1234.6)));
+    QVERIFY(expected.contains(toDebugText(1234.6)));
     QVERIFY(expected.contains(QStringLiteral("deg C")));
 
     const int differences = differencesInTwoThreads([&] {

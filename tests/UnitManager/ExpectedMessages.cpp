@@ -1,4 +1,4 @@
-#include "Described.h"
+#include "ExpectedMessages.h"
 
 #include "LogCapture.h"
 #include "MessageText.h"
@@ -39,32 +39,29 @@ QString handlerWarning(Expected::Conversion conversion, int lineToBase, int line
                    text);
 }
 
-QString unknownUnitText(const QString& unit, const QString& unitType)
+const char* const getUnitText =
+    "QString UnitTextHandler::getUnitText(const QString&, const QString&, const QString&) const";
+const char* const getUnitTextJsonMap = "QVariant UnitTextHandler::getUnitTextJsonMap(const QString&) const";
+
+QString textWarning(const char* function, const QString& text)
 {
-    return QStringLiteral("Unknown unit given ") + quoted(unit) + QStringLiteral(" for unittype ") +
-           quoted(unitType);
+    return warning("UnitTextManagement/UnitTextHandler", anyLine, function, text);
+}
+
+QString unknownTextTypeWarning(const char* function, const QString& unitType)
+{
+    return textWarning(function, QStringLiteral("Unknown unit type given ") + quoted(unitType));
+}
+
+QString unknownTextUnitWarning(const char* function, const QString& unit, const QString& unitType)
+{
+    return textWarning(function, QStringLiteral("Unknown unit given ") + quoted(unit) +
+                                     QStringLiteral(" for unittype ") + quoted(unitType));
 }
 
 } // namespace
 
-QString described(const QVariant& value)
-{
-    if (!value.isValid())
-        return QStringLiteral("invalid");
-    const bool isFloating = value.userType() == QMetaType::Double || value.userType() == QMetaType::Float;
-    const QString text = isFloating ? QString::number(value.toDouble(), 'g', 17) : value.toString();
-    return QLatin1String(value.typeName()) + QLatin1Char(' ') + text;
-}
-
-QStringList described(const QList<QVariant>& values)
-{
-    QStringList texts;
-    for (const QVariant& value : values)
-        texts.append(described(value));
-    return texts;
-}
-
-QStringList describedMessages(LogCapture& log)
+QStringList takeMessageTexts(LogCapture& log)
 {
     QStringList texts;
     for (LoggedMessage message : log.take()) {
@@ -145,39 +142,28 @@ QString Expected::noFixedUnit(const QString& text)
 
 QString Expected::unknownTextType(const QString& unitType)
 {
-    return warning(
-        "UnitTextManagement/UnitTextHandler", anyLine,
-        "QString UnitTextHandler::getUnitText(const QString&, const QString&, const QString&) const",
-        QStringLiteral("Unknown unit type given ") + quoted(unitType));
+    return unknownTextTypeWarning(getUnitText, unitType);
 }
 
 QString Expected::unknownTextUnit(const QString& unit, const QString& unitType)
 {
-    return warning(
-        "UnitTextManagement/UnitTextHandler", anyLine,
-        "QString UnitTextHandler::getUnitText(const QString&, const QString&, const QString&) const",
-        unknownUnitText(unit, unitType));
+    return unknownTextUnitWarning(getUnitText, unit, unitType);
 }
 
 QString Expected::unknownTextMapType(const QString& unitType)
 {
-    return warning("UnitTextManagement/UnitTextHandler", anyLine,
-                   "QVariant UnitTextHandler::getUnitTextJsonMap(const QString&) const",
-                   QStringLiteral("Unknown unit type given ") + quoted(unitType));
+    return unknownTextTypeWarning(getUnitTextJsonMap, unitType);
 }
 
 QString Expected::unknownTextMapUnit(const QString& unit, const QString& unitType)
 {
-    return warning("UnitTextManagement/UnitTextHandler", anyLine,
-                   "QVariant UnitTextHandler::getUnitTextJsonMap(const QString&) const",
-                   unknownUnitText(unit, unitType));
+    return unknownTextUnitWarning(getUnitTextJsonMap, unit, unitType);
 }
 
 QString Expected::noBaseUnitLabel(const QString& unitType)
 {
-    return warning("UnitTextManagement/UnitTextHandler", anyLine,
-                   "bool UnitTextHandler::initByJsonString(const QString&)",
-                   QStringLiteral("No Base unit label given for ") + quoted(unitType));
+    return textWarning("bool UnitTextHandler::initByJsonString(const QString&)",
+                       QStringLiteral("No Base unit label given for ") + quoted(unitType));
 }
 
 QString Expected::invalidUnitDocument(const QString& streamedDocument)
