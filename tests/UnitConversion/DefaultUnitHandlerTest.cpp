@@ -1,4 +1,3 @@
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
 #include <type_traits>
@@ -6,6 +5,8 @@
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "Row.h"
+#include "SourceMessages.h"
+#include "TextFolder.h"
 #include "UnitConversion/DefaultUnitHandler.h"
 #include "UnitManagerDefinitions.h"
 
@@ -31,17 +32,6 @@ QString noDefault(const QString& unitType)
     return warningText(sourceName, anyLine,
                        "QString DefaultUnitHandler::getDefaultUnit(const QString&) const",
                        QStringLiteral(R"(Cannot find default unit for unitType "%1" !)").arg(unitType));
-}
-
-/// The messages of the class under test; the platform may log its own when it reads a file.
-QStringList takeOwnMessages(LogCapture& log)
-{
-    QList<LoggedMessage> own;
-    for (const LoggedMessage& message : log.take()) {
-        if (message.file == sourceName)
-            own.append(message);
-    }
-    return messageTexts(own, LineNumbers::Any);
 }
 
 } // namespace
@@ -148,34 +138,27 @@ void DefaultUnitHandlerTest::everyLoadDropsTheOldTable()
 
 void DefaultUnitHandlerTest::readsFile_data()
 {
-    QTest::addColumn<bool>("exists");
     QTest::addColumn<QString>("content");
     QTest::addColumn<QStringList>("messages");
 
-    row("no file", false, "", QStringList());
-    row("empty file", true, "", QStringList());
-    row("document", true, document, QStringList());
-    row("file that does not parse", true, "{", QStringList(invalidDocument()));
+    row("no file", QString(), QStringList());
+    row("empty file", QStringLiteral(""), QStringList());
+    row("document", document, QStringList());
+    row("file that does not parse", "{", QStringList(invalidDocument()));
 }
 
 void DefaultUnitHandlerTest::readsFile()
 {
-    QFETCH(bool, exists);
     QFETCH(QString, content);
-    const QTemporaryDir folder;
-    QVERIFY(folder.isValid());
-    QFile file(folder.filePath(QStringLiteral("default-units.json")));
-    if (exists) {
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QVERIFY(file.write(content.toUtf8()) >= 0);
-        file.close();
-    }
+    const TextFolder folder;
+    const QString path = folder.write(QStringLiteral("default-units.json"), content);
+    QVERIFY(!path.isEmpty());
     LogCapture log;
     DefaultUnitHandler handler;
     QVERIFY(handler.initByJsonString(R"({"Old": {"@type": "Selection", "@value": "Unit"}})"));
-    QCOMPARE(handler.initByJsonFile(file.fileName()), content == document);
+    QCOMPARE(handler.initByJsonFile(path), content == document);
     QCOMPARE(handler.isValid(), content == document);
-    QTEST(takeOwnMessages(log), "messages");
+    QTEST(messageTexts(takeMessagesOf(sourceName, log), LineNumbers::Any), "messages");
 }
 
 void DefaultUnitHandlerTest::answersTheLastPartOfTheValue_data()

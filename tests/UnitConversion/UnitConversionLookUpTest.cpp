@@ -1,4 +1,3 @@
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
 #include <type_traits>
@@ -7,6 +6,8 @@
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "Row.h"
+#include "SourceMessages.h"
+#include "TextFolder.h"
 #include "UnitConversion/UnitConversionLookUp.h"
 
 namespace {
@@ -46,17 +47,6 @@ QString noConversion(int line, const QString& function, const QString& unitType)
 {
     return warningText(sourceName, line, function,
                        QStringLiteral(R"(No conversion function given for unitType  "%1")").arg(unitType));
-}
-
-/// The messages of the class under test; the platform may log its own when it reads a file.
-QStringList takeOwnMessages(LogCapture& log)
-{
-    QList<LoggedMessage> own;
-    for (const LoggedMessage& message : log.take()) {
-        if (message.file == sourceName)
-            own.append(message);
-    }
-    return messageTexts(own);
 }
 
 } // namespace
@@ -203,35 +193,28 @@ void UnitConversionLookUpTest::laterDocumentReplacesTheEarlier()
 
 void UnitConversionLookUpTest::readsFile_data()
 {
-    QTest::addColumn<bool>("exists");
     QTest::addColumn<QString>("content");
     QTest::addColumn<QStringList>("messages");
 
-    row("no file", false, "", QStringList());
-    row("empty file", true, "", QStringList());
-    row("document", true, document, QStringList());
-    row("file that does not parse", true, "{",
+    row("no file", QString(), QStringList());
+    row("empty file", QStringLiteral(""), QStringList());
+    row("document", document, QStringList());
+    row("file that does not parse", "{",
         QStringList(warningText(sourceName, 75, "bool UnitConversionLookUp::initByJsonString(const QString&)",
                                 "Conversion configuration invalid \"{\"")));
 }
 
 void UnitConversionLookUpTest::readsFile()
 {
-    QFETCH(bool, exists);
     QFETCH(QString, content);
-    const QTemporaryDir folder;
-    QVERIFY(folder.isValid());
-    QFile file(folder.filePath(QStringLiteral("units.json")));
-    if (exists) {
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QVERIFY(file.write(content.toUtf8()) >= 0);
-        file.close();
-    }
+    const TextFolder folder;
+    const QString path = folder.write(QStringLiteral("units.json"), content);
+    QVERIFY(!path.isEmpty());
     LogCapture log;
     LookUp lookUp(R"({"Old": {}})");
-    QCOMPARE(lookUp.initByJsonFile(file.fileName()), content == document);
+    QCOMPARE(lookUp.initByJsonFile(path), content == document);
     QCOMPARE(lookUp.getListofUnitTypes().size(), content == document ? 6 : 0);
-    QTEST(takeOwnMessages(log), "messages");
+    QTEST(messageTexts(takeMessagesOf(sourceName, log)), "messages");
 }
 
 void UnitConversionLookUpTest::listsUnits_data()

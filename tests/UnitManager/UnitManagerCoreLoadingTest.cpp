@@ -1,7 +1,5 @@
 #include "UnitManagerCore.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
 #include "DebugText.h"
@@ -9,6 +7,7 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TextFolder.h"
 
 class UnitManagerCoreLoadingTest : public QObject
 {
@@ -38,9 +37,7 @@ private slots:
     void emptyDefaultUnitPathReadsNothing();
 
 private:
-    QString write(const QString& name, const QString& text) const;
-
-    QTemporaryDir m_folder;
+    TextFolder m_folder;
     UnitManagerCore m_core;
 };
 
@@ -75,20 +72,10 @@ void addUnreadableFiles()
 
 void UnitManagerCoreLoadingTest::init()
 {
-    QVERIFY(m_folder.isValid());
     m_core = UnitManagerCore();
     QVERIFY(m_core.updateUnitConversionByJsonString(TestDocuments::units()));
     QVERIFY(m_core.updateDefaultUnitsByJsonString(TestDocuments::defaultUnits()));
     QVERIFY(m_core.isValid());
-}
-
-QString UnitManagerCoreLoadingTest::write(const QString& name, const QString& text) const
-{
-    QFile file(m_folder.filePath(name));
-    const QByteArray bytes = text.toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        return {};
-    return file.fileName();
 }
 
 void UnitManagerCoreLoadingTest::newCoreIsEmpty()
@@ -260,7 +247,7 @@ void UnitManagerCoreLoadingTest::defaultUnitsDoNotMatterForValidity()
 
 void UnitManagerCoreLoadingTest::unitFile()
 {
-    const QString path = write(QStringLiteral("voltage.json"), TestDocuments::voltage());
+    const QString path = m_folder.write(QStringLiteral("voltage.json"), TestDocuments::voltage());
     QVERIFY(!path.isEmpty());
     LogCapture log;
 
@@ -280,8 +267,8 @@ void UnitManagerCoreLoadingTest::unitFileThatCannotBeRead()
 {
     QFETCH(QString, name);
     QFETCH(bool, isReported);
-    QVERIFY(!write(QStringLiteral("empty.json"), QString()).isEmpty());
-    const QString path = m_folder.filePath(name);
+    QVERIFY(!m_folder.write(QStringLiteral("empty.json"), QStringLiteral("")).isEmpty());
+    const QString path = m_folder.path(name);
     LogCapture log;
 
     // Catalogue and labels each read the file.
@@ -308,8 +295,8 @@ void UnitManagerCoreLoadingTest::emptyUnitPathReadsNothing()
 void UnitManagerCoreLoadingTest::defaultUnitFile()
 {
     const QString path =
-        write(QStringLiteral("default-units.json"),
-              QStringLiteral(R"({ "Ratio": { "@type": "Selection", "@value": "Counts" } })"));
+        m_folder.write(QStringLiteral("default-units.json"),
+                       QStringLiteral(R"({ "Ratio": { "@type": "Selection", "@value": "Counts" } })"));
     QVERIFY(!path.isEmpty());
     LogCapture log;
 
@@ -329,8 +316,8 @@ void UnitManagerCoreLoadingTest::defaultUnitFileThatCannotBeRead()
 {
     QFETCH(QString, name);
     QFETCH(bool, isReported);
-    QVERIFY(!write(QStringLiteral("empty.json"), QString()).isEmpty());
-    const QString path = m_folder.filePath(name);
+    QVERIFY(!m_folder.write(QStringLiteral("empty.json"), QStringLiteral("")).isEmpty());
+    const QString path = m_folder.path(name);
     LogCapture log;
 
     // Unlike an empty path, an empty file is not a valid document.

@@ -1,7 +1,5 @@
 #include "UnitManager.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
 #include <type_traits>
@@ -11,6 +9,7 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TextFolder.h"
 
 static_assert(std::has_virtual_destructor_v<UnitManager>);
 static_assert(std::is_copy_constructible_v<UnitManager> && std::is_copy_assignable_v<UnitManager>);
@@ -42,9 +41,7 @@ private slots:
     void copyOutlivesItsOriginal();
 
 private:
-    QString write(const QString& name, const QString& text) const;
-
-    QTemporaryDir m_folder;
+    TextFolder m_folder;
     QString m_unitPath;
     QString m_defaultUnitPath;
 };
@@ -73,21 +70,12 @@ UnitManager managerWithOldContent()
 
 void UnitManagerTest::initTestCase()
 {
-    m_unitPath = write(QStringLiteral("units.json"), TestDocuments::units());
-    m_defaultUnitPath = write(QStringLiteral("default-units.json"), TestDocuments::defaultUnits());
+    m_unitPath = m_folder.write(QStringLiteral("units.json"), TestDocuments::units());
+    m_defaultUnitPath = m_folder.write(QStringLiteral("default-units.json"), TestDocuments::defaultUnits());
     QVERIFY(!m_unitPath.isEmpty());
     QVERIFY(!m_defaultUnitPath.isEmpty());
     QVERIFY(loadedManager().isValid());
     QVERIFY(managerWithOldContent().isValid());
-}
-
-QString UnitManagerTest::write(const QString& name, const QString& text) const
-{
-    QFile file(m_folder.filePath(name));
-    const QByteArray bytes = text.toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        return {};
-    return file.fileName();
 }
 
 void UnitManagerTest::newManagerIsEmpty()
@@ -141,7 +129,7 @@ void UnitManagerTest::bothFilesAreLoaded_data()
     QTest::addColumn<bool>("isValid");
     QTest::addColumn<QString>("defaultUnit");
 
-    const QString missing = m_folder.filePath(QStringLiteral("missing.json"));
+    const QString missing = m_folder.path(QStringLiteral("missing.json"));
     row("both there", m_unitPath, m_defaultUnitPath, true, true, "HectoPascal");
     row("units missing", missing, m_defaultUnitPath, false, false, "HectoPascal");
     row("no unit path", "", m_defaultUnitPath, false, false, "HectoPascal");
@@ -170,7 +158,7 @@ void UnitManagerTest::oneFileResetsDefaultUnits_data()
     QTest::addColumn<bool>("loads");
 
     row("there", m_unitPath, true);
-    row("missing", m_folder.filePath(QStringLiteral("missing.json")), false);
+    row("missing", m_folder.path(QStringLiteral("missing.json")), false);
     row("no path", "", false);
 }
 

@@ -1,4 +1,3 @@
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
 #include <type_traits>
@@ -7,6 +6,8 @@
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "Row.h"
+#include "SourceMessages.h"
+#include "TextFolder.h"
 #include "UnitTextManagement/UnitTextHandler.h"
 
 namespace {
@@ -48,17 +49,6 @@ constexpr bool takesParsedDocuments<
     Handler, std::void_t<decltype(std::declval<Handler&>().initByDocument(BaseClassSharedPointer()))>> = true;
 
 static_assert(!takesParsedDocuments<UnitTextHandler>, "the library does not export it");
-
-/// The messages of the class under test; the platform may log its own when it reads a file.
-QStringList takeOwnMessages(LogCapture& log)
-{
-    QList<LoggedMessage> own;
-    for (const LoggedMessage& message : log.take()) {
-        if (message.file == sourceName)
-            own.append(message);
-    }
-    return messageTexts(own, LineNumbers::Any);
-}
 
 } // namespace
 
@@ -231,36 +221,29 @@ void UnitTextHandlerLoadingTest::baseUnitsOfAnEarlierDocumentAreForgotten()
 
 void UnitTextHandlerLoadingTest::readsFile_data()
 {
-    QTest::addColumn<bool>("exists");
     QTest::addColumn<QString>("content");
     QTest::addColumn<bool>("result");
     QTest::addColumn<QStringList>("messages");
 
-    row("no file", false, "", false, QStringList());
-    row("empty file", true, "", false, QStringList());
-    row("file that does not parse", true, "{", false, QStringList());
-    row("document", true, documentAt("0"), true, QStringList());
-    row("document without base unit", true, documentAt("1"), true, QStringList(noBaseUnit()));
+    row("no file", QString(), false, QStringList());
+    row("empty file", QStringLiteral(""), false, QStringList());
+    row("file that does not parse", "{", false, QStringList());
+    row("document", documentAt("0"), true, QStringList());
+    row("document without base unit", documentAt("1"), true, QStringList(noBaseUnit()));
 }
 
 void UnitTextHandlerLoadingTest::readsFile()
 {
-    QFETCH(bool, exists);
     QFETCH(QString, content);
-    const QTemporaryDir folder;
-    QVERIFY(folder.isValid());
-    QFile file(folder.filePath(QStringLiteral("units.json")));
-    if (exists) {
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QVERIFY(file.write(content.toUtf8()) >= 0);
-        file.close();
-    }
+    const TextFolder folder;
+    const QString path = folder.write(QStringLiteral("units.json"), content);
+    QVERIFY(!path.isEmpty());
     LogCapture log;
     UnitTextHandler handler(R"({"B": {"U": {"@displayPosition": 0, "UnitLabel": "u"}}})");
     QVERIFY(handler.isValid());
-    QTEST(handler.initByJsonFile(file.fileName()), "result");
+    QTEST(handler.initByJsonFile(path), "result");
     QTEST(handler.isValid(), "result");
-    QTEST(takeOwnMessages(log), "messages");
+    QTEST(messageTexts(takeMessagesOf(sourceName, log), LineNumbers::Any), "messages");
 }
 
 QTEST_GUILESS_MAIN(UnitTextHandlerLoadingTest)
