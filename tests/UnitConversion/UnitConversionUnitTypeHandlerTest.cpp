@@ -55,14 +55,14 @@ QString initWarning()
                        "Invalid node found");
 }
 
-/// A unit type whose only unit "Unit" has the given display position.
-QSharedPointer<RecordingNode> unitAtPosition(const QVariant& position)
+/// A unit type whose only unit "Unit" has the given value of a property.
+QSharedPointer<RecordingNode> typeOfUnitWith(const QString& propertyKey, const QVariant& value)
 {
     const auto calls = RecordingNode::Calls::create();
     const auto type = recordingNodeFromJson(QStringLiteral("{}"), QStringLiteral("type"), calls);
     const auto unit =
         recordingNodeFromJson(QStringLiteral(R"({"Polynomial": [[1]]})"), QStringLiteral("unit"), calls);
-    unit->replaceProperty(Definitions::getKeyDataPropertyDisplayPosition(), position);
+    unit->replaceProperty(propertyKey, value);
     type->insertChild(QStringLiteral("Unit"), unit);
     return type;
 }
@@ -152,17 +152,10 @@ void UnitConversionUnitTypeHandlerTest::acceptsUnits()
 
 void UnitConversionUnitTypeHandlerTest::typeIsComparedAsVariant()
 {
-    const auto calls = RecordingNode::Calls::create();
-    const auto type = recordingNodeFromJson(QStringLiteral("{}"), QStringLiteral("type"), calls);
-    const auto unit =
-        recordingNodeFromJson(QStringLiteral(R"({"Polynomial": [1]})"), QStringLiteral("unit"), calls);
+    const QString typeKey = Definitions::getKeyDataPropertyType();
     // A boolean variant equals any non-empty text except "false" and "0".
-    unit->replaceProperty(Definitions::getKeyDataPropertyType(), true);
-    type->insertChild(QStringLiteral("A"), unit);
-    QCOMPARE(Handler(type, name).getUnitList(), QList<QString>{"A"});
-
-    unit->replaceProperty(Definitions::getKeyDataPropertyType(), QVariant());
-    QCOMPARE(Handler(type, name).getUnitList(), QList<QString>());
+    QCOMPARE(Handler(typeOfUnitWith(typeKey, true), name).getUnitList(), QList<QString>{"Unit"});
+    QCOMPARE(Handler(typeOfUnitWith(typeKey, QVariant()), name).getUnitList(), QList<QString>());
 }
 
 void UnitConversionUnitTypeHandlerTest::readsNothingButWhatItNeeds()
@@ -235,7 +228,7 @@ void UnitConversionUnitTypeHandlerTest::baseUnitStandsAtPositionZero()
     QFETCH(QVariant, position);
     QFETCH(bool, isBase);
     LogCapture log;
-    const Handler handler(unitAtPosition(position), name);
+    const Handler handler(typeOfUnitWith(Definitions::getKeyDataPropertyDisplayPosition(), position), name);
     QCOMPARE(handler.getUnitList(), QList<QString>{"Unit"});
     QCOMPARE(handler.getBaseUnit(name),
              isBase ? QStringLiteral("Pressure/Unit") : QStringLiteral("Pressure/"));

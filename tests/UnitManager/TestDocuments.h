@@ -2,6 +2,8 @@
 
 #include <QtCore/QString>
 
+#include <limits>
+
 /// The documents that the tests of the unit manager load.
 namespace TestDocuments {
 
@@ -17,6 +19,13 @@ QString defaultUnits();
 QString voltage();
 
 } // namespace TestDocuments
+
+namespace TestValue {
+
+/// The platform's marker for values that were not entered.
+constexpr double marker = std::numeric_limits<double>::quiet_NaN();
+
+} // namespace TestValue
 
 /// The unit types of the documents, including their prefix.
 namespace TestUnitType {

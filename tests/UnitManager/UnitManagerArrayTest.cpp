@@ -44,8 +44,8 @@ namespace {
 namespace T = TestUnitType;
 
 using Expected::Conversion;
+using TestValue::marker;
 
-const double marker = std::numeric_limits<double>::quiet_NaN();
 const unsigned int last = std::numeric_limits<unsigned int>::max();
 
 /// Unit types of the five columns: pressure, none, temperature, a fixed unit, an unknown one.

@@ -45,8 +45,8 @@ using Expected::noConversionForDecimalPlaces;
 using Expected::noDefaultUnit;
 using Expected::notConverted;
 using Expected::notRounded;
+using TestValue::marker;
 
-const double marker = std::numeric_limits<double>::quiet_NaN();
 const double infinity = std::numeric_limits<double>::infinity();
 
 const QString streamedAbc = QStringLiteral("QVariant(QString, \"abc\")");

@@ -40,8 +40,8 @@ namespace T = TestUnitType;
 
 using Expected::Conversion;
 using Expected::notConverted;
+using TestValue::marker;
 
-const double marker = std::numeric_limits<double>::quiet_NaN();
 const float floatMarker = std::numeric_limits<float>::quiet_NaN();
 
 void addConversionColumns()
@@ -54,12 +54,16 @@ void addConversionColumns()
     QTest::addColumn<QStringList>("messages");
 }
 
-/// Rows for both directions: everything that is not converted.
-void addUnconvertedRows(Conversion conversion)
+/// Rows for both directions: identical numbers in both units, or no conversion.
+void addRowsOfBothDirections(Conversion conversion)
 {
     const QStringList none;
     const QString fixedBar = T::pressure + QStringLiteral("/Bar");
 
+    row("whole number becomes a double", QVariant(3), T::pressure, "Bar", true, "double 3", none);
+    row("no rounding", QVariant(1234.5678), T::pressure, "Bar", true, toDebugText(1234.5678), none);
+    row("table unit", QVariant(1.5), T::ratio, "Counts", true, "double 1.5", none);
+    row("neither unit type nor unit", QVariant("abc"), "", "", true, "QString abc", none);
     row("fixed unit", QVariant(1.5), fixedBar, "", true, "double 1.5", none);
     row("fixed unit beats the unit", QVariant(1.5), fixedBar, "HectoPascal", true, "double 1.5", none);
     row("fixed unit takes any value", QVariant("abc"), fixedBar, "", true, "QString abc", none);
@@ -117,14 +121,10 @@ void UnitManagerCoreConversionTest::toBaseUnit_data()
     row("empty unit is the default unit", QVariant(1500.0), T::pressure, "", true, "double 1.5", none);
     row("default unit written as a fixed unit", QVariant(-273.15), T::temperature, "", true, "double 0",
         none);
-    row("whole number becomes a double", QVariant(3), T::pressure, "Bar", true, "double 3", none);
     row("whole number in the default unit", QVariant(2000U), T::pressure, "", true, "double 2", none);
-    row("no rounding", QVariant(1234.5678), T::pressure, "Bar", true, toDebugText(1234.5678), none);
-    row("table unit", QVariant(1.5), T::ratio, "Counts", true, "double 1.5", none);
-    row("neither unit type nor unit", QVariant("abc"), "", "", true, "QString abc", none);
     row("unit without unit type", QVariant(3), "", "Bar", false, "int 3", none);
     row("no unit without unit type", QVariant(3), "", "NoUnit", false, "int 3", none);
-    addUnconvertedRows(Conversion::ToBase);
+    addRowsOfBothDirections(Conversion::ToBase);
 }
 
 void UnitManagerCoreConversionTest::toBaseUnit()
@@ -146,12 +146,8 @@ void UnitManagerCoreConversionTest::fromBaseUnit_data()
     row("unit", QVariant(1.5), T::pressure, "HectoPascal", true, "double 1500", none);
     row("empty unit is the default unit", QVariant(1.5), T::pressure, "", true, "double 1500", none);
     row("default unit written as a fixed unit", QVariant(273.15), T::temperature, "", true, "double 0", none);
-    row("whole number becomes a double", QVariant(3), T::pressure, "Bar", true, "double 3", none);
-    row("no rounding", QVariant(1234.5678), T::pressure, "Bar", true, toDebugText(1234.5678), none);
-    row("table unit", QVariant(1.5), T::ratio, "Counts", true, "double 1.5", none);
-    row("neither unit type nor unit", QVariant("abc"), "", "", true, "QString abc", none);
     row("unit without unit type", QVariant(3), "", "Bar", true, "int 3", none);
-    addUnconvertedRows(Conversion::FromBase);
+    addRowsOfBothDirections(Conversion::FromBase);
 }
 
 void UnitManagerCoreConversionTest::fromBaseUnit()

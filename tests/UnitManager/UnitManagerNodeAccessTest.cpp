@@ -2,8 +2,6 @@
 
 #include <QtTest/QTest>
 
-#include <limits>
-
 #include "ConfigurationAndProcessDataParser.h"
 #include "DebugText.h"
 #include "ExpectedMessages.h"
@@ -45,9 +43,8 @@ namespace T = TestUnitType;
 
 using Expected::Conversion;
 using Expected::notConverted;
+using TestValue::marker;
 using Node = QSharedPointer<RecordingValueNode>;
-
-const double marker = std::numeric_limits<double>::quiet_NaN();
 
 const QString key = QStringLiteral("Value");
 const QStringList asked{QStringLiteral("hasProperty @unitType")};

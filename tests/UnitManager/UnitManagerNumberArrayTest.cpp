@@ -50,12 +50,11 @@ namespace T = TestUnitType;
 
 using Expected::Conversion;
 
-const double marker = std::numeric_limits<double>::quiet_NaN();
-
 std::vector<double> samples()
 {
     const double infinity = std::numeric_limits<double>::infinity();
-    return {0.0, -0.0, 1.0, 1.01325, -273.15, marker, 1e-300, 5e-324, 1e300, infinity, -infinity, 1.0 / 3.0};
+    return {0.0,    -0.0,   1.0,   1.01325,  -273.15,   TestValue::marker,
+            1e-300, 5e-324, 1e300, infinity, -infinity, 1.0 / 3.0};
 }
 
 /// The bits of the numbers, so that NaN and the signs of zero are compared.

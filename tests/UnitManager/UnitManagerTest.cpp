@@ -5,6 +5,7 @@
 #include <type_traits>
 
 #include "DebugText.h"
+#include "DecimalPlacesRows.h"
 #include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "Row.h"
@@ -252,21 +253,7 @@ void UnitManagerTest::fixedUnitsAreHandedOn()
 
 void UnitManagerTest::decimalPlacesAreHandedOn_data()
 {
-    QTest::addColumn<QString>("unitType");
-    QTest::addColumn<QString>("unit");
-    QTest::addColumn<bool>("found");
-    QTest::addColumn<unsigned int>("places");
-    QTest::addColumn<QStringList>("messages");
-
-    const QStringList none;
-    row("unit", T::pressure, "Bar", true, 3U, none);
-    row("default unit", T::pressure, "", true, 1U, none);
-    row("fixed unit beats the unit", T::pressure + "/Bar", "HectoPascal", true, 3U, none);
-    row("no places given", T::pressure, "MilliBar", true, 0U, none);
-    row("unknown unit", T::pressure, "Nope", false, 77U, none);
-    row("no default unit", T::ratio, "", false, 77U, QStringList{Expected::noDefaultUnit(T::ratio)});
-    row("unknown unit type", T::unknown, "Bar", false, 77U,
-        QStringList{Expected::noConversionForDecimalPlaces(T::unknown)});
+    addDecimalPlacesRows();
 }
 
 void UnitManagerTest::decimalPlacesAreHandedOn()
