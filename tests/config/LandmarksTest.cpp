@@ -7,17 +7,31 @@
 #include "Row.h"
 #include "ShippedCatalogue.h"
 
+/// A value in one unit is an expected value in another unit of the same type.
+struct Landmark
+{
+    QString unitType;
+    double value;
+    QString from;
+    double expected;
+    QString to;
+
+    Landmark inverse() const
+    {
+        return {unitType, expected, to, value, from};
+    }
+};
+Q_DECLARE_METATYPE(Landmark)
+
 namespace {
 
-/// "Type/Unit", which keeps the rows readable.
-QString typeOf(const QString& unit)
+/// A function that adds a row: a landmark of the unit type, then values for further columns.
+auto rowsOf(const char* unitType)
 {
-    return unit.section(QLatin1Char('/'), 0, 0);
-}
-
-QString nameOf(const QString& unit)
-{
-    return unit.section(QLatin1Char('/'), 1);
+    return [unitType](const char* name, double value, const char* from, double expected, const char* to,
+                      const auto&... more) {
+        row(name, Landmark{unitType, value, from, expected, to}, more...);
+    };
 }
 
 } // namespace
@@ -39,8 +53,7 @@ private slots:
     void baseUnitKeepsEveryBit();
 
 private:
-    static void addColumns();
-    QVariant convert(double value, const QString& from, const QString& to) const;
+    QVariant convert(const Landmark& landmark) const;
 
     ShippedCatalogue m_catalogue;
 };
@@ -50,237 +63,201 @@ void LandmarksTest::initTestCase()
     QVERIFY(m_catalogue.isLoaded());
 }
 
-void LandmarksTest::addColumns()
+QVariant LandmarksTest::convert(const Landmark& landmark) const
 {
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("from");
-    QTest::addColumn<double>("expected");
-    QTest::addColumn<QString>("to");
-}
-
-QVariant LandmarksTest::convert(double value, const QString& from, const QString& to) const
-{
-    return m_catalogue.convert(value, typeOf(from), nameOf(from), nameOf(to));
+    return m_catalogue.convert(landmark.value, landmark.unitType, landmark.from, landmark.to);
 }
 
 /// Conversions that are exact in both directions.
 void LandmarksTest::exactInBothDirections_data()
 {
-    addColumns();
-    row("bar in hectopascal", 1.0, "Pressure/Bar", 1000.0, "Pressure/HectoPascal");
-    row("bar in millibar", 1.0, "Pressure/Bar", 1000.0, "Pressure/MilliBar");
-    row("bar in pascal", 1.0, "Pressure/Bar", 100000.0, "Pressure/Pascal");
-    row("bar in kilopascal", 1.0, "Pressure/Bar", 100.0, "Pressure/KiloPascal");
-    row("bar in megapascal", 1.0, "Pressure/Bar", 0.1, "Pressure/MegaPascal");
-    row("ten bar in megapascal", 10.0, "Pressure/Bar", 1.0, "Pressure/MegaPascal");
-    row("ten bar in pascal", 10.0, "Pressure/Bar", 1000000.0, "Pressure/Pascal");
-    row("megapascal in pascal", 1.0, "Pressure/MegaPascal", 1000000.0, "Pressure/Pascal");
-    row("kilopascal in hectopascal", 1.0, "Pressure/KiloPascal", 10.0, "Pressure/HectoPascal");
-    row("hectopascal in pascal", 1.0, "Pressure/HectoPascal", 100.0, "Pressure/Pascal");
-    row("hectopascal in millibar", 1.0, "Pressure/HectoPascal", 1.0, "Pressure/MilliBar");
-    row("standard pressure in hectopascal", 1013.25, "Pressure/HectoPascal", 1013.25, "Pressure/MilliBar");
-    row("standard atmosphere in bar", 1.0, "Pressure/StandardAtmosphere", 1.01325, "Pressure/Bar");
-    row("standard atmosphere in hectopascal", 1.0, "Pressure/StandardAtmosphere", 1013.25,
-        "Pressure/HectoPascal");
-    row("standard atmosphere in pascal", 1.0, "Pressure/StandardAtmosphere", 101325.0, "Pressure/Pascal");
-    row("standard atmosphere in kilopascal", 1.0, "Pressure/StandardAtmosphere", 101.325,
-        "Pressure/KiloPascal");
-    row("standard atmosphere in megapascal", 1.0, "Pressure/StandardAtmosphere", 0.101325,
-        "Pressure/MegaPascal");
-    row("technical atmosphere in bar", 1.0, "Pressure/KiloGramForcePerSquareCentimeter", 0.980665,
-        "Pressure/Bar");
-    row("technical atmosphere in hectopascal", 1.0, "Pressure/KiloGramForcePerSquareCentimeter", 980.665,
-        "Pressure/HectoPascal");
-    row("technical atmosphere in water", 1.0, "Pressure/KiloGramForcePerSquareCentimeter", 10000.0,
-        "Pressure/MillimeterOfWater");
-    row("pound-force per square inch in bar", 1.0, "Pressure/PoundForcePerSquareInch", 0.06894757293168362,
-        "Pressure/Bar");
-    row("inch of mercury in hectopascal", 1.0, "Pressure/InchOfMercury", 33.86388640341,
-        "Pressure/HectoPascal");
-    row("inch of mercury in pascal", 1.0, "Pressure/InchOfMercury", 3386.388640341, "Pressure/Pascal");
-    row("inch of water in pascal", 1.0, "Pressure/InchOfWater", 249.08891, "Pressure/Pascal");
-    row("inch of water in hectopascal", 1.0, "Pressure/InchOfWater", 2.4908891, "Pressure/HectoPascal");
-    row("millimetre of water in pascal", 1.0, "Pressure/MillimeterOfWater", 9.80665, "Pressure/Pascal");
-    row("whole in percent", 1.0, "Ratio/Fraction", 100.0, "Ratio/Percentage");
-    row("half in percent", 0.5, "Ratio/Fraction", 50.0, "Ratio/Percentage");
-    row("percent as fraction", 1.0, "Ratio/Percentage", 0.01, "Ratio/Fraction");
-    row("percent in parts per million", 1.0, "Ratio/Percentage", 10000.0, "Ratio/PartsPerMillion");
-    row("percent in parts per billion", 1.0, "Ratio/Percentage", 10000000.0, "Ratio/PartsPerBillion");
-    row("whole in parts per million", 1.0, "Ratio/Fraction", 1000000.0, "Ratio/PartsPerMillion");
-    row("whole in parts per billion", 1.0, "Ratio/Fraction", 1000000000.0, "Ratio/PartsPerBillion");
-    row("gram per kilogram in grains per pound", 1.0, "MixingRatio/GramPerKiloGram", 7.0,
-        "MixingRatio/GrainPerPound");
-    row("ten grams per kilogram in grains per pound", 10.0, "MixingRatio/GramPerKiloGram", 70.0,
-        "MixingRatio/GrainPerPound");
-    row("kilogram per kilogram in grains per pound", 1.0, "MixingRatio/KiloGramPerKiloGram", 7000.0,
-        "MixingRatio/GrainPerPound");
-    row("gram per kilogram in kilograms per kilogram", 1.0, "MixingRatio/GramPerKiloGram", 0.001,
-        "MixingRatio/KiloGramPerKiloGram");
-    row("gram per cubic metre in milligrams", 1.0, "AbsoluteHumidity/GramPerCubicMeter", 1000.0,
-        "AbsoluteHumidity/MilliGramPerCubicMeter");
-    row("ice point in kelvin", 0.0, "AbsoluteTemperature/DegreeCelsius", 273.15,
-        "AbsoluteTemperature/Kelvin");
-    row("ice point in degrees Fahrenheit", 0.0, "AbsoluteTemperature/DegreeCelsius", 32.0,
-        "AbsoluteTemperature/DegreeFahrenheit");
-    row("ice point from kelvin to degrees Fahrenheit", 273.15, "AbsoluteTemperature/Kelvin", 32.0,
-        "AbsoluteTemperature/DegreeFahrenheit");
-    row("boiling point in kelvin", 100.0, "AbsoluteTemperature/DegreeCelsius", 373.15,
-        "AbsoluteTemperature/Kelvin");
-    row("boiling point in degrees Fahrenheit", 100.0, "AbsoluteTemperature/DegreeCelsius", 212.0,
-        "AbsoluteTemperature/DegreeFahrenheit");
-    row("boiling point from kelvin to degrees Fahrenheit", 373.15, "AbsoluteTemperature/Kelvin", 212.0,
-        "AbsoluteTemperature/DegreeFahrenheit");
-    row("absolute zero in kelvin", -273.15, "AbsoluteTemperature/DegreeCelsius", 0.0,
-        "AbsoluteTemperature/Kelvin");
-    row("scales meet", -40.0, "AbsoluteTemperature/DegreeCelsius", -40.0,
-        "AbsoluteTemperature/DegreeFahrenheit");
-    row("reference temperature 20 in degrees Fahrenheit", 20.0, "AbsoluteTemperature/DegreeCelsius", 68.0,
-        "AbsoluteTemperature/DegreeFahrenheit");
-    row("reference temperature 20 in kelvin", 20.0, "AbsoluteTemperature/DegreeCelsius", 293.15,
-        "AbsoluteTemperature/Kelvin");
-    row("reference temperature 25 in degrees Fahrenheit", 25.0, "AbsoluteTemperature/DegreeCelsius", 77.0,
-        "AbsoluteTemperature/DegreeFahrenheit");
-    row("reference temperature 25 in kelvin", 25.0, "AbsoluteTemperature/DegreeCelsius", 298.15,
-        "AbsoluteTemperature/Kelvin");
-    row("ten degrees in degrees Fahrenheit", 10.0, "AbsoluteTemperature/DegreeCelsius", 50.0,
-        "AbsoluteTemperature/DegreeFahrenheit");
-    row("ohm in milliohm", 1.0, "Resistance/Ohm", 1000.0, "Resistance/MilliOhm");
-    row("kiloohm in ohm", 1.0, "Resistance/KiloOhm", 1000.0, "Resistance/Ohm");
-    row("megaohm in kiloohm", 1.0, "Resistance/MegaOhm", 1000.0, "Resistance/KiloOhm");
-    row("megaohm in ohm", 1.0, "Resistance/MegaOhm", 1000000.0, "Resistance/Ohm");
-    row("megaohm in milliohm", 1.0, "Resistance/MegaOhm", 1000000000.0, "Resistance/MilliOhm");
-    row("volt in millivolt", 1.0, "Voltage/Volt", 1000.0, "Voltage/MilliVolt");
-    row("ten volt in millivolt", 10.0, "Voltage/Volt", 10000.0, "Voltage/MilliVolt");
-    row("volt in microvolt", 1.0, "Voltage/Volt", 1000000.0, "Voltage/MicroVolt");
-    row("millivolt in microvolt", 1.0, "Voltage/MilliVolt", 1000.0, "Voltage/MicroVolt");
-    row("kilovolt in volt", 1.0, "Voltage/KiloVolt", 1000.0, "Voltage/Volt");
-    row("second in milliseconds", 1.0, "Time/Seconds", 1000.0, "Time/MilliSeconds");
-    row("minute in seconds", 1.0, "Time/Minutes", 60.0, "Time/Seconds");
-    row("minute in milliseconds", 1.0, "Time/Minutes", 60000.0, "Time/MilliSeconds");
-    row("hour in minutes", 1.0, "Time/Hours", 60.0, "Time/Minutes");
-    row("hour in seconds", 1.0, "Time/Hours", 3600.0, "Time/Seconds");
-    row("day in hours", 1.0, "Time/Days", 24.0, "Time/Hours");
-    row("day in minutes", 1.0, "Time/Days", 1440.0, "Time/Minutes");
-    row("day in seconds", 1.0, "Time/Days", 86400.0, "Time/Seconds");
-    row("week in hours", 7.0, "Time/Days", 168.0, "Time/Hours");
-    row("kilojoule per kilogram in joules per gram", 1.0, "SpecificEnthalpy/KiloJoulePerKiloGram", 1.0,
-        "SpecificEnthalpy/JoulePerGram");
-    row("British thermal unit per pound in kilojoules per kilogram", 1.0, "SpecificEnthalpy/BtuPerPound",
-        2.326, "SpecificEnthalpy/KiloJoulePerKiloGram");
-    row("calorie in joules per gram", 1.0, "SpecificEnthalpy/KiloCaloriePerKiloGram", 4.1868,
-        "SpecificEnthalpy/JoulePerGram");
-    row("calorie in British thermal units per pound", 1.0, "SpecificEnthalpy/KiloCaloriePerKiloGram", 1.8,
-        "SpecificEnthalpy/BtuPerPound");
-    row("five calories in British thermal units per pound", 5.0, "SpecificEnthalpy/KiloCaloriePerKiloGram",
-        9.0, "SpecificEnthalpy/BtuPerPound");
+    QTest::addColumn<Landmark>("landmark");
+    const auto pressure = rowsOf("Pressure");
+    const auto ratio = rowsOf("Ratio");
+    const auto mixingRatio = rowsOf("MixingRatio");
+    const auto humidity = rowsOf("AbsoluteHumidity");
+    const auto temperature = rowsOf("AbsoluteTemperature");
+    const auto resistance = rowsOf("Resistance");
+    const auto voltage = rowsOf("Voltage");
+    const auto time = rowsOf("Time");
+    const auto enthalpy = rowsOf("SpecificEnthalpy");
+
+    pressure("bar in hectopascal", 1.0, "Bar", 1000.0, "HectoPascal");
+    pressure("bar in millibar", 1.0, "Bar", 1000.0, "MilliBar");
+    pressure("bar in pascal", 1.0, "Bar", 100000.0, "Pascal");
+    pressure("bar in kilopascal", 1.0, "Bar", 100.0, "KiloPascal");
+    pressure("bar in megapascal", 1.0, "Bar", 0.1, "MegaPascal");
+    pressure("ten bar in megapascal", 10.0, "Bar", 1.0, "MegaPascal");
+    pressure("ten bar in pascal", 10.0, "Bar", 1000000.0, "Pascal");
+    pressure("megapascal in pascal", 1.0, "MegaPascal", 1000000.0, "Pascal");
+    pressure("kilopascal in hectopascal", 1.0, "KiloPascal", 10.0, "HectoPascal");
+    pressure("hectopascal in pascal", 1.0, "HectoPascal", 100.0, "Pascal");
+    pressure("hectopascal in millibar", 1.0, "HectoPascal", 1.0, "MilliBar");
+    pressure("standard pressure in hectopascal", 1013.25, "HectoPascal", 1013.25, "MilliBar");
+    pressure("standard atmosphere in bar", 1.0, "StandardAtmosphere", 1.01325, "Bar");
+    pressure("standard atmosphere in hectopascal", 1.0, "StandardAtmosphere", 1013.25, "HectoPascal");
+    pressure("standard atmosphere in pascal", 1.0, "StandardAtmosphere", 101325.0, "Pascal");
+    pressure("standard atmosphere in kilopascal", 1.0, "StandardAtmosphere", 101.325, "KiloPascal");
+    pressure("standard atmosphere in megapascal", 1.0, "StandardAtmosphere", 0.101325, "MegaPascal");
+    pressure("technical atmosphere in bar", 1.0, "KiloGramForcePerSquareCentimeter", 0.980665, "Bar");
+    pressure("technical atmosphere in hectopascal", 1.0, "KiloGramForcePerSquareCentimeter", 980.665,
+             "HectoPascal");
+    pressure("technical atmosphere in water", 1.0, "KiloGramForcePerSquareCentimeter", 10000.0,
+             "MillimeterOfWater");
+    pressure("pound-force per square inch in bar", 1.0, "PoundForcePerSquareInch", 0.06894757293168362,
+             "Bar");
+    pressure("inch of mercury in hectopascal", 1.0, "InchOfMercury", 33.86388640341, "HectoPascal");
+    pressure("inch of mercury in pascal", 1.0, "InchOfMercury", 3386.388640341, "Pascal");
+    pressure("inch of water in pascal", 1.0, "InchOfWater", 249.08891, "Pascal");
+    pressure("inch of water in hectopascal", 1.0, "InchOfWater", 2.4908891, "HectoPascal");
+    pressure("millimetre of water in pascal", 1.0, "MillimeterOfWater", 9.80665, "Pascal");
+    ratio("whole in percent", 1.0, "Fraction", 100.0, "Percentage");
+    ratio("half in percent", 0.5, "Fraction", 50.0, "Percentage");
+    ratio("percent as fraction", 1.0, "Percentage", 0.01, "Fraction");
+    ratio("percent in parts per million", 1.0, "Percentage", 10000.0, "PartsPerMillion");
+    ratio("percent in parts per billion", 1.0, "Percentage", 10000000.0, "PartsPerBillion");
+    ratio("whole in parts per million", 1.0, "Fraction", 1000000.0, "PartsPerMillion");
+    ratio("whole in parts per billion", 1.0, "Fraction", 1000000000.0, "PartsPerBillion");
+    mixingRatio("gram per kilogram in grains per pound", 1.0, "GramPerKiloGram", 7.0, "GrainPerPound");
+    mixingRatio("ten grams per kilogram in grains per pound", 10.0, "GramPerKiloGram", 70.0, "GrainPerPound");
+    mixingRatio("kilogram per kilogram in grains per pound", 1.0, "KiloGramPerKiloGram", 7000.0,
+                "GrainPerPound");
+    mixingRatio("gram per kilogram in kilograms per kilogram", 1.0, "GramPerKiloGram", 0.001,
+                "KiloGramPerKiloGram");
+    humidity("gram per cubic metre in milligrams", 1.0, "GramPerCubicMeter", 1000.0,
+             "MilliGramPerCubicMeter");
+    temperature("ice point in kelvin", 0.0, "DegreeCelsius", 273.15, "Kelvin");
+    temperature("ice point in degrees Fahrenheit", 0.0, "DegreeCelsius", 32.0, "DegreeFahrenheit");
+    temperature("ice point from kelvin to degrees Fahrenheit", 273.15, "Kelvin", 32.0, "DegreeFahrenheit");
+    temperature("boiling point in kelvin", 100.0, "DegreeCelsius", 373.15, "Kelvin");
+    temperature("boiling point in degrees Fahrenheit", 100.0, "DegreeCelsius", 212.0, "DegreeFahrenheit");
+    temperature("boiling point from kelvin to degrees Fahrenheit", 373.15, "Kelvin", 212.0,
+                "DegreeFahrenheit");
+    temperature("absolute zero in kelvin", -273.15, "DegreeCelsius", 0.0, "Kelvin");
+    temperature("scales meet", -40.0, "DegreeCelsius", -40.0, "DegreeFahrenheit");
+    temperature("reference temperature 20 in degrees Fahrenheit", 20.0, "DegreeCelsius", 68.0,
+                "DegreeFahrenheit");
+    temperature("reference temperature 20 in kelvin", 20.0, "DegreeCelsius", 293.15, "Kelvin");
+    temperature("reference temperature 25 in degrees Fahrenheit", 25.0, "DegreeCelsius", 77.0,
+                "DegreeFahrenheit");
+    temperature("reference temperature 25 in kelvin", 25.0, "DegreeCelsius", 298.15, "Kelvin");
+    temperature("ten degrees in degrees Fahrenheit", 10.0, "DegreeCelsius", 50.0, "DegreeFahrenheit");
+    resistance("ohm in milliohm", 1.0, "Ohm", 1000.0, "MilliOhm");
+    resistance("kiloohm in ohm", 1.0, "KiloOhm", 1000.0, "Ohm");
+    resistance("megaohm in kiloohm", 1.0, "MegaOhm", 1000.0, "KiloOhm");
+    resistance("megaohm in ohm", 1.0, "MegaOhm", 1000000.0, "Ohm");
+    resistance("megaohm in milliohm", 1.0, "MegaOhm", 1000000000.0, "MilliOhm");
+    voltage("volt in millivolt", 1.0, "Volt", 1000.0, "MilliVolt");
+    voltage("ten volt in millivolt", 10.0, "Volt", 10000.0, "MilliVolt");
+    voltage("volt in microvolt", 1.0, "Volt", 1000000.0, "MicroVolt");
+    voltage("millivolt in microvolt", 1.0, "MilliVolt", 1000.0, "MicroVolt");
+    voltage("kilovolt in volt", 1.0, "KiloVolt", 1000.0, "Volt");
+    time("second in milliseconds", 1.0, "Seconds", 1000.0, "MilliSeconds");
+    time("minute in seconds", 1.0, "Minutes", 60.0, "Seconds");
+    time("minute in milliseconds", 1.0, "Minutes", 60000.0, "MilliSeconds");
+    time("hour in minutes", 1.0, "Hours", 60.0, "Minutes");
+    time("hour in seconds", 1.0, "Hours", 3600.0, "Seconds");
+    time("day in hours", 1.0, "Days", 24.0, "Hours");
+    time("day in minutes", 1.0, "Days", 1440.0, "Minutes");
+    time("day in seconds", 1.0, "Days", 86400.0, "Seconds");
+    time("week in hours", 7.0, "Days", 168.0, "Hours");
+    enthalpy("kilojoule per kilogram in joules per gram", 1.0, "KiloJoulePerKiloGram", 1.0, "JoulePerGram");
+    enthalpy("British thermal unit per pound in kilojoules per kilogram", 1.0, "BtuPerPound", 2.326,
+             "KiloJoulePerKiloGram");
+    enthalpy("calorie in joules per gram", 1.0, "KiloCaloriePerKiloGram", 4.1868, "JoulePerGram");
+    enthalpy("calorie in British thermal units per pound", 1.0, "KiloCaloriePerKiloGram", 1.8, "BtuPerPound");
+    enthalpy("five calories in British thermal units per pound", 5.0, "KiloCaloriePerKiloGram", 9.0,
+             "BtuPerPound");
 }
 
 void LandmarksTest::exactInBothDirections()
 {
-    QFETCH(double, value);
-    QFETCH(QString, from);
-    QFETCH(double, expected);
-    QFETCH(QString, to);
-    QCOMPARE(exactText(convert(value, from, to)), exactText(QVariant(expected)));
-    QCOMPARE(exactText(convert(expected, to, from)), exactText(QVariant(value)));
+    QFETCH(Landmark, landmark);
+    QCOMPARE(exactText(convert(landmark)), exactText(QVariant(landmark.expected)));
+    QCOMPARE(exactText(convert(landmark.inverse())), exactText(QVariant(landmark.value)));
 }
 
 /// For the inverse conversions see besideTheLandmark_data().
 void LandmarksTest::exactInOneDirection_data()
 {
-    addColumns();
-    row("millimetre of mercury in bar", 1.0, "Pressure/MillimeterOfMercury", 0.00133322387415,
-        "Pressure/Bar");
-    row("millimetre of mercury in pascal, back", 133.322387415, "Pressure/Pascal", 1.0,
-        "Pressure/MillimeterOfMercury");
-    row("part per million in parts per billion", 1.0, "Ratio/PartsPerMillion", 1000.0,
-        "Ratio/PartsPerBillion");
-    row("ice point in degrees Rankine", 0.0, "AbsoluteTemperature/DegreeCelsius", 491.67,
-        "AbsoluteTemperature/DegreeRankine");
-    row("ice point from kelvin to degrees Rankine", 273.15, "AbsoluteTemperature/Kelvin", 491.67,
-        "AbsoluteTemperature/DegreeRankine");
-    row("absolute zero from degrees Rankine", 0.0, "AbsoluteTemperature/DegreeRankine", 0.0,
-        "AbsoluteTemperature/Kelvin");
-    row("absolute zero from degrees Rankine to degrees Celsius", 0.0, "AbsoluteTemperature/DegreeRankine",
-        -273.15, "AbsoluteTemperature/DegreeCelsius");
-    row("body temperature in degrees Fahrenheit, back", 98.6, "AbsoluteTemperature/DegreeFahrenheit", 37.0,
-        "AbsoluteTemperature/DegreeCelsius");
-    row("minus twenty in degrees Fahrenheit, back", -4.0, "AbsoluteTemperature/DegreeFahrenheit", -20.0,
-        "AbsoluteTemperature/DegreeCelsius");
-    row("standard atmosphere in torr, back", 760.0, "Pressure/Torr", 1.0, "Pressure/StandardAtmosphere");
-    row("technical atmosphere in pascal", 1.0, "Pressure/KiloGramForcePerSquareCentimeter", 98066.5,
-        "Pressure/Pascal");
-    row("inch of water in millimetres, back", 25.4, "Pressure/MillimeterOfWater", 1.0,
-        "Pressure/InchOfWater");
-    row("seven bar in pascal", 7.0, "Pressure/Bar", 700000.0, "Pressure/Pascal");
+    QTest::addColumn<Landmark>("landmark");
+    const auto pressure = rowsOf("Pressure");
+    const auto ratio = rowsOf("Ratio");
+    const auto temperature = rowsOf("AbsoluteTemperature");
+
+    pressure("millimetre of mercury in bar", 1.0, "MillimeterOfMercury", 0.00133322387415, "Bar");
+    pressure("millimetre of mercury in pascal, back", 133.322387415, "Pascal", 1.0, "MillimeterOfMercury");
+    ratio("part per million in parts per billion", 1.0, "PartsPerMillion", 1000.0, "PartsPerBillion");
+    temperature("ice point in degrees Rankine", 0.0, "DegreeCelsius", 491.67, "DegreeRankine");
+    temperature("ice point from kelvin to degrees Rankine", 273.15, "Kelvin", 491.67, "DegreeRankine");
+    temperature("absolute zero from degrees Rankine", 0.0, "DegreeRankine", 0.0, "Kelvin");
+    temperature("absolute zero from degrees Rankine to degrees Celsius", 0.0, "DegreeRankine", -273.15,
+                "DegreeCelsius");
+    temperature("body temperature in degrees Fahrenheit, back", 98.6, "DegreeFahrenheit", 37.0,
+                "DegreeCelsius");
+    temperature("minus twenty in degrees Fahrenheit, back", -4.0, "DegreeFahrenheit", -20.0, "DegreeCelsius");
+    pressure("standard atmosphere in torr, back", 760.0, "Torr", 1.0, "StandardAtmosphere");
+    pressure("technical atmosphere in pascal", 1.0, "KiloGramForcePerSquareCentimeter", 98066.5, "Pascal");
+    pressure("inch of water in millimetres, back", 25.4, "MillimeterOfWater", 1.0, "InchOfWater");
+    pressure("seven bar in pascal", 7.0, "Bar", 700000.0, "Pascal");
 }
 
 void LandmarksTest::exactInOneDirection()
 {
-    QFETCH(double, value);
-    QFETCH(QString, from);
-    QFETCH(double, expected);
-    QFETCH(QString, to);
-    QCOMPARE(exactText(convert(value, from, to)), exactText(QVariant(expected)));
+    QFETCH(Landmark, landmark);
+    QCOMPARE(exactText(convert(landmark)), exactText(QVariant(landmark.expected)));
 }
 
 /// Landmarks that the correctly rounded coefficients miss: neither the coefficients nor, in many cases, the
 /// landmarks themselves are doubles. The scale is the largest intermediate number.
 void LandmarksTest::besideTheLandmark_data()
 {
-    addColumns();
+    QTest::addColumn<Landmark>("landmark");
     QTest::addColumn<double>("scale");
-    row("millimetre of mercury in pascal", 1.0, "Pressure/MillimeterOfMercury", 133.322387415,
-        "Pressure/Pascal", 133.322387415);
-    row("part per million in parts per billion, back", 1000.0, "Ratio/PartsPerBillion", 1.0,
-        "Ratio/PartsPerMillion", 1.0);
-    row("thousand pounds per million cubic feet in grains per cubic foot", 1000.0,
-        "AbsoluteHumidity/PoundPerMillionCubicFoot", 7.0, "AbsoluteHumidity/GrainPerCubicFoot", 7.0);
-    row("ice point in degrees Rankine, back", 491.67, "AbsoluteTemperature/DegreeRankine", 0.0,
-        "AbsoluteTemperature/DegreeCelsius", 491.67);
-    row("absolute zero from degrees Celsius to degrees Fahrenheit", -273.15,
-        "AbsoluteTemperature/DegreeCelsius", -459.67, "AbsoluteTemperature/DegreeFahrenheit", 491.67);
-    row("absolute zero from degrees Celsius to degrees Fahrenheit, back", -459.67,
-        "AbsoluteTemperature/DegreeFahrenheit", -273.15, "AbsoluteTemperature/DegreeCelsius", 491.67);
-    row("body temperature in degrees Fahrenheit", 37.0, "AbsoluteTemperature/DegreeCelsius", 98.6,
-        "AbsoluteTemperature/DegreeFahrenheit", 491.67);
-    row("triple point in kelvin", 0.01, "AbsoluteTemperature/DegreeCelsius", 273.16,
-        "AbsoluteTemperature/Kelvin", 273.15);
-    row("triple point in kelvin, back", 273.16, "AbsoluteTemperature/Kelvin", 0.01,
-        "AbsoluteTemperature/DegreeCelsius", 273.15);
-    row("boiling point in degrees Rankine", 100.0, "AbsoluteTemperature/DegreeCelsius", 671.67,
-        "AbsoluteTemperature/DegreeRankine", 671.67);
-    row("minus forty in kelvin", -40.0, "AbsoluteTemperature/DegreeCelsius", 233.15,
-        "AbsoluteTemperature/Kelvin", 273.15);
-    row("minus forty in kelvin, back", 233.15, "AbsoluteTemperature/Kelvin", -40.0,
-        "AbsoluteTemperature/DegreeCelsius", 273.15);
-    row("minus twenty in degrees Fahrenheit", -20.0, "AbsoluteTemperature/DegreeCelsius", -4.0,
-        "AbsoluteTemperature/DegreeFahrenheit", 491.67);
-    row("standard atmosphere in torr", 1.0, "Pressure/StandardAtmosphere", 760.0, "Pressure/Torr", 760.0);
-    row("technical atmosphere in pascal, back", 98066.5, "Pressure/Pascal", 1.0,
-        "Pressure/KiloGramForcePerSquareCentimeter", 1.0);
-    row("inch of mercury in millimetres", 1.0, "Pressure/InchOfMercury", 25.4, "Pressure/MillimeterOfMercury",
-        25.4);
-    row("inch of water in millimetres", 1.0, "Pressure/InchOfWater", 25.4, "Pressure/MillimeterOfWater",
-        25.4);
-    row("absolute zero in degrees Rankine", 0.0, "AbsoluteTemperature/Kelvin", 0.0,
-        "AbsoluteTemperature/DegreeRankine", 491.67);
-    row("part per million as fraction", 1.0, "Ratio/PartsPerMillion", 1e-06, "Ratio/Fraction", 1e-06);
-    row("part per million as fraction, back", 1e-06, "Ratio/Fraction", 1.0, "Ratio/PartsPerMillion", 1.0);
-    row("seven bar in pascal, back", 700000.0, "Pressure/Pascal", 7.0, "Pressure/Bar", 7.0);
+    const auto pressure = rowsOf("Pressure");
+    const auto ratio = rowsOf("Ratio");
+    const auto humidity = rowsOf("AbsoluteHumidity");
+    const auto temperature = rowsOf("AbsoluteTemperature");
+
+    pressure("millimetre of mercury in pascal", 1.0, "MillimeterOfMercury", 133.322387415, "Pascal",
+             133.322387415);
+    ratio("part per million in parts per billion, back", 1000.0, "PartsPerBillion", 1.0, "PartsPerMillion",
+          1.0);
+    humidity("thousand pounds per million cubic feet in grains per cubic foot", 1000.0,
+             "PoundPerMillionCubicFoot", 7.0, "GrainPerCubicFoot", 7.0);
+    temperature("ice point in degrees Rankine, back", 491.67, "DegreeRankine", 0.0, "DegreeCelsius", 491.67);
+    temperature("absolute zero from degrees Celsius to degrees Fahrenheit", -273.15, "DegreeCelsius", -459.67,
+                "DegreeFahrenheit", 491.67);
+    temperature("absolute zero from degrees Celsius to degrees Fahrenheit, back", -459.67, "DegreeFahrenheit",
+                -273.15, "DegreeCelsius", 491.67);
+    temperature("body temperature in degrees Fahrenheit", 37.0, "DegreeCelsius", 98.6, "DegreeFahrenheit",
+                491.67);
+    temperature("triple point in kelvin", 0.01, "DegreeCelsius", 273.16, "Kelvin", 273.15);
+    temperature("triple point in kelvin, back", 273.16, "Kelvin", 0.01, "DegreeCelsius", 273.15);
+    temperature("boiling point in degrees Rankine", 100.0, "DegreeCelsius", 671.67, "DegreeRankine", 671.67);
+    temperature("minus forty in kelvin", -40.0, "DegreeCelsius", 233.15, "Kelvin", 273.15);
+    temperature("minus forty in kelvin, back", 233.15, "Kelvin", -40.0, "DegreeCelsius", 273.15);
+    temperature("minus twenty in degrees Fahrenheit", -20.0, "DegreeCelsius", -4.0, "DegreeFahrenheit",
+                491.67);
+    pressure("standard atmosphere in torr", 1.0, "StandardAtmosphere", 760.0, "Torr", 760.0);
+    pressure("technical atmosphere in pascal, back", 98066.5, "Pascal", 1.0,
+             "KiloGramForcePerSquareCentimeter", 1.0);
+    pressure("inch of mercury in millimetres", 1.0, "InchOfMercury", 25.4, "MillimeterOfMercury", 25.4);
+    pressure("inch of water in millimetres", 1.0, "InchOfWater", 25.4, "MillimeterOfWater", 25.4);
+    temperature("absolute zero in degrees Rankine", 0.0, "Kelvin", 0.0, "DegreeRankine", 491.67);
+    ratio("part per million as fraction", 1.0, "PartsPerMillion", 1e-06, "Fraction", 1e-06);
+    ratio("part per million as fraction, back", 1e-06, "Fraction", 1.0, "PartsPerMillion", 1.0);
+    pressure("seven bar in pascal, back", 700000.0, "Pascal", 7.0, "Bar", 7.0);
 }
 
 void LandmarksTest::besideTheLandmark()
 {
-    QFETCH(double, value);
-    QFETCH(QString, from);
-    QFETCH(double, expected);
-    QFETCH(QString, to);
+    QFETCH(Landmark, landmark);
     QFETCH(double, scale);
-    const double result = convert(value, from, to).toDouble();
-    QVERIFY(result != expected);
+    const double result = convert(landmark).toDouble();
+    QVERIFY(result != landmark.expected);
     // Two coefficients and two results are rounded, each by at most half a unit in the last place.
-    QVERIFY2(std::abs(result - expected) <= 2 * std::numeric_limits<double>::epsilon() * scale,
+    QVERIFY2(std::abs(result - landmark.expected) <= 2 * std::numeric_limits<double>::epsilon() * scale,
              qPrintable(exactText(result)));
 }
 
