@@ -66,6 +66,9 @@ public:
     /// Replaces the default units by those of a file; see updateDefaultUnitsByJsonString(). An empty path
     /// removes them and returns true.
     bool updateDefaultUnitsByJsonFile(const QString& path);
+    /// Whether units and labels are loaded. Default units are not required.
+    bool isValid() const;
+    operator bool() const;
 
     /// The unit types, with their prefix, in no particular order.
     QStringList getListofUnitTypes() const;
@@ -88,9 +91,6 @@ public:
     /// The label, in all languages, of a fixed unit or of the base unit of a unit type; invalid when there is
     /// none.
     QVariant getUnitTextJsonMap(const QString& key) const;
-    /// Whether units and labels are loaded. Default units are not required.
-    bool isValid() const;
-    operator bool() const;
     /// Identifier of the text that labels a value without a unit.
     QString getNoUnitLabelTextId() const;
 
