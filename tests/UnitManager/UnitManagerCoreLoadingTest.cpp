@@ -72,6 +72,7 @@ void addUnreadableFiles()
 
 void UnitManagerCoreLoadingTest::init()
 {
+    m_folder.write(QStringLiteral("empty.json"), QStringLiteral(""));
     m_core = UnitManagerCore();
     QVERIFY(m_core.updateUnitConversionByJsonString(TestDocuments::units()));
     QVERIFY(m_core.updateDefaultUnitsByJsonString(TestDocuments::defaultUnits()));
@@ -248,7 +249,6 @@ void UnitManagerCoreLoadingTest::defaultUnitsDoNotMatterForValidity()
 void UnitManagerCoreLoadingTest::unitFile()
 {
     const QString path = m_folder.write(QStringLiteral("voltage.json"), TestDocuments::voltage());
-    QVERIFY(!path.isEmpty());
     LogCapture log;
 
     QVERIFY(m_core.updateUnitConversionByJsonFile(path));
@@ -267,7 +267,6 @@ void UnitManagerCoreLoadingTest::unitFileThatCannotBeRead()
 {
     QFETCH(QString, name);
     QFETCH(bool, isReported);
-    QVERIFY(!m_folder.write(QStringLiteral("empty.json"), QStringLiteral("")).isEmpty());
     const QString path = m_folder.path(name);
     LogCapture log;
 
@@ -297,7 +296,6 @@ void UnitManagerCoreLoadingTest::defaultUnitFile()
     const QString path =
         m_folder.write(QStringLiteral("default-units.json"),
                        QStringLiteral(R"({ "Ratio": { "@type": "Selection", "@value": "Counts" } })"));
-    QVERIFY(!path.isEmpty());
     LogCapture log;
 
     QVERIFY(m_core.updateDefaultUnitsByJsonFile(path));
@@ -316,7 +314,6 @@ void UnitManagerCoreLoadingTest::defaultUnitFileThatCannotBeRead()
 {
     QFETCH(QString, name);
     QFETCH(bool, isReported);
-    QVERIFY(!m_folder.write(QStringLiteral("empty.json"), QStringLiteral("")).isEmpty());
     const QString path = m_folder.path(name);
     LogCapture log;
 

@@ -4,7 +4,7 @@
 
 #include <type_traits>
 
-#include "DecimalPlacesRows.h"
+#include "DecimalPlaces.h"
 #include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
@@ -229,14 +229,7 @@ void UnitManagerCoreTest::decimalPlaces_data()
 
 void UnitManagerCoreTest::decimalPlaces()
 {
-    QFETCH(QString, unitType);
-    QFETCH(QString, unit);
-    unsigned int places = 77;
-    LogCapture log;
-
-    QTEST(m_core.getDecimalPlacesForUnit(unitType, unit, places), "found");
-    QTEST(places, "places");
-    QTEST(takeMessageTexts(log), "messages");
+    checkDecimalPlaces(m_core);
 }
 
 void UnitManagerCoreTest::catalogueQuestions()

@@ -5,7 +5,7 @@
 #include <type_traits>
 
 #include "DebugText.h"
-#include "DecimalPlacesRows.h"
+#include "DecimalPlaces.h"
 #include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "Row.h"
@@ -73,8 +73,6 @@ void UnitManagerTest::initTestCase()
 {
     m_unitPath = m_folder.write(QStringLiteral("units.json"), TestDocuments::units());
     m_defaultUnitPath = m_folder.write(QStringLiteral("default-units.json"), TestDocuments::defaultUnits());
-    QVERIFY(!m_unitPath.isEmpty());
-    QVERIFY(!m_defaultUnitPath.isEmpty());
     QVERIFY(loadedManager().isValid());
     QVERIFY(managerWithOldContent().isValid());
 }
@@ -258,15 +256,7 @@ void UnitManagerTest::decimalPlacesAreHandedOn_data()
 
 void UnitManagerTest::decimalPlacesAreHandedOn()
 {
-    QFETCH(QString, unitType);
-    QFETCH(QString, unit);
-    const UnitManager manager = loadedManager();
-    unsigned int places = 77;
-    LogCapture log;
-
-    QTEST(manager.getDecimalPlacesForUnit(unitType, unit, places), "found");
-    QTEST(places, "places");
-    QTEST(takeMessageTexts(log), "messages");
+    checkDecimalPlaces(loadedManager());
 }
 
 void UnitManagerTest::noUnitLabel()

@@ -110,18 +110,18 @@ void UnitTextHandlerLoadingTest::documentResult_data()
 void UnitTextHandlerLoadingTest::documentResult()
 {
     QFETCH(QString, json);
-    QFETCH(bool, result);
-    QFETCH(QStringList, messages);
     LogCapture log;
-    UnitTextHandler handler;
-    QCOMPARE(handler.initByJsonString(json), result);
-    QCOMPARE(handler.isValid(), result);
-    QCOMPARE(messageTexts(log.take(), LineNumbers::Any), messages);
-
+    UnitTextHandler loaded;
+    QTEST(loaded.initByJsonString(json), "result");
+    QTEST(messageTexts(log.take(), LineNumbers::Any), "messages");
     const UnitTextHandler constructed(json);
-    const bool usable = constructed;
-    QCOMPARE(usable, result);
-    QCOMPARE(messageTexts(log.take(), LineNumbers::Any), messages);
+    QTEST(messageTexts(log.take(), LineNumbers::Any), "messages");
+
+    for (const UnitTextHandler& handler : {loaded, constructed}) {
+        const bool usable = handler;
+        QTEST(usable, "result");
+        QTEST(handler.isValid(), "result");
+    }
 }
 
 void UnitTextHandlerLoadingTest::positionZeroIsTheBaseUnit_data()
@@ -237,7 +237,6 @@ void UnitTextHandlerLoadingTest::readsFile()
     QFETCH(QString, content);
     const TextFolder folder;
     const QString path = folder.write(QStringLiteral("units.json"), content);
-    QVERIFY(!path.isEmpty());
     LogCapture log;
     UnitTextHandler handler(R"({"B": {"U": {"@displayPosition": 0, "UnitLabel": "u"}}})");
     QVERIFY(handler.isValid());

@@ -9,7 +9,7 @@ QString TextFolder::write(const QString& name, const QString& text) const
     QFile file(path(name));
     const QByteArray bytes = text.toUtf8();
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        return {};
+        qFatal("cannot write %s", qPrintable(file.fileName()));
     return file.fileName();
 }
 

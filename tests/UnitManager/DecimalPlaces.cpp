@@ -1,6 +1,5 @@
-#include "DecimalPlacesRows.h"
+#include "DecimalPlaces.h"
 
-#include "ExpectedMessages.h"
 #include "Row.h"
 #include "TestDocuments.h"
 
