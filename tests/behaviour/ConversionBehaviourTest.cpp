@@ -38,7 +38,7 @@ LineNumbers lineNumbersOf(const LoggedMessage& message)
 }
 
 /// The effects of a row, one per line.
-QStringList play(const BehaviourRow& row, MessageNames& names)
+QStringList run(const BehaviourRow& row, MessageNames& names)
 {
     RecordedCalls::takeCalls();
     RecordedCalls::takeQuestions();
@@ -60,7 +60,7 @@ QStringList play(const BehaviourRow& row, MessageNames& names)
     return lines;
 }
 
-QStringList playAll()
+QStringList runAll()
 {
     // The library may query the marker once per process.
     BehaviourDocuments::managers().first().manager.fromBaseUnit(1.0, QString(), QString());
@@ -68,7 +68,7 @@ QStringList playAll()
     QStringList lines;
     MessageNames names;
     for (const BehaviourRow& row : valueRows() + nodeRows() + arrayRows())
-        lines.append(play(row, names));
+        lines.append(run(row, names));
     for (auto name = names.cbegin(); name != names.cend(); ++name)
         lines.append(name.key() + QLatin1String(": ") + name.value());
     return lines;
@@ -112,7 +112,7 @@ void ConversionBehaviourTest::behavesAsRecorded()
     const QString marker = qEnvironmentVariable("NO_INPUT_MARKER");
     QVERIFY2(!marker.isEmpty(), "NO_INPUT_MARKER selects the record");
     const QString path = QStringLiteral(UNITMANAGER_TEST_DATA "/marker-%1.txt").arg(marker);
-    const QStringList actual = playAll();
+    const QStringList actual = runAll();
     if (recordsQuestions && qEnvironmentVariableIsSet("UPDATE_RECORDS"))
         QVERIFY(writeLines(path, actual));
 

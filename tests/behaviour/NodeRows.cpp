@@ -1,7 +1,7 @@
 #include "BehaviourDocuments.h"
 #include "BehaviourTable.h"
+#include "ConfigurationAndProcessDataBase.h"
 #include "ConfigurationAndProcessDataDefinitions.h"
-#include "ForeignNode.h"
 #include "ProcessDataValue.h"
 #include "RecordedCalls.h"
 
@@ -12,6 +12,61 @@ using Definitions = ConfigurationAndProcessDataDefinitions;
 using RecordedCalls::exactBits;
 
 const QString valueKey = QStringLiteral("Value");
+
+QString writeText(const char* operation, const QString& propertyKey, const QVariant& value)
+{
+    return QLatin1String(operation) + QLatin1Char(' ') + propertyKey + QLatin1String(" = ") +
+           exactBits(value);
+}
+
+/// A node as another library could have derived it: it has given properties, returns a given status from
+/// every write, and records every call.
+class ForeignNode : public ConfigurationAndProcessDataBase
+{
+public:
+    ForeignNode(const QHash<QString, QVariant>& properties, int writeStatus)
+        : m_properties(properties), m_writeStatus(writeStatus)
+    {}
+
+    /// A node without properties whose only child has the key "Value".
+    static BaseClassSharedPointer parentOf(const BaseClassSharedPointer& child)
+    {
+        const auto parent = QSharedPointer<ForeignNode>::create(QHash<QString, QVariant>(), 2);
+        parent->m_child = child;
+        return parent;
+    }
+
+    BaseClassSharedPointer getChild(const QString& key) const override
+    {
+        RecordedCalls::add(QStringLiteral("getChild ") + key);
+        return key == valueKey ? m_child : BaseClassSharedPointer();
+    }
+    QVariant getProperty(const QString& propertyKey) const override
+    {
+        RecordedCalls::add(QStringLiteral("getProperty ") + propertyKey);
+        return m_properties.value(propertyKey);
+    }
+    bool hasProperty(const QString& propertyKey) const override
+    {
+        RecordedCalls::add(QStringLiteral("hasProperty ") + propertyKey);
+        return m_properties.contains(propertyKey);
+    }
+    int changeProperty(const QString& propertyKey, const QVariant& value) override
+    {
+        RecordedCalls::add(writeText("changeProperty", propertyKey, value));
+        return m_writeStatus;
+    }
+    int setProperty(const QString& propertyKey, const QVariant& value) override
+    {
+        RecordedCalls::add(writeText("setProperty", propertyKey, value));
+        return m_writeStatus;
+    }
+
+private:
+    QHash<QString, QVariant> m_properties;
+    int m_writeStatus;
+    BaseClassSharedPointer m_child;
+};
 
 /// The properties of a node.
 struct NodeKind

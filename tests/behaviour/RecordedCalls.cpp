@@ -22,10 +22,11 @@ QStringList& questions()
     return list;
 }
 
-// The sign of a computed NaN depends on the processor.
+/// Whether the number is a NaN as computations give it. Its sign depends on the processor.
 bool isDefaultNan(double number)
 {
-    return std::isnan(number) && (bitsOf(number) << 1U) == 0xFFF0000000000000U;
+    const quint64 quietNan = 0x7FF8000000000000U;
+    return (bitsOf(number) << 1U) == quietNan << 1U;
 }
 
 QString listText(const QVariantList& list)
