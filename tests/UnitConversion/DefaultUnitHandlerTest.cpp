@@ -48,8 +48,8 @@ private slots:
     void everyLoadDropsTheOldTable();
     void readsFile_data();
     void readsFile();
-    void answersTheLastPartOfTheValue_data();
-    void answersTheLastPartOfTheValue();
+    void returnsTheLastPartOfTheValue_data();
+    void returnsTheLastPartOfTheValue();
     void unknownTypeWarns_data();
     void unknownTypeWarns();
     void noUnitTypeIsSilent();
@@ -160,7 +160,7 @@ void DefaultUnitHandlerTest::readsFile()
     QTEST(messageTexts(takeMessagesOf(sourceName, log), LineNumbers::Any), "messages");
 }
 
-void DefaultUnitHandlerTest::answersTheLastPartOfTheValue_data()
+void DefaultUnitHandlerTest::returnsTheLastPartOfTheValue_data()
 {
     QTest::addColumn<QString>("value");
     QTest::addColumn<QString>("expected");
@@ -169,7 +169,7 @@ void DefaultUnitHandlerTest::answersTheLastPartOfTheValue_data()
     row("fixed unit", '"' + UnitManagerDefinitions::getUnitUrlPressureBar() + '"', "Bar");
     row("two parts", R"("a/b")", "b");
     row("slash at the end", R"("a/b/")", "");
-    row("slash in front", R"("/b")", "b");
+    row("slash at the start", R"("/b")", "b");
     row("two slashes", R"("a//b")", "b");
     row("slash alone", R"("/")", "");
     row("empty text", R"("")", "");
@@ -178,7 +178,7 @@ void DefaultUnitHandlerTest::answersTheLastPartOfTheValue_data()
     row("boolean", "true", "true");
 }
 
-void DefaultUnitHandlerTest::answersTheLastPartOfTheValue()
+void DefaultUnitHandlerTest::returnsTheLastPartOfTheValue()
 {
     QFETCH(QString, value);
     LogCapture log;
@@ -199,7 +199,7 @@ void DefaultUnitHandlerTest::unknownTypeWarns_data()
     row("other spelling", "UnitManager/UnitType/pressure");
     row("fixed unit", pressure + "/Bar");
     row("no unit without prefix", "NoUnit");
-    row("no unit with a slash behind", "UnitManager/UnitType/NoUnit/");
+    row("no unit with a slash at the end", "UnitManager/UnitType/NoUnit/");
     row("empty text", "");
 }
 

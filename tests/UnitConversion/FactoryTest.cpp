@@ -120,7 +120,7 @@ private slots:
     void laterCreatorReplacesAndDestroysTheEarlier();
     void destructionDestroysEveryCreator();
     void startsWithStandardMap();
-    void createStandsBeforeTheDestructor();
+    void createPrecedesTheDestructor();
     void keyIsTheHashCodeInDecimal();
     void hashIsNotSeeded_data();
     void hashIsNotSeeded();
@@ -200,7 +200,7 @@ void FactoryTest::missingKeyGivesNullSilently_data()
     row("empty text", "");
     row("key of the table's rows", "Table");
     row("lower case", "polynomial");
-    row("blank in front", " Polynomial");
+    row("blank at the start", " Polynomial");
     row("class name", "ValueConverterPolynomial");
 }
 
@@ -264,7 +264,7 @@ void FactoryTest::startsWithStandardMap()
     QCOMPARE(factory.creators.max_load_factor(), 1.0F);
 }
 
-void FactoryTest::createStandsBeforeTheDestructor()
+void FactoryTest::createPrecedesTheDestructor()
 {
     QCOMPARE(virtualSlot(&ProbeFactory::AbstractCreator::create), std::size_t(0));
     QCOMPARE(virtualSlot(&ValueConverterFactory::AbstractCreator::create), std::size_t(0));

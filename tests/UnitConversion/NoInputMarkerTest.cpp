@@ -31,8 +31,8 @@ class NoInputMarkerTest : public QObject
 
 private slots:
     void nothingIsPromised();
-    void everyNumberIsAskedAbout_data();
-    void everyNumberIsAskedAbout();
+    void everyNumberIsTested_data();
+    void everyNumberIsTested();
 };
 
 void NoInputMarkerTest::nothingIsPromised()
@@ -40,7 +40,7 @@ void NoInputMarkerTest::nothingIsPromised()
     QVERIFY(!NoInputMarker::isAlwaysNan);
 }
 
-void NoInputMarkerTest::everyNumberIsAskedAbout_data()
+void NoInputMarkerTest::everyNumberIsTested_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<bool>("isSet");
@@ -58,7 +58,7 @@ void NoInputMarkerTest::everyNumberIsAskedAbout_data()
     row("invalid", QVariant(), false, Content::Other);
 }
 
-void NoInputMarkerTest::everyNumberIsAskedAbout()
+void NoInputMarkerTest::everyNumberIsTested()
 {
     QFETCH(QVariant, value);
     QFETCH(bool, isSet);

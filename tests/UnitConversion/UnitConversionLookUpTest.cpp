@@ -69,13 +69,13 @@ private slots:
     void readsFile();
     void listsUnits_data();
     void listsUnits();
-    void answersForKnownTypes();
+    void convertsUnitsOfKnownTypes();
     void baseUnits_data();
     void baseUnits();
     void failsForUnknownTypes_data();
     void failsForUnknownTypes();
     void queriesAddNoType();
-    void unknownUnitNamesThePlainKey();
+    void warningNamesThePlainKey();
     void copiesAreIndependent();
 };
 
@@ -239,7 +239,7 @@ void UnitConversionLookUpTest::listsUnits()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void UnitConversionLookUpTest::answersForKnownTypes()
+void UnitConversionLookUpTest::convertsUnitsOfKnownTypes()
 {
     LogCapture log;
     const LookUp lookUp(document);
@@ -345,7 +345,7 @@ void UnitConversionLookUpTest::queriesAddNoType()
     QCOMPARE(lookUp.getListofUnitTypes(), QList<QString>());
 }
 
-void UnitConversionLookUpTest::unknownUnitNamesThePlainKey()
+void UnitConversionLookUpTest::warningNamesThePlainKey()
 {
     LogCapture log;
     QVariant value(3);

@@ -81,8 +81,8 @@ private slots:
     void typeIsComparedAsVariant();
     void readsNothingButWhatItNeeds();
     void laterUnitsSurviveNoUnit();
-    void baseUnitStandsAtPositionZero_data();
-    void baseUnitStandsAtPositionZero();
+    void unitAtPositionZeroIsTheBaseUnit_data();
+    void unitAtPositionZeroIsTheBaseUnit();
     void lastUnitAtPositionZeroIsTheBaseUnit();
     void initWithNullKeepsValidity();
     void secondInitAddsToTheList();
@@ -199,7 +199,7 @@ void UnitConversionUnitTypeHandlerTest::laterUnitsSurviveNoUnit()
         QCOMPARE(knows(handler, order.at(number)), number > place);
 }
 
-void UnitConversionUnitTypeHandlerTest::baseUnitStandsAtPositionZero_data()
+void UnitConversionUnitTypeHandlerTest::unitAtPositionZeroIsTheBaseUnit_data()
 {
     QTest::addColumn<QVariant>("position");
     QTest::addColumn<bool>("isBase");
@@ -223,7 +223,7 @@ void UnitConversionUnitTypeHandlerTest::baseUnitStandsAtPositionZero_data()
     row("map", QVariant(QVariantMap{{"a", 0}}), false);
 }
 
-void UnitConversionUnitTypeHandlerTest::baseUnitStandsAtPositionZero()
+void UnitConversionUnitTypeHandlerTest::unitAtPositionZeroIsTheBaseUnit()
 {
     QFETCH(QVariant, position);
     QFETCH(bool, isBase);
@@ -329,7 +329,7 @@ void UnitConversionUnitTypeHandlerTest::baseUnitName_data()
     const QString noUnit = QStringLiteral(R"({"NoUnit": {}})");
     row("plain name", pressure, "Pressure", "Pressure/Bar");
     row("name with prefix", pressure, "UnitManager/UnitType/Pressure", "UnitManager/UnitType/Pressure/Bar");
-    row("the name asked for counts", pressure, "Other", "Other/Bar");
+    row("the name in the query is used", pressure, "Other", "Other/Bar");
     row("empty name", pressure, "", "/Bar");
     row("no unit", pressure, "NoUnit", "NoUnit");
     row("no unit with prefix", noUnit, "UnitManager/UnitType/NoUnit", "UnitManager/UnitType/NoUnit/NoUnit");

@@ -56,7 +56,7 @@ class ValueConverterArbitraryTableTest : public QObject
 private slots:
     void readsConfiguration_data();
     void readsConfiguration();
-    void asksForItsTablesInOrderAndNothingElse();
+    void readsItsTablesInOrderAndNothingElse();
     void returnsTheArgument_data();
     void returnsTheArgument();
     void resetWithoutForwardRowsKeepsTheInverse();
@@ -79,7 +79,7 @@ void ValueConverterArbitraryTableTest::readsConfiguration_data()
     row("inverse table is a number", R"({"Table": [[0, 0], [10, 100]], "InverseTable": 3})",
         state(forward, noRows));
     row("one column", R"({"Table": [[4], [5]]})", state({{{0, 4}, {0, 5}}, {0, 4}, {0, 4}}, noRows));
-    row("limits and distances are not its own",
+    row("limits and distances are not read",
         R"({"Table": [[0, 0], [10, 100]], "DistanceBaseTable": 2, "OrdinateMin": -1, "OrdinateMax": 9})",
         state(forward, noRows));
 }
@@ -92,7 +92,7 @@ void ValueConverterArbitraryTableTest::readsConfiguration()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void ValueConverterArbitraryTableTest::asksForItsTablesInOrderAndNothingElse()
+void ValueConverterArbitraryTableTest::readsItsTablesInOrderAndNothingElse()
 {
     const auto calls = RecordingNode::Calls::create();
     const auto node = recordingNodeFromJson(R"({"Table": [[0, 0]], "DecimalPlaces": 3, "OrdinateMin": 1})",
@@ -114,7 +114,7 @@ void ValueConverterArbitraryTableTest::returnsTheArgument_data()
     row("beyond the last point", 1000.0);
     row("largest number", Limits::max());
     row("smallest number", -Limits::denorm_min());
-    row("no number", Limits::quiet_NaN());
+    row("not a number", Limits::quiet_NaN());
     row("infinity", Limits::infinity());
     row("negative infinity", -Limits::infinity());
 }

@@ -53,7 +53,7 @@ class ValueConverterBaseTest : public QObject
     Q_OBJECT
 
 private slots:
-    void virtualFunctionsStandBehindTheDestructor();
+    void virtualFunctionsFollowTheDestructor();
     void decimalPlacesStartAtZeroAndAreNotVirtual();
     void loadsTable_data();
     void loadsTable();
@@ -61,7 +61,7 @@ private slots:
     void leavesTheTableAloneWithoutRows();
 };
 
-void ValueConverterBaseTest::virtualFunctionsStandBehindTheDestructor()
+void ValueConverterBaseTest::virtualFunctionsFollowTheDestructor()
 {
     QCOMPARE(virtualSlot(&ValueConverterBase::convertValue), std::size_t(2));
     QCOMPARE(virtualSlot(&ValueConverterBase::invertValue), std::size_t(3));
@@ -94,10 +94,10 @@ void ValueConverterBaseTest::loadsTable_data()
         Table{{{-1, 1}, {-5, 2}, {-3, 3}}, {-1, 1}, {-5, 2}});
     row("infinite x", QVariantList{tableRow({0, 3}), tableRow({infinity, 1}), tableRow({-infinity, 2})},
         Table{{{0, 3}, {infinity, 1}, {-infinity, 2}}, {infinity, 1}, {-infinity, 2}});
-    row("x that is no number, first, is never replaced",
+    row("x that is not a number, first, is never replaced",
         QVariantList{tableRow({notANumber, 1}), tableRow({4, 2})},
         Table{{{notANumber, 1}, {4, 2}}, {notANumber, 1}, {notANumber, 1}});
-    row("x that is no number, later, never replaces",
+    row("x that is not a number, later, never replaces",
         QVariantList{tableRow({4, 2}), tableRow({notANumber, 1})},
         Table{{{4, 2}, {notANumber, 1}}, {4, 2}, {4, 2}});
     row("one column", QVariantList{tableRow({4}), tableRow({5})}, Table{{{0, 4}, {0, 5}}, {0, 4}, {0, 4}});
@@ -108,9 +108,9 @@ void ValueConverterBaseTest::loadsTable_data()
         Table{{{0, 0}, {0, 0}}, {0, 0}, {0, 0}});
     row("the second value of a short row is missing", QVariantList{tableRow({1, 2}), tableRow({3})},
         Table{{{1, 2}, {3, 0}}, {3, 0}, {1, 2}});
-    row("a longer row behind makes two columns", QVariantList{tableRow({1}), tableRow({2, 3})},
+    row("a longer later row makes two columns", QVariantList{tableRow({1}), tableRow({2, 3})},
         Table{{{1, 0}, {2, 3}}, {2, 3}, {1, 0}});
-    row("a longer row behind makes three columns", QVariantList{tableRow({1, 2}), tableRow({3, 4, 5})},
+    row("a longer later row makes three columns", QVariantList{tableRow({1, 2}), tableRow({3, 4, 5})},
         Table{{{0, 1}, {0, 3}}, {0, 1}, {0, 1}});
     row("texts", QVariantList{tableRow({"1", "2.5"}), tableRow({"x", true})},
         Table{{{1, 2.5}, {0, 1}}, {1, 2.5}, {0, 1}});

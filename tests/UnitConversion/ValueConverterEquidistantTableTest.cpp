@@ -64,15 +64,15 @@ class ValueConverterEquidistantTableTest : public QObject
 private slots:
     void readsConfiguration_data();
     void readsConfiguration();
-    void asksForLimitsBehindTheMinimumOnly_data();
-    void asksForLimitsBehindTheMinimumOnly();
+    void readsLimitsOnlyAfterTheMinimum_data();
+    void readsLimitsOnlyAfterTheMinimum();
     void returnsTheArgument_data();
     void returnsTheArgument();
     void resetWithoutForwardRowsKeepsTheInverse();
-    void resetWithLimitsButWithoutForwardRowsCrossesNothing();
+    void resetWithLimitsButWithoutForwardRowsSwapsNothing();
     void resetAppendsForwardRows();
     void resetWithoutInverseRemovesItsRowsOnly();
-    void resetWithLimitsCrossesBothTables();
+    void resetWithLimitsSwapsThoseOfBothTables();
     void keepsTheSlotsOfTheBase();
 };
 
@@ -83,7 +83,7 @@ void ValueConverterEquidistantTableTest::readsConfiguration_data()
 
     row("nothing configured", "{}", state(noRows, 0, noRows, 0));
     row("both tables", withoutLimits, state(forward, 0.5, inverse, 0.25));
-    row("limits are stored crossed", withLimits, state(limitedForward, 0.5, limitedInverse, 0.25));
+    row("limits are stored swapped", withLimits, state(limitedForward, 0.5, limitedInverse, 0.25));
     row("forward table only", R"({"Table": [4, 5], "DistanceBaseTable": 0.5})",
         state(forward, 0.5, noRows, 0));
     row("the inverse distance goes with the inverse table",
@@ -99,7 +99,7 @@ void ValueConverterEquidistantTableTest::readsConfiguration_data()
     row("largest ordinate without smallest",
         R"({"Table": [4, 5], "OrdinateMax": 9, "OrdinateMinInversion": -2, "OrdinateMaxInversion": 8})",
         state(forward, 0, noRows, 0));
-    row("limits of an inverse table that is not there",
+    row("limits of a missing inverse table",
         R"({"Table": [4, 5], "OrdinateMin": -1, "OrdinateMax": 9, "OrdinateMinInversion": -2,
                "OrdinateMaxInversion": 8})",
         state(limitedForward, 0, {{}, {-2, 0}, {8, 0}}, 0));
@@ -108,10 +108,10 @@ void ValueConverterEquidistantTableTest::readsConfiguration_data()
     row("any text counts as smallest ordinate",
         R"({"Table": [4, 5], "OrdinateMin": "abc", "OrdinateMax": "9"})",
         state({{{0, 4}, {0, 5}}, {0, 4}, {9, 4}}, 0, noRows, 0));
-    row("a list is no smallest ordinate", R"({"Table": [4, 5], "OrdinateMin": [-1], "OrdinateMax": 9})",
+    row("a list is not a smallest ordinate", R"({"Table": [4, 5], "OrdinateMin": [-1], "OrdinateMax": 9})",
         state(forward, 0, noRows, 0));
-    row("a null node is no smallest ordinate", R"({"Table": [4, 5], "OrdinateMin": null, "OrdinateMax": 9})",
-        state(forward, 0, noRows, 0));
+    row("a null node is not a smallest ordinate",
+        R"({"Table": [4, 5], "OrdinateMin": null, "OrdinateMax": 9})", state(forward, 0, noRows, 0));
     row("numbers in texts", R"({"Table": ["4", "5"], "DistanceBaseTable": "0.5", "InverseTable": ["6", "7"],
                "DistanceBaseInverseTable": "0.25"})",
         state(forward, 0.5, inverse, 0.25));
@@ -132,7 +132,7 @@ void ValueConverterEquidistantTableTest::readsConfiguration()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void ValueConverterEquidistantTableTest::asksForLimitsBehindTheMinimumOnly_data()
+void ValueConverterEquidistantTableTest::readsLimitsOnlyAfterTheMinimum_data()
 {
     QTest::addColumn<QString>("json");
     QTest::addColumn<bool>("limitsRead");
@@ -144,7 +144,7 @@ void ValueConverterEquidistantTableTest::asksForLimitsBehindTheMinimumOnly_data(
     row("smallest ordinate is a text", R"({"OrdinateMin": "abc"})", true);
 }
 
-void ValueConverterEquidistantTableTest::asksForLimitsBehindTheMinimumOnly()
+void ValueConverterEquidistantTableTest::readsLimitsOnlyAfterTheMinimum()
 {
     QFETCH(QString, json);
     QFETCH(bool, limitsRead);
@@ -174,7 +174,7 @@ void ValueConverterEquidistantTableTest::returnsTheArgument_data()
     row("above the largest ordinate", 100.0);
     row("largest number", Limits::max());
     row("smallest number", -Limits::denorm_min());
-    row("no number", Limits::quiet_NaN());
+    row("not a number", Limits::quiet_NaN());
     row("infinity", Limits::infinity());
     row("negative infinity", -Limits::infinity());
 }
@@ -199,7 +199,7 @@ void ValueConverterEquidistantTableTest::resetWithoutForwardRowsKeepsTheInverse(
     QCOMPARE(converter.state(), state(forward, 0, inverse, 0));
 }
 
-void ValueConverterEquidistantTableTest::resetWithLimitsButWithoutForwardRowsCrossesNothing()
+void ValueConverterEquidistantTableTest::resetWithLimitsButWithoutForwardRowsSwapsNothing()
 {
     Converter converter(withoutLimits);
     QVERIFY(!(converter.*resetWithLimits)({}, 2, -10, 10, {100}, 3, -20, 20));
@@ -222,7 +222,7 @@ void ValueConverterEquidistantTableTest::resetWithoutInverseRemovesItsRowsOnly()
              state({{{0, 4}, {0, 5}, {0, 14}}, {0, 14}, {0, 14}}, 2, {{}, {-2, 6}, {8, 6}}, 0));
 }
 
-void ValueConverterEquidistantTableTest::resetWithLimitsCrossesBothTables()
+void ValueConverterEquidistantTableTest::resetWithLimitsSwapsThoseOfBothTables()
 {
     Converter converter(withoutLimits);
     QVERIFY(converter.resetTable({14}, 2, -10, 10, {}, 3, -20, 20));

@@ -71,7 +71,7 @@ private slots:
     void readsAMillionCoefficients();
     void readsDecimalPlaces_data();
     void readsDecimalPlaces();
-    void asksForItsKeysInOrderAndNothingElse();
+    void readsItsKeysInOrderAndNothingElse();
     void doesNotKeepItsNode();
     void converts_data();
     void converts();
@@ -165,7 +165,7 @@ void ValueConverterPolynomialTest::readsDecimalPlaces()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void ValueConverterPolynomialTest::asksForItsKeysInOrderAndNothingElse()
+void ValueConverterPolynomialTest::readsItsKeysInOrderAndNothingElse()
 {
     const auto calls = RecordingNode::Calls::create();
     const auto node = recordingNodeFromJson(
@@ -206,7 +206,7 @@ void ValueConverterPolynomialTest::converts_data()
     const double smallest = std::numeric_limits<double>::denorm_min();
 
     row("without coefficients", none, 3.0, 0.0, 0.0);
-    row("without coefficients, no number", none, notANumber, 0.0, 0.0);
+    row("without coefficients, not a number", none, notANumber, 0.0, 0.0);
     row("without coefficients, infinity", none, -infinity, 0.0, 0.0);
     row("text instead of coefficients", R"({"Polynomial": "x"})", 3.0, 0.0, 0.0);
     row("linear without inverse", linear, 3.0, 11.0, 0.0);

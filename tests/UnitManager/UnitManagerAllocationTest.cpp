@@ -60,10 +60,10 @@ class UnitManagerAllocationTest : public QObject
 
 private slots:
     void initTestCase();
-    void allocationsAreSeen();
+    void allocationsAreCounted();
     void conversionAllocatesNothing_data();
     void conversionAllocatesNothing();
-    void runAllocatesNothing();
+    void repeatedConversionAllocatesNothing();
 
 private:
     UnitManager m_manager;
@@ -80,7 +80,7 @@ void UnitManagerAllocationTest::initTestCase()
     QVERIFY(m_manager.initByJsonString(TestDocuments::units(), TestDocuments::defaultUnits()));
 }
 
-void UnitManagerAllocationTest::allocationsAreSeen()
+void UnitManagerAllocationTest::allocationsAreCounted()
 {
     QCOMPARE(allocationsIn([] {}), 0);
     QCOMPARE(allocationsIn([] { QString(100, QLatin1Char('x')); }), 1);
@@ -123,7 +123,7 @@ void UnitManagerAllocationTest::conversionAllocatesNothing()
     QCOMPARE(count(static_cast<RawConversion>(&UnitManager::fromBaseUnitRaw)), 0);
 }
 
-void UnitManagerAllocationTest::runAllocatesNothing()
+void UnitManagerAllocationTest::repeatedConversionAllocatesNothing()
 {
     double values[] = {1.0, 2.0, 3.0};
     const QString unit = QStringLiteral("HectoPascal");

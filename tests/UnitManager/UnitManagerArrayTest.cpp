@@ -21,7 +21,7 @@ private slots:
     void initTestCase();
     void ranges_data();
     void ranges();
-    void shortUnitTypeListIsRefusedUnasked();
+    void shortUnitTypeListIsRejectedWithoutQueries();
     void getValueArray_data();
     void getValueArray();
     void setValueArray_data();
@@ -29,7 +29,7 @@ private slots:
     void setValueArrayMayGetMoreValues();
     void emptyRangeWritesTheRowBack_data();
     void emptyRangeWritesTheRowBack();
-    void refusedWriteIsHandedOn();
+    void rejectedWriteIsReported();
     void getUnitText_data();
     void getUnitText();
     void getUnitTextOfOneColumn_data();
@@ -86,20 +86,20 @@ void UnitManagerArrayTest::ranges_data()
     row("all columns", real, 1U, 0U, 2U, 2, 2, true);
     row("last column", real, 1U, 1U, 1U, 1, 1, true);
     row("no column", real, 1U, 1U, 0U, 0, 0, true);
-    row("no column behind the last", real, 1U, 2U, 0U, 0, 0, true);
+    row("no column after the last", real, 1U, 2U, 0U, 0, 0, true);
     row("no column beyond that", real, 1U, 3U, 0U, 0, 0, false);
     row("no column from the largest number on", real, 1U, last, 0U, 0, 0, false);
     row("too many columns", real, 1U, 0U, 3U, 0, 0, false);
-    row("column behind the last", real, 1U, 2U, 1U, 0, 0, false);
+    row("column after the last", real, 1U, 2U, 1U, 0, 0, false);
     row("largest number of columns", real, 1U, 0U, last, 0, 0, false);
     row("end wraps around to 0", real, 1U, last, 1U, 0, 0, true);
     row("end wraps around to 1", real, 1U, last, 2U, 0, 0, true);
     row("end wraps around below the first column", real, 1U, 2U, last, 0, 0, true);
     row("end wraps around beyond the columns", real, 1U, last, 4U, 0, 0, false);
-    row("row behind the last", real, 2U, 0U, 2U, 2, 0, false);
+    row("row after the last", real, 2U, 0U, 2U, 2, 0, false);
     row("largest row", real, last, 0U, 2U, 2, 0, false);
-    row("row behind the last, no column", real, 2U, 0U, 0U, 0, 0, false);
-    row("row behind the last, wrapped around", real, 2U, last, 1U, 0, 0, false);
+    row("row after the last, no column", real, 2U, 0U, 0U, 0, 0, false);
+    row("row after the last, wrapped around", real, 2U, last, 1U, 0, 0, false);
     row("no rows", Dimensions{0, 2}, 0U, 0U, 2U, 2, 0, false);
     row("no dimensions", Dimensions{}, 0U, 0U, 2U, 0, 0, false);
     row("one dimension", Dimensions{2}, 0U, 0U, 2U, 0, 0, false);
@@ -138,7 +138,7 @@ void UnitManagerArrayTest::ranges()
     QCOMPARE(array.getData().at(otherRow), data.at(otherRow));
 }
 
-void UnitManagerArrayTest::shortUnitTypeListIsRefusedUnasked()
+void UnitManagerArrayTest::shortUnitTypeListIsRejectedWithoutQueries()
 {
     RecordingArray array({QVariant(QVariantList{1.0, 2.0})}, {T::pressure, T::pressure}, {1, 9});
     const QString bar = QStringLiteral("Bar");
@@ -248,7 +248,7 @@ void UnitManagerArrayTest::emptyRangeWritesTheRowBack_data()
     QTest::addColumn<unsigned int>("columnCount");
 
     row("no column", 0U, 0U);
-    row("no column behind the last", 2U, 0U);
+    row("no column after the last", 2U, 0U);
     row("end wraps around", last, 1U);
 }
 
@@ -264,7 +264,7 @@ void UnitManagerArrayTest::emptyRangeWritesTheRowBack()
     QCOMPARE(array.getData(), (QList<QVariant>{QVariantList{1.0, QVariant()}, data.at(1)}));
 }
 
-void UnitManagerArrayTest::refusedWriteIsHandedOn()
+void UnitManagerArrayTest::rejectedWriteIsReported()
 {
     // The array reports a second row, but rejects writes to it.
     const QList<QVariant> data = {QVariant(QVariantList{1.0, 2.0})};
@@ -317,7 +317,7 @@ void UnitManagerArrayTest::getUnitTextOfOneColumn_data()
     row("no unit type", 1U, "", "", none);
     row("fixed unit", 3U, "Celsius", "Bar", none);
     row("unknown unit", 0U, "Nope", "", QStringList{Expected::unknownTextUnit("Nope", T::pressure)});
-    row("column behind the last", 5U, "Bar", "", none);
+    row("column after the last", 5U, "Bar", "", none);
     row("end wraps around", last, "Bar", "", none);
 }
 

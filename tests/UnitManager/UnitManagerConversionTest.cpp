@@ -94,9 +94,9 @@ void addRowsOfBothDirections(Conversion conversion)
         QStringList{noConversionForDecimalPlaces("")});
     row("neither unit type nor unit", QVariant(7), "", "", "int 7",
         QStringList{noDefaultUnit(""), noConversionForDecimalPlaces("")});
-    row("text that is no number", QVariant("abc"), T::pressure, "Bar", "double 0",
+    row("text that is not a number", QVariant("abc"), T::pressure, "Bar", "double 0",
         notConverted(conversion, "QString", "Bar", "Pressure") + QStringList{notRounded(streamedAbc)});
-    row("text that is a number is rounded all the same", QVariant("1.23456"), T::pressure, "Bar",
+    row("text that is a number is rounded nevertheless", QVariant("1.23456"), T::pressure, "Bar",
         toDebugText(1.235), notConverted(conversion, "QString", "Bar", "Pressure"));
     row("truth value", QVariant(true), T::pressure, "Bar", "double 1",
         notConverted(conversion, "bool", "Bar", "Pressure"));
@@ -134,7 +134,7 @@ void UnitManagerConversionTest::roundDouble_data()
     row("marker", QVariant(marker), 1U, "double nan", none);
     row("infinity", QVariant(-infinity), 1U, "double -inf", none);
     row("largest number of places", QVariant(0.1), 4294967295U, toDebugText(0.1), none);
-    row("text that is no number", QVariant("abc"), 1U, "double 0", QStringList{notRounded(streamedAbc)});
+    row("text that is not a number", QVariant("abc"), 1U, "double 0", QStringList{notRounded(streamedAbc)});
     row("empty text", QVariant(""), 1U, "double 0", QStringList{notRounded("QVariant(QString, \"\")")});
     row("text with a decimal comma", QVariant("1,5"), 1U, "double 0",
         QStringList{notRounded("QVariant(QString, \"1,5\")")});
@@ -181,7 +181,7 @@ void UnitManagerConversionTest::toBaseUnit_data()
     const QStringList none;
     row("rounded to the places of the given unit", QVariant(1234.56), T::pressure, "HectoPascal",
         toDebugText(1.2), none);
-    row("nothing left at the places of the given unit", QVariant(1.234), T::pressure, "HectoPascal",
+    row("rounded to zero at the places of the given unit", QVariant(1.234), T::pressure, "HectoPascal",
         "double 0", none);
     row("base unit has more places", QVariant(1.234), T::temperature, "Celsius", toDebugText(274.4), none);
     row("empty unit is the default unit", QVariant(1234.56), T::pressure, "", toDebugText(1.2), none);
@@ -255,7 +255,7 @@ void UnitManagerConversionTest::everyTypeOfNumber_data()
     row("double", QVariant(2.5), "double 2500", toDebugText(2.5 * 0.001));
     row("double that is null", QVariant(QVariant::Double), "double 0", "double 0");
     row("negative zero", QVariant(-0.0), toDebugText(-0.0 + 0.0), toDebugText(-0.0 + 0.0));
-    row("infinity, of which the polynomial takes nothing", QVariant(-infinity), "double nan", "double nan");
+    row("infinity, which Horner's scheme multiplies by zero", QVariant(-infinity), "double nan", "double nan");
     row("float", QVariant(2.5F), "double 2500", toDebugText(2.5 * 0.001));
     row("float marker", QVariant(std::numeric_limits<float>::quiet_NaN()), "float nan", "float nan");
     row("int", QVariant(-2), "double -2000", toDebugText(-2 * 0.001));
@@ -299,8 +299,8 @@ void UnitManagerConversionTest::namesWithSeparators_data()
         toDebugText(1.23456), none);
     row("one at the end is a fixed unit", parent + "/", toDebugText(1.23456), toDebugText(1.23456),
         toDebugText(1.23456), none);
-    row("two are none", parent + "/Low/Er", toDebugText(1.23456 * 1000.0), toDebugText(1234.6),
-        toDebugText(1.23456 * 0.001), none);
+    row("two are not a fixed unit", parent + "/Low/Er", toDebugText(1.23456 * 1000.0),
+        toDebugText(1234.6), toDebugText(1.23456 * 0.001), none);
 }
 
 void UnitManagerConversionTest::namesWithSeparators()

@@ -27,7 +27,7 @@ private slots:
     void nodeToBaseUnit();
     void nodeFromBaseUnit_data();
     void nodeFromBaseUnit();
-    void defaultUnitIsAskedAtEachUse();
+    void defaultUnitIsQueriedAtEachUse();
     void documentsMayGiveUnitLessTypes();
 
 private:
@@ -101,7 +101,7 @@ void addRowsOfBothDirections(Conversion conversion)
         QStringList{Expected::noConversion(conversion, "Pressure")});
     row("four slashes", QVariant(3), fixedBar + "/x", "Bar", false, "int 3",
         QStringList{Expected::noConversion(conversion, fixedBar + "/x")});
-    row("unit-less type that the document has not", QVariant(3), T::noUnit, "", false, "int 3",
+    row("unit-less type that is not in the document", QVariant(3), T::noUnit, "", false, "int 3",
         QStringList{Expected::noConversion(conversion, T::noUnit)});
 }
 
@@ -194,8 +194,8 @@ void UnitManagerCoreConversionTest::nodeToBaseUnit_data()
     row("fixed unit", QVariant(T::pressure + "/Bar"), "HectoPascal", true, "int 2000", none);
     row("no unit type, no unit", QVariant(), "", true, "int 2000", none);
     row("no unit type, a unit", QVariant(), "Bar", false, "int 2000", none);
-    row("unit type that is no text, no unit", QVariant(QVariantList{1}), "", true, "int 2000", none);
-    row("unit type that is no text, a unit", QVariant(QVariantList{1}), "Bar", false, "int 2000", none);
+    row("unit type that is not a text, no unit", QVariant(QVariantList{1}), "", true, "int 2000", none);
+    row("unit type that is not a text, a unit", QVariant(QVariantList{1}), "Bar", false, "int 2000", none);
     row("unknown unit", QVariant(T::pressure), "Nope", false, "int 2000",
         QStringList{Expected::unknownUnit(Conversion::ToBase, "Nope", "Pressure")});
     row("unknown unit type", QVariant(T::unknown), "Bar", false, "int 2000",
@@ -228,7 +228,7 @@ void UnitManagerCoreConversionTest::nodeFromBaseUnit_data()
     row("default unit", QVariant(T::pressure), "", "double 2000", none);
     row("fixed unit", QVariant(T::pressure + "/Bar"), "HectoPascal", "int 2", none);
     row("no unit type", QVariant(), "Bar", "int 2", none);
-    row("unit type that is no text", QVariant(QVariantList{1}), "Bar", "int 2", none);
+    row("unit type that is not a text", QVariant(QVariantList{1}), "Bar", "int 2", none);
     row("unknown unit", QVariant(T::pressure), "Nope", "int 2",
         QStringList{Expected::unknownUnit(Conversion::FromBase, "Nope", "Pressure")});
     row("unknown unit type", QVariant(T::unknown), "Bar", "int 2",
@@ -246,7 +246,7 @@ void UnitManagerCoreConversionTest::nodeFromBaseUnit()
     QTEST(takeMessageTexts(log), "messages");
 }
 
-void UnitManagerCoreConversionTest::defaultUnitIsAskedAtEachUse()
+void UnitManagerCoreConversionTest::defaultUnitIsQueriedAtEachUse()
 {
     UnitManagerCore core = m_core;
     QVERIFY(core.updateDefaultUnitsByJsonString(

@@ -29,8 +29,8 @@ class UnitManagerCoreTest : public QObject
 
 private slots:
     void init();
-    void fixedUnitsAreCountedBySlashes_data();
-    void fixedUnitsAreCountedBySlashes();
+    void fixedUnitsAreRecognisedByTheirSlashes_data();
+    void fixedUnitsAreRecognisedByTheirSlashes();
     void fixedUnitsAreSplitAtTheLastSlash_data();
     void fixedUnitsAreSplitAtTheLastSlash();
     void otherTextsAreNotSplit_data();
@@ -42,7 +42,7 @@ private slots:
     void unitTypeOfChild();
     void decimalPlaces_data();
     void decimalPlaces();
-    void catalogueQuestions();
+    void catalogueQueries();
 
 private:
     UnitManagerCore m_core;
@@ -61,7 +61,7 @@ void UnitManagerCoreTest::init()
     QVERIFY(m_core.updateDefaultUnitsByJsonString(TestDocuments::defaultUnits()));
 }
 
-void UnitManagerCoreTest::fixedUnitsAreCountedBySlashes_data()
+void UnitManagerCoreTest::fixedUnitsAreRecognisedByTheirSlashes_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("isFixed");
@@ -81,7 +81,7 @@ void UnitManagerCoreTest::fixedUnitsAreCountedBySlashes_data()
     row("empty", "", false);
 }
 
-void UnitManagerCoreTest::fixedUnitsAreCountedBySlashes()
+void UnitManagerCoreTest::fixedUnitsAreRecognisedByTheirSlashes()
 {
     QFETCH(QString, text);
 
@@ -165,8 +165,8 @@ void UnitManagerCoreTest::unitTypeOfNode_data()
     QTest::addColumn<QString>("unitType");
     QTest::addColumn<QStringList>("calls");
 
-    const QStringList asked{QStringLiteral("hasProperty @unitType")};
-    const QStringList read = asked + QStringList{QStringLiteral("getProperty @unitType")};
+    const QStringList queried{QStringLiteral("hasProperty @unitType")};
+    const QStringList read = queried + QStringList{QStringLiteral("getProperty @unitType")};
 
     row("text", QVariant(T::pressure), true, T::pressure, read);
     row("fixed unit stays whole", QVariant(T::pressure + "/Bar"), true, T::pressure + "/Bar", read);
@@ -174,7 +174,7 @@ void UnitManagerCoreTest::unitTypeOfNode_data()
     row("number converts to a text", QVariant(5), true, "5", read);
     row("list does not convert", QVariant(QVariantList{1}), false, "old type", read);
     row("map does not convert", QVariant(QVariantMap{{"en", "bar"}}), false, "old type", read);
-    row("no property", QVariant(), false, "old type", asked);
+    row("no property", QVariant(), false, "old type", queried);
 }
 
 void UnitManagerCoreTest::unitTypeOfNode()
@@ -232,7 +232,7 @@ void UnitManagerCoreTest::decimalPlaces()
     checkDecimalPlaces(m_core);
 }
 
-void UnitManagerCoreTest::catalogueQuestions()
+void UnitManagerCoreTest::catalogueQueries()
 {
     QStringList unitTypes = m_core.getListofUnitTypes();
     unitTypes.sort();

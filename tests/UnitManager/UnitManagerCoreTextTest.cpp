@@ -59,7 +59,7 @@ void UnitManagerCoreTextTest::unitText_data()
     row("without default unit the base unit", T::ratio, "de", "", "%",
         QStringList{Expected::noDefaultUnit(T::ratio)});
     row("fixed unit beats the unit", fixedBar, "de", "HectoPascal", "Bar", none);
-    row("fixed unit without unit asks for its default unit", fixedBar, "de", "", "Bar",
+    row("fixed unit without unit queries its default unit", fixedBar, "de", "", "Bar",
         QStringList{Expected::noDefaultUnit(fixedBar)});
     row("unit-less type", T::noUnit, "de", "", "", none);
     row("unit-less type with a unit", T::noUnit, "de", "Bar", "", none);
@@ -96,7 +96,7 @@ void UnitManagerCoreTextTest::unitTextOfNode_data()
     row("empty unit is the default unit", QVariant(T::pressure), "", "Hektopascal", none);
     row("fixed unit", QVariant(T::pressure + "/MilliBar"), "Bar", "mbar", none);
     row("no unit type", QVariant(), "", "", withoutType);
-    row("unit type that is no text", QVariant(QVariantList{1}), "", "", withoutType);
+    row("unit type that is not a text", QVariant(QVariantList{1}), "", "", withoutType);
 }
 
 void UnitManagerCoreTextTest::unitTextOfNode()

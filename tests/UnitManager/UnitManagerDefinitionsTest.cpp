@@ -24,8 +24,8 @@ private slots:
     void namesAreFixed();
     void unitsAreFixedUnitsOfTheirType_data();
     void unitsAreFixedUnitsOfTheirType();
-    void unitTypesAreNoFixedUnits_data();
-    void unitTypesAreNoFixedUnits();
+    void unitTypesAreNotFixedUnits_data();
+    void unitTypesAreNotFixedUnits();
     void noUnitTypeIsPrefixAndKey();
     void automaticCommaIsMinusOne();
 };
@@ -136,7 +136,7 @@ void UnitManagerDefinitionsTest::unitsAreFixedUnitsOfTheirType()
     QCOMPARE(unit(), unitType() + QLatin1Char('/') + splitUnit);
 }
 
-void UnitManagerDefinitionsTest::unitTypesAreNoFixedUnits_data()
+void UnitManagerDefinitionsTest::unitTypesAreNotFixedUnits_data()
 {
     QTest::addColumn<Getter>("unitType");
 
@@ -144,7 +144,7 @@ void UnitManagerDefinitionsTest::unitTypesAreNoFixedUnits_data()
         QTest::newRow(unitType.text) << unitType.getter;
 }
 
-void UnitManagerDefinitionsTest::unitTypesAreNoFixedUnits()
+void UnitManagerDefinitionsTest::unitTypesAreNotFixedUnits()
 {
     QFETCH(Getter, unitType);
 

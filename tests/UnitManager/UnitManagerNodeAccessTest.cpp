@@ -19,12 +19,12 @@ private slots:
     void initTestCase();
     void getValue_data();
     void getValue();
-    void getValueAsksForTheUnitTypeOfNumbersOnly_data();
-    void getValueAsksForTheUnitTypeOfNumbersOnly();
+    void getValueReadsTheUnitTypeOfNumbersOnly_data();
+    void getValueReadsTheUnitTypeOfNumbersOnly();
     void setValue_data();
     void setValue();
-    void writeStatusIsHandedOn_data();
-    void writeStatusIsHandedOn();
+    void writeStatusIsReturned_data();
+    void writeStatusIsReturned();
     void nothingWithoutChild_data();
     void nothingWithoutChild();
     void getUnitText_data();
@@ -47,8 +47,8 @@ using TestValue::marker;
 using Node = QSharedPointer<RecordingValueNode>;
 
 const QString key = QStringLiteral("Value");
-const QStringList asked{QStringLiteral("hasProperty @unitType")};
-const QStringList read = asked + QStringList{QStringLiteral("getProperty @unitType")};
+const QStringList queried{QStringLiteral("hasProperty @unitType")};
+const QStringList read = queried + QStringList{QStringLiteral("getProperty @unitType")};
 const QString written = QStringLiteral("setProperty @value");
 
 } // namespace
@@ -74,7 +74,7 @@ void UnitManagerNodeAccessTest::getValue_data()
     row("whole number", number(2, T::pressure), "HectoPascal", "double 2000", none);
     row("fixed unit", number(1.23456, fixedBar), "HectoPascal", toDebugText(1.23456), none);
     row("number without unit type", number(2, QVariant()), "Bar", "int 2", none);
-    row("unit type that is no text", number(2, QVariantList{1}), "Bar", "int 2", none);
+    row("unit type that is not a text", number(2, QVariantList{1}), "Bar", "int 2", none);
     row("marker", number(marker, T::pressure), "HectoPascal", "double nan", none);
     row("marker with an unknown unit", number(marker, T::pressure), "Nope", "double nan", none);
     row("no value", number(QVariant(), T::pressure), "HectoPascal", "invalid", none);
@@ -104,20 +104,20 @@ void UnitManagerNodeAccessTest::getValue()
     QCOMPARE(toDebugText(node->value()), stored);
 }
 
-void UnitManagerNodeAccessTest::getValueAsksForTheUnitTypeOfNumbersOnly_data()
+void UnitManagerNodeAccessTest::getValueReadsTheUnitTypeOfNumbersOnly_data()
 {
     QTest::addColumn<Node>("node");
     QTest::addColumn<QStringList>("unitTypeCalls");
 
     const QStringList none;
     row("number", RecordingValueNode::number(2, T::pressure), read);
-    row("number without unit type", RecordingValueNode::number(2), asked);
+    row("number without unit type", RecordingValueNode::number(2), queried);
     row("marker", RecordingValueNode::number(marker, T::pressure), none);
     row("no value", RecordingValueNode::number(QVariant(), T::pressure), none);
     row("text", RecordingValueNode::text("abc", T::pressure), none);
 }
 
-void UnitManagerNodeAccessTest::getValueAsksForTheUnitTypeOfNumbersOnly()
+void UnitManagerNodeAccessTest::getValueReadsTheUnitTypeOfNumbersOnly()
 {
     QFETCH(Node, node);
 
@@ -149,9 +149,9 @@ void UnitManagerNodeAccessTest::setValue_data()
     row("text in a fixed unit", number(fixedBar), QVariant("abc"), "", 0, "QString abc", readAndWritten,
         none);
     row("no unit type, no unit", number(QVariant()), QVariant("abc"), "", 0, "QString abc",
-        asked + QStringList{written}, none);
-    row("no unit type, a unit", number(QVariant()), QVariant(3), "Bar", 2, "double 1.5", asked, none);
-    row("unit type that is no text", number(QVariantList{1}), QVariant(3), "", 0, "int 3", readAndWritten,
+        queried + QStringList{written}, none);
+    row("no unit type, a unit", number(QVariant()), QVariant(3), "Bar", 2, "double 1.5", queried, none);
+    row("unit type that is not a text", number(QVariantList{1}), QVariant(3), "", 0, "int 3", readAndWritten,
         none);
     row("text", number(T::pressure), QVariant("abc"), "Bar", 2, "double 1.5", read,
         notConverted(Conversion::ToBase, "QString", "Bar", "Pressure"));
@@ -191,18 +191,18 @@ void UnitManagerNodeAccessTest::setValue()
     QCOMPARE(toDebugText(value), given);
 }
 
-void UnitManagerNodeAccessTest::writeStatusIsHandedOn_data()
+void UnitManagerNodeAccessTest::writeStatusIsReturned_data()
 {
     QTest::addColumn<int>("status");
     QTest::addColumn<bool>("isWritten");
 
     row("changed", 0, true);
-    row("equal already", 1, true);
+    row("unchanged", 1, true);
     row("refused", 2, false);
     row("beyond the known ones", 3, false);
 }
 
-void UnitManagerNodeAccessTest::writeStatusIsHandedOn()
+void UnitManagerNodeAccessTest::writeStatusIsReturned()
 {
     QFETCH(int, status);
     const Node child = RecordingValueNode::number(1.5, T::pressure);

@@ -24,8 +24,8 @@ private slots:
     void initTestCase();
     void conversionsEvaluateTheirPolynomials_data();
     void conversionsEvaluateTheirPolynomials();
-    void linearUnitsComeBack_data();
-    void linearUnitsComeBack();
+    void linearUnitsRoundTrip_data();
+    void linearUnitsRoundTrip();
     void roundedFormsAreTheRoundedRawForms_data();
     void roundedFormsAreTheRoundedRawForms();
     void nodesAndArraysHoldTheRawForms_data();
@@ -147,12 +147,12 @@ void UnitManagerRoundTripTest::conversionsEvaluateTheirPolynomials()
     QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
-void UnitManagerRoundTripTest::linearUnitsComeBack_data()
+void UnitManagerRoundTripTest::linearUnitsRoundTrip_data()
 {
     addUnitRows(1, 1);
 }
 
-void UnitManagerRoundTripTest::linearUnitsComeBack()
+void UnitManagerRoundTripTest::linearUnitsRoundTrip()
 {
     QFETCH(int, index);
     const Unit& unit = units().at(index);

@@ -32,11 +32,11 @@ private slots:
     void oneFileResetsDefaultUnits_data();
     void oneFileResetsDefaultUnits();
     void singleDocumentsAreReplaced();
-    void catalogueQuestionsAreHandedOn();
-    void labelsAreHandedOn();
-    void fixedUnitsAreHandedOn();
-    void decimalPlacesAreHandedOn_data();
-    void decimalPlacesAreHandedOn();
+    void catalogueQueriesAreForwarded();
+    void labelsAreForwarded();
+    void fixedUnitsAreForwarded();
+    void decimalPlacesAreForwarded_data();
+    void decimalPlacesAreForwarded();
     void noUnitLabel();
     void copiesAreIndependent();
     void copyOutlivesItsOriginal();
@@ -129,7 +129,7 @@ void UnitManagerTest::bothFilesAreLoaded_data()
     QTest::addColumn<QString>("defaultUnit");
 
     const QString missing = m_folder.path(QStringLiteral("missing.json"));
-    row("both there", m_unitPath, m_defaultUnitPath, true, true, "HectoPascal");
+    row("both exist", m_unitPath, m_defaultUnitPath, true, true, "HectoPascal");
     row("units missing", missing, m_defaultUnitPath, false, false, "HectoPascal");
     row("no unit path", "", m_defaultUnitPath, false, false, "HectoPascal");
     row("default units missing", m_unitPath, missing, false, true, "");
@@ -156,7 +156,7 @@ void UnitManagerTest::oneFileResetsDefaultUnits_data()
     QTest::addColumn<QString>("unitPath");
     QTest::addColumn<bool>("loads");
 
-    row("there", m_unitPath, true);
+    row("exists", m_unitPath, true);
     row("missing", m_folder.path(QStringLiteral("missing.json")), false);
     row("no path", "", false);
 }
@@ -194,7 +194,7 @@ void UnitManagerTest::singleDocumentsAreReplaced()
     QVERIFY(manager.isValid());
 }
 
-void UnitManagerTest::catalogueQuestionsAreHandedOn()
+void UnitManagerTest::catalogueQueriesAreForwarded()
 {
     const UnitManager manager = loadedManager();
     LogCapture log;
@@ -216,7 +216,7 @@ void UnitManagerTest::catalogueQuestionsAreHandedOn()
              (QStringList{Expected::noBaseUnit(T::unknown), Expected::noDefaultUnit(T::unknown)}));
 }
 
-void UnitManagerTest::labelsAreHandedOn()
+void UnitManagerTest::labelsAreForwarded()
 {
     const UnitManager manager = loadedManager();
     const QString german = QStringLiteral("de");
@@ -233,7 +233,7 @@ void UnitManagerTest::labelsAreHandedOn()
                                                  Expected::unknownTextUnit("Nope", T::pressure)}));
 }
 
-void UnitManagerTest::fixedUnitsAreHandedOn()
+void UnitManagerTest::fixedUnitsAreForwarded()
 {
     const UnitManager manager;
     QString unitType;
@@ -249,12 +249,12 @@ void UnitManagerTest::fixedUnitsAreHandedOn()
     QCOMPARE(unit, QStringLiteral("Bar"));
 }
 
-void UnitManagerTest::decimalPlacesAreHandedOn_data()
+void UnitManagerTest::decimalPlacesAreForwarded_data()
 {
     addDecimalPlacesRows();
 }
 
-void UnitManagerTest::decimalPlacesAreHandedOn()
+void UnitManagerTest::decimalPlacesAreForwarded()
 {
     checkDecimalPlaces(loadedManager());
 }

@@ -21,7 +21,7 @@ private slots:
     void emptyManagerGivesAnEmptyTable();
     void nullManagerLeavesTheTable();
     void laterOfTwoEqualNumbersIsKept();
-    void everyIdentifierComesBack();
+    void everyIdentifierIsMappedBack();
 };
 
 namespace {
@@ -150,7 +150,7 @@ void UnitManagerUnitTypeStringHandlingTest::laterOfTwoEqualNumbersIsKept()
     QCOMPARE(table, (IdentifierTable{{numberOf(unitType), fixedUnit}}));
 }
 
-void UnitManagerUnitTypeStringHandlingTest::everyIdentifierComesBack()
+void UnitManagerUnitTypeStringHandlingTest::everyIdentifierIsMappedBack()
 {
     const auto manager = managerOf(TestDocuments::units());
     IdentifierTable table;

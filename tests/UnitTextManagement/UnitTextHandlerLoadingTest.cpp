@@ -101,8 +101,7 @@ void UnitTextHandlerLoadingTest::documentResult_data()
     row("empty label", documentOf(R"({"U": {"@displayPosition": 0, "UnitLabel": ""}})"), true, none);
     row("label in another spelling", documentOf(R"({"U": {"@displayPosition": 0, "unitLabel": "u"}})"), false,
         none);
-    row("keys that the conversions pass over",
-        documentOf(R"({"Text": {"@displayPosition": 0, "UnitLabel": "t"},
+    row("keys that the conversions skip", documentOf(R"({"Text": {"@displayPosition": 0, "UnitLabel": "t"},
                           "NoUnit": {"@displayPosition": 1, "UnitLabel": "n"}})"),
         true, none);
 }

@@ -121,7 +121,7 @@ void UnitTextHandlerTest::findsLanguage_data()
     row("country falls back to its language", pressure, "de_AT", "Bar");
     row("missing language falls back", pressure, "fr", "bar");
     row("empty language falls back", pressure, "", "bar");
-    row("without the fallback language, the first", prefix + "Time", "de", "segundos");
+    row("first language without the fallback language", prefix + "Time", "de", "segundos");
     row("one text for every language", pressure + "/HectoPascal", "xx", "hPa");
 }
 
@@ -269,7 +269,7 @@ void UnitTextHandlerTest::fixedUnitTypes_data()
 
     row("unit type", pressure, false);
     row("fixed unit", pressure + "/Bar", true);
-    row("one part more", pressure + "/Bar/x", false);
+    row("one additional part", pressure + "/Bar/x", false);
     row("prefix", prefix, false);
     row("prefix and slash", prefix + "/", true);
     row("only slashes count", "x/y/z/w", true);

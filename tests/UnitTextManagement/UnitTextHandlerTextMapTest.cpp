@@ -72,7 +72,7 @@ void UnitTextHandlerTextMapTest::unknownNamesInTextMapWarn_data()
     const QString nopeUnit = pressure + "/Nope";
     const QString bareUnit = pressure + "/Bare";
     row("unknown type", prefix + "Nope", unknownType(prefix + "Nope"));
-    row("fixed unit of an unknown type is named whole", prefix + "Nope/Bar",
+    row("fixed unit of an unknown type is reported in full", prefix + "Nope/Bar",
         unknownType(prefix + "Nope/Bar"));
     row("type without labels", prefix + "Unlabelled", unknownType(prefix + "Unlabelled"));
     row("no unit without prefix", "NoUnit", unknownType("NoUnit"));

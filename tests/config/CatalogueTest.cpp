@@ -29,17 +29,17 @@ class CatalogueTest : public QObject
 
 private slots:
     void loadsWithoutMessage();
-    void unitTypesAreThose_data();
-    void unitTypesAreThose();
+    void unitTypeHasItsUnits_data();
+    void unitTypeHasItsUnits();
     void listsNoOtherUnitType();
     void identifierNamesShippedUnit_data();
     void identifierNamesShippedUnit();
     void everyUnitHasALabelInEveryLanguage();
-    void labelReads_data();
-    void labelReads();
+    void labels_data();
+    void labels();
     void missingLanguageFallsBack();
-    void standardConditionsAreShownAs_data();
-    void standardConditionsAreShownAs();
+    void standardConditionsAreShown_data();
+    void standardConditionsAreShown();
     void valueWithoutUnitPassesSilently();
 
 private:
@@ -55,7 +55,7 @@ void CatalogueTest::loadsWithoutMessage()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void CatalogueTest::unitTypesAreThose_data()
+void CatalogueTest::unitTypeHasItsUnits_data()
 {
     QTest::addColumn<int>("units");
     QTest::addColumn<QString>("baseUnit");
@@ -74,7 +74,7 @@ void CatalogueTest::unitTypesAreThose_data()
     row("NoUnit", 0, "NoUnit", "");
 }
 
-void CatalogueTest::unitTypesAreThose()
+void CatalogueTest::unitTypeHasItsUnits()
 {
     QFETCH(int, units);
     QFETCH(QString, baseUnit);
@@ -145,7 +145,7 @@ void CatalogueTest::everyUnitHasALabelInEveryLanguage()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void CatalogueTest::labelReads_data()
+void CatalogueTest::labels_data()
 {
     QTest::addColumn<QString>("unitType");
     QTest::addColumn<QString>("unit");
@@ -169,7 +169,7 @@ void CatalogueTest::labelReads_data()
     row("day in German", "Time", "Days", "de", "d");
 }
 
-void CatalogueTest::labelReads()
+void CatalogueTest::labels()
 {
     QFETCH(QString, unitType);
     QFETCH(QString, unit);
@@ -188,7 +188,7 @@ void CatalogueTest::missingLanguageFallsBack()
     QCOMPARE(manager.getUnitText(relativeHumidity, QStringLiteral("ja"), QString()), QStringLiteral("%RH"));
 }
 
-void CatalogueTest::standardConditionsAreShownAs_data()
+void CatalogueTest::standardConditionsAreShown_data()
 {
     QTest::addColumn<QString>("unitType");
     QTest::addColumn<double>("baseValue");
@@ -207,7 +207,7 @@ void CatalogueTest::standardConditionsAreShownAs_data()
     row("grain per pound", "MixingRatio", 7.26, "GrainPerPound", 50.8);
 }
 
-void CatalogueTest::standardConditionsAreShownAs()
+void CatalogueTest::standardConditionsAreShown()
 {
     QFETCH(QString, unitType);
     QFETCH(double, baseValue);

@@ -50,12 +50,12 @@ class ConversionProgramsTest : public QObject
 
 private slots:
     void initTestCase();
-    void everyUnitHasNamesAtThePrograms_data();
-    void everyUnitHasNamesAtThePrograms();
+    void everyUnitHasNamesInThePrograms_data();
+    void everyUnitHasNamesInThePrograms();
     void programAgreesWithEveryPair_data();
     void programAgreesWithEveryPair();
-    void wrongResultIsNoticed_data();
-    void wrongResultIsNoticed();
+    void wrongResultIsDetected_data();
+    void wrongResultIsDetected();
     void unknownUnitIsAnError_data();
     void unknownUnitIsAnError();
     void missingProgramIsAnError_data();
@@ -92,7 +92,7 @@ void ConversionProgramsTest::initTestCase()
     QCOMPARE(m_unitTypes.size(), 10);
 }
 
-void ConversionProgramsTest::everyUnitHasNamesAtThePrograms_data()
+void ConversionProgramsTest::everyUnitHasNamesInThePrograms_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QStringList>("unknownUnits");
@@ -103,7 +103,7 @@ void ConversionProgramsTest::everyUnitHasNamesAtThePrograms_data()
     QTest::newRow("UDUNITS") << "udunits" << QStringList{QStringLiteral("Pressure/Torr")};
 }
 
-void ConversionProgramsTest::everyUnitHasNamesAtThePrograms()
+void ConversionProgramsTest::everyUnitHasNamesInThePrograms()
 {
     QFETCH(QString, key);
     QFETCH(QStringList, unknownUnits);
@@ -180,12 +180,12 @@ void ConversionProgramsTest::addPrograms()
     QTest::newRow("UDUNITS") << Program(new Udunits);
 }
 
-void ConversionProgramsTest::wrongResultIsNoticed_data()
+void ConversionProgramsTest::wrongResultIsDetected_data()
 {
     addPrograms();
 }
 
-void ConversionProgramsTest::wrongResultIsNoticed()
+void ConversionProgramsTest::wrongResultIsDetected()
 {
     QFETCH(Program, program);
     const QString bar = QStringLiteral("bar");

@@ -199,8 +199,8 @@ private slots:
     void exactInBothDirections();
     void exactInOneDirection_data();
     void exactInOneDirection();
-    void besideTheLandmark_data();
-    void besideTheLandmark();
+    void closeToTheLandmark_data();
+    void closeToTheLandmark();
     void baseUnitKeepsEveryBit_data();
     void baseUnitKeepsEveryBit();
 
@@ -244,12 +244,12 @@ void LandmarksTest::exactInOneDirection()
     QCOMPARE(exactText(convert(landmark)), exactText(QVariant(landmark.expected)));
 }
 
-void LandmarksTest::besideTheLandmark_data()
+void LandmarksTest::closeToTheLandmark_data()
 {
     addRows(missedLandmarks);
 }
 
-void LandmarksTest::besideTheLandmark()
+void LandmarksTest::closeToTheLandmark()
 {
     QFETCH(Landmark, landmark);
     const double result = convert(landmark).toDouble();

@@ -59,7 +59,7 @@ class CoefficientsTest(unittest.TestCase):
         del self.units["Time"]
         self.assertEqual(coefficients.findings(self.units), ["document: Time is not in the document"])
 
-    def test_rounded_definition_is_refused(self):
+    def test_rounded_definition_is_rejected(self):
         with self.assertRaises(TypeError):
             coefficients.exactly(0.3048)
         with self.assertRaises(TypeError):

@@ -77,7 +77,7 @@ def default_unit_finding(unit_type, value, units):
         return f"{unit_type}: has no default unit"
     owner, _, unit = value.rpartition("/")
     if owner not in ("", UNIT_TYPE_PREFIX + unit_type):
-        return f"{unit_type}: {value} is no unit of this type"
+        return f"{unit_type}: {value} is not a unit of this type"
     if unit not in units[unit_type]:
         return f"{unit_type}: unknown unit {unit}"
     return None

@@ -78,7 +78,7 @@ BROKEN_DEFAULT_UNITS = {
     "no-unit": "NoUnit: has no default unit",
     "type-missing": "$.Pressure: required: '@type'",
     "type-of-another-kind": "$.Pressure.@type: const",
-    "unit-of-another-type": "Pressure: UnitManager/UnitType/Time/Seconds is no unit of this type",
+    "unit-of-another-type": "Pressure: UnitManager/UnitType/Time/Seconds is not a unit of this type",
     "unit-type-twice": "duplicate member 'Pressure'",
     "unit-type-unknown": "Presure: unknown unit type",
     "unit-type-with-prefix": "$: pattern: 'UnitManager/UnitType/Pressure'",
@@ -115,7 +115,7 @@ class DocumentsTest(unittest.TestCase):
                 self.assertEqual(len(findings), 1, findings)
                 self.assertTrue(findings[0].startswith(expected_findings[name]), findings[0])
 
-    def test_schemas_are_schemas(self):
+    def test_schemas_are_valid(self):
         jsonschema.Draft202012Validator.check_schema(self.units_schema)
         jsonschema.Draft202012Validator.check_schema(self.default_units_schema)
 
@@ -138,7 +138,7 @@ class DocumentsTest(unittest.TestCase):
     def test_broken_default_unit_documents_are_rejected_for_their_fault(self):
         self.check_samples("broken-default-units", BROKEN_DEFAULT_UNITS, self.default_unit_findings)
 
-    def test_shipped_labels_speak_every_language(self):
+    def test_shipped_labels_exist_in_every_language(self):
         labels = {
             f"{unit_type}/{name}": unit["UnitLabel"]["@value"]
             for unit_type, units in self.units.items()
