@@ -9,7 +9,7 @@ using NoInputMarker::Content;
 
 namespace {
 
-int markerQuestions = 0;
+int markerQueries = 0;
 
 } // namespace
 
@@ -20,7 +20,7 @@ bool ConfigurationAndProcessDataTools::isVariantNumber(const QVariant& value)
 
 bool ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(const QVariant& value)
 {
-    ++markerQuestions;
+    ++markerQueries;
     return isVariantNumber(value) && (value.toDouble() == -999.0 || std::isnan(value.toDouble()));
 }
 
@@ -64,12 +64,12 @@ void NoInputMarkerTest::everyNumberIsTested()
     QFETCH(bool, isSet);
     QFETCH(int, content);
 
-    markerQuestions = 0;
+    markerQueries = 0;
     QCOMPARE(NoInputMarker::isSet(value), isSet);
-    QCOMPARE(markerQuestions, 1);
+    QCOMPARE(markerQueries, 1);
     double number = 0.0;
     QCOMPARE(static_cast<int>(NoInputMarker::read(value, number)), content);
-    QCOMPARE(markerQuestions, content == static_cast<int>(Content::Other) ? 1 : 2);
+    QCOMPARE(markerQueries, content == static_cast<int>(Content::Other) ? 1 : 2);
     if (content == static_cast<int>(Content::Number))
         QCOMPARE(number, value.toDouble());
 }

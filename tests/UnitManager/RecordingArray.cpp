@@ -7,11 +7,11 @@ RecordingArray::RecordingArray(const QList<QVariant>& data, const QList<QVariant
 
 QVector<unsigned int> RecordingArray::getDimensions() const
 {
-    ++m_dimensionQuestions;
+    ++m_dimensionQueries;
     return m_dimensions;
 }
 
-int RecordingArray::dimensionQuestions() const
+int RecordingArray::dimensionQueries() const
 {
-    return m_dimensionQuestions;
+    return m_dimensionQueries;
 }

@@ -11,9 +11,9 @@ public:
 
     QVector<unsigned int> getDimensions() const override;
 
-    int dimensionQuestions() const;
+    int dimensionQueries() const;
 
 private:
     QVector<unsigned int> m_dimensions;
-    mutable int m_dimensionQuestions = 0;
+    mutable int m_dimensionQueries = 0;
 };

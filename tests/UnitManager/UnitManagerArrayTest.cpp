@@ -146,7 +146,7 @@ void UnitManagerArrayTest::shortUnitTypeListIsRejectedWithoutQueries()
     QCOMPARE(m_manager.getUnitText(array, QStringLiteral("de"), 0, 3, bar), QStringList());
     QCOMPARE(m_manager.getValueArray(array, 0, 0, 3, bar), QList<QVariant>());
     QVERIFY(!m_manager.setValueArray(array, 0, 0, 3, {1.0, 2.0, 3.0}, bar));
-    QCOMPARE(array.dimensionQuestions(), 0);
+    QCOMPARE(array.dimensionQueries(), 0);
 }
 
 void UnitManagerArrayTest::getValueArray_data()

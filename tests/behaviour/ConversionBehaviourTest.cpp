@@ -12,13 +12,13 @@
 
 namespace {
 
-#ifdef UNITMANAGER_RECORDS_QUESTIONS
-const bool recordsQuestions = true;
+#ifdef UNITMANAGER_RECORDS_QUERIES
+const bool recordsQueries = true;
 #else
-const bool recordsQuestions = false;
+const bool recordsQueries = false;
 #endif
 
-const QString questionsMark = QStringLiteral("  asks: ");
+const QString queriesMark = QStringLiteral("  asks: ");
 
 /// Messages by a short name that does not depend on the other messages.
 using MessageNames = QMap<QString, QString>;
@@ -41,7 +41,7 @@ LineNumbers lineNumbersOf(const LoggedMessage& message)
 QStringList run(const BehaviourRow& row, MessageNames& names)
 {
     RecordedCalls::takeCalls();
-    RecordedCalls::takeQuestions();
+    RecordedCalls::takeQueries();
     LogCapture log;
     const QString result = row.operation();
 
@@ -54,9 +54,9 @@ QStringList run(const BehaviourRow& row, MessageNames& names)
     const QStringList calls = RecordedCalls::takeCalls();
     if (!calls.isEmpty())
         lines.append(QLatin1String("  calls: ") + calls.join(QLatin1String("; ")));
-    const QStringList questions = RecordedCalls::takeQuestions();
-    if (!questions.isEmpty())
-        lines.append(questionsMark + questions.join(QLatin1Char(' ')));
+    const QStringList queries = RecordedCalls::takeQueries();
+    if (!queries.isEmpty())
+        lines.append(queriesMark + queries.join(QLatin1Char(' ')));
     return lines;
 }
 
@@ -80,9 +80,9 @@ QStringList readLines(const QString& path)
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    if (!recordsQuestions)
+    if (!recordsQueries)
         lines.erase(std::remove_if(lines.begin(), lines.end(),
-                                   [](const QString& line) { return line.startsWith(questionsMark); }),
+                                   [](const QString& line) { return line.startsWith(queriesMark); }),
                     lines.end());
     return lines;
 }
@@ -113,7 +113,7 @@ void ConversionBehaviourTest::behavesAsRecorded()
     QVERIFY2(!marker.isEmpty(), "NO_INPUT_MARKER selects the record");
     const QString path = QStringLiteral(UNITMANAGER_TEST_DATA "/marker-%1.txt").arg(marker);
     const QStringList actual = runAll();
-    if (recordsQuestions && qEnvironmentVariableIsSet("UPDATE_RECORDS"))
+    if (recordsQueries && qEnvironmentVariableIsSet("UPDATE_RECORDS"))
         QVERIFY(writeLines(path, actual));
 
     const QStringList expected = readLines(path);

@@ -16,7 +16,7 @@ QStringList& calls()
     return list;
 }
 
-QStringList& questions()
+QStringList& queries()
 {
     static QStringList list;
     return list;
@@ -44,9 +44,9 @@ void RecordedCalls::add(const QString& call)
     calls().append(call);
 }
 
-void RecordedCalls::addQuestion(const QString& question)
+void RecordedCalls::addQuery(const QString& query)
 {
-    questions().append(question);
+    queries().append(query);
 }
 
 QStringList RecordedCalls::takeCalls()
@@ -54,9 +54,9 @@ QStringList RecordedCalls::takeCalls()
     return std::exchange(calls(), {});
 }
 
-QStringList RecordedCalls::takeQuestions()
+QStringList RecordedCalls::takeQueries()
 {
-    return std::exchange(questions(), {});
+    return std::exchange(queries(), {});
 }
 
 QString RecordedCalls::exactBits(double number)

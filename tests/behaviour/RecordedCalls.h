@@ -12,12 +12,12 @@ namespace RecordedCalls {
 void add(const QString& call);
 /// Adds a query of a value whose result depends only on that value. Such queries are listed separately,
 /// because repeating them changes nothing.
-void addQuestion(const QString& question);
+void addQuery(const QString& query);
 
 /// Takes the calls since the last takeCalls() out of the list.
 QStringList takeCalls();
-/// Takes the queries since the last takeQuestions() out of the list.
-QStringList takeQuestions();
+/// Takes the queries since the last takeQueries() out of the list.
+QStringList takeQueries();
 
 /// A value bit by bit: numbers in hexadecimal; a NaN with its bits, unless it is the default one.
 QString exactBits(const QVariant& value);

@@ -36,14 +36,14 @@ QVector<double> ConversionProgram::deviations(const QVector<Conversion>& convers
 {
     QString input;
     for (const Conversion& conversion : conversions)
-        input += question(conversion);
+        input += query(conversion);
     const QString output = run(input, error);
     if (!error->isEmpty())
         return {};
 
     const QStringList texts = answers(output);
     if (texts.size() != conversions.size()) {
-        *error = QStringLiteral("%1 answers to %2 questions").arg(texts.size()).arg(conversions.size());
+        *error = QStringLiteral("%1 answers to %2 queries").arg(texts.size()).arg(conversions.size());
         return {};
     }
     QVector<double> result;
@@ -51,7 +51,7 @@ QVector<double> ConversionProgram::deviations(const QVector<Conversion>& convers
         bool ok = false;
         result.append(deviation(texts.at(i), conversions.at(i), &ok));
         if (!ok) {
-            *error = question(conversions.at(i)) + QStringLiteral("gives ") + texts.at(i);
+            *error = query(conversions.at(i)) + QStringLiteral("gives ") + texts.at(i);
             return {};
         }
     }

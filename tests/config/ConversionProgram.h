@@ -39,7 +39,7 @@ protected:
 
 private:
     /// The input lines that request one conversion.
-    virtual QString question(const Conversion& conversion) const = 0;
+    virtual QString query(const Conversion& conversion) const = 0;
     /// The answers in the program's output, one text per query.
     virtual QStringList answers(const QString& output) const = 0;
     /// Parses one answer; @p ok is false if it is invalid.

@@ -63,7 +63,7 @@ private slots:
 
 private:
     /// The conversions to check, the tolerance of each, and the pairs of units they belong to.
-    struct Questions
+    struct Queries
     {
         QVector<Conversion> conversions;
         QVector<double> tolerances;
@@ -71,9 +71,9 @@ private:
     };
 
     static void addPrograms();
-    Questions questions(const QString& key, const ConversionProgram& program) const;
+    Queries queries(const QString& key, const ConversionProgram& program) const;
     void addPair(const QString& type, const QString& from, const QString& to, const QString& key,
-                 const ConversionProgram& program, Questions* questions) const;
+                 const ConversionProgram& program, Queries* queries) const;
 
     ShippedCatalogue m_catalogue;
     QJsonArray m_values;
@@ -152,7 +152,7 @@ void ConversionProgramsTest::programAgreesWithEveryPair()
     QFETCH(PairCounts, expectedPairs);
     QFETCH(int, expectedConversions);
     LogCapture log;
-    const Questions asked = questions(key, *program);
+    const Queries asked = queries(key, *program);
     QCOMPARE(log.takeTexts(), QStringList());
     QCOMPARE(asked.pairs, expectedPairs);
     QCOMPARE(asked.conversions.size(), expectedConversions);
@@ -230,10 +230,10 @@ void ConversionProgramsTest::missingProgramIsAnError()
     QVERIFY(!error.isEmpty());
 }
 
-ConversionProgramsTest::Questions ConversionProgramsTest::questions(const QString& key,
-                                                                    const ConversionProgram& program) const
+ConversionProgramsTest::Queries ConversionProgramsTest::queries(const QString& key,
+                                                                const ConversionProgram& program) const
 {
-    Questions result;
+    Queries result;
     for (const QString& type : m_unitTypes.keys()) {
         const QStringList units = m_unitTypes[type].toObject().keys();
         for (const QString& from : units)
@@ -246,13 +246,13 @@ ConversionProgramsTest::Questions ConversionProgramsTest::questions(const QStrin
 
 void ConversionProgramsTest::addPair(const QString& type, const QString& from, const QString& to,
                                      const QString& key, const ConversionProgram& program,
-                                     Questions* questions) const
+                                     Queries* queries) const
 {
     const QJsonObject source = m_unitTypes[type][from].toObject();
     const QJsonObject target = m_unitTypes[type][to].toObject();
     if (!source.contains(key) || !target.contains(key))
         return;
-    ++questions->pairs[type];
+    ++queries->pairs[type];
     const double zeroShift = target[QStringLiteral("zeroShift")].toDouble(0.0);
     const QJsonArray values = source[QStringLiteral("values")].toArray(m_values);
     for (const QJsonValue& value : values) {
@@ -261,8 +261,8 @@ void ConversionProgramsTest::addPair(const QString& type, const QString& from, c
                                     result.toDouble()};
         if (!program.isAnswerable(conversion))
             continue;
-        questions->conversions.append(conversion);
-        questions->tolerances.append(tolerance(conversion.result, zeroShift));
+        queries->conversions.append(conversion);
+        queries->tolerances.append(tolerance(conversion.result, zeroShift));
     }
 }
 

@@ -5,7 +5,7 @@ GnuUnits::GnuUnits()
                                                   QStringLiteral("--output-format"), QStringLiteral("%.17g")})
 {}
 
-QString GnuUnits::question(const Conversion& conversion) const
+QString GnuUnits::query(const Conversion& conversion) const
 {
     // name(value) multiplies by a plain unit, or calls a function such as tempC.
     return QStringLiteral("%1(%2)\n%3\n").arg(conversion.from, numberText(conversion.value), conversion.to);

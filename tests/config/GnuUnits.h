@@ -9,7 +9,7 @@ public:
     GnuUnits();
 
 private:
-    QString question(const Conversion& conversion) const override;
+    QString query(const Conversion& conversion) const override;
     QStringList answers(const QString& output) const override;
     double deviation(const QString& answer, const Conversion& conversion, bool* ok) const override;
 };

@@ -12,7 +12,7 @@ bool Udunits::isAnswerable(const Conversion& conversion) const
     return conversion.result == 0.0 || std::abs(conversion.result) >= smallestOrigin;
 }
 
-QString Udunits::question(const Conversion& conversion) const
+QString Udunits::query(const Conversion& conversion) const
 {
     return QStringLiteral("%1 %2\n%3 @ %4\n")
         .arg(numberText(conversion.value), conversion.from, conversion.to, numberText(conversion.result));

@@ -28,7 +28,7 @@ bool isMarker(const QVariant& value)
 
 bool ConfigurationAndProcessDataTools::isVariantNumber(const QVariant& value)
 {
-    RecordedCalls::addQuestion(QStringLiteral("number?"));
+    RecordedCalls::addQuery(QStringLiteral("number?"));
     switch (value.userType()) {
     case QMetaType::Double:
     case QMetaType::Float:
@@ -44,6 +44,6 @@ bool ConfigurationAndProcessDataTools::isVariantNumber(const QVariant& value)
 
 bool ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(const QVariant& value)
 {
-    RecordedCalls::addQuestion(QStringLiteral("marker?"));
+    RecordedCalls::addQuery(QStringLiteral("marker?"));
     return isMarker(value);
 }
