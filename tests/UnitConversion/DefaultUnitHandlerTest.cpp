@@ -1,3 +1,5 @@
+#include "UnitConversion/DefaultUnitHandler.h"
+
 #include <QtTest/QTest>
 
 #include <type_traits>
@@ -7,7 +9,6 @@
 #include "Row.h"
 #include "SourceMessages.h"
 #include "TextFolder.h"
-#include "UnitConversion/DefaultUnitHandler.h"
 #include "UnitManagerDefinitions.h"
 
 namespace {

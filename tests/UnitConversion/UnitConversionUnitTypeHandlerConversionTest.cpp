@@ -1,3 +1,5 @@
+#include "UnitConversion/UnitConversionUnitTypeHandler.h"
+
 #include <QtTest/QTest>
 
 #include <limits>
@@ -8,7 +10,6 @@
 #include "MessageText.h"
 #include "RecordingNode.h"
 #include "Row.h"
-#include "UnitConversion/UnitConversionUnitTypeHandler.h"
 
 namespace {
 

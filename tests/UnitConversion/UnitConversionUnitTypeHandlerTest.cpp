@@ -1,3 +1,5 @@
+#include "UnitConversion/UnitConversionUnitTypeHandler.h"
+
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 
@@ -11,7 +13,6 @@
 #include "MessageText.h"
 #include "RecordingNode.h"
 #include "Row.h"
-#include "UnitConversion/UnitConversionUnitTypeHandler.h"
 
 namespace {
 

@@ -1,3 +1,5 @@
+#include "UnitConversion/ValueConversionWrapper.h"
+
 #include <QtTest/QTest>
 
 #include <memory>
@@ -8,7 +10,6 @@
 #include "MessageText.h"
 #include "RecordingNode.h"
 #include "Row.h"
-#include "UnitConversion/ValueConversionWrapper.h"
 #include "UnitConversion/ValueConverterFactory.h"
 
 namespace {

@@ -1,3 +1,5 @@
+#include "UnitConversion/ValueConverterBase.h"
+
 #include <QtTest/QTest>
 
 #include <limits>
@@ -6,7 +8,6 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "TableText.h"
-#include "UnitConversion/ValueConverterBase.h"
 #include "VirtualSlot.h"
 
 namespace {

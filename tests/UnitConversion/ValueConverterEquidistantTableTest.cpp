@@ -1,3 +1,5 @@
+#include "UnitConversion/ValueConverterEquidistantTable.h"
+
 #include <QtTest/QTest>
 
 #include <limits>
@@ -6,7 +8,6 @@
 #include "RecordingNode.h"
 #include "Row.h"
 #include "TableText.h"
-#include "UnitConversion/ValueConverterEquidistantTable.h"
 #include "VirtualSlot.h"
 
 namespace {

@@ -1,3 +1,5 @@
+#include "UnitConversion/ValueConverterPolynomial.h"
+
 #include <QtTest/QTest>
 
 #include <limits>
@@ -7,7 +9,6 @@
 #include "LogCapture.h"
 #include "RecordingNode.h"
 #include "Row.h"
-#include "UnitConversion/ValueConverterPolynomial.h"
 #include "VirtualSlot.h"
 
 namespace {

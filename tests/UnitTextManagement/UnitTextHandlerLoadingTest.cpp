@@ -1,3 +1,5 @@
+#include "UnitTextManagement/UnitTextHandler.h"
+
 #include <QtTest/QTest>
 
 #include <type_traits>
@@ -8,7 +10,6 @@
 #include "Row.h"
 #include "SourceMessages.h"
 #include "TextFolder.h"
-#include "UnitTextManagement/UnitTextHandler.h"
 
 namespace {
 

@@ -1,3 +1,5 @@
+#include "UnitTextManagement/UnitTextHandler.h"
+
 #include <QtTest/QTest>
 
 #include <type_traits>
@@ -10,7 +12,6 @@
 #include "RecordingNode.h"
 #include "Row.h"
 #include "TextDocument.h"
-#include "UnitTextManagement/UnitTextHandler.h"
 
 using namespace TextDocument;
 

@@ -1,8 +1,9 @@
+#include "BehaviourTable.h"
+
 #include <vector>
 
 #include "Array2dDataTypeWrapper.h"
 #include "BehaviourDocuments.h"
-#include "BehaviourTable.h"
 #include "RecordedCalls.h"
 #include "UnitConversion/ValueConverterArbitraryTable.h"
 

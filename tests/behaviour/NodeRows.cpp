@@ -1,5 +1,6 @@
-#include "BehaviourDocuments.h"
 #include "BehaviourTable.h"
+
+#include "BehaviourDocuments.h"
 #include "ConfigurationAndProcessDataBase.h"
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ProcessDataValue.h"

@@ -1,5 +1,6 @@
-#include "BehaviourDocuments.h"
 #include "BehaviourTable.h"
+
+#include "BehaviourDocuments.h"
 #include "ConfigurationAndProcessDataParser.h"
 #include "PropertyManagerConst.h"
 #include "RecordedCalls.h"
