@@ -256,6 +256,7 @@ void FactoryTest::destructionDestroysEveryCreator()
     QCOMPARE(destroyed, 2);
 }
 
+// The registry is a public member: programs compiled with this header access it directly.
 void FactoryTest::startsWithStandardMap()
 {
     const ProbeFactory factory;
@@ -264,6 +265,7 @@ void FactoryTest::startsWithStandardMap()
     QCOMPARE(factory.creators.max_load_factor(), 1.0F);
 }
 
+// Device programs call through the virtual table.
 void FactoryTest::createPrecedesTheDestructor()
 {
     QCOMPARE(virtualSlot(&ProbeFactory::AbstractCreator::create), std::size_t(0));
@@ -290,6 +292,7 @@ void FactoryTest::hashIsNotSeeded_data()
     row("two characters", "ab", std::size_t(97 * 31 + 98));
 }
 
+// Programs compiled with this header look up keys in the same map: every process needs the same hash.
 void FactoryTest::hashIsNotSeeded()
 {
     QFETCH(QString, key);

@@ -159,6 +159,7 @@ void UnitConversionUnitTypeHandlerTest::typeIsComparedAsVariant()
     QCOMPARE(Handler(typeOfUnitWith(typeKey, QVariant()), name).getUnitList(), QList<QString>());
 }
 
+// Calls and their order are visible to the node classes of other libraries.
 void UnitConversionUnitTypeHandlerTest::readsNothingButWhatItNeeds()
 {
     const auto calls = RecordingNode::Calls::create();

@@ -19,7 +19,7 @@ static_assert(std::is_copy_constructible_v<ValueConversionWrapper> &&
               std::is_copy_assignable_v<ValueConversionWrapper>);
 static_assert(std::is_convertible_v<const ValueConversionWrapper&, bool>);
 static_assert(std::is_convertible_v<BaseClassSharedPointer, ValueConversionWrapper>);
-// The virtual table pointer and the shared pointer, nothing else.
+// Device programs hold handles by value: the virtual table pointer and the shared pointer, nothing else.
 static_assert(sizeof(ValueConversionWrapper) == sizeof(void*) + sizeof(QSharedPointer<ValueConverterBase>));
 
 const QString linear =
@@ -212,6 +212,7 @@ void ValueConversionWrapperTest::probesInOrderAndStopsAtTheFirst_data()
     row("equidistant table", R"({"EquidistantTable": {}})", all);
 }
 
+// Calls and their order are visible to the node classes of other libraries.
 void ValueConversionWrapperTest::probesInOrderAndStopsAtTheFirst()
 {
     QFETCH(QString, json);
@@ -223,6 +224,7 @@ void ValueConversionWrapperTest::probesInOrderAndStopsAtTheFirst()
     QTEST(*calls, "expected");
 }
 
+// Calls and their order are visible to the node classes of other libraries.
 void ValueConversionWrapperTest::converterReadsTheUnitsNode()
 {
     const auto calls = RecordingNode::Calls::create();

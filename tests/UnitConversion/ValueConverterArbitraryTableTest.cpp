@@ -20,7 +20,7 @@ static_assert(
     std::is_same_v<decltype(&ValueConverterArbitraryTable::resetTable),
                    bool (ValueConverterArbitraryTable::*)(const QList<QVariant>&, const QList<QVariant>&)>);
 
-/// Gives access to the state of the converter.
+/// Gives access to the state of the converter, which is part of the interface for derived classes.
 class Converter : public ValueConverterArbitraryTable
 {
 public:
@@ -37,7 +37,7 @@ QStringList state(const Table& table, const Table& inverseTable)
     return tableTexts(table) + tableTexts(inverseTable);
 }
 
-QVariant row(double x, double y)
+QVariant tableRow(double x, double y)
 {
     return QVariantList{x, y};
 }
@@ -93,6 +93,7 @@ void ValueConverterArbitraryTableTest::readsConfiguration()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
+// Calls and their order are visible to the node classes of other libraries.
 void ValueConverterArbitraryTableTest::readsItsTablesInOrderAndNothingElse()
 {
     const auto calls = RecordingNode::Calls::create();
@@ -134,7 +135,7 @@ void ValueConverterArbitraryTableTest::returnsTheArgument()
 void ValueConverterArbitraryTableTest::resetWithoutForwardRowsKeepsTheInverse()
 {
     Converter converter(bothTables);
-    QVERIFY(!converter.resetTable({}, {row(7, 7)}));
+    QVERIFY(!converter.resetTable({}, {tableRow(7, 7)}));
     QCOMPARE(converter.state(), state(forward, inverse));
     QVERIFY(!converter.resetTable({}, {}));
     QCOMPARE(converter.state(), state(forward, inverse));
@@ -143,7 +144,7 @@ void ValueConverterArbitraryTableTest::resetWithoutForwardRowsKeepsTheInverse()
 void ValueConverterArbitraryTableTest::resetAppendsRows()
 {
     Converter converter(bothTables);
-    QVERIFY(converter.resetTable({row(1, 2)}, {row(3, 4)}));
+    QVERIFY(converter.resetTable({tableRow(1, 2)}, {tableRow(3, 4)}));
     QCOMPARE(converter.state(), state({{{0, 0}, {10, 100}, {1, 2}}, {1, 2}, {1, 2}},
                                       {{{100, 10}, {0, 0}, {3, 4}}, {3, 4}, {3, 4}}));
 }
@@ -151,11 +152,12 @@ void ValueConverterArbitraryTableTest::resetAppendsRows()
 void ValueConverterArbitraryTableTest::resetWithoutInverseRemovesItsRowsOnly()
 {
     Converter converter(bothTables);
-    QVERIFY(converter.resetTable({row(1, 2)}, {}));
+    QVERIFY(converter.resetTable({tableRow(1, 2)}, {}));
     QCOMPARE(converter.state(),
              state({{{0, 0}, {10, 100}, {1, 2}}, {1, 2}, {1, 2}}, {{}, {100, 10}, {0, 0}}));
 }
 
+// Device programs call through the virtual table.
 void ValueConverterArbitraryTableTest::keepsTheSlotsOfTheBase()
 {
     QCOMPARE(virtualSlot(&ValueConverterArbitraryTable::convertValue), std::size_t(2));

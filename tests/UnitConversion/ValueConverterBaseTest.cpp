@@ -62,6 +62,7 @@ private slots:
     void leavesTheTableAloneWithoutRows();
 };
 
+// Device programs call through the virtual table.
 void ValueConverterBaseTest::virtualFunctionsFollowTheDestructor()
 {
     QCOMPARE(virtualSlot(&ValueConverterBase::convertValue), std::size_t(2));

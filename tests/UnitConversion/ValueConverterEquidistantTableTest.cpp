@@ -23,7 +23,7 @@ constexpr bool (Base::*resetWithoutLimits)(const List&, const double&, const Lis
 static_assert(std::is_base_of_v<ValueConverterBase, Base>);
 static_assert(std::is_convertible_v<BaseClassSharedPointer, ValueConverterEquidistantTable>);
 
-/// Gives access to the state of the converter.
+/// Gives access to the state of the converter, which is part of the interface for derived classes.
 class Converter : public ValueConverterEquidistantTable
 {
 public:
@@ -145,6 +145,7 @@ void ValueConverterEquidistantTableTest::readsLimitsOnlyAfterTheMinimum_data()
     row("smallest ordinate is a text", R"({"OrdinateMin": "abc"})", true);
 }
 
+// Calls and their order are visible to the node classes of other libraries.
 void ValueConverterEquidistantTableTest::readsLimitsOnlyAfterTheMinimum()
 {
     QFETCH(QString, json);
@@ -231,6 +232,7 @@ void ValueConverterEquidistantTableTest::resetWithLimitsSwapsThoseOfBothTables()
              state({{{0, 4}, {0, 5}, {0, 14}}, {-10, 14}, {10, 14}}, 2, {{}, {-20, 6}, {20, 6}}, 0));
 }
 
+// Device programs call through the virtual table.
 void ValueConverterEquidistantTableTest::keepsTheSlotsOfTheBase()
 {
     QCOMPARE(virtualSlot(&ValueConverterEquidistantTable::convertValue), std::size_t(2));

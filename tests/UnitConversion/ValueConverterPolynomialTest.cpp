@@ -26,7 +26,7 @@ static_assert(
     std::is_same_v<decltype(&ValueConverterPolynomial::resetPolynom),
                    bool (ValueConverterPolynomial::*)(const QList<QVariant>&, const QList<QVariant>&)>);
 
-/// Gives access to the state of the converter.
+/// Gives access to the state of the converter, which is part of the interface for derived classes.
 class Converter : public ValueConverterPolynomial
 {
 public:
@@ -166,6 +166,7 @@ void ValueConverterPolynomialTest::readsDecimalPlaces()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
+// Calls and their order are visible to the node classes of other libraries.
 void ValueConverterPolynomialTest::readsItsKeysInOrderAndNothingElse()
 {
     const auto calls = RecordingNode::Calls::create();
@@ -292,6 +293,7 @@ void ValueConverterPolynomialTest::inverseIsClearedForAnEmptyListOnly()
     QCOMPARE(converter.inversePolynomialDegree, 0);
 }
 
+// Device programs call through the virtual table.
 void ValueConverterPolynomialTest::keepsTheSlotsOfTheBase()
 {
     QCOMPARE(virtualSlot(&ValueConverterPolynomial::convertValue), std::size_t(2));

@@ -255,7 +255,8 @@ void UnitManagerConversionTest::everyTypeOfNumber_data()
     row("double", QVariant(2.5), "double 2500", toDebugText(2.5 * 0.001));
     row("double that is null", QVariant(QVariant::Double), "double 0", "double 0");
     row("negative zero", QVariant(-0.0), toDebugText(-0.0 + 0.0), toDebugText(-0.0 + 0.0));
-    row("infinity, which Horner's scheme multiplies by zero", QVariant(-infinity), "double nan", "double nan");
+    row("infinity, which Horner's scheme multiplies by zero", QVariant(-infinity), "double nan",
+        "double nan");
     row("float", QVariant(2.5F), "double 2500", toDebugText(2.5 * 0.001));
     row("float marker", QVariant(std::numeric_limits<float>::quiet_NaN()), "float nan", "float nan");
     row("int", QVariant(-2), "double -2000", toDebugText(-2 * 0.001));
@@ -299,8 +300,8 @@ void UnitManagerConversionTest::namesWithSeparators_data()
         toDebugText(1.23456), none);
     row("one at the end is a fixed unit", parent + "/", toDebugText(1.23456), toDebugText(1.23456),
         toDebugText(1.23456), none);
-    row("two are not a fixed unit", parent + "/Low/Er", toDebugText(1.23456 * 1000.0),
-        toDebugText(1234.6), toDebugText(1.23456 * 0.001), none);
+    row("two are not a fixed unit", parent + "/Low/Er", toDebugText(1.23456 * 1000.0), toDebugText(1234.6),
+        toDebugText(1.23456 * 0.001), none);
 }
 
 void UnitManagerConversionTest::namesWithSeparators()

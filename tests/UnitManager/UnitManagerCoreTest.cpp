@@ -19,7 +19,7 @@ static_assert(std::is_convertible_v<DefaultUnitHandler, bool>);
 static_assert(std::is_convertible_v<UnitTextHandler, bool>);
 static_assert(sizeof(UnitManagerCore) == sizeof(void*) + sizeof(UnitConversionLookUp) +
                                              sizeof(DefaultUnitHandler) + sizeof(UnitTextHandler),
-              "three members by value");
+              "programs hold it by value: three members");
 
 /// Fixed units, unit types of nodes, decimal places and the catalogue. Loading, conversions and labels have
 /// separate tests.
@@ -177,6 +177,7 @@ void UnitManagerCoreTest::unitTypeOfNode_data()
     row("no property", QVariant(), false, "old type", queried);
 }
 
+// Calls and their order are visible to the node classes of other libraries.
 void UnitManagerCoreTest::unitTypeOfNode()
 {
     QFETCH(QVariant, property);

@@ -87,6 +87,7 @@ void UnitManagerNodeAccessTest::getValue_data()
         QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)});
 }
 
+// Calls and their order are visible to the node classes of other libraries.
 void UnitManagerNodeAccessTest::getValue()
 {
     QFETCH(Node, node);
@@ -174,6 +175,7 @@ void UnitManagerNodeAccessTest::setValue_data()
         QStringList{written}, none);
 }
 
+// Calls and their order are visible to the node classes of other libraries.
 void UnitManagerNodeAccessTest::setValue()
 {
     QFETCH(Node, node);

@@ -15,7 +15,8 @@
 static_assert(std::has_virtual_destructor_v<UnitManager>);
 static_assert(std::is_copy_constructible_v<UnitManager> && std::is_copy_assignable_v<UnitManager>);
 static_assert(std::is_convertible_v<UnitManager, bool>);
-static_assert(sizeof(UnitManager) == sizeof(void*) + sizeof(UnitManagerCore), "one member by value");
+static_assert(sizeof(UnitManager) == sizeof(void*) + sizeof(UnitManagerCore),
+              "programs hold it by value: one member");
 
 /// Loading, calls forwarded to the core, and copies. Conversions, node and array access have separate tests.
 class UnitManagerTest : public QObject
