@@ -6,9 +6,9 @@
 
 #include <utility>
 
-namespace {
+#include "WaitLimit.h"
 
-constexpr int runLimitMilliseconds = 60000;
+namespace {
 
 /// Prevents a locale or a personal units file from changing the programs' results.
 QProcessEnvironment plainEnvironment()
@@ -70,7 +70,7 @@ QString ConversionProgram::run(const QString& input, QString* error) const
     process.start(m_command, m_arguments);
     process.write(input.toUtf8());
     process.closeWriteChannel();
-    if (!process.waitForFinished(runLimitMilliseconds)) {
+    if (!process.waitForFinished(waitLimit)) {
         *error = m_command + QStringLiteral(": ") + process.errorString();
         return {};
     }
