@@ -4,10 +4,10 @@
 
 #include <limits>
 
+#include "Array2dDataTypeWrapper.h"
 #include "DebugText.h"
 #include "ExpectedMessages.h"
 #include "LogCapture.h"
-#include "RecordingArray.h"
 #include "Row.h"
 #include "TestDocuments.h"
 
@@ -47,6 +47,31 @@ using Expected::Conversion;
 using TestValue::marker;
 
 const unsigned int last = std::numeric_limits<unsigned int>::max();
+
+/// An array with given dimensions, regardless of its data, that counts the queries for them.
+class RecordingArray : public Array2dDataTypeWrapper
+{
+public:
+    RecordingArray(const QList<QVariant>& data, const QList<QVariant>& unitTypes,
+                   const QVector<unsigned int>& dimensions)
+        : Array2dDataTypeWrapper(data, unitTypes), m_dimensions(dimensions)
+    {}
+
+    QVector<unsigned int> getDimensions() const override
+    {
+        ++m_dimensionQueries;
+        return m_dimensions;
+    }
+
+    int dimensionQueries() const
+    {
+        return m_dimensionQueries;
+    }
+
+private:
+    QVector<unsigned int> m_dimensions;
+    mutable int m_dimensionQueries = 0;
+};
 
 /// Unit types of the five columns: pressure, none, temperature, a fixed unit, an unknown one.
 QList<QVariant> columnUnitTypes()
