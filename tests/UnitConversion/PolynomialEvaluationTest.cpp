@@ -50,19 +50,11 @@ Numbers expectedValues(const Numbers& coefficients, const Numbers& values)
 Numbers samples(std::size_t count)
 {
     const double infinity = std::numeric_limits<double>::infinity();
-    const Numbers kinds = {1.01325,
-                           -0.0,
-                           infinity,
-                           5e-324,
-                           doubleFromBits(0x7FF8000000000ABCU),
-                           -273.15,
-                           1e308,
-                           0.1,
-                           doubleFromBits(0xFFF0000000000001U),
-                           -infinity,
-                           1.0 / 3.0,
-                           0.0,
-                           -2.5e-300};
+    const double quietNan = doubleFromBits(0x7FF8000000000ABCU);
+    const double negativeSignallingNan = doubleFromBits(0xFFF0000000000001U);
+    const Numbers kinds = {
+        1.01325,   -0.0,      infinity, 5e-324,   quietNan, -273.15, 1e308, 0.1, negativeSignallingNan,
+        -infinity, 1.0 / 3.0, 0.0,      -2.5e-300};
     Numbers values;
     for (std::size_t index = 0; index < count; ++index) {
         const double kind = kinds[index % kinds.size()];

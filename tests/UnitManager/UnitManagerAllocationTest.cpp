@@ -117,10 +117,8 @@ void UnitManagerAllocationTest::conversionAllocatesNothing()
     QCOMPARE(count(&UnitManager::toBaseUnit), 0);
     QCOMPARE(count(&UnitManager::fromBaseUnit), 0);
     QTEST(result.toDouble(), "fromBase");
-    using RawConversion =
-        QVariant (UnitManager::*)(const QVariant& value, const QString& unitType, const QString& unit) const;
-    QCOMPARE(count(static_cast<RawConversion>(&UnitManager::toBaseUnitRaw)), 0);
-    QCOMPARE(count(static_cast<RawConversion>(&UnitManager::fromBaseUnitRaw)), 0);
+    QCOMPARE(count(&UnitManager::toBaseUnitRaw), 0);
+    QCOMPARE(count(&UnitManager::fromBaseUnitRaw), 0);
 }
 
 void UnitManagerAllocationTest::repeatedConversionAllocatesNothing()

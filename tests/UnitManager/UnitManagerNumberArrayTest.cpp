@@ -170,13 +170,13 @@ void UnitManagerNumberArrayTest::emptyArray()
 
 void UnitManagerNumberArrayTest::markerKeepsItsBits()
 {
-    const quint64 withPayload = 0x7ff8000000000abcU;
-    const double value = doubleFromBits(withPayload);
+    const quint64 nanWithPayload = 0x7ff8000000000abcU;
+    const double value = doubleFromBits(nanWithPayload);
     double result = 0.0;
     m_manager.fromBaseUnitArray(&value, &result, 1, T::pressure, QStringLiteral("HectoPascal"));
-    QCOMPARE(bits({result}), std::vector<quint64>{withPayload});
+    QCOMPARE(bits({result}), std::vector<quint64>{nanWithPayload});
     m_manager.toBaseUnitArray(&value, &result, 1, T::pressure, QStringLiteral("HectoPascal"));
-    QCOMPARE(bits({result}), std::vector<quint64>{withPayload});
+    QCOMPARE(bits({result}), std::vector<quint64>{nanWithPayload});
 }
 
 void UnitManagerNumberArrayTest::conversionIsLikeSingleConversions_data()

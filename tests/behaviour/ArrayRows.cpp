@@ -1,5 +1,6 @@
 #include "BehaviourTable.h"
 
+#include <limits>
 #include <vector>
 
 #include "Array2dDataTypeWrapper.h"
@@ -47,8 +48,9 @@ struct Range
 
 QList<Range> ranges()
 {
-    return {{0, 0, 7}, {1, 0, 7}, {0, 1, 2}, {1, 6, 1},           {0, 3, 0},          {0, 7, 0},
-            {0, 0, 8}, {2, 0, 1}, {0, 8, 0}, {0, 0xFFFFFFFFU, 1}, {0, 2, 0xFFFFFFFFU}};
+    const unsigned int largest = std::numeric_limits<unsigned int>::max();
+    return {{0, 0, 7}, {1, 0, 7}, {0, 1, 2}, {1, 6, 1},       {0, 3, 0},      {0, 7, 0},
+            {0, 0, 8}, {2, 0, 1}, {0, 8, 0}, {0, largest, 1}, {0, 2, largest}};
 }
 
 QList<QVariant> columnTypes()

@@ -22,11 +22,11 @@ struct NamedOperation
 
 QList<NamedOperation> facadeOperations()
 {
-    return {{QStringLiteral("fromBaseUnit"), static_cast<FacadeOperation>(&UnitManager::fromBaseUnit)},
-            {QStringLiteral("toBaseUnit"), static_cast<FacadeOperation>(&UnitManager::toBaseUnit)},
-            {QStringLiteral("fromBaseUnitRaw"), static_cast<FacadeOperation>(&UnitManager::fromBaseUnitRaw)},
-            {QStringLiteral("toBaseUnitRaw"), static_cast<FacadeOperation>(&UnitManager::toBaseUnitRaw)},
-            {QStringLiteral("getValue"), static_cast<FacadeOperation>(&UnitManager::getValue)}};
+    return {{QStringLiteral("fromBaseUnit"), &UnitManager::fromBaseUnit},
+            {QStringLiteral("toBaseUnit"), &UnitManager::toBaseUnit},
+            {QStringLiteral("fromBaseUnitRaw"), &UnitManager::fromBaseUnitRaw},
+            {QStringLiteral("toBaseUnitRaw"), &UnitManager::toBaseUnitRaw},
+            {QStringLiteral("getValue"), &UnitManager::getValue}};
 }
 
 QString rowName(const QString& operation, const QString& manager, const UnitNames& names,
