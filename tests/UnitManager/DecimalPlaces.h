@@ -14,7 +14,7 @@ void checkDecimalPlaces(const Manager& manager)
 {
     QFETCH(QString, unitType);
     QFETCH(QString, unit);
-    unsigned int places = 77;
+    unsigned int places = 77; // stays unchanged when the unit is not found
     LogCapture log;
 
     QTEST(manager.getDecimalPlacesForUnit(unitType, unit, places), "found");

@@ -132,7 +132,7 @@ QString Expected::notRounded(const QString& streamedValue)
         QStringLiteral("Error on converting value to double ") + streamedValue + QStringLiteral(" !"));
 }
 
-QString Expected::noFixedUnit(const QString& text)
+QString Expected::notAFixedUnit(const QString& text)
 {
     return warning("UnitManagerCore", anyLine,
                    "bool UnitManagerCore::extractUnitTypeAndUnit(const QString&, QString&, QString&) const",

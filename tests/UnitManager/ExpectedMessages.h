@@ -28,7 +28,7 @@ QString unknownUnit(Conversion conversion, const QString& unit, const QString& u
 QStringList notConverted(Conversion conversion, const QString& typeName, const QString& unit,
                          const QString& unitTypeKey);
 QString notRounded(const QString& streamedValue);
-QString noFixedUnit(const QString& text);
+QString notAFixedUnit(const QString& text);
 QString unknownTextType(const QString& unitType);
 QString unknownTextUnit(const QString& unit, const QString& unitType);
 QString unknownTextMapType(const QString& unitType);

@@ -136,7 +136,7 @@ void UnitManagerCoreTest::otherTextsAreNotSplit()
     QVERIFY(!m_core.extractUnitTypeAndUnit(text, unitType, unit));
     QCOMPARE(unitType, QStringLiteral("old type"));
     QCOMPARE(unit, QStringLiteral("old unit"));
-    QCOMPARE(takeMessageTexts(log), QStringList{Expected::noFixedUnit(text)});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::notAFixedUnit(text)});
 }
 
 void UnitManagerCoreTest::splittingMayOverwriteItsInput()

@@ -244,7 +244,7 @@ void UnitManagerTest::fixedUnitsAreForwarded()
     QVERIFY(manager.isFixedUnitType(QStringLiteral("///")));
     QVERIFY(!manager.isFixedUnitType(T::pressure));
     QVERIFY(!manager.extractUnitTypeAndUnit(T::pressure, unitType, unit));
-    QCOMPARE(takeMessageTexts(log), QStringList{Expected::noFixedUnit(T::pressure)});
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::notAFixedUnit(T::pressure)});
     QVERIFY(manager.extractUnitTypeAndUnit(T::pressure + "/Bar", unitType, unit));
     QCOMPARE(unitType, T::pressure);
     QCOMPARE(unit, QStringLiteral("Bar"));

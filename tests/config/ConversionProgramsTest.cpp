@@ -152,18 +152,18 @@ void ConversionProgramsTest::programAgreesWithEveryPair()
     QFETCH(PairCounts, expectedPairs);
     QFETCH(int, expectedConversions);
     LogCapture log;
-    const Queries asked = queries(key, *program);
+    const Queries all = queries(key, *program);
     QCOMPARE(log.takeTexts(), QStringList());
-    QCOMPARE(asked.pairs, expectedPairs);
-    QCOMPARE(asked.conversions.size(), expectedConversions);
+    QCOMPARE(all.pairs, expectedPairs);
+    QCOMPARE(all.conversions.size(), expectedConversions);
 
     QString error;
-    const QVector<double> deviations = program->deviations(asked.conversions, &error);
+    const QVector<double> deviations = program->deviations(all.conversions, &error);
     QVERIFY2(error.isEmpty(), qPrintable(error));
     QCOMPARE(deviations.size(), expectedConversions);
     for (int i = 0; i < deviations.size(); ++i) {
-        const Conversion& conversion = asked.conversions.at(i);
-        QVERIFY2(std::abs(deviations.at(i)) <= asked.tolerances.at(i),
+        const Conversion& conversion = all.conversions.at(i);
+        QVERIFY2(std::abs(deviations.at(i)) <= all.tolerances.at(i),
                  qPrintable(QStringLiteral("%1 %2 is not %3 %4: off by %5")
                                 .arg(conversion.value)
                                 .arg(conversion.from)

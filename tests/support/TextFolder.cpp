@@ -8,7 +8,7 @@ QString TextFolder::write(const QString& name, const QString& text) const
         return path(name);
     QFile file(path(name));
     const QByteArray bytes = text.toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
         qFatal("cannot write %s", qPrintable(file.fileName()));
     return file.fileName();
 }
