@@ -14,14 +14,13 @@ include(CMakePackageConfigHelpers)
 function(unitmanager_add_library target)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "" "NAMESPACE;EXPORT_NAME;EXPORT_HEADER;INCLUDE_DESTINATION"
                           "SOURCES;HEADERS;PUBLIC;PRIVATE")
-    add_library(${target} SHARED ${ARG_SOURCES} ${ARG_HEADERS})
+    add_library(${target} SHARED ${ARG_SOURCES})
     add_library(${ARG_NAMESPACE}::${ARG_EXPORT_NAME} ALIAS ${target})
     generate_export_header(${target} BASE_NAME ${ARG_EXPORT_NAME}
         EXPORT_FILE_NAME ${CMAKE_CURRENT_BINARY_DIR}/${ARG_EXPORT_HEADER})
-    target_include_directories(${target} PUBLIC
-        $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
-        $<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}>
-        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${ARG_INCLUDE_DESTINATION}>)
+    target_sources(${target} PUBLIC FILE_SET HEADERS
+        BASE_DIRS ${CMAKE_CURRENT_SOURCE_DIR} ${CMAKE_CURRENT_BINARY_DIR}
+        FILES ${ARG_HEADERS} ${CMAKE_CURRENT_BINARY_DIR}/${ARG_EXPORT_HEADER})
     target_link_libraries(${target} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${ARG_EXPORT_NAME}
@@ -30,14 +29,8 @@ function(unitmanager_add_library target)
         UNITMANAGER_INSTALLED_HEADERS "${ARG_HEADERS}")
 
     install(TARGETS ${target} EXPORT ${ARG_NAMESPACE}Targets
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev)
-    foreach(header IN LISTS ARG_HEADERS)
-        get_filename_component(folder ${header} DIRECTORY)
-        install(FILES ${header} COMPONENT dev
-            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ARG_INCLUDE_DESTINATION}/${folder})
-    endforeach()
-    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${ARG_EXPORT_HEADER} COMPONENT dev
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ARG_INCLUDE_DESTINATION})
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ARG_INCLUDE_DESTINATION} COMPONENT dev)
 endfunction()
 
 # unitmanager_install_package(<package>): installs the CMake package of all libraries of that namespace,

@@ -40,7 +40,7 @@ def check_library_file(name, includes, sources, platform_headers):
     """The faults in the includes of a file in src/."""
     layer = layer_of(name)
     if layer is None:
-        yield f"src/{name}: stands in no layer"
+        yield f"src/{name}: does not belong to a layer"
         return
     for bracket, include in includes:
         if bracket == "<":
@@ -98,6 +98,9 @@ def main():
         problems += [f"platform/{name}: includes \"{include}\" of the library"
                      for _, include in includes_of(platform_root / name)
                      if include in library_names - PLATFORM_MAY_INCLUDE]
+    internal = {path.rpartition("/")[2] for path in platform_files} - platform_headers
+    problems += [f"platform/{name}: is installed and includes the internal \"{include}\"" for name in sorted(listed)
+                 for _, include in includes_of(platform_root / name) if include in internal]
     finish(problems, f"{len(sources)} files below src/, {len(platform_files)} below platform/, "
                      f"{len(platform_headers)} public headers of the platform")
 

@@ -1,4 +1,5 @@
-"""A program outside the tree builds and runs with the installed CMake package and with pkg-config."""
+"""Exactly the public headers are installed, and a program outside the tree builds and runs with the installed CMake
+package and with pkg-config."""
 
 import shutil
 import sys
@@ -27,9 +28,18 @@ def build_with_pkg_config(project, folder):
     return program
 
 
+def check_headers(project):
+    """The differences between the headers that are installed and those that are listed."""
+    listed = {*project.installed_headers, project.facts["exportHeader"]}
+    root = project.include_dir / "unitmanager"
+    seen = {str(path.relative_to(root)) for path in root.rglob("*") if path.is_file()}
+    yield from (f"installed, but not listed: {name}" for name in sorted(seen - listed))
+    yield from (f"listed, but not installed: {name}" for name in sorted(listed - seen))
+
+
 def main():
     project = Project(sys.argv[1])
-    problems = []
+    problems = list(check_headers(project))
     builds = [build_with_cmake, build_with_pkg_config]
     for build in builds:
         with tempfile.TemporaryDirectory() as temporary:
