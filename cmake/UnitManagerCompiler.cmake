@@ -8,6 +8,15 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
+# ccache is used if it is installed. It caches sources with precompiled headers only with these settings.
+find_program(UNITMANAGER_CCACHE ccache)
+mark_as_advanced(UNITMANAGER_CCACHE)
+if(UNITMANAGER_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${UNITMANAGER_CCACHE})
+    add_compile_options($<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+endif()
+
 # Relative paths: installed programs and libraries find each other wherever the tree is located.
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}" "$ORIGIN")
 
