@@ -8,6 +8,7 @@
 #include "MessageText.h"
 #include "Row.h"
 #include "SourceMessages.h"
+#include "TestProgram.h"
 #include "TextFolder.h"
 #include "UnitManagerDefinitions.h"
 
@@ -257,5 +258,5 @@ void DefaultUnitHandlerTest::copiesAreIndependent()
     QCOMPARE(copy.getDefaultUnit(pressure), QStringLiteral("HectoPascal"));
 }
 
-QTEST_GUILESS_MAIN(DefaultUnitHandlerTest)
+static const TestClass<DefaultUnitHandlerTest> testClass;
 #include "DefaultUnitHandlerTest.moc"

@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 
 #include "Row.h"
+#include "TestProgram.h"
 
 /// The registries of a process that loads the libraries like plugins, each in a separate scope, and links
 /// none of them.
@@ -64,6 +65,6 @@ void FactoryLocalScopeTest::librariesShareTheRegistries()
         QCOMPARE(static_cast<const void*>(dlsym(m_stateMachine, registry.constData())), ofUnitManager);
 }
 
-QTEST_APPLESS_MAIN(FactoryLocalScopeTest)
+static const TestClass<FactoryLocalScopeTest> testClass;
 
 #include "FactoryLocalScopeTest.moc"

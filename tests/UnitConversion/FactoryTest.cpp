@@ -9,6 +9,7 @@
 #include "LogCapture.h"
 #include "RecordingNode.h"
 #include "Row.h"
+#include "TestProgram.h"
 #include "UnitConversion/ValueConversionWrapper.h"
 #include "UnitConversion/ValueConverterArbitraryTable.h"
 #include "UnitConversion/ValueConverterEquidistantTable.h"
@@ -299,5 +300,5 @@ void FactoryTest::hashIsNotSeeded()
     QTEST(VESKFactories::KeyHasher()(key), "expected");
 }
 
-QTEST_GUILESS_MAIN(FactoryTest)
+static const TestClass<FactoryTest> testClass;
 #include "FactoryTest.moc"

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 
+#include "TestProgram.h"
+
 using NoInputMarker::Content;
 
 namespace {
@@ -74,6 +76,6 @@ void NoInputMarkerTest::everyNumberIsTested()
         QCOMPARE(number, value.toDouble());
 }
 
-QTEST_GUILESS_MAIN(NoInputMarkerTest)
+static const TestClass<NoInputMarkerTest> testClass;
 
 #include "NoInputMarkerTest.moc"

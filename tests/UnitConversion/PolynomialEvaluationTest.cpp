@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "DoubleBits.h"
+#include "TestProgram.h"
 
 using PolynomialEvaluation::Variant;
 
@@ -181,6 +182,6 @@ void PolynomialEvaluationTest::fastestVariantGivesTheSameBits()
     QCOMPARE(difference(values, expected), QString());
 }
 
-QTEST_GUILESS_MAIN(PolynomialEvaluationTest)
+static const TestClass<PolynomialEvaluationTest> testClass;
 
 #include "PolynomialEvaluationTest.moc"

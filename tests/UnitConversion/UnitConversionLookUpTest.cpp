@@ -9,6 +9,7 @@
 #include "MessageText.h"
 #include "Row.h"
 #include "SourceMessages.h"
+#include "TestProgram.h"
 #include "TextFolder.h"
 
 namespace {
@@ -367,5 +368,5 @@ void UnitConversionLookUpTest::copiesAreIndependent()
     QCOMPARE(copy.getBaseUnit(pressure), pressure + QStringLiteral("/Bar"));
 }
 
-QTEST_GUILESS_MAIN(UnitConversionLookUpTest)
+static const TestClass<UnitConversionLookUpTest> testClass;
 #include "UnitConversionLookUpTest.moc"

@@ -10,6 +10,7 @@
 #include "MessageText.h"
 #include "RecordingNode.h"
 #include "Row.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -256,5 +257,5 @@ void UnitConversionUnitTypeHandlerConversionTest::defaultHandlerKnowsNoUnit()
     QCOMPARE(log.takeTexts(), QStringList(R"(Unknown unit "Bar" given for unitType "")"));
 }
 
-QTEST_GUILESS_MAIN(UnitConversionUnitTypeHandlerConversionTest)
+static const TestClass<UnitConversionUnitTypeHandlerConversionTest> testClass;
 #include "UnitConversionUnitTypeHandlerConversionTest.moc"

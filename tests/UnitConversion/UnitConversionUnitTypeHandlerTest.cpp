@@ -13,6 +13,7 @@
 #include "MessageText.h"
 #include "RecordingNode.h"
 #include "Row.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -361,5 +362,5 @@ void UnitConversionUnitTypeHandlerTest::copiesAreIndependent()
     QCOMPARE(exactText(value), exactText(QVariant(2000.0)));
 }
 
-QTEST_GUILESS_MAIN(UnitConversionUnitTypeHandlerTest)
+static const TestClass<UnitConversionUnitTypeHandlerTest> testClass;
 #include "UnitConversionUnitTypeHandlerTest.moc"

@@ -10,6 +10,7 @@
 #include "MessageText.h"
 #include "RecordingNode.h"
 #include "Row.h"
+#include "TestProgram.h"
 #include "UnitConversion/ValueConverterFactory.h"
 
 namespace {
@@ -332,5 +333,5 @@ void ValueConversionWrapperTest::doesNotKeepTheNode()
     QCOMPARE(wrapper.convertValue(3), 11.0);
 }
 
-QTEST_GUILESS_MAIN(ValueConversionWrapperTest)
+static const TestClass<ValueConversionWrapperTest> testClass;
 #include "ValueConversionWrapperTest.moc"

@@ -8,6 +8,7 @@
 #include "RecordingNode.h"
 #include "Row.h"
 #include "TableText.h"
+#include "TestProgram.h"
 #include "VirtualSlot.h"
 
 namespace {
@@ -164,5 +165,5 @@ void ValueConverterArbitraryTableTest::keepsTheSlotsOfTheBase()
     QCOMPARE(virtualSlot(&ValueConverterArbitraryTable::invertValue), std::size_t(3));
 }
 
-QTEST_GUILESS_MAIN(ValueConverterArbitraryTableTest)
+static const TestClass<ValueConverterArbitraryTableTest> testClass;
 #include "ValueConverterArbitraryTableTest.moc"

@@ -8,6 +8,7 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "TableText.h"
+#include "TestProgram.h"
 #include "VirtualSlot.h"
 
 namespace {
@@ -148,5 +149,5 @@ void ValueConverterBaseTest::leavesTheTableAloneWithoutRows()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(ValueConverterBaseTest)
+static const TestClass<ValueConverterBaseTest> testClass;
 #include "ValueConverterBaseTest.moc"

@@ -8,6 +8,7 @@
 #include "RecordingNode.h"
 #include "Row.h"
 #include "TableText.h"
+#include "TestProgram.h"
 #include "VirtualSlot.h"
 
 namespace {
@@ -239,5 +240,5 @@ void ValueConverterEquidistantTableTest::keepsTheSlotsOfTheBase()
     QCOMPARE(virtualSlot(&ValueConverterEquidistantTable::invertValue), std::size_t(3));
 }
 
-QTEST_GUILESS_MAIN(ValueConverterEquidistantTableTest)
+static const TestClass<ValueConverterEquidistantTableTest> testClass;
 #include "ValueConverterEquidistantTableTest.moc"

@@ -9,6 +9,7 @@
 #include "LogCapture.h"
 #include "RecordingNode.h"
 #include "Row.h"
+#include "TestProgram.h"
 #include "VirtualSlot.h"
 
 namespace {
@@ -300,5 +301,5 @@ void ValueConverterPolynomialTest::keepsTheSlotsOfTheBase()
     QCOMPARE(virtualSlot(&ValueConverterPolynomial::invertValue), std::size_t(3));
 }
 
-QTEST_GUILESS_MAIN(ValueConverterPolynomialTest)
+static const TestClass<ValueConverterPolynomialTest> testClass;
 #include "ValueConverterPolynomialTest.moc"

@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "TestDocuments.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -133,6 +134,6 @@ void UnitManagerAllocationTest::repeatedConversionAllocatesNothing()
     QCOMPARE(values[2], 3000000.0);
 }
 
-QTEST_GUILESS_MAIN(UnitManagerAllocationTest)
+static const TestClass<UnitManagerAllocationTest> testClass;
 
 #include "UnitManagerAllocationTest.moc"

@@ -10,6 +10,7 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 
 using Dimensions = QVector<unsigned int>;
 
@@ -357,6 +358,6 @@ void UnitManagerArrayTest::getUnitTextOfOneColumn()
     QTEST(takeMessageTexts(log), "messages");
 }
 
-QTEST_GUILESS_MAIN(UnitManagerArrayTest)
+static const TestClass<UnitManagerArrayTest> testClass;
 
 #include "UnitManagerArrayTest.moc"

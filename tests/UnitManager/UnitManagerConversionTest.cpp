@@ -9,6 +9,7 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 
 class UnitManagerConversionTest : public QObject
 {
@@ -352,6 +353,6 @@ void UnitManagerConversionTest::getValue()
     QTEST(takeMessageTexts(log), "messages");
 }
 
-QTEST_GUILESS_MAIN(UnitManagerConversionTest)
+static const TestClass<UnitManagerConversionTest> testClass;
 
 #include "UnitManagerConversionTest.moc"

@@ -11,6 +11,7 @@
 #include "RecordingValueNode.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 
 class UnitManagerCoreConversionTest : public QObject
 {
@@ -278,6 +279,6 @@ void UnitManagerCoreConversionTest::documentsMayGiveUnitLessTypes()
     QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
-QTEST_GUILESS_MAIN(UnitManagerCoreConversionTest)
+static const TestClass<UnitManagerCoreConversionTest> testClass;
 
 #include "UnitManagerCoreConversionTest.moc"

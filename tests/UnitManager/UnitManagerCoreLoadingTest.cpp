@@ -7,6 +7,7 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "TextFolder.h"
 
 class UnitManagerCoreLoadingTest : public QObject
@@ -336,6 +337,6 @@ void UnitManagerCoreLoadingTest::emptyDefaultUnitPathReadsNothing()
     QCOMPARE(takeMessageTexts(log), QStringList{Expected::noDefaultUnit(T::pressure)});
 }
 
-QTEST_GUILESS_MAIN(UnitManagerCoreLoadingTest)
+static const TestClass<UnitManagerCoreLoadingTest> testClass;
 
 #include "UnitManagerCoreLoadingTest.moc"

@@ -10,6 +10,7 @@
 #include "RecordingValueNode.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 
 static_assert(std::has_virtual_destructor_v<UnitManagerCore>);
 static_assert(std::is_copy_constructible_v<UnitManagerCore> && std::is_copy_assignable_v<UnitManagerCore>);
@@ -256,6 +257,6 @@ void UnitManagerCoreTest::catalogueQueries()
              (QStringList{Expected::noBaseUnit("NoUnit"), Expected::noDefaultUnit(T::ratio)}));
 }
 
-QTEST_GUILESS_MAIN(UnitManagerCoreTest)
+static const TestClass<UnitManagerCoreTest> testClass;
 
 #include "UnitManagerCoreTest.moc"

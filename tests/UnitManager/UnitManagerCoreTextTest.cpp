@@ -7,6 +7,7 @@
 #include "RecordingValueNode.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 
 class UnitManagerCoreTextTest : public QObject
 {
@@ -135,6 +136,6 @@ void UnitManagerCoreTextTest::unitTextMap()
     QTEST(takeMessageTexts(log), "messages");
 }
 
-QTEST_GUILESS_MAIN(UnitManagerCoreTextTest)
+static const TestClass<UnitManagerCoreTextTest> testClass;
 
 #include "UnitManagerCoreTextTest.moc"

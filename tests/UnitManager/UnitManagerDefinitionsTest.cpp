@@ -5,6 +5,7 @@
 #include <type_traits>
 
 #include "PropertyManagerConst.h"
+#include "TestProgram.h"
 #include "UnitManagerCore.h"
 
 using Getter = const QString& (*)();
@@ -164,6 +165,6 @@ void UnitManagerDefinitionsTest::automaticCommaIsMinusOne()
     QCOMPARE(D::getUiDecimalsAutoComma(), -1);
 }
 
-QTEST_GUILESS_MAIN(UnitManagerDefinitionsTest)
+static const TestClass<UnitManagerDefinitionsTest> testClass;
 
 #include "UnitManagerDefinitionsTest.moc"

@@ -10,6 +10,7 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -87,6 +88,6 @@ void UnitManagerFiniteMarkerTest::runs()
              (QStringList{"double -999", toDebugText(2.0 * 0.001), "double nan"}));
 }
 
-QTEST_GUILESS_MAIN(UnitManagerFiniteMarkerTest)
+static const TestClass<UnitManagerFiniteMarkerTest> testClass;
 
 #include "UnitManagerFiniteMarkerTest.moc"

@@ -10,6 +10,7 @@
 #include "RecordingValueNode.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 
 class UnitManagerNodeAccessTest : public QObject
 {
@@ -309,6 +310,6 @@ void UnitManagerNodeAccessTest::parsedNodes()
     QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
-QTEST_GUILESS_MAIN(UnitManagerNodeAccessTest)
+static const TestClass<UnitManagerNodeAccessTest> testClass;
 
 #include "UnitManagerNodeAccessTest.moc"

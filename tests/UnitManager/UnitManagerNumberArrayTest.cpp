@@ -13,6 +13,7 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 
 // Not overloaded, so that their addresses can be taken without a cast.
 static_assert(std::is_member_function_pointer_v<decltype(&UnitManager::fromBaseUnitRaw)>);
@@ -270,6 +271,6 @@ void UnitManagerNumberArrayTest::sharedVectorKeepsItsValues()
     QCOMPARE(static_cast<const void*>(same.constData()), static_cast<const void*>(values.constData()));
 }
 
-QTEST_GUILESS_MAIN(UnitManagerNumberArrayTest)
+static const TestClass<UnitManagerNumberArrayTest> testClass;
 
 #include "UnitManagerNumberArrayTest.moc"

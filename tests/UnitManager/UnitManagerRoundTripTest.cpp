@@ -14,6 +14,7 @@
 #include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
+#include "TestProgram.h"
 
 /// Properties that hold for every number, tested with many random numbers.
 class UnitManagerRoundTripTest : public QObject
@@ -220,6 +221,6 @@ void UnitManagerRoundTripTest::nodesAndArraysHoldTheRawForms()
     }
 }
 
-QTEST_GUILESS_MAIN(UnitManagerRoundTripTest)
+static const TestClass<UnitManagerRoundTripTest> testClass;
 
 #include "UnitManagerRoundTripTest.moc"

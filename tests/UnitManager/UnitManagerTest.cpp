@@ -10,6 +10,7 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "TextFolder.h"
 
 static_assert(std::has_virtual_destructor_v<UnitManager>);
@@ -297,6 +298,6 @@ void UnitManagerTest::copyOutlivesItsOriginal()
              QStringLiteral("double 1.5"));
 }
 
-QTEST_GUILESS_MAIN(UnitManagerTest)
+static const TestClass<UnitManagerTest> testClass;
 
 #include "UnitManagerTest.moc"

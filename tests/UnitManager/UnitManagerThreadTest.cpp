@@ -8,6 +8,7 @@
 #include "Array2dDataTypeWrapper.h"
 #include "DebugText.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 
 /// Const functions in several threads at the same time, also under ThreadSanitizer.
 class UnitManagerThreadTest : public QObject
@@ -104,6 +105,6 @@ void UnitManagerThreadTest::copiesAreReadAndReplacedByTwoThreads()
     QCOMPARE(answersOf(manager), expected);
 }
 
-QTEST_GUILESS_MAIN(UnitManagerThreadTest)
+static const TestClass<UnitManagerThreadTest> testClass;
 
 #include "UnitManagerThreadTest.moc"

@@ -4,6 +4,7 @@
 
 #include "LogCapture.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "UnitManager.h"
 #include "hashFromString.h"
 
@@ -170,6 +171,6 @@ void UnitManagerUnitTypeStringHandlingTest::everyIdentifierIsMappedBack()
     QVERIFY(!table.values().contains(T::pressure + "/NoUnit"));
 }
 
-QTEST_GUILESS_MAIN(UnitManagerUnitTypeStringHandlingTest)
+static const TestClass<UnitManagerUnitTypeStringHandlingTest> testClass;
 
 #include "UnitManagerUnitTypeStringHandlingTest.moc"

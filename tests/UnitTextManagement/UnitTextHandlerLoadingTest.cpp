@@ -9,6 +9,7 @@
 #include "MessageText.h"
 #include "Row.h"
 #include "SourceMessages.h"
+#include "TestProgram.h"
 #include "TextFolder.h"
 
 namespace {
@@ -245,5 +246,5 @@ void UnitTextHandlerLoadingTest::readsFile()
     QTEST(messageTexts(takeMessagesOf(sourceName, log), LineNumbers::Any), "messages");
 }
 
-QTEST_GUILESS_MAIN(UnitTextHandlerLoadingTest)
+static const TestClass<UnitTextHandlerLoadingTest> testClass;
 #include "UnitTextHandlerLoadingTest.moc"

@@ -11,6 +11,7 @@
 #include "Operation.h"
 #include "RecordingNode.h"
 #include "Row.h"
+#include "TestProgram.h"
 #include "TextDocument.h"
 
 using namespace TextDocument;
@@ -309,5 +310,5 @@ void UnitTextHandlerTest::copiesAreIndependent()
     QCOMPARE(copy.getUnitText(pressure, "en", "HectoPascal"), QStringLiteral("hPa"));
 }
 
-QTEST_GUILESS_MAIN(UnitTextHandlerTest)
+static const TestClass<UnitTextHandlerTest> testClass;
 #include "UnitTextHandlerTest.moc"

@@ -5,6 +5,7 @@
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "Row.h"
+#include "TestProgram.h"
 #include "TextDocument.h"
 
 using namespace TextDocument;
@@ -91,6 +92,6 @@ void UnitTextHandlerTextMapTest::unknownNamesInTextMapWarn()
     QCOMPARE(messageTexts(log.take(), LineNumbers::Any), QStringList(mapWarning(text)));
 }
 
-QTEST_GUILESS_MAIN(UnitTextHandlerTextMapTest)
+static const TestClass<UnitTextHandlerTextMapTest> testClass;
 
 #include "UnitTextHandlerTextMapTest.moc"

@@ -9,6 +9,7 @@
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "RecordedCalls.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -123,6 +124,6 @@ void ConversionBehaviourTest::behavesAsRecorded()
     QCOMPARE(actual.size(), expected.size());
 }
 
-QTEST_GUILESS_MAIN(ConversionBehaviourTest)
+static const TestClass<ConversionBehaviourTest> testClass;
 
 #include "ConversionBehaviourTest.moc"

@@ -4,6 +4,7 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "ShippedCatalogue.h"
+#include "TestProgram.h"
 #include "UnitManagerDefinitions.h"
 
 namespace {
@@ -235,6 +236,6 @@ void CatalogueTest::valueWithoutUnitPassesSilently()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(CatalogueTest)
+static const TestClass<CatalogueTest> testClass;
 
 #include "CatalogueTest.moc"

@@ -14,6 +14,7 @@
 #include "GnuUnits.h"
 #include "LogCapture.h"
 #include "ShippedCatalogue.h"
+#include "TestProgram.h"
 #include "Udunits.h"
 
 namespace {
@@ -266,6 +267,6 @@ void ConversionProgramsTest::addPair(const QString& type, const QString& from, c
     }
 }
 
-QTEST_GUILESS_MAIN(ConversionProgramsTest)
+static const TestClass<ConversionProgramsTest> testClass;
 
 #include "ConversionProgramsTest.moc"

@@ -6,6 +6,7 @@
 #include "ExactText.h"
 #include "Row.h"
 #include "ShippedCatalogue.h"
+#include "TestProgram.h"
 
 /// A value in one unit equals an expected value in another unit of the same type.
 struct Landmark
@@ -284,6 +285,6 @@ void LandmarksTest::baseUnitKeepsEveryBit()
     QCOMPARE(baseUnits, 11);
 }
 
-QTEST_GUILESS_MAIN(LandmarksTest)
+static const TestClass<LandmarksTest> testClass;
 
 #include "LandmarksTest.moc"

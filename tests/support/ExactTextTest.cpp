@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "ExactText.h"
+#include "TestProgram.h"
 
 /// A comparison that ignores differences would hide faults in all tests that use it.
 class ExactTextTest : public QObject
@@ -65,5 +66,5 @@ void ExactTextTest::notANumberIsItself()
     QVERIFY(exactText(notANumber) != exactText(std::numeric_limits<double>::infinity()));
 }
 
-QTEST_GUILESS_MAIN(ExactTextTest)
+static const TestClass<ExactTextTest> testClass;
 #include "ExactTextTest.moc"
