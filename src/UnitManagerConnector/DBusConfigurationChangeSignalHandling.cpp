@@ -11,6 +11,9 @@
 
 namespace {
 
+using Definitions = UnitManagerConnectorDefinitions;
+using PollingHandler = QSharedPointer<DBusConnectionSignalPollingHandler>;
+
 const char* const sourceName = "UnitManagerConnector/DBusConfigurationChangeSignalHandling";
 
 /// Matches signals of any interface.
@@ -25,8 +28,13 @@ QString changeSignal()
 /// process when an argument, such as a map, cannot be converted to the slot's parameter.
 const QString oneString = QStringLiteral("s");
 
-/// The polling handler's code for one string argument.
+/// The polling handler's code for one string argument. Every platform defines the value; the name of the
+/// enumerator may differ.
 const auto oneStringArgument = DBusConnectionSignalPollingHandler::SlotSignature(3);
+
+const char* const unitSwitchSlot = SLOT(unitSwitchConfigurationFileChange(QString));
+const char* const dependencyFileSlot = SLOT(dependencyFileChanged(QString));
+const char* const defaultUnitSlot = SLOT(defaultUnitFileChange(QString));
 
 QString busNameOf(const QStringList& settings)
 {
@@ -39,113 +47,54 @@ QString objectPathOf(const QStringList& settings)
     return QLatin1Char('/') + settings.value(ConnectorSettings::Object);
 }
 
-} // namespace
-
-/// One of the three configuration sources: how they differ, and the operations common to all.
-struct DBusConfigurationChangeSignalHandling::Source
+PollingHandler createPollingHandler(const QStringList& settings)
 {
-    using Handling = DBusConfigurationChangeSignalHandling;
-
-    static const Source unitSwitch;
-    static const Source dependencyFile;
-    static const Source defaultUnit;
-
-    ConnectorType type;
-    const char* slot;
-    const char* changeMessage;
-    void (Handling::*report)(const QString&);
-    bool Handling::*isConnected;
-    PollingHandler Handling::*pollingHandler;
-
-    ConnectionStatus subscribe(Handling& handling, const LogContext& context) const;
-    void unsubscribe(Handling& handling, const LogContext& context) const;
-    void poll(Handling& handling) const;
-    void recordChange(Handling& handling, const QString& instanceName, const LogContext& context) const;
-};
-
-const DBusConfigurationChangeSignalHandling::Source
-    DBusConfigurationChangeSignalHandling::Source::unitSwitch = {
-        UnitManagerConnectorDefinitions::UnitSwitch,
-        "1unitSwitchConfigurationFileChange(QString)",
-        "unit manager configuration has been changed",
-        &Handling::unitSwitchConfigurationFileChange,
-        &Handling::m_unitSwitchConnected,
-        &Handling::m_unitSwitchPollingHandler};
-
-const DBusConfigurationChangeSignalHandling::Source
-    DBusConfigurationChangeSignalHandling::Source::dependencyFile = {
-        UnitManagerConnectorDefinitions::DependencyFile,
-        "1dependencyFileChanged(QString)",
-        "dependency file has been changed",
-        &Handling::dependencyFileChanged,
-        &Handling::m_dependencyConnected,
-        &Handling::m_dependencyPollingHandler};
-
-const DBusConfigurationChangeSignalHandling::Source
-    DBusConfigurationChangeSignalHandling::Source::defaultUnit = {
-        UnitManagerConnectorDefinitions::DefaultUnit,
-        "1defaultUnitFileChange(QString)",
-        "default unit configuration has been changed",
-        &Handling::defaultUnitFileChange,
-        &Handling::m_defaultUnitConnected,
-        &Handling::m_defaultUnitPollingHandler};
-
-DBusConfigurationChangeSignalHandling::ConnectionStatus
-DBusConfigurationChangeSignalHandling::Source::subscribe(Handling& handling, const LogContext& context) const
-{
-    const QStringList settings = handling.m_connectorSettings.value(type);
-    const QString service = settings.value(ConnectorSettings::Service);
-    const QString object = settings.value(ConnectorSettings::Object);
-    if (handling.m_useSignalPolling) {
-        handling.*pollingHandler = QSharedPointer<DBusConnectionSignalPollingHandler>::create(
-            service, object, changeSignal(), oneStringArgument);
-        return UnitManagerConnectorDefinitions::Connected;
-    }
-    QDBusConnection bus = DBusConnection::getQDBusConnection();
-    if (!bus.connect(busNameOf(settings), objectPathOf(settings), anyInterface, changeSignal(), oneString,
-                     &handling, slot)) {
-        context.warning() << "Error cannot connect to module" << service << object;
-        return UnitManagerConnectorDefinitions::ConnectionFailed;
-    }
-    handling.*isConnected = true;
-    return UnitManagerConnectorDefinitions::Connected;
+    return PollingHandler::create(settings.value(ConnectorSettings::Service),
+                                  settings.value(ConnectorSettings::Object), changeSignal(),
+                                  oneStringArgument);
 }
 
-void DBusConfigurationChangeSignalHandling::Source::unsubscribe(Handling& handling,
-                                                                const LogContext& context) const
+/// Subscribes a slot to the delivered signals of a source.
+Definitions::ConnectionStatus subscribe(const QStringList& settings, QObject* receiver, const char* slot,
+                                        bool& isConnected, const LogContext& context)
 {
-    const QStringList settings = handling.m_connectorSettings.value(type);
-    if (!ConnectorSettings::areUsable(settings) || !(handling.*isConnected))
+    QDBusConnection bus = DBusConnection::getQDBusConnection();
+    if (!bus.connect(busNameOf(settings), objectPathOf(settings), anyInterface, changeSignal(), oneString,
+                     receiver, slot)) {
+        context.warning() << "Error cannot connect to module" << settings.value(ConnectorSettings::Service)
+                          << settings.value(ConnectorSettings::Object);
+        return Definitions::ConnectionFailed;
+    }
+    isConnected = true;
+    return Definitions::Connected;
+}
+
+/// Reverses subscribe(), unless the source is not connected or its settings are incomplete.
+void unsubscribe(const QStringList& settings, QObject* receiver, const char* slot, bool& isConnected,
+                 const LogContext& context)
+{
+    if (!ConnectorSettings::areUsable(settings) || !isConnected)
         return;
     QDBusConnection bus = DBusConnection::getQDBusConnection();
     if (!bus.disconnect(busNameOf(settings), objectPathOf(settings), anyInterface, changeSignal(), oneString,
-                        &handling, slot))
+                        receiver, slot))
         context.warning() << "Unable to disconnect connection" << settings.value(ConnectorSettings::Object);
-    handling.*isConnected = false;
+    isConnected = false;
 }
 
-void DBusConfigurationChangeSignalHandling::Source::poll(Handling& handling) const
+/// Passes the configuration name of a recorded signal to @p report, and resets the signal.
+template <typename Report>
+void poll(const PollingHandler& signal, Report report)
 {
-    const PollingHandler& signal = handling.*pollingHandler;
     if (!signal || !signal->isSignalOccured())
         return;
     const QVariant parameter = signal->getSignalParameter();
     if (parameter.canConvert(QVariant::String))
-        (handling.*report)(parameter.toString());
+        report(parameter.toString());
     signal->resetLastSignal();
 }
 
-void DBusConfigurationChangeSignalHandling::Source::recordChange(Handling& handling,
-                                                                 const QString& instanceName,
-                                                                 const LogContext& context) const
-{
-    const QStringList settings = handling.m_connectorSettings.value(type);
-    if (instanceName != settings.value(ConnectorSettings::Configuration))
-        return;
-    handling.m_changeMap[type] = instanceName;
-    handling.m_changed = true;
-    context.debug() << changeMessage;
-}
+} // namespace
 
 DBusConfigurationChangeSignalHandling::DBusConfigurationChangeSignalHandling(bool useSignalPolling)
     : QObject(nullptr), m_useSignalPolling(useSignalPolling)
@@ -163,27 +112,43 @@ bool DBusConfigurationChangeSignalHandling::init(const QMap<ConnectorType, QStri
 DBusConfigurationChangeSignalHandling::ConnectionStatus
 DBusConfigurationChangeSignalHandling::connectUnitSwitchChangeFlag()
 {
-    return Source::unitSwitch.subscribe(*this, {sourceName, __LINE__, Q_FUNC_INFO});
+    const QStringList settings = m_connectorSettings.value(Definitions::UnitSwitch);
+    if (!m_useSignalPolling)
+        return subscribe(settings, this, unitSwitchSlot, m_unitSwitchConnected,
+                         {sourceName, __LINE__, Q_FUNC_INFO});
+    m_unitSwitchPollingHandler = createPollingHandler(settings);
+    return Definitions::Connected;
 }
 
 DBusConfigurationChangeSignalHandling::ConnectionStatus
 DBusConfigurationChangeSignalHandling::connectDependencyFileChangeFlag()
 {
-    return Source::dependencyFile.subscribe(*this, {sourceName, __LINE__, Q_FUNC_INFO});
+    const QStringList settings = m_connectorSettings.value(Definitions::DependencyFile);
+    if (!m_useSignalPolling)
+        return subscribe(settings, this, dependencyFileSlot, m_dependencyConnected,
+                         {sourceName, __LINE__, Q_FUNC_INFO});
+    m_dependencyPollingHandler = createPollingHandler(settings);
+    return Definitions::Connected;
 }
 
 DBusConfigurationChangeSignalHandling::ConnectionStatus
 DBusConfigurationChangeSignalHandling::connectDefaultUnitChangeFlag()
 {
-    return Source::defaultUnit.subscribe(*this, {sourceName, __LINE__, Q_FUNC_INFO});
+    const QStringList settings = m_connectorSettings.value(Definitions::DefaultUnit);
+    if (!m_useSignalPolling)
+        return subscribe(settings, this, defaultUnitSlot, m_defaultUnitConnected,
+                         {sourceName, __LINE__, Q_FUNC_INFO});
+    m_defaultUnitPollingHandler = createPollingHandler(settings);
+    return Definitions::Connected;
 }
 
 bool DBusConfigurationChangeSignalHandling::pollChangeFlags()
 {
     if (m_useSignalPolling) {
-        Source::unitSwitch.poll(*this);
-        Source::defaultUnit.poll(*this);
-        Source::dependencyFile.poll(*this);
+        poll(m_unitSwitchPollingHandler,
+             [this](const QString& name) { unitSwitchConfigurationFileChange(name); });
+        poll(m_defaultUnitPollingHandler, [this](const QString& name) { defaultUnitFileChange(name); });
+        poll(m_dependencyPollingHandler, [this](const QString& name) { dependencyFileChanged(name); });
     }
     return m_changed;
 }
@@ -216,23 +181,40 @@ bool DBusConfigurationChangeSignalHandling::closeDbusConnections()
         return true;
     }
     const LogContext context{sourceName, __LINE__, Q_FUNC_INFO};
-    Source::unitSwitch.unsubscribe(*this, context);
-    Source::dependencyFile.unsubscribe(*this, context);
-    Source::defaultUnit.unsubscribe(*this, context);
+    unsubscribe(m_connectorSettings.value(Definitions::UnitSwitch), this, unitSwitchSlot,
+                m_unitSwitchConnected, context);
+    unsubscribe(m_connectorSettings.value(Definitions::DependencyFile), this, dependencyFileSlot,
+                m_dependencyConnected, context);
+    unsubscribe(m_connectorSettings.value(Definitions::DefaultUnit), this, defaultUnitSlot,
+                m_defaultUnitConnected, context);
     return true;
 }
 
 void DBusConfigurationChangeSignalHandling::unitSwitchConfigurationFileChange(const QString& instanceName)
 {
-    Source::unitSwitch.recordChange(*this, instanceName, {sourceName, __LINE__, Q_FUNC_INFO});
+    if (recordChange(Definitions::UnitSwitch, instanceName))
+        LogContext{sourceName, __LINE__, Q_FUNC_INFO}.debug()
+            << "unit manager configuration has been changed";
 }
 
 void DBusConfigurationChangeSignalHandling::defaultUnitFileChange(const QString& instanceName)
 {
-    Source::defaultUnit.recordChange(*this, instanceName, {sourceName, __LINE__, Q_FUNC_INFO});
+    if (recordChange(Definitions::DefaultUnit, instanceName))
+        LogContext{sourceName, __LINE__, Q_FUNC_INFO}.debug()
+            << "default unit configuration has been changed";
 }
 
 void DBusConfigurationChangeSignalHandling::dependencyFileChanged(const QString& instanceName)
 {
-    Source::dependencyFile.recordChange(*this, instanceName, {sourceName, __LINE__, Q_FUNC_INFO});
+    if (recordChange(Definitions::DependencyFile, instanceName))
+        LogContext{sourceName, __LINE__, Q_FUNC_INFO}.debug() << "dependency file has been changed";
+}
+
+bool DBusConfigurationChangeSignalHandling::recordChange(ConnectorType type, const QString& instanceName)
+{
+    if (instanceName != m_connectorSettings.value(type).value(ConnectorSettings::Configuration))
+        return false;
+    m_changeMap[type] = instanceName;
+    m_changed = true;
+    return true;
 }

@@ -70,7 +70,9 @@ public Q_SLOTS:
 
 private:
     using PollingHandler = QSharedPointer<DBusConnectionSignalPollingHandler>;
-    struct UNITMANAGER_NO_EXPORT Source;
+
+    /// @return whether @p instanceName is the configured name of the source.
+    UNITMANAGER_NO_EXPORT bool recordChange(ConnectorType type, const QString& instanceName);
 
     QMap<ConnectorType, QString> m_changeMap;
     QMap<ConnectorType, QStringList> m_connectorSettings;

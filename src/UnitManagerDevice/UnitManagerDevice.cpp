@@ -5,6 +5,7 @@
 
 namespace {
 
+// Every platform defines these values; the names of its enumerators may differ.
 const auto noError = ProcessDataDefinitions::ErrorTypes(0);
 const auto notReadable = ProcessDataDefinitions::ErrorTypes(3);
 
