@@ -3,7 +3,7 @@
 #include "ConfigurationFileHandlerDBusConnector.h"
 #include "DBusPendingReply.h"
 #include "Diagnostics.h"
-#include "UnitManagerConnector/ConfigurationReadMessages.h"
+#include "UnitManagerConnector/ConfigurationReading.h"
 #include "UnitManagerConnector/ConnectorSettings.h"
 #include "UnitManagerConnector/UnitManagerConnectionData.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateError.h"
@@ -28,7 +28,7 @@ void request(UnitManagerConnectionData& data, UnitManagerConnectorDefinitions::C
     else if (kind == UnitManagerConnectorDefinitions::getKeyConfigurationFile())
         data.pendingReplies()[type] = connector.getConfigurationAsynchron(name, module, QString());
     else
-        ConfigurationReadMessages::warnUnknownKind(context, kind);
+        ConfigurationReading::warnUnknownKind(context, kind);
 }
 
 } // namespace
@@ -62,17 +62,13 @@ bool UnitManagerConnectorStateReadConfigurationASynchron::startConfigurationRead
         data.configurations()[type] = QString();
 
     const LogContext context{sourceName, __LINE__, Q_FUNC_INFO};
-    if (!data.isConnectedToDBus()) {
-        ConfigurationReadMessages::warnNotConnected(context);
-        return false;
-    }
-    const auto connector = data.connectors().value(type);
+    const auto connector = ConfigurationReading::connectorOf(data, type, context);
     if (!connector)
         return false;
 
     request(data, type, *connector, context);
     if (!data.pendingReplies().value(type)) {
-        ConfigurationReadMessages::warnNoReply(context, data.connectorSettings().value(type));
+        ConfigurationReading::warnNoReply(context, data.connectorSettings().value(type));
         return false;
     }
     return true;

@@ -3,7 +3,7 @@
 #include "ConfigurationFileHandlerDBusConnector.h"
 #include "DBusReply.h"
 #include "Diagnostics.h"
-#include "UnitManagerConnector/ConfigurationReadMessages.h"
+#include "UnitManagerConnector/ConfigurationReading.h"
 #include "UnitManagerConnector/ConnectorSettings.h"
 #include "UnitManagerConnector/UnitManagerConnectionData.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateError.h"
@@ -23,7 +23,7 @@ DBusReply request(const ConfigurationFileHandlerDBusConnector& connector, const 
         return connector.getConfigurationDependency(name, UnitManagerDefinitions::getModuleName());
     if (kind == UnitManagerConnectorDefinitions::getKeyConfigurationFile())
         return connector.getConfiguration(name, UnitManagerDefinitions::getModuleName(), QString());
-    ConfigurationReadMessages::warnUnknownKind(context, kind);
+    ConfigurationReading::warnUnknownKind(context, kind);
     return {};
 }
 
@@ -57,23 +57,19 @@ bool UnitManagerConnectorStateReadConfigurationSynchron::readConfiguration(
     data.configurations()[type] = QString();
 
     const LogContext context{sourceName, __LINE__, Q_FUNC_INFO};
-    if (!data.isConnectedToDBus()) {
-        ConfigurationReadMessages::warnNotConnected(context);
-        return false;
-    }
-    const auto connector = data.connectors().value(type);
+    const auto connector = ConfigurationReading::connectorOf(data, type, context);
     if (!connector)
         return false;
 
     const QStringList settings = data.connectorSettings().value(type);
     const DBusReply reply = request(*connector, settings, context);
     if (reply.isError()) {
-        ConfigurationReadMessages::warnNoReply(context, settings);
+        ConfigurationReading::warnNoReply(context, settings);
         return false;
     }
     const QString text = reply.getValue().toString();
     data.configurations()[type] = text;
     if (text.isEmpty())
-        ConfigurationReadMessages::warnEmpty(context, settings);
+        ConfigurationReading::warnEmpty(context, settings);
     return !text.isEmpty();
 }

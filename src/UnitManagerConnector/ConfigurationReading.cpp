@@ -1,7 +1,8 @@
-#include "UnitManagerConnector/ConfigurationReadMessages.h"
+#include "UnitManagerConnector/ConfigurationReading.h"
 
 #include "Diagnostics.h"
 #include "UnitManagerConnector/ConnectorSettings.h"
+#include "UnitManagerConnector/UnitManagerConnectionData.h"
 
 namespace {
 
@@ -14,11 +15,16 @@ void warnOfSource(const LogContext& context, const char* text, const QStringList
 
 } // namespace
 
-namespace ConfigurationReadMessages {
+namespace ConfigurationReading {
 
-void warnNotConnected(const LogContext& context)
+QSharedPointer<ConfigurationFileHandlerDBusConnector>
+connectorOf(UnitManagerConnectionData& data, UnitManagerConnectorDefinitions::ConnectorType type,
+            const LogContext& context)
 {
+    if (data.isConnectedToDBus())
+        return data.connectors().value(type);
     context.warning() << "Unitswitch connector: Cannot call method configuration get via DBus";
+    return {};
 }
 
 void warnUnknownKind(const LogContext& context, const QString& kind)
@@ -36,4 +42,4 @@ void warnEmpty(const LogContext& context, const QStringList& settings)
     warnOfSource(context, "Unit switch configuration empty string", settings);
 }
 
-} // namespace ConfigurationReadMessages
+} // namespace ConfigurationReading
