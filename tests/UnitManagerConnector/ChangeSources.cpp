@@ -1,5 +1,7 @@
 #include "ChangeSources.h"
 
+#include <QtTest/QTest>
+
 #include "ConfigurationService.h"
 #include "MessageText.h"
 
@@ -9,6 +11,23 @@ const char* ChangeSources::nameOf(Type type)
 {
     const char* const names[] = {"unit switch", "dependency file", "default unit"};
     return names[type];
+}
+
+void ChangeSources::addModes()
+{
+    QTest::addColumn<bool>("polling");
+    QTest::newRow("signals delivered") << false;
+    QTest::newRow("signals polled") << true;
+}
+
+void ChangeSources::addModesAndSources()
+{
+    QTest::addColumn<bool>("polling");
+    QTest::addColumn<Type>("type");
+    for (const Type type : all) {
+        QTest::addRow("%s, signals delivered", nameOf(type)) << false << type;
+        QTest::addRow("%s, signals polled", nameOf(type)) << true << type;
+    }
 }
 
 ChangeSources::Settings ChangeSources::settings()

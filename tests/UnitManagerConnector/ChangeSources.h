@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QMap>
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
@@ -23,8 +24,24 @@ const Type all[] = {UnitManagerConnectorDefinitions::UnitSwitch,
 /// The name of a source in the test rows.
 const char* nameOf(Type type);
 
+/// Adds the column "polling" with both values.
+void addModes();
+/// Adds the columns "polling" and "type" with all combinations.
+void addModesAndSources();
+
 /// Service, object and configuration of each source, all in one module.
 Settings settings();
+
+/// A handling with the settings of the tests.
+class ConfiguredHandling : public DBusConfigurationChangeSignalHandling
+{
+public:
+    explicit ConfiguredHandling(bool useSignalPolling, const Settings& settings = ChangeSources::settings())
+        : DBusConfigurationChangeSignalHandling(useSignalPolling)
+    {
+        init(settings);
+    }
+};
 
 /// Subscribes to one source.
 Status subscribe(DBusConfigurationChangeSignalHandling& handling, Type type);
@@ -33,6 +50,15 @@ bool subscribeAll(DBusConfigurationChangeSignalHandling& handling);
 
 /// Calls the slot of a source.
 void report(DBusConfigurationChangeSignalHandling& handling, Type type, const QString& instanceName);
+
+/// Whether @p recorder, the handling or an object that contains it, has recorded a change after the event
+/// loop has delivered pending signals.
+template <typename Recorder>
+bool hasChanged(Recorder& recorder)
+{
+    QCoreApplication::processEvents();
+    return recorder.pollChangeFlags();
+}
 
 /// The logged messages. Each function is reduced to its name and parameters, because compilers spell the
 /// result type differently.

@@ -3,7 +3,7 @@
 #include <QtCore/QMutexLocker>
 
 #include "DBusConnection.h"
-#include "WaitUntil.h"
+#include "WaitLimit.h"
 
 namespace {
 
@@ -50,13 +50,18 @@ QString TestDocument::broken()
     return QStringLiteral("{ \"Pressure\"");
 }
 
+void useNoBus()
+{
+    qputenv("DEVICE_BUS", "unix:path=/nonexistent/bus");
+}
+
 ConfigurationService::ConfigurationService()
     : m_answers{{TestSource::unitSwitchName, FakeBusService::withValue(TestDocument::units())},
                 {TestSource::dependencyName, FakeBusService::withValue(TestDocument::dependencies())},
                 {TestSource::defaultUnitName, FakeBusService::withValue(TestDocument::defaultUnits())}}
 {
     qputenv("DEVICE_BUS", m_bus.address().toLocal8Bit());
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "5000");
+    qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(waitLimit));
 }
 
 ConfigurationService::~ConfigurationService()
@@ -93,16 +98,13 @@ void ConfigurationService::setAnswer(const QString& configuration, const FakeBus
 
 QStringList ConfigurationService::takeCalls()
 {
+    if (!settle())
+        return {QString()};
     QStringList texts;
     for (const QDBusMessage& call : calls().mid(m_takenCalls))
         texts.append(callText(call));
     m_takenCalls += texts.size();
     return texts;
-}
-
-bool ConfigurationService::waitForCalls(int count) const
-{
-    return waitUntil([&] { return calls().size() >= m_takenCalls + count; });
 }
 
 bool ConfigurationService::announce(const QString& object, const QVariant& parameter)
@@ -112,10 +114,10 @@ bool ConfigurationService::announce(const QString& object, const QVariant& param
 
 bool ConfigurationService::announceWith(const QString& object, const QVariantList& arguments)
 {
-    return settle(serviceName) &&
+    return settle() &&
            m_service->sendSignal(QLatin1Char('/') + object, QStringLiteral("configurationChanged"),
                                  arguments) &&
-           settle(serviceName);
+           settle();
 }
 
 bool ConfigurationService::settle(const QString& answeringName)
@@ -123,7 +125,13 @@ bool ConfigurationService::settle(const QString& answeringName)
     // Messages from one peer arrive in the order in which they were sent.
     const QDBusMessage call = QDBusMessage::createMethodCall(
         answeringName, QStringLiteral("/"), QStringLiteral("org.example.Test"), settlingMember);
-    return DBusConnection::getQDBusConnection().call(call).type() == QDBusMessage::ReplyMessage;
+    const QDBusMessage answer = DBusConnection::getQDBusConnection().call(call, QDBus::Block, waitLimit);
+    return answer.type() == QDBusMessage::ReplyMessage;
+}
+
+bool ConfigurationService::settle()
+{
+    return settle(serviceName);
 }
 
 QList<QDBusMessage> ConfigurationService::calls() const

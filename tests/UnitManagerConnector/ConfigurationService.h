@@ -11,9 +11,14 @@
 
 #include "FakeBusService.h"
 #include "PrivateBus.h"
+#include "UnitManagerConnector/UnitManagerConnectorDefinitions.h"
 
-/// The settings of the sources: those of the unit switch are fixed, the tests choose the others.
+/// The sources and their settings: those of the unit switch are fixed, the tests choose the others.
 namespace TestSource {
+
+const auto units = UnitManagerConnectorDefinitions::UnitSwitch;
+const auto dependencies = UnitManagerConnectorDefinitions::DependencyFile;
+const auto defaults = UnitManagerConnectorDefinitions::DefaultUnit;
 
 const QString module = QStringLiteral("DeviceManager");
 /// A module that is never on the bus.
@@ -42,6 +47,9 @@ QString broken();
 
 } // namespace TestDocument
 
+/// Gives the process a device's bus that does not exist.
+void useNoBus();
+
 /// The device's configuration-file service on a private bus, which is the device's bus during the lifetime of
 /// this object. The objects of all sources are in one module.
 class ConfigurationService
@@ -61,10 +69,10 @@ public:
     /// Sets the answer to requests for a configuration from now on.
     void setAnswer(const QString& configuration, const FakeBusService::Answer& answer);
 
-    /// The calls received since the last takeCalls(), oldest first: "/Object member(argument, argument)".
+    /// The calls that this process has sent since the last takeCalls(), oldest first: "/Object
+    /// member(argument, argument)". Waits until the service has received them.
+    /// @return a list with one empty entry if the service does not answer within a minute.
     QStringList takeCalls();
-    /// Waits until @p count calls have been received since the last takeCalls().
-    bool waitForCalls(int count) const;
 
     /// Sends the change signal of an object. On return, the signal has reached all existing subscriptions and
     /// is queued in the event loops of their threads.
@@ -75,7 +83,10 @@ public:
 
     /// Waits until the bus and a service have processed everything that this process has sent, and this
     /// process has received everything that the service has sent.
+    /// @return false after a minute.
     static bool settle(const QString& answeringName);
+    /// Does the same with this service.
+    static bool settle();
 
 private:
     QDBusMessage answerTo(const QDBusMessage& call) const;

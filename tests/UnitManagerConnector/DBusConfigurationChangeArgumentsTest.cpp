@@ -6,7 +6,6 @@
 #include "ChangeSources.h"
 #include "ConfigurationService.h"
 
-using Handling = DBusConfigurationChangeSignalHandling;
 using namespace ChangeSources;
 
 namespace {
@@ -83,14 +82,12 @@ private Q_SLOTS:
 
 void DBusConfigurationChangeArgumentsTest::initTestCase()
 {
-    qputenv("DEVICE_BUS", "unix:path=/nonexistent/bus");
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "1000");
+    useNoBus();
 }
 
 void DBusConfigurationChangeArgumentsTest::closingNamesWhatWasSubscribed()
 {
-    Handling handling(false);
-    handling.init(settings());
+    ConfiguredHandling handling(false);
     takeCalls();
     QVERIFY(subscribeAll(handling));
     QCOMPARE(takeCalls(), callsOf("connect"));

@@ -7,7 +7,6 @@
 #include "LogCapture.h"
 #include "ScriptedPollingHandler.h"
 
-using Handling = DBusConfigurationChangeSignalHandling;
 using Definitions = UnitManagerConnectorDefinitions;
 using namespace ChangeSources;
 using namespace TestSource;
@@ -38,8 +37,7 @@ void DBusConfigurationChangePollingTest::init()
 
 void DBusConfigurationChangePollingTest::namesAreHandedOverAsTheyAre()
 {
-    Handling handling(true);
-    handling.init(settings());
+    ConfiguredHandling handling(true);
     QVERIFY(subscribeAll(handling));
     QCOMPARE(takeCalls(), (QStringList{"create DeviceManager UnitManagerConfiguration configurationChanged 3",
                                        "create DeviceManager DependencyObject configurationChanged 3",
@@ -48,8 +46,7 @@ void DBusConfigurationChangePollingTest::namesAreHandedOverAsTheyAre()
 
 void DBusConfigurationChangePollingTest::aNewSubscriptionReplacesTheEarlierOne()
 {
-    Handling handling(true);
-    handling.init(settings());
+    ConfiguredHandling handling(true);
     for (const Type type : all) {
         const QString object = settings()[type].at(1);
         const QString creation = "create DeviceManager " + object + " configurationChanged 3";
@@ -62,8 +59,7 @@ void DBusConfigurationChangePollingTest::aNewSubscriptionReplacesTheEarlierOne()
 
 void DBusConfigurationChangePollingTest::sourcesArePolledInOrder()
 {
-    Handling handling(true);
-    handling.init(settings());
+    ConfiguredHandling handling(true);
     QVERIFY(!handling.pollChangeFlags());
     QCOMPARE(takeCalls(), QStringList());
 
@@ -101,8 +97,7 @@ void DBusConfigurationChangePollingTest::aSignalIsResetOnceItIsTakenIn()
 {
     QFETCH(const QVariant, parameter);
     QFETCH(const bool, isChange);
-    Handling handling(true);
-    handling.init(settings());
+    ConfiguredHandling handling(true);
     QCOMPARE(handling.connectDependencyFileChangeFlag(), Definitions::Connected);
     takeCalls();
     LogCapture log;
@@ -117,8 +112,7 @@ void DBusConfigurationChangePollingTest::aSignalIsResetOnceItIsTakenIn()
 
 void DBusConfigurationChangePollingTest::closingReleasesTheHandlers()
 {
-    Handling handling(true);
-    handling.init(settings());
+    ConfiguredHandling handling(true);
     QVERIFY(subscribeAll(handling));
     takeCalls();
     QVERIFY(handling.closeDbusConnections());
@@ -140,8 +134,7 @@ void DBusConfigurationChangePollingTest::deliveredSignalsNeedNoHandler()
 {
     ConfigurationService service;
     QVERIFY(service.start());
-    Handling handling(false);
-    handling.init(settings());
+    ConfiguredHandling handling(false);
     QVERIFY(subscribeAll(handling));
     QVERIFY(!handling.pollChangeFlags());
     QVERIFY(handling.closeDbusConnections());

@@ -9,10 +9,10 @@
 #include <type_traits>
 
 #include "ChangeSources.h"
-#include "ConfigurationService.h"
 #include "DBusConnection.h"
 #include "LogCapture.h"
 #include "ObjectSlots.h"
+#include "ServiceFixture.h"
 #include "WaitLimit.h"
 
 using Handling = DBusConfigurationChangeSignalHandling;
@@ -21,13 +21,11 @@ using namespace ChangeSources;
 
 static_assert(std::is_convertible_v<bool, Handling>);
 
-class DBusConfigurationChangeSignalHandlingTest : public QObject
+class DBusConfigurationChangeSignalHandlingTest : public ServiceFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void theMetaObjectListsTheSlotsInOrder();
     void nothingHasChangedAtFirst_data();
     void nothingHasChangedAtFirst();
@@ -49,49 +47,7 @@ private Q_SLOTS:
     void aSignalOfAnyInterfaceCounts();
     void aSignalOfAnotherObjectOrServiceDoesNotCount_data();
     void aSignalOfAnotherObjectOrServiceDoesNotCount();
-
-private:
-    std::unique_ptr<ConfigurationService> m_service;
 };
-
-namespace {
-
-/// Whether a change is recorded after the event loop has delivered pending signals.
-bool hasChanged(Handling& handling)
-{
-    QCoreApplication::processEvents();
-    return handling.pollChangeFlags();
-}
-
-void addModes()
-{
-    QTest::addColumn<bool>("polling");
-    QTest::newRow("signals delivered") << false;
-    QTest::newRow("signals polled") << true;
-}
-
-void addModesAndSources()
-{
-    QTest::addColumn<bool>("polling");
-    QTest::addColumn<Type>("type");
-    for (const Type type : all) {
-        QTest::addRow("%s, signals delivered", nameOf(type)) << false << type;
-        QTest::addRow("%s, signals polled", nameOf(type)) << true << type;
-    }
-}
-
-} // namespace
-
-void DBusConfigurationChangeSignalHandlingTest::init()
-{
-    m_service = std::make_unique<ConfigurationService>();
-    QVERIFY(m_service->start());
-}
-
-void DBusConfigurationChangeSignalHandlingTest::cleanup()
-{
-    m_service.reset();
-}
 
 void DBusConfigurationChangeSignalHandlingTest::theMetaObjectListsTheSlotsInOrder()
 {
@@ -146,8 +102,7 @@ void DBusConfigurationChangeSignalHandlingTest::onlyTheConfiguredNameIsAChange()
     QFETCH(const QString, function);
     QFETCH(const QString, message);
     const QString name = settings()[type].at(2);
-    Handling handling(false);
-    handling.init(settings());
+    ConfiguredHandling handling(false);
 
     LogCapture log;
     const QStringList otherNames{"", name.toUpper(), name + " ", name.left(name.size() - 1), "Test/Other"};
@@ -178,8 +133,7 @@ void DBusConfigurationChangeSignalHandlingTest::changesStayUntilTheyAreReset_dat
 void DBusConfigurationChangeSignalHandlingTest::changesStayUntilTheyAreReset()
 {
     QFETCH(const bool, polling);
-    Handling handling(polling);
-    handling.init(settings());
+    ConfiguredHandling handling(polling);
     LogCapture log;
     handling.defaultUnitFileChange(TestSource::defaultUnitName);
     handling.unitSwitchConfigurationFileChange(TestSource::unitSwitchName);
@@ -199,8 +153,7 @@ void DBusConfigurationChangeSignalHandlingTest::changesStayUntilTheyAreReset()
 
 void DBusConfigurationChangeSignalHandlingTest::initForgetsThatSomethingChangedButNotWhat()
 {
-    Handling handling(true);
-    handling.init(settings());
+    ConfiguredHandling handling(true);
     LogCapture log;
     handling.dependencyFileChanged(TestSource::dependencyName);
     QVERIFY(handling.init(Settings{}));
@@ -217,10 +170,8 @@ void DBusConfigurationChangeSignalHandlingTest::resetForgetsChangesAndSubscripti
 void DBusConfigurationChangeSignalHandlingTest::resetForgetsChangesAndSubscriptions()
 {
     QFETCH(const bool, polling);
-    Handling handling(polling);
-    Handling witness(polling);
-    handling.init(settings());
-    witness.init(settings());
+    ConfiguredHandling handling(polling);
+    ConfiguredHandling witness(polling);
     LogCapture log;
     QVERIFY(subscribeAll(handling) && subscribeAll(witness));
     handling.dependencyFileChanged(TestSource::dependencyName);
@@ -243,8 +194,7 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalOnTheBusIsAChange()
     QFETCH(const bool, polling);
     QFETCH(const Type, type);
     const QStringList source = settings()[type];
-    Handling handling(polling);
-    handling.init(settings());
+    ConfiguredHandling handling(polling);
     LogCapture log;
     QCOMPARE(subscribe(handling, type), Definitions::Connected);
     QVERIFY(m_service->announce(source.at(1), source.at(2)));
@@ -272,10 +222,8 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherConfigurationIsN
     const QStringList source = settings()[type];
     Settings otherNames = settings();
     otherNames[type][2] = QStringLiteral("Test/Other");
-    Handling handling(polling);
-    Handling witness(polling);
-    handling.init(settings());
-    witness.init(otherNames);
+    ConfiguredHandling handling(polling);
+    ConfiguredHandling witness(polling, otherNames);
     LogCapture log;
     QCOMPARE(subscribe(handling, type), Definitions::Connected);
     QCOMPARE(subscribe(witness, type), Definitions::Connected);
@@ -297,10 +245,8 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalWithFurtherArgumentsIsOnl
     QFETCH(const bool, polling);
     QFETCH(const Type, type);
     const QStringList source = settings()[type];
-    Handling handling(polling);
-    Handling witness(true);
-    handling.init(settings());
-    witness.init(settings());
+    ConfiguredHandling handling(polling);
+    ConfiguredHandling witness(true);
     LogCapture log;
     QCOMPARE(subscribe(handling, type), Definitions::Connected);
     QCOMPARE(subscribe(witness, type), Definitions::Connected);
@@ -331,8 +277,7 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalWithoutAStringIsNoChange(
 {
     QFETCH(const bool, polling);
     QFETCH(const QVariantList, arguments);
-    Handling handling(polling);
-    handling.init(settings());
+    ConfiguredHandling handling(polling);
     LogCapture log;
     QCOMPARE(handling.connectUnitSwitchChangeFlag(), Definitions::Connected);
     QVERIFY(m_service->announceWith(TestSource::unitSwitchObject, arguments));
@@ -348,8 +293,7 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnyInterfaceCounts()
     m_service->stop();
     QDBusConnection sender = QDBusConnection::connectToBus(m_service->bus().address(), "sender");
     QVERIFY(sender.registerService("org.measuringdevice.DeviceManager"));
-    Handling handling(false);
-    handling.init(settings());
+    ConfiguredHandling handling(false);
     LogCapture log;
     QCOMPARE(handling.connectUnitSwitchChangeFlag(), Definitions::Connected);
     QDBusMessage signal = QDBusMessage::createSignal("/" + TestSource::unitSwitchObject, "org.example.Any",
@@ -380,10 +324,8 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherObjectOrServiceD
     QVERIFY(other.isRunning());
     Settings elsewhere = settings();
     elsewhere[Definitions::UnitSwitch] = QStringList{module, object, TestSource::unitSwitchName};
-    Handling handling(false);
-    Handling witness(false);
-    handling.init(settings());
-    witness.init(elsewhere);
+    ConfiguredHandling handling(false);
+    ConfiguredHandling witness(false, elsewhere);
     LogCapture log;
     QCOMPARE(handling.connectUnitSwitchChangeFlag(), Definitions::Connected);
     QCOMPARE(witness.connectUnitSwitchChangeFlag(), Definitions::Connected);

@@ -2,25 +2,20 @@
 
 #include <QtTest/QTest>
 
-#include <memory>
-
 #include "ChangeSources.h"
-#include "ConfigurationService.h"
 #include "DBusConnection.h"
 #include "LogCapture.h"
+#include "ServiceFixture.h"
 #include "WaitLimit.h"
 
-using Handling = DBusConfigurationChangeSignalHandling;
 using Definitions = UnitManagerConnectorDefinitions;
 using namespace ChangeSources;
 
-class DBusConfigurationChangeSubscriptionTest : public QObject
+class DBusConfigurationChangeSubscriptionTest : public ServiceFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void aSubscriptionWithoutBusFails_data();
     void aSubscriptionWithoutBusFails();
     void closingEndsTheSubscriptions_data();
@@ -29,42 +24,7 @@ private Q_SLOTS:
     void closingWarnsOfWhatTheBusDoesNotKnow();
     void closingUnderNewNamesLeavesTheOldSubscription();
     void aSourceThatIsNoLongerConfiguredIsNotClosed();
-
-private:
-    std::unique_ptr<ConfigurationService> m_service;
 };
-
-namespace {
-
-/// Whether a change is recorded after the event loop has delivered pending signals.
-bool hasChanged(Handling& handling)
-{
-    QCoreApplication::processEvents();
-    return handling.pollChangeFlags();
-}
-
-void addModesAndSources()
-{
-    QTest::addColumn<bool>("polling");
-    QTest::addColumn<Type>("type");
-    for (const Type type : all) {
-        QTest::addRow("%s, signals delivered", nameOf(type)) << false << type;
-        QTest::addRow("%s, signals polled", nameOf(type)) << true << type;
-    }
-}
-
-} // namespace
-
-void DBusConfigurationChangeSubscriptionTest::init()
-{
-    m_service = std::make_unique<ConfigurationService>();
-    QVERIFY(m_service->start());
-}
-
-void DBusConfigurationChangeSubscriptionTest::cleanup()
-{
-    m_service.reset();
-}
 
 void DBusConfigurationChangeSubscriptionTest::aSubscriptionWithoutBusFails_data()
 {
@@ -86,8 +46,7 @@ void DBusConfigurationChangeSubscriptionTest::aSubscriptionWithoutBusFails()
     QFETCH(const QString, object);
     m_service->stop();
     m_service->bus().stop();
-    Handling handling(false);
-    handling.init(settings());
+    ConfiguredHandling handling(false);
     LogCapture log;
     QCOMPARE(subscribe(handling, type), Definitions::ConnectionFailed);
     QCOMPARE(takeMessages(log),
@@ -98,8 +57,7 @@ void DBusConfigurationChangeSubscriptionTest::aSubscriptionWithoutBusFails()
     QCOMPARE(log.takeTexts(), QStringList());
 
     // The polling handler itself waits for the bus.
-    Handling pollingHandling(true);
-    pollingHandling.init(settings());
+    ConfiguredHandling pollingHandling(true);
     QCOMPARE(subscribe(pollingHandling, type), Definitions::Connected);
     QCOMPARE(log.takeTexts(), QStringList());
 }
@@ -114,10 +72,8 @@ void DBusConfigurationChangeSubscriptionTest::closingEndsTheSubscriptions()
     QFETCH(const bool, polling);
     QFETCH(const Type, type);
     const QStringList source = settings()[type];
-    Handling handling(polling);
-    Handling witness(polling);
-    handling.init(settings());
-    witness.init(settings());
+    ConfiguredHandling handling(polling);
+    ConfiguredHandling witness(polling);
     LogCapture log;
     QVERIFY(subscribeAll(handling) && subscribeAll(witness));
     QVERIFY(handling.closeDbusConnections());
@@ -147,8 +103,7 @@ void DBusConfigurationChangeSubscriptionTest::closingWarnsOfWhatTheBusDoesNotKno
 {
     QFETCH(const bool, polling);
     QFETCH(const QStringList, objects);
-    Handling handling(polling);
-    handling.init(settings());
+    ConfiguredHandling handling(polling);
     LogCapture log;
     QVERIFY(subscribeAll(handling));
     m_service->stop();
@@ -171,8 +126,7 @@ void DBusConfigurationChangeSubscriptionTest::closingUnderNewNamesLeavesTheOldSu
 {
     Settings moved = settings();
     moved[Definitions::DefaultUnit][1] = QStringLiteral("Moved");
-    Handling handling(false);
-    handling.init(settings());
+    ConfiguredHandling handling(false);
     LogCapture log;
     QVERIFY(subscribeAll(handling));
 
@@ -185,8 +139,7 @@ void DBusConfigurationChangeSubscriptionTest::closingUnderNewNamesLeavesTheOldSu
 
 void DBusConfigurationChangeSubscriptionTest::aSourceThatIsNoLongerConfiguredIsNotClosed()
 {
-    Handling handling(false);
-    handling.init(settings());
+    ConfiguredHandling handling(false);
     LogCapture log;
     QVERIFY(subscribeAll(handling));
     for (int missing = 0; missing < 3; ++missing) {

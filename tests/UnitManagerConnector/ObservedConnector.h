@@ -7,6 +7,9 @@
 #include "UnitManagerConnector/UnitManagerDBusConnector.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 
+/// The signals of a connector that has loaded a configuration.
+const QStringList changedAndInitialized{"changed", "initialized"};
+
 /// A connector that records its signals.
 class ObservedConnector : public UnitManagerDBusConnector
 {

@@ -105,6 +105,14 @@ UnitManagerConnectionData& RecordingWrapper::data()
     return *getConnectionDataObject();
 }
 
+bool RecordingWrapper::openAll()
+{
+    bool areOpen = true;
+    for (const auto type : {TestSource::units, TestSource::dependencies, TestSource::defaults})
+        areOpen = data().openConnector(type) == UnitManagerConnectorDefinitions::Connected && areOpen;
+    return areOpen;
+}
+
 QString transitionText(const QString& stateName, const StateMachineEvent& event)
 {
     return QStringLiteral("%1 %2(%3)").arg(stateName, event.getName(), dataText(event.getData()));

@@ -39,6 +39,9 @@ public:
 
     UnitManagerConnectionData& data();
 
+    /// Opens the connectors of all sources. @return whether all are connected.
+    bool openAll();
+
 private:
     QStringList m_transitions;
     std::function<void()> m_observer;

@@ -3,14 +3,12 @@
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
-#include <memory>
-
 #include "BusMonitor.h"
 #include "ChangeSources.h"
 #include "ConfigurationFileHandlerDBusConnector.h"
-#include "ConfigurationService.h"
 #include "DBusConnection.h"
 #include "LogCapture.h"
+#include "ServiceFixture.h"
 #include "WaitLimit.h"
 #include "WaitUntil.h"
 
@@ -21,13 +19,11 @@ using namespace ChangeSources;
 using namespace TestSource;
 
 /// Connectors and change signals of the connection data, on a bus.
-class UnitManagerConnectionDataOpeningTest : public QObject
+class UnitManagerConnectionDataOpeningTest : public ServiceFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void aSourceIsOpenedAndItsChangesAreHeard_data();
     void aSourceIsOpenedAndItsChangesAreHeard();
     void unusableSettingsDropTheConnector_data();
@@ -47,9 +43,6 @@ private Q_SLOTS:
     void resetsForgetTheNotedChanges_data();
     void resetsForgetTheNotedChanges();
     void resetObjectClosesThenDropsConnectorsThenTexts();
-
-private:
-    std::unique_ptr<ConfigurationService> m_service;
 };
 
 namespace {
@@ -63,40 +56,11 @@ public:
     {}
 };
 
-bool hasChanged(Data& data)
-{
-    QCoreApplication::processEvents();
-    return data.pollChangeFlags();
-}
-
-void addModes()
-{
-    QTest::addColumn<bool>("polling");
-    QTest::newRow("signals delivered") << false;
-    QTest::newRow("signals polled") << true;
-}
-
 } // namespace
-
-void UnitManagerConnectionDataOpeningTest::init()
-{
-    m_service = std::make_unique<ConfigurationService>();
-    QVERIFY(m_service->start());
-}
-
-void UnitManagerConnectionDataOpeningTest::cleanup()
-{
-    m_service.reset();
-}
 
 void UnitManagerConnectionDataOpeningTest::aSourceIsOpenedAndItsChangesAreHeard_data()
 {
-    QTest::addColumn<bool>("polling");
-    QTest::addColumn<Type>("type");
-    for (const Type type : all) {
-        QTest::addRow("%s, signals delivered", nameOf(type)) << false << type;
-        QTest::addRow("%s, signals polled", nameOf(type)) << true << type;
-    }
+    addModesAndSources();
 }
 
 void UnitManagerConnectionDataOpeningTest::aSourceIsOpenedAndItsChangesAreHeard()
@@ -229,9 +193,6 @@ void UnitManagerConnectionDataOpeningTest::everyConfiguredSourceMustBeConnected_
     QTest::addColumn<QList<Type>>("configured");
     QTest::addColumn<QList<Type>>("opened");
     QTest::addColumn<bool>("isConnected");
-    const Type units = Definitions::UnitSwitch;
-    const Type dependencies = Definitions::DependencyFile;
-    const Type defaults = Definitions::DefaultUnit;
     const QList<Type> none;
     const QList<Type> both{dependencies, defaults};
     QTest::newRow("nothing is open") << both << none << false;

@@ -17,6 +17,7 @@ using Data = UnitManagerConnectionData;
 using Definitions = UnitManagerConnectorDefinitions;
 using Settings = QMap<Definitions::ConnectorType, QStringList>;
 using Texts = QMap<Definitions::ConnectorType, QString>;
+using namespace TestSource;
 
 Q_DECLARE_METATYPE(Texts)
 
@@ -48,9 +49,6 @@ private Q_SLOTS:
 
 namespace {
 
-const auto units = Definitions::UnitSwitch;
-const auto dependencies = Definitions::DependencyFile;
-const auto defaults = Definitions::DefaultUnit;
 const QString pressure = QStringLiteral("UnitManager/UnitType/Pressure");
 
 /// Connection data whose optional sources are configured.
@@ -58,9 +56,8 @@ class ConfiguredData : public Data
 {
 public:
     ConfiguredData()
-        : Data(nullptr, true, false, false, TestSource::module, TestSource::dependencyObject,
-               TestSource::dependencyName, TestSource::module, TestSource::defaultUnitObject,
-               TestSource::defaultUnitName)
+        : Data(nullptr, true, false, false, module, dependencyObject, dependencyName, module,
+               defaultUnitObject, defaultUnitName)
     {}
 
     QSharedPointer<UnitManagerDevice> unitManager()
@@ -99,9 +96,7 @@ QSharedPointer<DBusPendingReply> arrivedReply()
 
 void UnitManagerConnectionDataTest::initTestCase()
 {
-    // Tests of this program must not reach a bus.
-    qputenv("DEVICE_BUS", "unix:path=/nonexistent/bus");
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "1000");
+    useNoBus();
 }
 
 void UnitManagerConnectionDataTest::theMetaObjectHasNoMethodsOfItsOwn()

@@ -4,6 +4,7 @@
 
 #include <type_traits>
 
+#include "ConfigurationService.h"
 #include "LogCapture.h"
 #include "ObjectSlots.h"
 #include "RecordingWrapper.h"
@@ -117,8 +118,7 @@ public:
 
 void UnitManagerConnectorStateBaseTest::initTestCase()
 {
-    qputenv("DEVICE_BUS", "unix:path=/nonexistent/bus");
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "1000");
+    useNoBus();
 }
 
 void UnitManagerConnectorStateBaseTest::theBaseAddsNoMethods()

@@ -2,62 +2,30 @@
 
 #include <QtTest/QTest>
 
-#include <memory>
-
 #include "ChangeSources.h"
-#include "ConfigurationService.h"
 #include "LogCapture.h"
 #include "RecordingWrapper.h"
+#include "ServiceFixture.h"
 
 using Definitions = UnitManagerConnectorDefinitions;
 using namespace ChangeSources;
 
-class UnitManagerConnectorStateIdleTest : public QObject
+class UnitManagerConnectorStateIdleTest : public ServiceFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void withoutChangeTheStateStays_data();
     void withoutChangeTheStateStays();
     void theChangedSourcesAreRead_data();
     void theChangedSourcesAreRead();
     void aChangeWithoutNameGivesAnEmptyList();
     void theChangesStayNoted();
-
-private:
-    std::unique_ptr<ConfigurationService> m_service;
 };
-
-namespace {
-
-bool openAll(RecordingWrapper& wrapper)
-{
-    bool areOpen = true;
-    for (const Type type : all)
-        areOpen = wrapper.data().openConnector(type) == Definitions::Connected && areOpen;
-    return areOpen;
-}
-
-} // namespace
-
-void UnitManagerConnectorStateIdleTest::init()
-{
-    m_service = std::make_unique<ConfigurationService>();
-    QVERIFY(m_service->start());
-}
-
-void UnitManagerConnectorStateIdleTest::cleanup()
-{
-    m_service.reset();
-}
 
 void UnitManagerConnectorStateIdleTest::withoutChangeTheStateStays_data()
 {
-    QTest::addColumn<bool>("polling");
-    QTest::newRow("signals delivered") << false;
-    QTest::newRow("signals polled") << true;
+    addModes();
 }
 
 void UnitManagerConnectorStateIdleTest::withoutChangeTheStateStays()
@@ -65,7 +33,7 @@ void UnitManagerConnectorStateIdleTest::withoutChangeTheStateStays()
     QFETCH(const bool, polling);
     LogCapture log;
     RecordingWrapper wrapper(polling);
-    QVERIFY(openAll(wrapper));
+    QVERIFY(wrapper.openAll());
     UnitManagerConnectorStateIdle state(&wrapper);
     QVERIFY(m_service->announce(TestSource::unitSwitchObject, "Test/Other"));
     QCoreApplication::processEvents();
@@ -103,7 +71,7 @@ void UnitManagerConnectorStateIdleTest::theChangedSourcesAreRead()
     for (const bool polling : {false, true}) {
         LogCapture log;
         RecordingWrapper wrapper(polling, asynchron);
-        QVERIFY(openAll(wrapper));
+        QVERIFY(wrapper.openAll());
         UnitManagerConnectorStateIdle state(&wrapper);
         for (const Type type : changed)
             QVERIFY(m_service->announce(settings()[type].at(1), settings()[type].at(2)));
@@ -137,7 +105,7 @@ void UnitManagerConnectorStateIdleTest::theChangesStayNoted()
 {
     LogCapture log;
     RecordingWrapper wrapper;
-    QVERIFY(openAll(wrapper));
+    QVERIFY(wrapper.openAll());
     UnitManagerConnectorStateIdle state(&wrapper);
     QVERIFY(m_service->announce(TestSource::defaultUnitObject, TestSource::defaultUnitName));
     for (int step = 0; step < 2; ++step) {

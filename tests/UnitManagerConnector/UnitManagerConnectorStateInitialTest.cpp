@@ -2,27 +2,25 @@
 
 #include <QtTest/QTest>
 
-#include <memory>
-
 #include "ConfigurationFileHandlerDBusConnector.h"
-#include "ConfigurationService.h"
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "RecordingWrapper.h"
+#include "ServiceFixture.h"
 
 using Definitions = UnitManagerConnectorDefinitions;
 using Type = Definitions::ConnectorType;
 using State = UnitManagerConnectorStateInitial;
 
+using namespace TestSource;
+
 Q_DECLARE_METATYPE(RecordingWrapper::OptionalSources)
 
-class UnitManagerConnectorStateInitialTest : public QObject
+class UnitManagerConnectorStateInitialTest : public ServiceFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void theOpenedSourcesAreRead_data();
     void theOpenedSourcesAreRead();
     void theReceivedEventIsIgnored();
@@ -39,16 +37,9 @@ private Q_SLOTS:
     void aBadLastSourceDoesNotHoldTheMachine_data();
     void aBadLastSourceDoesNotHoldTheMachine();
     void withoutSourcesTheListIsEmpty();
-
-private:
-    std::unique_ptr<ConfigurationService> m_service;
 };
 
 namespace {
-
-const Type units = Definitions::UnitSwitch;
-const Type dependencies = Definitions::DependencyFile;
-const Type defaults = Definitions::DefaultUnit;
 
 QString warning(const QString& text)
 {
@@ -76,17 +67,6 @@ QList<Type> openTypes(RecordingWrapper& wrapper)
 }
 
 } // namespace
-
-void UnitManagerConnectorStateInitialTest::init()
-{
-    m_service = std::make_unique<ConfigurationService>();
-    QVERIFY(m_service->start());
-}
-
-void UnitManagerConnectorStateInitialTest::cleanup()
-{
-    m_service.reset();
-}
 
 void UnitManagerConnectorStateInitialTest::theOpenedSourcesAreRead_data()
 {
@@ -166,9 +146,9 @@ void UnitManagerConnectorStateInitialTest::anUnreachableOptionalSourceEndsTheAtt
     QTest::addColumn<RecordingWrapper::OptionalSources>("sources");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QList<Type>>("tried");
-    QTest::newRow("dependency file") << RecordingWrapper::DependencyFileAbsent << TestSource::dependencyName
+    QTest::newRow("dependency file") << RecordingWrapper::DependencyFileAbsent << dependencyName
                                      << QList<Type>{units, dependencies};
-    QTest::newRow("default unit") << RecordingWrapper::DefaultUnitAbsent << TestSource::defaultUnitName
+    QTest::newRow("default unit") << RecordingWrapper::DefaultUnitAbsent << defaultUnitName
                                   << QList<Type>{units, dependencies, defaults};
 }
 
@@ -211,7 +191,7 @@ void UnitManagerConnectorStateInitialTest::aFailureDropsWhatIsThere()
     QVERIFY(wrapper.data().configurations().contains(units));
     QVERIFY(wrapper.data().configurations().value(units).isNull());
     // The subscriptions are closed too.
-    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
+    QVERIFY(m_service->announce(unitSwitchObject, unitSwitchName));
     QVERIFY(!wrapper.data().pollChangeFlags());
 }
 
@@ -276,11 +256,10 @@ void UnitManagerConnectorStateInitialTest::aBadLastSourceDoesNotHoldTheMachine_d
     QTest::newRow("not configured") << QStringList{"", "", "", "configuration.dependency", "optional"}
                                     << QStringList();
     QTest::newRow("a short list, its service absent")
-        << QStringList{TestSource::absentModule, "Object", "Name", "configuration.dependency"}
+        << QStringList{absentModule, "Object", "Name", "configuration.dependency"}
         << QStringList{"Unable to find handling for file type"};
     QTest::newRow("an unknown requirement, its service absent")
-        << QStringList{TestSource::absentModule, "Object", "Name", "configuration.dependency", "any"}
-        << QStringList();
+        << QStringList{absentModule, "Object", "Name", "configuration.dependency", "any"} << QStringList();
 }
 
 void UnitManagerConnectorStateInitialTest::aBadLastSourceDoesNotHoldTheMachine()
@@ -298,8 +277,7 @@ void UnitManagerConnectorStateInitialTest::aBadLastSourceDoesNotHoldTheMachine()
 
     // If it is in the middle of the list, the next source is still opened.
     wrapper.data().resetObject();
-    wrapper.init(false, "", "", "", TestSource::module, TestSource::defaultUnitObject,
-                 TestSource::defaultUnitName);
+    wrapper.init(false, "", "", "", module, defaultUnitObject, defaultUnitName);
     wrapper.data().connectorSettings()[dependencies] = lastSettings;
     state.postEvent(StateMachineEvent());
     QCOMPARE(log.takeTexts(), messages);

@@ -10,6 +10,7 @@
 
 using Type = UnitManagerConnectorDefinitions::ConnectorType;
 using Texts = QMap<Type, QString>;
+using namespace TestSource;
 
 Q_DECLARE_METATYPE(Texts)
 
@@ -26,18 +27,9 @@ private Q_SLOTS:
     void theObjectsStandBeforeTheTransition();
 };
 
-namespace {
-
-const Type units = UnitManagerConnectorDefinitions::UnitSwitch;
-const Type dependencies = UnitManagerConnectorDefinitions::DependencyFile;
-const Type defaults = UnitManagerConnectorDefinitions::DefaultUnit;
-
-} // namespace
-
 void UnitManagerConnectorStateUpdateTest::initTestCase()
 {
-    qputenv("DEVICE_BUS", "unix:path=/nonexistent/bus");
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "1000");
+    useNoBus();
 }
 
 void UnitManagerConnectorStateUpdateTest::theResultDecidesWhereToGo_data()

@@ -4,29 +4,26 @@
 #include <QtDBus/QDBusPendingCall>
 #include <QtTest/QTest>
 
-#include <memory>
-
 #include "ConfigurationFileHandlerDBusConnector.h"
-#include "ConfigurationService.h"
 #include "DBusPendingReply.h"
 #include "LogCapture.h"
 #include "RecordingWrapper.h"
+#include "ServiceFixture.h"
 #include "WaitUntil.h"
 
 using Type = UnitManagerConnectorDefinitions::ConnectorType;
 using ReplyPointer = QSharedPointer<DBusPendingReply>;
 using State = UnitManagerConnectorStateWaitForReply;
 using Texts = QMap<Type, QString>;
+using namespace TestSource;
 
 Q_DECLARE_METATYPE(ReplyPointer)
 
-class UnitManagerConnectorStateWaitForReplyTest : public QObject
+class UnitManagerConnectorStateWaitForReplyTest : public ServiceFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void aReplyIsLookedAt_data();
     void aReplyIsLookedAt();
     void anOutstandingReplyIsKept();
@@ -45,15 +42,9 @@ private Q_SLOTS:
 
 private:
     ReplyPointer outstanding() const;
-
-    std::unique_ptr<ConfigurationService> m_service;
 };
 
 namespace {
-
-const Type units = UnitManagerConnectorDefinitions::UnitSwitch;
-const Type dependencies = UnitManagerConnectorDefinitions::DependencyFile;
-const Type defaults = UnitManagerConnectorDefinitions::DefaultUnit;
 
 QDBusMessage call()
 {
@@ -82,23 +73,11 @@ QString transition(const char* state, const char* list)
 
 } // namespace
 
-void UnitManagerConnectorStateWaitForReplyTest::init()
-{
-    m_service = std::make_unique<ConfigurationService>();
-    QVERIFY(m_service->start());
-}
-
-void UnitManagerConnectorStateWaitForReplyTest::cleanup()
-{
-    m_service.reset();
-}
-
 /// A call without an answer until the service disconnects or the call times out.
 ReplyPointer UnitManagerConnectorStateWaitForReplyTest::outstanding() const
 {
     m_service->setAnswer("never", FakeBusService::never());
-    const auto connector = ConfigurationFileHandlerDBusConnector::createAndConnect(
-        TestSource::module, TestSource::unitSwitchObject);
+    const auto connector = ConfigurationFileHandlerDBusConnector::createAndConnect(module, unitSwitchObject);
     return connector ? connector->getConfigurationAsynchron("never", "module", QString()) : ReplyPointer();
 }
 

@@ -2,23 +2,19 @@
 
 #include <QtTest/QTest>
 
-#include <memory>
-
-#include "ConfigurationService.h"
 #include "LogCapture.h"
 #include "ObservedConnector.h"
+#include "ServiceFixture.h"
 #include "WaitUntil.h"
 
 Q_DECLARE_METATYPE(FakeBusService::Answer)
 
 /// The steps of a connector that reads without blocking.
-class UnitManagerDBusConnectorAsynchronTest : public QObject
+class UnitManagerDBusConnectorAsynchronTest : public ServiceFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void anAsynchronousCallIsOneStep();
     void anAsynchronousCallDoesNotWait();
     void asynchronousCallsGoOnAfterAnError();
@@ -27,45 +23,17 @@ private Q_SLOTS:
     void initKeepsTheChangeAndSetsTheMode();
     void aChangeBeforeTheUpdate_data();
     void aChangeBeforeTheUpdate();
-
-private:
-    bool settle() const;
-
-    std::unique_ptr<ConfigurationService> m_service;
 };
-
-namespace {
-
-const QStringList changedAndInitialized{"changed", "initialized"};
-
-} // namespace
-
-void UnitManagerDBusConnectorAsynchronTest::init()
-{
-    m_service = std::make_unique<ConfigurationService>();
-    QVERIFY(m_service->start());
-}
-
-void UnitManagerDBusConnectorAsynchronTest::cleanup()
-{
-    m_service.reset();
-}
-
-/// Waits until all answers have arrived.
-bool UnitManagerDBusConnectorAsynchronTest::settle() const
-{
-    return ConfigurationService::settle("org.measuringdevice.DeviceManager");
-}
 
 void UnitManagerDBusConnectorAsynchronTest::anAsynchronousCallIsOneStep()
 {
     LogCapture log;
     ObservedConnector connector(true, true);
     QVERIFY(!connector.isUnitManagerInitialized()); // opens
-    QVERIFY(settle());
+    QVERIFY(m_service->settle());
     QCOMPARE(m_service->takeCalls(), QStringList());
     QVERIFY(!connector.isUnitManagerInitialized()); // starts to read
-    QVERIFY(settle());
+    QVERIFY(m_service->settle());
     QCOMPARE(m_service->takeCalls().size(), 3);
     QVERIFY(!connector.isUnitManagerInitialized()); // takes the replies
     QCOMPARE(connector.takeSignals(), QStringList());
@@ -87,11 +55,11 @@ void UnitManagerDBusConnectorAsynchronTest::anAsynchronousCallDoesNotWait()
     m_service->setAnswer(TestSource::defaultUnitName, FakeBusService::never());
     LogCapture log;
     ObservedConnector connector(true, true);
-    QElapsedTimer timer;
-    timer.start();
     for (int call = 0; call < 50; ++call)
         QVERIFY(!connector.isUnitManagerInitialized());
-    QVERIFY2(timer.elapsed() < 5000, "one reply outstanding must not hold a call until its time is over");
+    // A call that waited for the outstanding reply would end with its time-out, and everything would be read
+    // again.
+    QCOMPARE(m_service->takeCalls().size(), 3);
     QCOMPARE(connector.takeSignals(), QStringList());
     QCOMPARE(log.takeTexts(), QStringList());
 }
@@ -103,13 +71,13 @@ void UnitManagerDBusConnectorAsynchronTest::asynchronousCallsGoOnAfterAnError()
     ObservedConnector connector(true, true);
     QVERIFY(!connector.isUnitManagerInitialized()); // opens
     QVERIFY(!connector.isUnitManagerInitialized()); // starts to read
-    QVERIFY(settle());
+    QVERIFY(m_service->settle());
     QVERIFY(!connector.isUnitManagerInitialized()); // detects the failure
     m_service->setAnswer(TestSource::unitSwitchName, FakeBusService::withValue(TestDocument::units()));
     QVERIFY(!connector.isUnitManagerInitialized()); // restarts
     QVERIFY(!connector.isUnitManagerInitialized()); // opens
     QVERIFY(!connector.isUnitManagerInitialized()); // starts to read
-    QVERIFY(settle());
+    QVERIFY(m_service->settle());
     QVERIFY(!connector.isUnitManagerInitialized()); // takes the replies
     QCOMPARE(connector.takeSignals(), QStringList());
     QVERIFY(connector.isUnitManagerInitialized());
@@ -159,10 +127,10 @@ void UnitManagerDBusConnectorAsynchronTest::initKeepsTheChangeAndSetsTheMode()
     QVERIFY(connector.hasConfigurationChanged());
     QVERIFY(connector.unitManager());
     QVERIFY(!connector.isUnitManagerInitialized());
-    QVERIFY(settle());
+    QVERIFY(m_service->settle());
     QCOMPARE(m_service->takeCalls(), QStringList());
     QVERIFY(!connector.isUnitManagerInitialized());
-    QVERIFY(settle());
+    QVERIFY(m_service->settle());
     // Only the units are configured now.
     QCOMPARE(m_service->takeCalls().size(), 1);
 
@@ -186,7 +154,7 @@ void UnitManagerDBusConnectorAsynchronTest::aChangeBeforeTheUpdate()
     ObservedConnector connector(polling, true);
     for (int step = 0; step < 2; ++step)
         QVERIFY(!connector.isUnitManagerInitialized());
-    QVERIFY(settle());
+    QVERIFY(m_service->settle());
     m_service->takeCalls();
     QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
     QCoreApplication::processEvents();

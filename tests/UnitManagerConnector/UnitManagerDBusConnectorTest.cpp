@@ -2,23 +2,20 @@
 
 #include <QtTest/QTest>
 
-#include <memory>
-
-#include "ConfigurationService.h"
+#include "ChangeSources.h"
 #include "DependencyWalker.h"
 #include "LogCapture.h"
 #include "ObjectSlots.h"
 #include "ObservedConnector.h"
+#include "ServiceFixture.h"
 
 using Connector = UnitManagerDBusConnector;
 
-class UnitManagerDBusConnectorTest : public QObject
+class UnitManagerDBusConnectorTest : public ServiceFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void theMetaObjectListsTheSignalsInOrder();
     void theVirtualFunctionsAreInOrder();
     void theParentIsNotPassedOn();
@@ -31,36 +28,13 @@ private Q_SLOTS:
     void resetForgetsTheChangeAndStartsAgain();
     void aChangeIsTakenUp_data();
     void aChangeIsTakenUp();
-
-private:
-    bool settle() const;
-
-    std::unique_ptr<ConfigurationService> m_service;
 };
 
 namespace {
 
 const QString pressure = QStringLiteral("UnitManager/UnitType/Pressure");
-const QStringList changedAndInitialized{"changed", "initialized"};
 
 } // namespace
-
-void UnitManagerDBusConnectorTest::init()
-{
-    m_service = std::make_unique<ConfigurationService>();
-    QVERIFY(m_service->start());
-}
-
-void UnitManagerDBusConnectorTest::cleanup()
-{
-    m_service.reset();
-}
-
-/// Waits until all answers have arrived.
-bool UnitManagerDBusConnectorTest::settle() const
-{
-    return ConfigurationService::settle("org.measuringdevice.DeviceManager");
-}
 
 void UnitManagerDBusConnectorTest::theMetaObjectListsTheSignalsInOrder()
 {
@@ -99,7 +73,7 @@ void UnitManagerDBusConnectorTest::nothingHappensBetweenCalls()
 {
     LogCapture log;
     ObservedConnector connector(false, false);
-    QVERIFY(settle());
+    QVERIFY(m_service->settle());
     QCoreApplication::processEvents();
     QVERIFY(!connector.hasConfigurationChanged());
     QVERIFY(connector.unitManager().isNull());
@@ -220,9 +194,7 @@ void UnitManagerDBusConnectorTest::resetForgetsTheChangeAndStartsAgain()
 
 void UnitManagerDBusConnectorTest::aChangeIsTakenUp_data()
 {
-    QTest::addColumn<bool>("polling");
-    QTest::newRow("signals delivered") << false;
-    QTest::newRow("signals polled") << true;
+    ChangeSources::addModes();
 }
 
 void UnitManagerDBusConnectorTest::aChangeIsTakenUp()

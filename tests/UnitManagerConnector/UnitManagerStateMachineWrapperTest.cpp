@@ -89,8 +89,7 @@ private:
 
 void UnitManagerStateMachineWrapperTest::initTestCase()
 {
-    qputenv("DEVICE_BUS", "unix:path=/nonexistent/bus");
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "1000");
+    useNoBus();
 }
 
 void UnitManagerStateMachineWrapperTest::init()
