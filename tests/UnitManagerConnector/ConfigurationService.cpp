@@ -1,9 +1,13 @@
 #include "ConfigurationService.h"
 
 #include <QtCore/QMutexLocker>
+#include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusConnectionInterface>
 
 #include "DBusConnection.h"
+#include "TestDocuments.h"
 #include "WaitLimit.h"
+#include "WaitUntil.h"
 
 namespace {
 
@@ -21,28 +25,9 @@ QString callText(const QDBusMessage& call)
 
 } // namespace
 
-QString TestDocument::units()
-{
-    return QStringLiteral(R"json({
-        "Pressure": {
-            "Bar": { "@displayPosition": 0, "DecimalPlaces": 3,
-                     "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]],
-                     "UnitLabel": { "@value": { "en": "bar" } } },
-            "HectoPascal": { "@displayPosition": 1, "DecimalPlaces": 1,
-                             "Polynomial": [[0], [1000]], "InversePolynomial": [[0], [0.001]],
-                             "UnitLabel": { "@value": { "en": "hPa" } } }
-        }
-    })json");
-}
-
-QString TestDocument::defaultUnits()
-{
-    return QStringLiteral(R"json({ "Pressure": { "@type": "Selection", "@value": "HectoPascal" } })json");
-}
-
 QString TestDocument::dependencies()
 {
-    return QStringLiteral(R"json({ "PressureUnit": ["Pressure"] })json");
+    return QStringLiteral(R"json({ "PressureUnit": ["Pressure"], "Value": ["Dependent"] })json");
 }
 
 QString TestDocument::broken()
@@ -56,9 +41,9 @@ void useNoBus()
 }
 
 ConfigurationService::ConfigurationService()
-    : m_answers{{TestSource::unitSwitchName, FakeBusService::withValue(TestDocument::units())},
+    : m_answers{{TestSource::unitSwitchName, FakeBusService::withValue(TestDocuments::units())},
                 {TestSource::dependencyName, FakeBusService::withValue(TestDocument::dependencies())},
-                {TestSource::defaultUnitName, FakeBusService::withValue(TestDocument::defaultUnits())}}
+                {TestSource::defaultUnitName, FakeBusService::withValue(TestDocuments::defaultUnits())}}
 {
     qputenv("DEVICE_BUS", m_bus.address().toLocal8Bit());
     qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(waitLimit));
@@ -83,6 +68,15 @@ bool ConfigurationService::start()
 void ConfigurationService::stop()
 {
     m_service.reset();
+    // The bus notices it asynchronously. A separate connection, because the tests observe the device's own.
+    const QString name = QStringLiteral("observer");
+    {
+        const QDBusConnection observer = QDBusConnection::connectToBus(m_bus.address(), name);
+        waitUntil([&] {
+            return !observer.isConnected() || !observer.interface()->isServiceRegistered(serviceName);
+        });
+    }
+    QDBusConnection::disconnectFromBus(name);
 }
 
 PrivateBus& ConfigurationService::bus()
@@ -94,6 +88,11 @@ void ConfigurationService::setAnswer(const QString& configuration, const FakeBus
 {
     const QMutexLocker locker(&m_mutex);
     m_answers[configuration] = answer;
+}
+
+void ConfigurationService::setDocument(const QString& configuration, const QVariant& document)
+{
+    setAnswer(configuration, FakeBusService::withValue(document));
 }
 
 QStringList ConfigurationService::takeCalls()

@@ -33,14 +33,22 @@ const QString defaultUnitName = QStringLiteral("Test/DefaultUnit");
 
 } // namespace TestSource
 
-/// What the service serves by default.
+/// The calls that read the sources, as ConfigurationService::takeCalls() returns them.
+namespace TestCall {
+
+const QString units =
+    QStringLiteral("/UnitManagerConfiguration getConfiguration(UnitManager/UnitType, UnitManager, )");
+const QString dependencies =
+    QStringLiteral("/DependencyObject getConfigurationDependency(Test/Dependency, UnitManager)");
+const QString defaults =
+    QStringLiteral("/DefaultUnitObject getConfiguration(Test/DefaultUnit, UnitManager, )");
+
+} // namespace TestCall
+
+/// Documents of the service, in addition to TestDocuments.
 namespace TestDocument {
 
-/// Pressure in Bar and HectoPascal.
-QString units();
-/// HectoPascal for Pressure.
-QString defaultUnits();
-/// "Pressure" depends on "PressureUnit".
+/// "Pressure" depends on "PressureUnit", and "Dependent" on "Value".
 QString dependencies();
 /// A text that is not a document.
 QString broken();
@@ -51,7 +59,8 @@ QString broken();
 void useNoBus();
 
 /// The device's configuration-file service on a private bus, which is the device's bus during the lifetime of
-/// this object. The objects of all sources are in one module.
+/// this object. The objects of all sources are in one module. Serves the units and default units of
+/// TestDocuments and the dependencies of TestDocument.
 class ConfigurationService
 {
 public:
@@ -62,12 +71,14 @@ public:
 
     /// Starts the service, and the bus unless it runs. @return whether both run.
     bool start();
-    /// Disconnects the service from the bus.
+    /// Disconnects the service, and waits until the bus no longer knows it.
     void stop();
     PrivateBus& bus();
 
-    /// Sets the answer to requests for a configuration from now on.
+    /// Sets the answer to requests for a configuration from now on. Nothing is announced.
     void setAnswer(const QString& configuration, const FakeBusService::Answer& answer);
+    /// Sets a value as the answer, which need not be a text; see setAnswer().
+    void setDocument(const QString& configuration, const QVariant& document);
 
     /// The calls that this process has sent since the last takeCalls(), oldest first: "/Object
     /// member(argument, argument)". Waits until the service has received them.

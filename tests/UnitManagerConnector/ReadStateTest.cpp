@@ -6,6 +6,7 @@
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "Row.h"
+#include "TestDocuments.h"
 
 using namespace TestSource;
 
@@ -42,9 +43,9 @@ void ReadStateTest::theListedSourcesAreRequestedInOrder()
     createState(&wrapper)->postEvent(readTrigger(types, "any name"));
     QCOMPARE(m_service->takeCalls(), calls);
     QCOMPARE(wrapper.takeTransitions(), QStringList{m_testedClass.nextState + " any name(" + listText + ')'});
-    const QMap<Type, QVariant> all{{units, TestDocument::units()},
+    const QMap<Type, QVariant> all{{units, TestDocuments::units()},
                                    {dependencies, TestDocument::dependencies()},
-                                   {defaults, TestDocument::defaultUnits()}};
+                                   {defaults, TestDocuments::defaultUnits()}};
     const QMap<Type, QVariant> delivered = deliveredValues(wrapper);
     QCOMPARE(delivered.size(), types.size());
     for (const Type type : types)

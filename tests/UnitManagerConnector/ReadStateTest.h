@@ -10,18 +10,6 @@
 #include "ServiceFixture.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
 
-/// The calls that read the sources, as ConfigurationService::takeCalls() returns them.
-namespace TestCall {
-
-const QString units =
-    QStringLiteral("/UnitManagerConfiguration getConfiguration(UnitManager/UnitType, UnitManager, )");
-const QString dependencies =
-    QStringLiteral("/DependencyObject getConfigurationDependency(Test/Dependency, UnitManager)");
-const QString defaults =
-    QStringLiteral("/DefaultUnitObject getConfiguration(Test/DefaultUnit, UnitManager, )");
-
-} // namespace TestCall
-
 /// Tests that the blocking and the asynchronous read state have in common. The test of each state derives
 /// from this class and inherits them.
 class ReadStateTest : public ServiceFixture

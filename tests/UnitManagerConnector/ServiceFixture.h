@@ -12,7 +12,7 @@ class ServiceFixture : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
+protected Q_SLOTS:
     void init();
     void cleanup();
 

@@ -9,6 +9,7 @@
 #include "DBusConnection.h"
 #include "LogCapture.h"
 #include "ServiceFixture.h"
+#include "TestDocuments.h"
 #include "WaitLimit.h"
 #include "WaitUntil.h"
 
@@ -268,7 +269,7 @@ void UnitManagerConnectionDataOpeningTest::anUpdateForgetsTheNotedChanges_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("result");
     QTest::newRow("nothing to build") << QString() << true;
-    QTest::newRow("the text loads") << TestDocument::units() << true;
+    QTest::newRow("the text loads") << TestDocuments::units() << true;
     QTest::newRow("the text does not load") << TestDocument::broken() << false;
 }
 

@@ -11,6 +11,7 @@
 #include "DeviceManagerDefinitions.h"
 #include "LogCapture.h"
 #include "ObjectSlots.h"
+#include "TestDocuments.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 
 using Data = UnitManagerConnectionData;
@@ -49,7 +50,18 @@ private Q_SLOTS:
 
 namespace {
 
-const QString pressure = QStringLiteral("UnitManager/UnitType/Pressure");
+using TestUnitType::pressure;
+
+/// The unit types of TestDocuments.
+const QStringList allTypes{TestUnitType::temperature, pressure, TestUnitType::ratio};
+
+/// The unit types in alphabetical order.
+QStringList unitTypesOf(const UnitManagerDevice& manager)
+{
+    QStringList types = manager.getListofUnitTypes();
+    types.sort();
+    return types;
+}
 
 /// Connection data whose optional sources are configured.
 class ConfiguredData : public Data
@@ -208,9 +220,9 @@ void UnitManagerConnectionDataTest::nothingIsBuiltWithoutText()
 
 void UnitManagerConnectionDataTest::objectsAreBuiltFromTheTexts_data()
 {
-    const Texts good{{units, TestDocument::units()},
+    const Texts good{{units, TestDocuments::units()},
                      {dependencies, TestDocument::dependencies()},
-                     {defaults, TestDocument::defaultUnits()}};
+                     {defaults, TestDocuments::defaultUnits()}};
     Texts noUnits = good;
     Texts noDefaults = good;
     Texts noDependencies = good;
@@ -222,14 +234,13 @@ void UnitManagerConnectionDataTest::objectsAreBuiltFromTheTexts_data()
     QTest::addColumn<QStringList>("unitTypes");
     QTest::addColumn<QString>("defaultUnit");
     QTest::addColumn<QStringList>("dependents");
-    const QStringList types{pressure};
     const QStringList dependents{"Pressure"};
-    QTest::newRow("all texts load") << good << true << types << "HectoPascal" << dependents;
+    QTest::newRow("all texts load") << good << true << allTypes << "HectoPascal" << dependents;
     QTest::newRow("the units do not load")
         << noUnits << false << QStringList() << "HectoPascal" << dependents;
-    QTest::newRow("the default units do not load") << noDefaults << false << types << "" << dependents;
+    QTest::newRow("the default units do not load") << noDefaults << false << allTypes << "" << dependents;
     QTest::newRow("the dependencies do not load")
-        << noDependencies << false << types << "HectoPascal" << QStringList();
+        << noDependencies << false << allTypes << "HectoPascal" << QStringList();
 }
 
 void UnitManagerConnectionDataTest::objectsAreBuiltFromTheTexts()
@@ -245,7 +256,7 @@ void UnitManagerConnectionDataTest::objectsAreBuiltFromTheTexts()
     QCOMPARE(data.updateObjects(), result);
     QVERIFY(data.unitManager());
     QVERIFY(data.walker());
-    QCOMPARE(data.unitManager()->getListofUnitTypes(), unitTypes);
+    QCOMPARE(unitTypesOf(*data.unitManager()), unitTypes);
     QCOMPARE(data.unitManager()->getDefaultUnit(pressure), defaultUnit);
     QCOMPARE(dependentsOf(*data.walker(), "PressureUnit"), dependents);
 
@@ -262,7 +273,7 @@ void UnitManagerConnectionDataTest::theUnitManagerIsReplacedByAFreshOne()
 {
     LogCapture log;
     ConfiguredData data;
-    data.configurations()[units] = TestDocument::units();
+    data.configurations()[units] = TestDocuments::units();
     QVERIFY(data.updateObjects());
     const QSharedPointer<UnitManagerDevice> first = data.unitManager();
     data.configurations()[units] = TestDocument::broken();
@@ -271,14 +282,14 @@ void UnitManagerConnectionDataTest::theUnitManagerIsReplacedByAFreshOne()
     QVERIFY(!data.unitManager()->isValid());
     // Owners of the old object keep the old units.
     QVERIFY(first->isValid());
-    QCOMPARE(first->getListofUnitTypes(), QStringList{pressure});
+    QCOMPARE(unitTypesOf(*first), allTypes);
 }
 
 void UnitManagerConnectionDataTest::aDependencyTextAloneLeavesTheUnitManager()
 {
     LogCapture log;
     ConfiguredData data;
-    data.configurations() = Texts{{units, TestDocument::units()}, {dependencies, "{}"}};
+    data.configurations() = Texts{{units, TestDocuments::units()}, {dependencies, "{}"}};
     QVERIFY(data.updateObjects());
     const QSharedPointer<UnitManagerDevice> manager = data.unitManager();
     const QSharedPointer<DependencyWalker> walker = data.walker();
@@ -295,10 +306,10 @@ void UnitManagerConnectionDataTest::unitTextsAloneLeaveTheDependencyWalker()
     LogCapture log;
     ConfiguredData data;
     data.configurations() =
-        Texts{{units, TestDocument::units()}, {dependencies, TestDocument::dependencies()}};
+        Texts{{units, TestDocuments::units()}, {dependencies, TestDocument::dependencies()}};
     QVERIFY(data.updateObjects());
     const QSharedPointer<DependencyWalker> walker = data.walker();
-    data.configurations() = Texts{{units, TestDocument::units()}};
+    data.configurations() = Texts{{units, TestDocuments::units()}};
     QVERIFY(data.updateObjects());
     QCOMPARE(data.walker(), walker);
 }
@@ -307,10 +318,10 @@ void UnitManagerConnectionDataTest::aDefaultUnitTextAloneGivesAManagerWithoutUni
 {
     LogCapture log;
     ConfiguredData data;
-    data.configurations() = Texts{{units, TestDocument::units()}};
+    data.configurations() = Texts{{units, TestDocuments::units()}};
     QVERIFY(data.updateObjects());
     const QSharedPointer<UnitManagerDevice> before = data.unitManager();
-    data.configurations() = Texts{{defaults, TestDocument::defaultUnits()}};
+    data.configurations() = Texts{{defaults, TestDocuments::defaultUnits()}};
     QVERIFY(data.updateObjects());
     QVERIFY(data.unitManager() != before);
     QVERIFY(!data.unitManager()->isValid());
@@ -323,7 +334,7 @@ void UnitManagerConnectionDataTest::theFetchedTextsOutliveAnUpdate()
 {
     LogCapture log;
     ConfiguredData data;
-    const Texts texts{{units, TestDocument::units()}, {dependencies, TestDocument::dependencies()}};
+    const Texts texts{{units, TestDocuments::units()}, {dependencies, TestDocument::dependencies()}};
     data.configurations() = texts;
     data.pendingReplies()[units] = arrivedReply();
     QVERIFY(data.updateObjects());
@@ -332,7 +343,7 @@ void UnitManagerConnectionDataTest::theFetchedTextsOutliveAnUpdate()
     QVERIFY(data.pendingReplies().value(units));
 
     // Only one source was read again: the stored text of the other is used again.
-    data.configurations()[defaults] = TestDocument::defaultUnits();
+    data.configurations()[defaults] = TestDocuments::defaultUnits();
     QVERIFY(data.updateObjects());
     QVERIFY(data.unitManager()->isValid());
     QCOMPARE(data.unitManager()->getDefaultUnit(pressure), QStringLiteral("HectoPascal"));
@@ -351,7 +362,7 @@ void UnitManagerConnectionDataTest::resetsKeepKeysAndObjects()
     LogCapture log;
     ConfiguredData data;
     data.configurations() =
-        Texts{{units, TestDocument::units()}, {dependencies, TestDocument::dependencies()}};
+        Texts{{units, TestDocuments::units()}, {dependencies, TestDocument::dependencies()}};
     QVERIFY(data.updateObjects());
     const QSharedPointer<UnitManagerDevice> manager = data.unitManager();
     const QSharedPointer<DependencyWalker> walker = data.walker();

@@ -9,6 +9,7 @@
 #include "DBusPendingReply.h"
 #include "LogCapture.h"
 #include "RecordingWrapper.h"
+#include "TestDocuments.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 
 using Definitions = UnitManagerConnectorDefinitions;
@@ -31,7 +32,7 @@ void UnitManagerConnectorStateErrorTest::everythingIsDroppedBeforeTheStartOver()
     RecordingWrapper wrapper;
     UnitManagerConnectionData& data = wrapper.data();
     QCOMPARE(data.openConnector(units), Definitions::Connected);
-    data.configurations()[units] = TestDocument::units();
+    data.configurations()[units] = TestDocuments::units();
     QVERIFY(data.updateObjects());
     data.pendingReplies()[units] = QSharedPointer<DBusPendingReply>::create(
         QDBusPendingCall::fromError(QDBusError(QDBusError::Failed, "as asked")));

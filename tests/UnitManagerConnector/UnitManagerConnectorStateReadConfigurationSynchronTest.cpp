@@ -7,6 +7,7 @@
 #include "MessageText.h"
 #include "ReadStateTest.h"
 #include "Row.h"
+#include "TestDocuments.h"
 
 using SynchronState = UnitManagerConnectorStateReadConfigurationSynchron;
 using namespace TestSource;
@@ -75,7 +76,7 @@ void UnitManagerConnectorStateReadConfigurationSynchronTest::aFailureDoesNotStop
     QCOMPARE(wrapper.takeTransitions(), QStringList{"UnitManagerConnectorStateError ReadTrigger([0 1 2])"});
     QVERIFY(wrapper.data().configurations().value(units).isNull());
     QCOMPARE(wrapper.data().configurations().value(dependencies), TestDocument::dependencies());
-    QCOMPARE(wrapper.data().configurations().value(defaults), TestDocument::defaultUnits());
+    QCOMPARE(wrapper.data().configurations().value(defaults), TestDocuments::defaultUnits());
     QCOMPARE(log.takeTexts().size(), 1);
 }
 
@@ -141,7 +142,7 @@ void UnitManagerConnectorStateReadConfigurationSynchronTest::theMessagesNameTheS
     LogCapture log;
     m_service->setAnswer(name, FakeBusService::withError("org.example.Error"));
     QVERIFY(!state.readConfiguration(type));
-    m_service->setAnswer(name, FakeBusService::withValue(""));
+    m_service->setDocument(name, "");
     QVERIFY(!state.readConfiguration(type));
     QCOMPARE(messageTexts(log.take(), LineNumbers::Any),
              (QStringList{warning("Unable to get unitswitch configuration via DBus " + source),
@@ -150,7 +151,7 @@ void UnitManagerConnectorStateReadConfigurationSynchronTest::theMessagesNameTheS
 
 void UnitManagerConnectorStateReadConfigurationSynchronTest::aReplyIsConvertedToText()
 {
-    m_service->setAnswer(defaultUnitName, FakeBusService::withValue(7));
+    m_service->setDocument(defaultUnitName, 7);
     RecordingWrapper wrapper;
     QVERIFY(wrapper.openAll());
     SynchronState state(&wrapper);

@@ -6,6 +6,7 @@
 #include "DependencyWalker.h"
 #include "LogCapture.h"
 #include "RecordingWrapper.h"
+#include "TestDocuments.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 
 using Type = UnitManagerConnectorDefinitions::ConnectorType;
@@ -36,13 +37,13 @@ void UnitManagerConnectorStateUpdateTest::theResultDecidesWhereToGo_data()
 {
     QTest::addColumn<Texts>("texts");
     QTest::addColumn<QString>("state");
-    const Texts good{{units, TestDocument::units()},
+    const Texts good{{units, TestDocuments::units()},
                      {dependencies, TestDocument::dependencies()},
-                     {defaults, TestDocument::defaultUnits()}};
+                     {defaults, TestDocuments::defaultUnits()}};
     QTest::newRow("all texts load") << good << "Idle";
     QTest::newRow("there is no text") << Texts() << "Idle";
     QTest::newRow("only the default units are there")
-        << Texts{{defaults, TestDocument::defaultUnits()}} << "Idle";
+        << Texts{{defaults, TestDocuments::defaultUnits()}} << "Idle";
     for (const Type type : {units, dependencies, defaults}) {
         Texts texts = good;
         texts[type] = TestDocument::broken();
@@ -69,7 +70,7 @@ void UnitManagerConnectorStateUpdateTest::theEventGoesOnUnchanged_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("state");
-    QTest::newRow("to the idle state") << TestDocument::units() << "Idle";
+    QTest::newRow("to the idle state") << TestDocuments::units() << "Idle";
     QTest::newRow("to the error state") << TestDocument::broken() << "Error";
 }
 
@@ -91,7 +92,7 @@ void UnitManagerConnectorStateUpdateTest::theObjectsStandBeforeTheTransition()
     LogCapture log;
     RecordingWrapper wrapper;
     wrapper.data().configurations() =
-        Texts{{units, TestDocument::units()}, {dependencies, TestDocument::dependencies()}};
+        Texts{{units, TestDocuments::units()}, {dependencies, TestDocument::dependencies()}};
     QSharedPointer<UnitManagerDevice> manager;
     QSharedPointer<DependencyWalker> walker;
     wrapper.setObserver([&] {

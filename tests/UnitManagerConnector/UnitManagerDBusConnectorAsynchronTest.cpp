@@ -5,6 +5,7 @@
 #include "LogCapture.h"
 #include "ObservedConnector.h"
 #include "ServiceFixture.h"
+#include "TestDocuments.h"
 #include "WaitUntil.h"
 
 Q_DECLARE_METATYPE(FakeBusService::Answer)
@@ -73,7 +74,7 @@ void UnitManagerDBusConnectorAsynchronTest::asynchronousCallsGoOnAfterAnError()
     QVERIFY(!connector.isUnitManagerInitialized()); // starts to read
     QVERIFY(m_service->settle());
     QVERIFY(!connector.isUnitManagerInitialized()); // detects the failure
-    m_service->setAnswer(TestSource::unitSwitchName, FakeBusService::withValue(TestDocument::units()));
+    m_service->setDocument(TestSource::unitSwitchName, TestDocuments::units());
     QVERIFY(!connector.isUnitManagerInitialized()); // restarts
     QVERIFY(!connector.isUnitManagerInitialized()); // opens
     QVERIFY(!connector.isUnitManagerInitialized()); // starts to read

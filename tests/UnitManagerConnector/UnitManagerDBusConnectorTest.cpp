@@ -8,6 +8,7 @@
 #include "ObjectSlots.h"
 #include "ObservedConnector.h"
 #include "ServiceFixture.h"
+#include "TestDocuments.h"
 
 using Connector = UnitManagerDBusConnector;
 
@@ -32,7 +33,7 @@ private Q_SLOTS:
 
 namespace {
 
-const QString pressure = QStringLiteral("UnitManager/UnitType/Pressure");
+using TestUnitType::pressure;
 
 } // namespace
 
@@ -155,14 +156,14 @@ void UnitManagerDBusConnectorTest::aFailedReadEndsABlockingCall()
     QVERIFY(!connector.hasConfigurationChanged());
     QVERIFY(connector.unitManager().isNull());
 
-    m_service->setAnswer(TestSource::unitSwitchName, FakeBusService::withValue(TestDocument::units()));
+    m_service->setDocument(TestSource::unitSwitchName, TestDocuments::units());
     QVERIFY(connector.isUnitManagerInitialized());
     QCOMPARE(connector.takeSignals(), changedAndInitialized);
 }
 
 void UnitManagerDBusConnectorTest::aFailingUpdateIsAnnouncedToo()
 {
-    m_service->setAnswer(TestSource::unitSwitchName, FakeBusService::withValue(TestDocument::broken()));
+    m_service->setDocument(TestSource::unitSwitchName, TestDocument::broken());
     LogCapture log;
     ObservedConnector connector(true, false);
     QVERIFY(!connector.isUnitManagerInitialized());
@@ -209,7 +210,7 @@ void UnitManagerDBusConnectorTest::aChangeIsTakenUp()
     m_service->takeCalls();
 
     const QString bar = QStringLiteral(R"({ "Pressure": { "@type": "Selection", "@value": "Bar" } })");
-    m_service->setAnswer(TestSource::defaultUnitName, FakeBusService::withValue(bar));
+    m_service->setDocument(TestSource::defaultUnitName, bar);
     QVERIFY(m_service->announce(TestSource::defaultUnitObject, TestSource::defaultUnitName));
     QCoreApplication::processEvents();
     QVERIFY(connector.isUnitManagerInitialized());

@@ -11,6 +11,7 @@
 #include "LogCapture.h"
 #include "ObjectSlots.h"
 #include "RecordingWrapper.h"
+#include "TestDocuments.h"
 #include "UnitConversion/Factory.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateIdle.h"
@@ -275,7 +276,7 @@ void UnitManagerStateMachineWrapperTest::theBuiltObjectsAreShared()
     QVERIFY(!wrapper.initializeDependencyWalker(walker));
     QVERIFY(manager.isNull() && walker.isNull());
 
-    data.configurations()[Definitions::UnitSwitch] = TestDocument::units();
+    data.configurations()[Definitions::UnitSwitch] = TestDocuments::units();
     data.configurations()[Definitions::DependencyFile] = TestDocument::dependencies();
     QVERIFY(data.updateObjects());
     QVERIFY(wrapper.initializeUnitManager(manager));

@@ -1,9 +1,8 @@
 #include <QtTest/QTest>
 
 #include "Described.h"
-#include "DocumentService.h"
 #include "LogCapture.h"
-#include "PrivateBus.h"
+#include "ServiceFixture.h"
 #include "TestDocuments.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 #include "WaitLimit.h"
@@ -13,13 +12,11 @@
 using namespace WrapperSetup;
 
 /// How a wrapper handles documents that change while it runs.
-class UnitManagerWrapperChangeTest : public QObject
+class UnitManagerWrapperChangeTest : public ServiceFixture
 {
     Q_OBJECT
 
-private slots:
-    void init();
-    void cleanup();
+private Q_SLOTS:
     void changeIsAdopted_data();
     void changeIsAdopted();
     void eventLoopIsNeeded_data();
@@ -30,10 +27,6 @@ private slots:
     void badDocumentReplacesGoodUnits_data();
     void badDocumentReplacesGoodUnits();
     void badDocumentWaitsForTheQuestion();
-
-private:
-    std::unique_ptr<PrivateBus> m_bus;
-    std::unique_ptr<DocumentService> m_service;
 };
 
 namespace {
@@ -42,13 +35,6 @@ namespace T = TestUnitType;
 
 const QString milliBarAsDefault = QStringLiteral(R"({ "Pressure": { "@type": "Selection",
                                                                      "@value": "MilliBar" } })");
-
-std::unique_ptr<UnitManagerWrapper> createInFetchedMode()
-{
-    QFETCH(bool, reading);
-    QFETCH(bool, changeSignals);
-    return create(AllNames, Reading(reading), Signals(changeSignals));
-}
 
 bool hasAdopted(UnitManagerWrapper& wrapper)
 {
@@ -66,32 +52,7 @@ QString defaultUnit(const UnitManagerWrapper& wrapper)
     return wrapper.getUnitManager()->getDefaultUnit(T::pressure);
 }
 
-/// 1.5 bar as the wrapper shows it.
-QString shown(const UnitManagerWrapper& wrapper)
-{
-    return described(wrapper.getValue(1.5, T::pressure, QStringLiteral("HectoPascal")));
-}
-
-const QString converted = QStringLiteral("double 1500");
-const QString asStored = QStringLiteral("double 1.5");
-
 } // namespace
-
-void UnitManagerWrapperChangeTest::init()
-{
-    m_bus = std::make_unique<PrivateBus>();
-    QVERIFY(m_bus->start());
-    qputenv("DEVICE_BUS", m_bus->address().toLocal8Bit());
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "60000");
-    m_service = std::make_unique<DocumentService>(m_bus->address());
-    QVERIFY(m_service->isRunning());
-}
-
-void UnitManagerWrapperChangeTest::cleanup()
-{
-    m_service.reset();
-    m_bus.reset();
-}
 
 void UnitManagerWrapperChangeTest::changeIsAdopted_data()
 {
@@ -100,14 +61,14 @@ void UnitManagerWrapperChangeTest::changeIsAdopted_data()
 
 void UnitManagerWrapperChangeTest::changeIsAdopted()
 {
-    const auto wrapper = createInFetchedMode();
+    const auto wrapper = createInFetchedMode(AllNames);
     QVERIFY(waitForAdoption(*wrapper));
     const auto before = wrapper->getUnitManager();
     QCOMPARE(before->getDefaultUnit(T::pressure), QStringLiteral("HectoPascal"));
     LogCapture log;
 
-    m_service->replace(DocumentService::DefaultUnits, milliBarAsDefault);
-    QVERIFY(m_service->announce(DocumentService::DefaultUnits));
+    m_service->setDocument(TestSource::defaultUnitName, milliBarAsDefault);
+    QVERIFY(m_service->announce(TestSource::defaultUnitObject, TestSource::defaultUnitName));
     QVERIFY(waitForAdoption(*wrapper));
 
     QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
@@ -144,8 +105,8 @@ void UnitManagerWrapperChangeTest::eventLoopIsNeeded()
     const auto wrapper = create(Names(names), Blocking, Signals(changeSignals));
     QVERIFY(hasAdopted(*wrapper));
 
-    m_service->replace(DocumentService::Units, TestDocuments::voltage());
-    QVERIFY(m_service->announce(DocumentService::Units));
+    m_service->setDocument(TestSource::unitSwitchName, TestDocuments::voltage());
+    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
     QCOMPARE(hasAdopted(*wrapper), !isNeeded);
     QVERIFY(!isNeeded || waitForAdoption(*wrapper));
     QCOMPARE(wrapper->getUnitManager()->getListofUnitTypes(), QStringList{T::voltage});
@@ -155,8 +116,8 @@ void UnitManagerWrapperChangeTest::changeIsTakenUpByTheCheck()
 {
     const auto wrapper = create(AllNames, Blocking, Delivered);
     QVERIFY(hasAdopted(*wrapper));
-    m_service->replace(DocumentService::DefaultUnits, milliBarAsDefault);
-    QVERIFY(m_service->announce(DocumentService::DefaultUnits));
+    m_service->setDocument(TestSource::defaultUnitName, milliBarAsDefault);
+    QVERIFY(m_service->announce(TestSource::defaultUnitObject, TestSource::defaultUnitName));
 
     QTRY_VERIFY_WITH_TIMEOUT(
         wrapper->checkInitialized() && defaultUnit(*wrapper) == QLatin1String("MilliBar"), waitLimit);
@@ -169,13 +130,13 @@ void UnitManagerWrapperChangeTest::changeIsNotSoughtByTheQuestion()
 {
     const auto wrapper = create(AllNames, Blocking, Polled);
     QVERIFY(hasAdopted(*wrapper));
-    const QStringList requests = m_service->requests();
-    m_service->replace(DocumentService::DefaultUnits, milliBarAsDefault);
-    QVERIFY(m_service->announce(DocumentService::DefaultUnits));
+    m_service->takeCalls();
+    m_service->setDocument(TestSource::defaultUnitName, milliBarAsDefault);
+    QVERIFY(m_service->announce(TestSource::defaultUnitObject, TestSource::defaultUnitName));
 
     for (int call = 0; call < 10; ++call)
         QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
-    QCOMPARE(m_service->requests(), requests);
+    QCOMPARE(m_service->takeCalls(), QStringList());
     QVERIFY(hasAdopted(*wrapper));
 }
 
@@ -183,8 +144,8 @@ void UnitManagerWrapperChangeTest::unitsServeDuringAnAsynchronousRead()
 {
     const auto wrapper = create(AllNames, Asynchronous, Polled);
     QVERIFY(waitUntil([&] { return hasAdopted(*wrapper); }));
-    m_service->replace(DocumentService::Units, TestDocuments::voltage());
-    QVERIFY(m_service->announce(DocumentService::Units));
+    m_service->setDocument(TestSource::unitSwitchName, TestDocuments::voltage());
+    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
 
     QVERIFY(!wrapper->checkInitialized());
     QVERIFY(*wrapper);
@@ -202,13 +163,13 @@ void UnitManagerWrapperChangeTest::badDocumentReplacesGoodUnits_data()
 
 void UnitManagerWrapperChangeTest::badDocumentReplacesGoodUnits()
 {
-    const auto wrapper = createInFetchedMode();
+    const auto wrapper = createInFetchedMode(AllNames);
     QVERIFY(waitForAdoption(*wrapper));
     const auto good = wrapper->getUnitManager();
     LogCapture log;
 
-    m_service->replace(DocumentService::Units, QStringLiteral("{"));
-    QVERIFY(m_service->announce(DocumentService::Units));
+    m_service->setDocument(TestSource::unitSwitchName, QStringLiteral("{"));
+    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
     QVERIFY(QTest::qWaitFor(
         [&] { return !wrapper->checkInitialized() && wrapper->hasUnitManagerConfigurationChanged(); },
         waitLimit));
@@ -221,7 +182,7 @@ void UnitManagerWrapperChangeTest::badDocumentReplacesGoodUnits()
     QVERIFY(messages.contains(Expected::invalidUnitDocument("{")));
     QCOMPARE(messages.filter("UnitManagerWrapper"), QStringList());
 
-    m_service->replace(DocumentService::Units, TestDocuments::units());
+    m_service->setDocument(TestSource::unitSwitchName, TestDocuments::units());
     QVERIFY(waitForUnits(*wrapper));
     QVERIFY(*wrapper);
     QCOMPARE(shown(*wrapper), converted);
@@ -232,8 +193,8 @@ void UnitManagerWrapperChangeTest::badDocumentWaitsForTheQuestion()
 {
     const auto wrapper = create(AllNames, Blocking, Polled);
     QVERIFY(hasAdopted(*wrapper));
-    m_service->replace(DocumentService::Units, QStringLiteral("{"));
-    QVERIFY(m_service->announce(DocumentService::Units));
+    m_service->setDocument(TestSource::unitSwitchName, QStringLiteral("{"));
+    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
     const LogCapture quiet;
 
     QVERIFY(!wrapper->checkInitialized());

@@ -1,10 +1,9 @@
 #include <QtTest/QTest>
 
+#include "ConfigurationService.h"
 #include "DependencyWalker.h"
 #include "Described.h"
-#include "DocumentService.h"
 #include "LogCapture.h"
-#include "PrivateBus.h"
 #include "RecordingValueNode.h"
 #include "TestDocuments.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
@@ -47,7 +46,7 @@ class UnitManagerWrapperDependencyTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init();
     void dependenciesOfAWrittenValueAreResolved_data();
@@ -62,24 +61,19 @@ private slots:
     void resetKeepsTheWalker();
 
 private:
-    PrivateBus m_bus;
-    std::unique_ptr<DocumentService> m_service;
+    ConfigurationService m_service;
     QSharedPointer<RecordingValueNode> m_child;
     QSharedPointer<RecordingValueNode> m_parent;
 };
 
 void UnitManagerWrapperDependencyTest::initTestCase()
 {
-    QVERIFY(m_bus.start());
-    qputenv("DEVICE_BUS", m_bus.address().toLocal8Bit());
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "60000");
-    m_service = std::make_unique<DocumentService>(m_bus.address());
-    QVERIFY(m_service->isRunning());
+    QVERIFY(m_service.start());
 }
 
 void UnitManagerWrapperDependencyTest::init()
 {
-    m_service->replace(DocumentService::Units, TestDocuments::units());
+    m_service.setDocument(TestSource::unitSwitchName, TestDocuments::units());
     m_child = RecordingValueNode::number(1.0, TestUnitType::pressure);
     m_parent = RecordingValueNode::parentOf(m_child);
     traversals.clear();
@@ -119,7 +113,7 @@ void UnitManagerWrapperDependencyTest::dependenciesOfAWrittenValueAreResolved()
 
 void UnitManagerWrapperDependencyTest::dependenciesAreResolvedWithoutUnits()
 {
-    m_service->replace(DocumentService::Units, QStringLiteral("{"));
+    m_service.setDocument(TestSource::unitSwitchName, QStringLiteral("{"));
     const LogCapture quiet;
     const auto wrapper = create(AllNames, Blocking, Delivered);
     QVERIFY(wrapper->hasUnitManagerConfigurationChanged());

@@ -55,7 +55,7 @@ class UnitManagerWrapperSettingsTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void missingNamesAreEmptyTexts_data();
     void missingNamesAreEmptyTexts();
@@ -71,12 +71,11 @@ void UnitManagerWrapperSettingsTest::missingNamesAreEmptyTexts_data()
 {
     QTest::addColumn<Names>("names");
     QTest::addColumn<QStringList>("expected");
-    const QStringList defaultUnits{"DeviceManager", "DefaultUnitConfiguration", "UnitManager/DefaultUnit"};
+    const QStringList defaultUnits{"DeviceManager", "DefaultUnitObject", "Test/DefaultUnit"};
     QTest::newRow("no names") << NoNames << QStringList{"", "", "", "", "", ""};
     QTest::newRow("names of the default units") << DefaultUnitNames << QStringList{"", "", ""} + defaultUnits;
     QTest::newRow("all names") << AllNames
-                               << QStringList{"DeviceManager", "DependencyConfiguration",
-                                              "UnitManager/Dependency"} +
+                               << QStringList{"DeviceManager", "DependencyObject", "Test/Dependency"} +
                                       defaultUnits;
 }
 

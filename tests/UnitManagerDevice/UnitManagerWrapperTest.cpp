@@ -8,10 +8,9 @@
 
 #include "DependencyWalker.h"
 #include "Described.h"
-#include "DocumentService.h"
 #include "LogCapture.h"
 #include "MessageText.h"
-#include "PrivateBus.h"
+#include "ServiceFixture.h"
 #include "TestDocuments.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 #include "VirtualSlot.h"
@@ -56,13 +55,11 @@ static_assert(!isBuiltFrom<char*, char*>);
 using namespace WrapperSetup;
 
 /// Construction, the first configuration, init() and reset(). For changes see UnitManagerWrapperChangeTest.
-class UnitManagerWrapperTest : public QObject
+class UnitManagerWrapperTest : public ServiceFixture
 {
     Q_OBJECT
 
-private slots:
-    void init();
-    void cleanup();
+private Q_SLOTS:
     void initHasTheThirdSlot();
     void unitManagerIsReleasedFirst();
     void newWrapperHasNoUnits();
@@ -81,31 +78,11 @@ private slots:
     void resetKeepsWhatWasBuilt_data();
     void resetKeepsWhatWasBuilt();
     void resetForgetsANotedChange();
-
-private:
-    std::unique_ptr<PrivateBus> m_bus;
-    std::unique_ptr<DocumentService> m_service;
 };
 
 namespace {
 
 namespace T = TestUnitType;
-
-std::unique_ptr<UnitManagerWrapper> createInFetchedMode(Names names)
-{
-    QFETCH(bool, reading);
-    QFETCH(bool, changeSignals);
-    return create(names, Reading(reading), Signals(changeSignals));
-}
-
-/// 1.5 bar as the wrapper shows it.
-QString shown(const UnitManagerWrapper& wrapper)
-{
-    return described(wrapper.getValue(1.5, T::pressure, QStringLiteral("HectoPascal")));
-}
-
-const QString converted = QStringLiteral("double 1500");
-const QString asStored = QStringLiteral("double 1.5");
 
 QString wrapperWarning(const char* function, const char* text)
 {
@@ -113,22 +90,6 @@ QString wrapperWarning(const char* function, const char* text)
 }
 
 } // namespace
-
-void UnitManagerWrapperTest::init()
-{
-    m_bus = std::make_unique<PrivateBus>();
-    QVERIFY(m_bus->start());
-    qputenv("DEVICE_BUS", m_bus->address().toLocal8Bit());
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "60000");
-    m_service = std::make_unique<DocumentService>(m_bus->address());
-    QVERIFY(m_service->isRunning());
-}
-
-void UnitManagerWrapperTest::cleanup()
-{
-    m_service.reset();
-    m_bus.reset();
-}
 
 void UnitManagerWrapperTest::initHasTheThirdSlot()
 {
@@ -167,12 +128,10 @@ void UnitManagerWrapperTest::constructionReads_data()
     QTest::addColumn<bool>("changeSignals");
     QTest::addColumn<QStringList>("requests");
 
-    using Service = DocumentService;
     const QStringList nothing;
-    const QStringList units = Service::readsOf({Service::Units});
-    const QStringList two = Service::readsOf({Service::Units, Service::DefaultUnits});
-    const QStringList three =
-        Service::readsOf({Service::Units, Service::DefaultUnits, Service::Dependencies});
+    const QStringList units{TestCall::units};
+    const QStringList two{TestCall::units, TestCall::defaults};
+    const QStringList three{TestCall::units, TestCall::dependencies, TestCall::defaults};
 
     const auto add = [](const char* row, Names names, Reading reading, Signals changeSignals,
                         const QStringList& requests) {
@@ -199,7 +158,7 @@ void UnitManagerWrapperTest::constructionReads()
     QFETCH(QStringList, requests);
     const auto wrapper = createInFetchedMode(Names(names));
 
-    QCOMPARE(m_service->requests(), requests);
+    QCOMPARE(m_service->takeCalls(), requests);
     QCOMPARE(bool(*wrapper), !requests.isEmpty());
     QCOMPARE(shown(*wrapper), requests.isEmpty() ? asStored : converted);
 }
@@ -238,7 +197,7 @@ void UnitManagerWrapperTest::withoutServiceThereAreNoUnits_data()
 void UnitManagerWrapperTest::withoutServiceThereAreNoUnits()
 {
     QFETCH(bool, reading);
-    m_service.reset();
+    m_service->stop();
     LogCapture log;
     const auto wrapper = createInFetchedMode(AllNames);
     log.take();
@@ -248,8 +207,7 @@ void UnitManagerWrapperTest::withoutServiceThereAreNoUnits()
     QVERIFY(!*wrapper);
     QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
 
-    m_service = std::make_unique<DocumentService>(m_bus->address());
-    QVERIFY(m_service->isRunning());
+    QVERIFY(m_service->start());
     QVERIFY(waitForUnits(*wrapper));
     QCOMPARE(shown(*wrapper), converted);
 }
@@ -264,7 +222,7 @@ void UnitManagerWrapperTest::idleWithoutUnitManagerIsWarnedOf_data()
 void UnitManagerWrapperTest::idleWithoutUnitManagerIsWarnedOf()
 {
     QFETCH(QVariant, answer);
-    m_service->replace(DocumentService::Units, answer);
+    m_service->setDocument(TestSource::unitSwitchName, answer);
     const auto wrapper = create(NoNames, Asynchronous, Delivered);
     LogCapture log;
     const QString notInitialized =
@@ -297,7 +255,7 @@ void UnitManagerWrapperTest::initDropsWhatWasBuilt()
     const auto wrapper = createInFetchedMode(AllNames);
     QVERIFY(waitForUnits(*wrapper));
     QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
-    const QStringList requests = m_service->requests();
+    const QStringList requests = m_service->takeCalls();
     LogCapture log;
 
     QVERIFY(WrapperSetup::init(*wrapper, Reading(reading)));
@@ -306,12 +264,12 @@ void UnitManagerWrapperTest::initDropsWhatWasBuilt()
     QCOMPARE(shown(*wrapper), asStored);
     QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
     QVERIFY(!*wrapper);
-    QCOMPARE(m_service->requests(), requests);
+    QCOMPARE(m_service->takeCalls(), QStringList());
     QCOMPARE(describedMessages(log), QStringList());
 
     QVERIFY(waitForUnits(*wrapper));
     QCOMPARE(shown(*wrapper), converted);
-    QCOMPARE(m_service->requests().size(), 2 * requests.size());
+    QCOMPARE(m_service->takeCalls(), requests);
     QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
 }
 
@@ -331,7 +289,7 @@ void UnitManagerWrapperTest::initKeepsANotedChange()
 void UnitManagerWrapperTest::initTakesNewSettings()
 {
     const auto wrapper = create(NoNames, Blocking, Delivered);
-    QCOMPARE(m_service->requests(), DocumentService::readsOf({DocumentService::Units}));
+    QCOMPARE(m_service->takeCalls(), QStringList{TestCall::units});
 
     QVERIFY(WrapperSetup::init(*wrapper, Asynchronous));
     QVERIFY2(!wrapper->checkInitialized(), "one step does not reach a configuration");
@@ -353,18 +311,18 @@ void UnitManagerWrapperTest::resetKeepsWhatWasBuilt()
     const auto wrapper = createInFetchedMode(AllNames);
     QVERIFY(waitForUnits(*wrapper));
     const auto units = wrapper->getUnitManager();
-    const QStringList requests = m_service->requests();
+    const QStringList requests = m_service->takeCalls();
     LogCapture log;
 
     QVERIFY(wrapper->reset());
     QVERIFY(*wrapper);
     QCOMPARE(wrapper->getUnitManager(), units);
     QCOMPARE(shown(*wrapper), converted);
-    QCOMPARE(m_service->requests(), requests);
+    QCOMPARE(m_service->takeCalls(), QStringList());
     QCOMPARE(describedMessages(log), QStringList());
 
     QVERIFY(waitForUnits(*wrapper));
-    QCOMPARE(m_service->requests().size(), 2 * requests.size());
+    QCOMPARE(m_service->takeCalls(), requests);
     QVERIFY(wrapper->getUnitManager() != units);
     QVERIFY(units->isValid());
     QVERIFY(wrapper->hasUnitManagerConfigurationChanged());

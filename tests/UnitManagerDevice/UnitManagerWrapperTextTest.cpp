@@ -2,22 +2,19 @@
 
 #include "Array2dDataTypeWrapper.h"
 #include "Described.h"
-#include "DocumentService.h"
 #include "EmptyText.h"
 #include "LogCapture.h"
-#include "PrivateBus.h"
 #include "RecordingValueNode.h"
 #include "TestDocuments.h"
+#include "TwoWrappersFixture.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
-#include "WrapperSetup.h"
 
 /// Labels and other properties of units, each with and without loaded units.
-class UnitManagerWrapperTextTest : public QObject
+class UnitManagerWrapperTextTest : public TwoWrappersFixture
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase();
+private Q_SLOTS:
     void textOfNode_data();
     void textOfNode();
     void textOfUnitType_data();
@@ -27,12 +24,6 @@ private slots:
     void textMapAndBaseUnit_data();
     void textMapAndBaseUnit();
     void unitManagerIsTheOneInUse();
-
-private:
-    PrivateBus m_bus;
-    std::unique_ptr<DocumentService> m_service;
-    std::unique_ptr<UnitManagerWrapper> m_units;
-    std::unique_ptr<UnitManagerWrapper> m_noUnits;
 };
 
 namespace {
@@ -40,20 +31,6 @@ namespace {
 namespace T = TestUnitType;
 
 } // namespace
-
-void UnitManagerWrapperTextTest::initTestCase()
-{
-    using namespace WrapperSetup;
-    QVERIFY(m_bus.start());
-    qputenv("DEVICE_BUS", m_bus.address().toLocal8Bit());
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "60000");
-    m_service = std::make_unique<DocumentService>(m_bus.address());
-    QVERIFY(m_service->isRunning());
-    m_units = create(AllNames, Blocking, Delivered);
-    QVERIFY(*m_units);
-    m_noUnits = createUnused();
-    QVERIFY(!*m_noUnits);
-}
 
 void UnitManagerWrapperTextTest::textOfNode_data()
 {

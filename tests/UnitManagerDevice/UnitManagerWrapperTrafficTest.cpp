@@ -1,27 +1,32 @@
 #include "UnitManagerDevice/UnitManagerWrapper.h"
 
-#include <QtCore/QDeadlineTimer>
 #include <QtTest/QTest>
 
 #include "BusMonitor.h"
 #include "DBusConnection.h"
-#include "DocumentService.h"
 #include "LogCapture.h"
-#include "PrivateBus.h"
+#include "ServiceFixture.h"
 #include "WaitLimit.h"
 #include "WrapperSetup.h"
 
 using namespace WrapperSetup;
 
 /// All bus traffic of a start: no introspection, no activation, and no duplicates.
-class UnitManagerWrapperTrafficTest : public QObject
+class UnitManagerWrapperTrafficTest : public ServiceFixture
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
+    void init();
+    void cleanup();
     void blockingStart();
     void attemptWithoutService();
     void blockingStartOnFrozenBus();
+
+private:
+    QStringList takeCalls();
+
+    std::unique_ptr<BusMonitor> m_monitor;
 };
 
 namespace {
@@ -46,74 +51,67 @@ QString changeRule(const char* object)
 
 } // namespace
 
+void UnitManagerWrapperTrafficTest::init()
+{
+    ServiceFixture::init();
+    m_monitor = std::make_unique<BusMonitor>(m_service->bus().address());
+    QVERIFY(m_monitor->start());
+    takeCalls();
+}
+
+void UnitManagerWrapperTrafficTest::cleanup()
+{
+    m_monitor.reset();
+    ServiceFixture::cleanup();
+}
+
+/// The calls of this process since the last takeCalls().
+QStringList UnitManagerWrapperTrafficTest::takeCalls()
+{
+    return m_monitor->takeCalls(DBusConnection::getQDBusConnection());
+}
+
 void UnitManagerWrapperTrafficTest::blockingStart()
 {
-    PrivateBus bus;
-    QVERIFY(bus.start());
-    qputenv("DEVICE_BUS", bus.address().toLocal8Bit());
-    const DocumentService documents(bus.address());
-    QVERIFY(documents.isRunning());
-    BusMonitor monitor(bus.address());
-    QVERIFY(monitor.start());
-    monitor.takeCalls(DBusConnection::getQDBusConnection());
-
     const auto wrapper = create(AllNames, Blocking, Delivered);
     QVERIFY(*wrapper);
     const QString whoOwnsIt = toBus(QStringLiteral("NameHasOwner ") + service);
-    QCOMPARE(monitor.takeCalls(DBusConnection::getQDBusConnection()),
+    QCOMPARE(takeCalls(),
              (QStringList{// Query, watch, and query again, because the owner may have left before the watch.
                           whoOwnsIt, ownerRule, whoOwnsIt,
                           // The subscriptions; for the first one Qt also watches the name.
                           changeRule("UnitManagerConfiguration"), ownerRule,
-                          toBus(QStringLiteral("GetNameOwner ") + service),
-                          changeRule("DependencyConfiguration"), changeRule("DefaultUnitConfiguration"),
+                          toBus(QStringLiteral("GetNameOwner ") + service), changeRule("DependencyObject"),
+                          changeRule("DefaultUnitObject"),
                           // The documents.
                           service + " getConfiguration UnitManager/UnitType",
-                          service + " getConfigurationDependency UnitManager/Dependency",
-                          service + " getConfiguration UnitManager/DefaultUnit"}));
+                          service + " getConfigurationDependency Test/Dependency",
+                          service + " getConfiguration Test/DefaultUnit"}));
 }
 
 void UnitManagerWrapperTrafficTest::attemptWithoutService()
 {
-    PrivateBus bus;
-    QVERIFY(bus.start());
-    qputenv("DEVICE_BUS", bus.address().toLocal8Bit());
-    BusMonitor monitor(bus.address());
-    QVERIFY(monitor.start());
-    monitor.takeCalls(DBusConnection::getQDBusConnection());
-
+    m_service->stop();
     LogCapture log;
     const auto wrapper = create(AllNames, Asynchronous, Delivered);
     QVERIFY(!*wrapper);
-    QCOMPARE(monitor.takeCalls(DBusConnection::getQDBusConnection()),
-             QStringList{toBus(QStringLiteral("NameHasOwner ") + service)});
+    QCOMPARE(takeCalls(), QStringList{toBus(QStringLiteral("NameHasOwner ") + service)});
 }
 
 void UnitManagerWrapperTrafficTest::blockingStartOnFrozenBus()
 {
-    PrivateBus bus;
-    QVERIFY(bus.start());
-    qputenv("DEVICE_BUS", bus.address().toLocal8Bit());
-    const DocumentService documents(bus.address());
-    QVERIFY(documents.isRunning());
-    BusMonitor monitor(bus.address());
-    QVERIFY(monitor.start());
-    monitor.takeCalls(DBusConnection::getQDBusConnection());
-
-    // A start makes a hundred attempts: a time-out for each would exceed the limit.
-    qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(waitLimit / 50));
-    const QDeadlineTimer deadline(waitLimit);
+    qputenv("DEVICE_BUS_TIMEOUT_MS", "1000");
     LogCapture log;
-    bus.halt();
+    m_service->bus().halt();
     const auto wrapper = create(AllNames, Blocking, Delivered);
     QVERIFY(!*wrapper);
-    QVERIFY(!deadline.hasExpired());
 
-    bus.resume();
-    qunsetenv("DEVICE_BUS_TIMEOUT_MS");
-    // The call that blocked until its time-out, and the one that remains outstanding.
+    m_service->bus().resume();
+    qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(waitLimit));
+    // A start makes a hundred attempts, but only one call blocks until its time-out; a second one remains
+    // outstanding.
     const QString whoOwnsIt = toBus(QStringLiteral("NameHasOwner ") + service);
-    QCOMPARE(monitor.takeCalls(DBusConnection::getQDBusConnection()), (QStringList{whoOwnsIt, whoOwnsIt}));
+    QCOMPARE(takeCalls(), (QStringList{whoOwnsIt, whoOwnsIt}));
     QVERIFY(waitForUnits(*wrapper));
 }
 

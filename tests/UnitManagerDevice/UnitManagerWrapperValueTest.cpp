@@ -3,21 +3,18 @@
 #include "Array2dDataTypeWrapper.h"
 #include "ConfigurationAndProcessDataTools.h"
 #include "Described.h"
-#include "DocumentService.h"
 #include "LogCapture.h"
-#include "PrivateBus.h"
 #include "RecordingNode.h"
 #include "RecordingValueNode.h"
 #include "TestDocuments.h"
-#include "WrapperSetup.h"
+#include "TwoWrappersFixture.h"
 
 /// Values and arrays, each with and without loaded units.
-class UnitManagerWrapperValueTest : public QObject
+class UnitManagerWrapperValueTest : public TwoWrappersFixture
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase();
+private Q_SLOTS:
     void nodeValueIsRead_data();
     void nodeValueIsRead();
     void nullNodeHasNoValue();
@@ -31,12 +28,6 @@ private slots:
     void nodeValueIsWritten();
     void statusIsTheNodesOwn_data();
     void statusIsTheNodesOwn();
-
-private:
-    PrivateBus m_bus;
-    std::unique_ptr<DocumentService> m_service;
-    std::unique_ptr<UnitManagerWrapper> m_units;
-    std::unique_ptr<UnitManagerWrapper> m_noUnits;
 };
 
 namespace {
@@ -70,20 +61,6 @@ QStringList rowsOf(const Array2dDataTypeWrapper& array)
 }
 
 } // namespace
-
-void UnitManagerWrapperValueTest::initTestCase()
-{
-    using namespace WrapperSetup;
-    QVERIFY(m_bus.start());
-    qputenv("DEVICE_BUS", m_bus.address().toLocal8Bit());
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "60000");
-    m_service = std::make_unique<DocumentService>(m_bus.address());
-    QVERIFY(m_service->isRunning());
-    m_units = create(AllNames, Blocking, Delivered);
-    QVERIFY(*m_units);
-    m_noUnits = createUnused();
-    QVERIFY(!*m_noUnits);
-}
 
 void UnitManagerWrapperValueTest::nodeValueIsRead_data()
 {

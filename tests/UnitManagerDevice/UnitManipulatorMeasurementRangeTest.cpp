@@ -7,12 +7,11 @@
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "DependencyWalker.h"
 #include "Described.h"
-#include "DocumentService.h"
 #include "LogCapture.h"
 #include "MessageText.h"
-#include "PrivateBus.h"
 #include "RecordingNode.h"
 #include "RecordingValueNode.h"
+#include "ServiceFixture.h"
 #include "TestDocuments.h"
 #include "VirtualSlot.h"
 #include "WaitUntil.h"
@@ -30,13 +29,12 @@ static_assert(sizeof(UnitManipulatorMeasurementRange) ==
 using namespace WrapperSetup;
 
 /// Units and unit texts in the measurement ranges of nodes.
-class UnitManipulatorMeasurementRangeTest : public QObject
+class UnitManipulatorMeasurementRangeTest : public ServiceFixture
 {
     Q_OBJECT
 
-private slots:
-    void init();
-    void cleanup();
+private Q_SLOTS:
+    void initTestCase();
     void manipulateHasTheThirdSlot();
     void uninitializedWrapperIsWarnedOf_data();
     void uninitializedWrapperIsWarnedOf();
@@ -53,10 +51,6 @@ private slots:
     void unknownUnitTypeIsWrittenAsNone();
     void withoutUnitManagerNoneIsWritten();
     void walkerAppliesIt();
-
-private:
-    std::unique_ptr<PrivateBus> m_bus;
-    std::unique_ptr<DocumentService> m_service;
 };
 
 namespace {
@@ -122,22 +116,10 @@ const QString notInitialized =
 
 } // namespace
 
-void UnitManipulatorMeasurementRangeTest::init()
+void UnitManipulatorMeasurementRangeTest::initTestCase()
 {
-    m_bus = std::make_unique<PrivateBus>();
-    QVERIFY(m_bus->start());
-    qputenv("DEVICE_BUS", m_bus->address().toLocal8Bit());
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "60000");
-    m_service = std::make_unique<DocumentService>(m_bus->address());
-    QVERIFY(m_service->isRunning());
     QCOMPARE(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyMeasurementRangeAttributes(),
              rangeKey);
-}
-
-void UnitManipulatorMeasurementRangeTest::cleanup()
-{
-    m_service.reset();
-    m_bus.reset();
 }
 
 void UnitManipulatorMeasurementRangeTest::manipulateHasTheThirdSlot()
@@ -155,7 +137,7 @@ void UnitManipulatorMeasurementRangeTest::uninitializedWrapperIsWarnedOf_data()
 void UnitManipulatorMeasurementRangeTest::uninitializedWrapperIsWarnedOf()
 {
     QFETCH(bool, hasNode);
-    m_service.reset();
+    m_service->stop();
     const auto wrapper = create(AllNames, Asynchronous, Polled);
     const auto node = hasNode ? nodeWithRanges() : QSharedPointer<RecordingValueNode>();
     const QStringList calls = hasNode ? node->calls() : QStringList();
@@ -191,9 +173,7 @@ void UnitManipulatorMeasurementRangeTest::nodeWithoutRangesStaysAsItIs_data()
 
 void UnitManipulatorMeasurementRangeTest::nodeWithoutRangesStaysAsItIs()
 {
-    QFETCH(bool, reading);
-    QFETCH(bool, changeSignals);
-    const auto wrapper = create(AllNames, Reading(reading), Signals(changeSignals));
+    const auto wrapper = createInFetchedMode(AllNames);
     QVERIFY(waitForUnits(*wrapper));
     const auto node = RecordingValueNode::number(1.5, T::pressure);
     LogCapture log;
@@ -304,7 +284,7 @@ void UnitManipulatorMeasurementRangeTest::unknownUnitTypeIsWrittenAsNone()
 
 void UnitManipulatorMeasurementRangeTest::withoutUnitManagerNoneIsWritten()
 {
-    m_service->replace(DocumentService::Units, QString());
+    m_service->setDocument(TestSource::unitSwitchName, QString());
     const auto wrapper = create(NoNames, Asynchronous, Polled);
     const LogCapture quiet;
     QVERIFY(waitForUnits(*wrapper));

@@ -2,17 +2,12 @@
 
 #include <QtTest/QTest>
 
+#include "ConfigurationService.h"
+#include "Described.h"
+#include "TestDocuments.h"
 #include "WaitUntil.h"
 
-namespace {
-
-const QString module = QStringLiteral("DeviceManager");
-const QString defaultUnitObject = QStringLiteral("DefaultUnitConfiguration");
-const QString defaultUnitName = QStringLiteral("UnitManager/DefaultUnit");
-const QString dependencyObject = QStringLiteral("DependencyConfiguration");
-const QString dependencyName = QStringLiteral("UnitManager/Dependency");
-
-} // namespace
+using namespace TestSource;
 
 std::unique_ptr<UnitManagerWrapper> WrapperSetup::create(Names names, Reading reading, Signals changeSignals)
 {
@@ -28,6 +23,13 @@ std::unique_ptr<UnitManagerWrapper> WrapperSetup::create(Names names, Reading re
                                                     changeSignals);
     }
     return nullptr;
+}
+
+std::unique_ptr<UnitManagerWrapper> WrapperSetup::createInFetchedMode(Names names)
+{
+    QFETCH(bool, reading);
+    QFETCH(bool, changeSignals);
+    return create(names, Reading(reading), Signals(changeSignals));
 }
 
 std::unique_ptr<UnitManagerWrapper> WrapperSetup::createUnused()
@@ -50,6 +52,11 @@ bool WrapperSetup::initWithoutNames(UnitManagerWrapper& wrapper, Reading reading
 bool WrapperSetup::waitForUnits(UnitManagerWrapper& wrapper)
 {
     return waitUntil([&wrapper] { return wrapper.checkInitialized(); });
+}
+
+QString WrapperSetup::shown(const UnitManagerWrapper& wrapper)
+{
+    return described(wrapper.getValue(1.5, TestUnitType::pressure, QStringLiteral("HectoPascal")));
 }
 
 void WrapperSetup::addModes()

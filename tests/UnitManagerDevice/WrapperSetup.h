@@ -31,6 +31,8 @@ enum Signals : bool
 
 /// Creates a wrapper with the constructor that takes these names.
 std::unique_ptr<UnitManagerWrapper> create(Names names, Reading reading, Signals changeSignals);
+/// Creates a wrapper in the mode of the test's row; see addModes().
+std::unique_ptr<UnitManagerWrapper> createInFetchedMode(Names names);
 /// A wrapper without service, which returns values as stored.
 std::unique_ptr<UnitManagerWrapper> createUnused();
 /// Calls init() with all names. @return its result.
@@ -40,6 +42,13 @@ bool initWithoutNames(UnitManagerWrapper& wrapper, Reading reading);
 
 /// Calls checkInitialized() until it returns true, without an event loop. @return false after a minute.
 bool waitForUnits(UnitManagerWrapper& wrapper);
+
+/// 1.5 bar in HectoPascal as the wrapper shows it.
+QString shown(const UnitManagerWrapper& wrapper);
+/// The result of shown() with units.
+const QString converted = QStringLiteral("double 1500");
+/// The result of shown() without units.
+const QString asStored = QStringLiteral("double 1.5");
 
 /// Adds the columns "reading" and "changeSignals" with the four modes of a wrapper.
 void addModes();
