@@ -1,6 +1,7 @@
-// The test is that this file compiles; it is not linked.
+// The test is that this file compiles; it is not linked. It contains the library's own source, compiled with
+// the state machine in otherPlatform/.
 
-#include "UnitManagerConnector/UnitManagerStateMachineWrapper.h"
+#include "UnitManagerConnector/UnitManagerStateMachineWrapper.cpp"
 
 #include <type_traits>
 #include <utility>

@@ -128,28 +128,29 @@ void UnitManagerWrapperTest::constructionReads_data()
     QTest::addColumn<bool>("changeSignals");
     QTest::addColumn<QStringList>("requests");
 
-    const QStringList nothing;
-    const QStringList units{TestCall::units};
-    const QStringList two{TestCall::units, TestCall::defaults};
-    const QStringList three{TestCall::units, TestCall::dependencies, TestCall::defaults};
-
-    const auto add = [](const char* row, Names names, Reading reading, Signals changeSignals,
-                        const QStringList& requests) {
-        QTest::newRow(row) << int(names) << bool(reading) << bool(changeSignals) << requests;
+    const struct
+    {
+        const char* row;
+        Names names;
+        QStringList documents;
+    } constructors[] = {
+        {"no names", NoNames, {TestCall::units}},
+        {"default units", DefaultUnitNames, {TestCall::units, TestCall::defaults}},
+        {"all names", AllNames, {TestCall::units, TestCall::dependencies, TestCall::defaults}},
     };
-    add("no names, blocking, delivered", NoNames, Blocking, Delivered, units);
-    add("default units, blocking, delivered", DefaultUnitNames, Blocking, Delivered, two);
-    add("all names, blocking, delivered", AllNames, Blocking, Delivered, three);
-    // One attempt is one step here, which opens the sources.
-    add("no names, asynchronous, delivered", NoNames, Asynchronous, Delivered, nothing);
-    add("default units, asynchronous, delivered", DefaultUnitNames, Asynchronous, Delivered, nothing);
-    add("all names, asynchronous, delivered", AllNames, Asynchronous, Delivered, nothing);
-    add("no names, blocking, polled", NoNames, Blocking, Polled, nothing);
-    add("default units, blocking, polled", DefaultUnitNames, Blocking, Polled, nothing);
-    add("all names, blocking, polled", AllNames, Blocking, Polled, nothing);
-    add("no names, asynchronous, polled", NoNames, Asynchronous, Polled, nothing);
-    add("default units, asynchronous, polled", DefaultUnitNames, Asynchronous, Polled, nothing);
-    add("all names, asynchronous, polled", AllNames, Asynchronous, Polled, nothing);
+    const QStringList nothing;
+    for (const auto& constructor : constructors) {
+        const auto add = [&](const char* mode, Reading reading, Signals changeSignals,
+                             const QStringList& requests) {
+            QTest::addRow("%s, %s", constructor.row, mode)
+                << int(constructor.names) << bool(reading) << bool(changeSignals) << requests;
+        };
+        add("blocking, delivered", Blocking, Delivered, constructor.documents);
+        // One attempt is one step here, which opens the sources.
+        add("asynchronous, delivered", Asynchronous, Delivered, nothing);
+        add("blocking, polled", Blocking, Polled, nothing);
+        add("asynchronous, polled", Asynchronous, Polled, nothing);
+    }
 }
 
 void UnitManagerWrapperTest::constructionReads()
