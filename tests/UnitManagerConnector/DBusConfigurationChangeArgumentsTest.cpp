@@ -77,7 +77,7 @@ class DBusConfigurationChangeArgumentsTest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void closingNamesWhatWasSubscribed();
+    void closingUsesTheArgumentsOfTheSubscription();
 };
 
 void DBusConfigurationChangeArgumentsTest::initTestCase()
@@ -85,7 +85,7 @@ void DBusConfigurationChangeArgumentsTest::initTestCase()
     useNoBus();
 }
 
-void DBusConfigurationChangeArgumentsTest::closingNamesWhatWasSubscribed()
+void DBusConfigurationChangeArgumentsTest::closingUsesTheArgumentsOfTheSubscription()
 {
     ConfiguredHandling handling(false);
     takeCalls();

@@ -20,11 +20,11 @@ class DBusConfigurationChangePollingTest : public QObject
 
 private Q_SLOTS:
     void init();
-    void namesAreHandedOverAsTheyAre();
+    void namesArePassedUnchanged();
     void aNewSubscriptionReplacesTheEarlierOne();
     void sourcesArePolledInOrder();
-    void aSignalIsResetOnceItIsTakenIn_data();
-    void aSignalIsResetOnceItIsTakenIn();
+    void aSignalIsResetAfterItIsProcessed_data();
+    void aSignalIsResetAfterItIsProcessed();
     void closingReleasesTheHandlers();
     void deliveredSignalsNeedNoHandler();
 };
@@ -35,7 +35,7 @@ void DBusConfigurationChangePollingTest::init()
     takeCalls();
 }
 
-void DBusConfigurationChangePollingTest::namesAreHandedOverAsTheyAre()
+void DBusConfigurationChangePollingTest::namesArePassedUnchanged()
 {
     ConfiguredHandling handling(true);
     QVERIFY(subscribeAll(handling));
@@ -81,7 +81,7 @@ void DBusConfigurationChangePollingTest::sourcesArePolledInOrder()
                                            "dependency file has been changed"}));
 }
 
-void DBusConfigurationChangePollingTest::aSignalIsResetOnceItIsTakenIn_data()
+void DBusConfigurationChangePollingTest::aSignalIsResetAfterItIsProcessed_data()
 {
     QTest::addColumn<QVariant>("parameter");
     QTest::addColumn<bool>("isChange");
@@ -89,11 +89,11 @@ void DBusConfigurationChangePollingTest::aSignalIsResetOnceItIsTakenIn_data()
     QTest::newRow("a text of bytes") << QVariant(dependencyName.toUtf8()) << true;
     QTest::newRow("another name") << QVariant("Test/Other") << false;
     QTest::newRow("a number") << QVariant(7) << false;
-    QTest::newRow("a dictionary, which is no text") << QVariant(QVariantMap{{"a", 1}}) << false;
+    QTest::newRow("a dictionary, which is not a text") << QVariant(QVariantMap{{"a", 1}}) << false;
     QTest::newRow("no parameter") << QVariant() << false;
 }
 
-void DBusConfigurationChangePollingTest::aSignalIsResetOnceItIsTakenIn()
+void DBusConfigurationChangePollingTest::aSignalIsResetAfterItIsProcessed()
 {
     QFETCH(const QVariant, parameter);
     QFETCH(const bool, isChange);

@@ -12,6 +12,7 @@
 #include "DBusConnection.h"
 #include "LogCapture.h"
 #include "ObjectSlots.h"
+#include "Row.h"
 #include "ServiceFixture.h"
 #include "WaitLimit.h"
 
@@ -33,13 +34,13 @@ private Q_SLOTS:
     void onlyTheConfiguredNameIsAChange();
     void changesStayUntilTheyAreReset_data();
     void changesStayUntilTheyAreReset();
-    void initForgetsThatSomethingChangedButNotWhat();
-    void resetForgetsChangesAndSubscriptions_data();
-    void resetForgetsChangesAndSubscriptions();
+    void initClearsTheFlagButNotTheNames();
+    void resetClearsChangesAndSubscriptions_data();
+    void resetClearsChangesAndSubscriptions();
     void aSignalOnTheBusIsAChange_data();
     void aSignalOnTheBusIsAChange();
-    void aSignalOfAnotherConfigurationIsNone_data();
-    void aSignalOfAnotherConfigurationIsNone();
+    void aSignalOfAnotherConfigurationIsIgnored_data();
+    void aSignalOfAnotherConfigurationIsIgnored();
     void aSignalWithFurtherArgumentsIsOnlyPolled_data();
     void aSignalWithFurtherArgumentsIsOnlyPolled();
     void aSignalWithoutAStringIsNoChange_data();
@@ -87,13 +88,12 @@ void DBusConfigurationChangeSignalHandlingTest::onlyTheConfiguredNameIsAChange_d
     QTest::addColumn<Type>("type");
     QTest::addColumn<QString>("function");
     QTest::addColumn<QString>("message");
-    QTest::newRow("unit switch") << Definitions::UnitSwitch
-                                 << "unitSwitchConfigurationFileChange(const QString&)"
-                                 << "unit manager configuration has been changed";
-    QTest::newRow("dependency file") << Definitions::DependencyFile << "dependencyFileChanged(const QString&)"
-                                     << "dependency file has been changed";
-    QTest::newRow("default unit") << Definitions::DefaultUnit << "defaultUnitFileChange(const QString&)"
-                                  << "default unit configuration has been changed";
+    row("unit switch", Definitions::UnitSwitch, "unitSwitchConfigurationFileChange(const QString&)",
+        "unit manager configuration has been changed");
+    row("dependency file", Definitions::DependencyFile, "dependencyFileChanged(const QString&)",
+        "dependency file has been changed");
+    row("default unit", Definitions::DefaultUnit, "defaultUnitFileChange(const QString&)",
+        "default unit configuration has been changed");
 }
 
 void DBusConfigurationChangeSignalHandlingTest::onlyTheConfiguredNameIsAChange()
@@ -151,7 +151,7 @@ void DBusConfigurationChangeSignalHandlingTest::changesStayUntilTheyAreReset()
         QVERIFY(change.isNull());
 }
 
-void DBusConfigurationChangeSignalHandlingTest::initForgetsThatSomethingChangedButNotWhat()
+void DBusConfigurationChangeSignalHandlingTest::initClearsTheFlagButNotTheNames()
 {
     ConfiguredHandling handling(true);
     LogCapture log;
@@ -162,12 +162,12 @@ void DBusConfigurationChangeSignalHandlingTest::initForgetsThatSomethingChangedB
              (Changes{{Definitions::DependencyFile, TestSource::dependencyName}}));
 }
 
-void DBusConfigurationChangeSignalHandlingTest::resetForgetsChangesAndSubscriptions_data()
+void DBusConfigurationChangeSignalHandlingTest::resetClearsChangesAndSubscriptions_data()
 {
     addModes();
 }
 
-void DBusConfigurationChangeSignalHandlingTest::resetForgetsChangesAndSubscriptions()
+void DBusConfigurationChangeSignalHandlingTest::resetClearsChangesAndSubscriptions()
 {
     QFETCH(const bool, polling);
     ConfiguredHandling handling(polling);
@@ -210,12 +210,12 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalOnTheBusIsAChange()
     QVERIFY(!handling.pollChangeFlags());
 }
 
-void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherConfigurationIsNone_data()
+void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherConfigurationIsIgnored_data()
 {
     addModesAndSources();
 }
 
-void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherConfigurationIsNone()
+void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherConfigurationIsIgnored()
 {
     QFETCH(const bool, polling);
     QFETCH(const Type, type);

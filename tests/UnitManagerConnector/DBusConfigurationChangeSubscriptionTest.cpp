@@ -5,6 +5,7 @@
 #include "ChangeSources.h"
 #include "DBusConnection.h"
 #include "LogCapture.h"
+#include "Row.h"
 #include "ServiceFixture.h"
 #include "WaitLimit.h"
 
@@ -20,8 +21,8 @@ private Q_SLOTS:
     void aSubscriptionWithoutBusFails();
     void closingEndsTheSubscriptions_data();
     void closingEndsTheSubscriptions();
-    void closingWarnsOfWhatTheBusDoesNotKnow_data();
-    void closingWarnsOfWhatTheBusDoesNotKnow();
+    void closingWarnsAboutUnknownSubscriptions_data();
+    void closingWarnsAboutUnknownSubscriptions();
     void closingUnderNewNamesLeavesTheOldSubscription();
     void aSourceThatIsNoLongerConfiguredIsNotClosed();
 };
@@ -31,12 +32,12 @@ void DBusConfigurationChangeSubscriptionTest::aSubscriptionWithoutBusFails_data(
     QTest::addColumn<Type>("type");
     QTest::addColumn<QString>("function");
     QTest::addColumn<QString>("object");
-    QTest::newRow("unit switch") << Definitions::UnitSwitch << "connectUnitSwitchChangeFlag()"
-                                 << TestSource::unitSwitchObject;
-    QTest::newRow("dependency file") << Definitions::DependencyFile << "connectDependencyFileChangeFlag()"
-                                     << TestSource::dependencyObject;
-    QTest::newRow("default unit") << Definitions::DefaultUnit << "connectDefaultUnitChangeFlag()"
-                                  << TestSource::defaultUnitObject;
+    row("unit switch", Definitions::UnitSwitch, "connectUnitSwitchChangeFlag()",
+        TestSource::unitSwitchObject);
+    row("dependency file", Definitions::DependencyFile, "connectDependencyFileChangeFlag()",
+        TestSource::dependencyObject);
+    row("default unit", Definitions::DefaultUnit, "connectDefaultUnitChangeFlag()",
+        TestSource::defaultUnitObject);
 }
 
 void DBusConfigurationChangeSubscriptionTest::aSubscriptionWithoutBusFails()
@@ -88,18 +89,17 @@ void DBusConfigurationChangeSubscriptionTest::closingEndsTheSubscriptions()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void DBusConfigurationChangeSubscriptionTest::closingWarnsOfWhatTheBusDoesNotKnow_data()
+void DBusConfigurationChangeSubscriptionTest::closingWarnsAboutUnknownSubscriptions_data()
 {
     QTest::addColumn<bool>("polling");
     QTest::addColumn<QStringList>("objects");
-    QTest::newRow("signals delivered")
-        << false
-        << QStringList{TestSource::unitSwitchObject, TestSource::dependencyObject,
-                       TestSource::defaultUnitObject};
-    QTest::newRow("signals polled") << true << QStringList();
+    row("signals delivered", false,
+        QStringList{TestSource::unitSwitchObject, TestSource::dependencyObject,
+                    TestSource::defaultUnitObject});
+    row("signals polled", true, QStringList());
 }
 
-void DBusConfigurationChangeSubscriptionTest::closingWarnsOfWhatTheBusDoesNotKnow()
+void DBusConfigurationChangeSubscriptionTest::closingWarnsAboutUnknownSubscriptions()
 {
     QFETCH(const bool, polling);
     QFETCH(const QStringList, objects);
@@ -117,7 +117,7 @@ void DBusConfigurationChangeSubscriptionTest::closingWarnsOfWhatTheBusDoesNotKno
         expected.append(messageOf(QtWarningMsg, "closeDbusConnections()",
                                   "Unable to disconnect connection \"" + object + '"'));
     QCOMPARE(takeMessages(log), expected);
-    // The flag is cleared in both cases.
+    // The flag is cleared in both modes.
     QVERIFY(handling.closeDbusConnections());
     QCOMPARE(log.takeTexts(), QStringList());
 }

@@ -8,6 +8,7 @@
 #include "ConfigurationFileHandlerDBusConnector.h"
 #include "DBusConnection.h"
 #include "LogCapture.h"
+#include "Row.h"
 #include "ServiceFixture.h"
 #include "TestDocuments.h"
 #include "WaitLimit.h"
@@ -25,25 +26,25 @@ class UnitManagerConnectionDataOpeningTest : public ServiceFixture
     Q_OBJECT
 
 private Q_SLOTS:
-    void aSourceIsOpenedAndItsChangesAreHeard_data();
-    void aSourceIsOpenedAndItsChangesAreHeard();
-    void unusableSettingsDropTheConnector_data();
-    void unusableSettingsDropTheConnector();
-    void unusableSettingsDoNotTouchTheBus();
-    void anAbsentServiceDropsTheConnector();
+    void aSourceIsOpenedAndItsChangesAreDetected_data();
+    void aSourceIsOpenedAndItsChangesAreDetected();
+    void unusableSettingsDiscardTheConnector_data();
+    void unusableSettingsDiscardTheConnector();
+    void unusableSettingsDoNotUseTheBus();
+    void anAbsentServiceDiscardsTheConnector();
     void theEarlierConnectorIsDisconnectedAndReplaced();
     void aConnectorWithoutSubscriptionIsKept();
     void aTypeWithoutChangeSignalIsNotConfigured();
     void everyConfiguredSourceMustBeConnected_data();
     void everyConfiguredSourceMustBeConnected();
     void anEndedServiceIsNotConnected();
-    void closedConnectionsHearNoChanges_data();
-    void closedConnectionsHearNoChanges();
-    void anUpdateForgetsTheNotedChanges_data();
-    void anUpdateForgetsTheNotedChanges();
-    void resetsForgetTheNotedChanges_data();
-    void resetsForgetTheNotedChanges();
-    void resetObjectClosesThenDropsConnectorsThenTexts();
+    void closedConnectionsDetectNoChanges_data();
+    void closedConnectionsDetectNoChanges();
+    void anUpdateClearsTheRecordedChanges_data();
+    void anUpdateClearsTheRecordedChanges();
+    void resetsClearTheRecordedChanges_data();
+    void resetsClearTheRecordedChanges();
+    void resetObjectDiscardsInOrder();
 };
 
 namespace {
@@ -59,12 +60,12 @@ public:
 
 } // namespace
 
-void UnitManagerConnectionDataOpeningTest::aSourceIsOpenedAndItsChangesAreHeard_data()
+void UnitManagerConnectionDataOpeningTest::aSourceIsOpenedAndItsChangesAreDetected_data()
 {
     addModesAndSources();
 }
 
-void UnitManagerConnectionDataOpeningTest::aSourceIsOpenedAndItsChangesAreHeard()
+void UnitManagerConnectionDataOpeningTest::aSourceIsOpenedAndItsChangesAreDetected()
 {
     QFETCH(const bool, polling);
     QFETCH(const Type, type);
@@ -88,7 +89,7 @@ void UnitManagerConnectionDataOpeningTest::aSourceIsOpenedAndItsChangesAreHeard(
     QCOMPARE(data.getConfigurationChangeMap(), (Changes{{type, source.at(2)}}));
 }
 
-void UnitManagerConnectionDataOpeningTest::unusableSettingsDropTheConnector_data()
+void UnitManagerConnectionDataOpeningTest::unusableSettingsDiscardTheConnector_data()
 {
     QTest::addColumn<QStringList>("newSettings");
     const QString kind = Definitions::getKeyConfigurationFile();
@@ -99,7 +100,7 @@ void UnitManagerConnectionDataOpeningTest::unusableSettingsDropTheConnector_data
     QTest::newRow("two entries only") << QStringList{module, defaultUnitObject};
 }
 
-void UnitManagerConnectionDataOpeningTest::unusableSettingsDropTheConnector()
+void UnitManagerConnectionDataOpeningTest::unusableSettingsDiscardTheConnector()
 {
     QFETCH(const QStringList, newSettings);
     LogCapture log;
@@ -114,7 +115,7 @@ void UnitManagerConnectionDataOpeningTest::unusableSettingsDropTheConnector()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void UnitManagerConnectionDataOpeningTest::unusableSettingsDoNotTouchTheBus()
+void UnitManagerConnectionDataOpeningTest::unusableSettingsDoNotUseTheBus()
 {
     BusMonitor monitor(m_service->bus().address());
     QVERIFY(monitor.start());
@@ -130,7 +131,7 @@ void UnitManagerConnectionDataOpeningTest::unusableSettingsDoNotTouchTheBus()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void UnitManagerConnectionDataOpeningTest::anAbsentServiceDropsTheConnector()
+void UnitManagerConnectionDataOpeningTest::anAbsentServiceDiscardsTheConnector()
 {
     LogCapture log;
     ConfiguredData data(true);
@@ -152,13 +153,13 @@ void UnitManagerConnectionDataOpeningTest::theEarlierConnectorIsDisconnectedAndR
     QCOMPARE(data.openConnector(Definitions::UnitSwitch), Definitions::Connected);
     const QSharedPointer<Connector> earlier = data.connectors().value(Definitions::UnitSwitch);
     QSignalSpy spy(earlier.data(), &QObject::objectNameChanged);
-    earlier->setObjectName("heard");
+    earlier->setObjectName("observed");
     QCOMPARE(spy.size(), 1);
 
     QCOMPARE(data.openConnector(Definitions::UnitSwitch), Definitions::Connected);
     QVERIFY(data.connectors().value(Definitions::UnitSwitch));
     QVERIFY(data.connectors().value(Definitions::UnitSwitch) != earlier);
-    earlier->setObjectName("not heard");
+    earlier->setObjectName("not observed");
     QCOMPARE(spy.size(), 1);
 }
 
@@ -196,16 +197,15 @@ void UnitManagerConnectionDataOpeningTest::everyConfiguredSourceMustBeConnected_
     QTest::addColumn<bool>("isConnected");
     const QList<Type> none;
     const QList<Type> both{dependencies, defaults};
-    QTest::newRow("nothing is open") << both << none << false;
-    QTest::newRow("all are open") << both << QList<Type>{units, dependencies, defaults} << true;
-    QTest::newRow("the unit switch is missing") << both << both << false;
-    QTest::newRow("the dependency file is missing") << both << QList<Type>{units, defaults} << false;
-    QTest::newRow("the default unit is missing") << both << QList<Type>{units, dependencies} << false;
-    QTest::newRow("the dependency file is not configured")
-        << QList<Type>{defaults} << QList<Type>{units, defaults} << true;
-    QTest::newRow("the default unit is not configured")
-        << QList<Type>{dependencies} << QList<Type>{units, dependencies} << true;
-    QTest::newRow("neither is configured") << none << QList<Type>{units} << true;
+    row("nothing is open", both, none, false);
+    row("all are open", both, QList<Type>{units, dependencies, defaults}, true);
+    row("the unit switch is missing", both, both, false);
+    row("the dependency file is missing", both, QList<Type>{units, defaults}, false);
+    row("the default unit is missing", both, QList<Type>{units, dependencies}, false);
+    row("the dependency file is not configured", QList<Type>{defaults}, QList<Type>{units, defaults}, true);
+    row("the default unit is not configured", QList<Type>{dependencies}, QList<Type>{units, dependencies},
+        true);
+    row("neither is configured", none, QList<Type>{units}, true);
 }
 
 void UnitManagerConnectionDataOpeningTest::everyConfiguredSourceMustBeConnected()
@@ -244,12 +244,12 @@ void UnitManagerConnectionDataOpeningTest::anEndedServiceIsNotConnected()
     QVERIFY(data.connectors().value(Definitions::UnitSwitch));
 }
 
-void UnitManagerConnectionDataOpeningTest::closedConnectionsHearNoChanges_data()
+void UnitManagerConnectionDataOpeningTest::closedConnectionsDetectNoChanges_data()
 {
     addModes();
 }
 
-void UnitManagerConnectionDataOpeningTest::closedConnectionsHearNoChanges()
+void UnitManagerConnectionDataOpeningTest::closedConnectionsDetectNoChanges()
 {
     QFETCH(const bool, polling);
     LogCapture log;
@@ -264,7 +264,7 @@ void UnitManagerConnectionDataOpeningTest::closedConnectionsHearNoChanges()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void UnitManagerConnectionDataOpeningTest::anUpdateForgetsTheNotedChanges_data()
+void UnitManagerConnectionDataOpeningTest::anUpdateClearsTheRecordedChanges_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("result");
@@ -273,7 +273,7 @@ void UnitManagerConnectionDataOpeningTest::anUpdateForgetsTheNotedChanges_data()
     QTest::newRow("the text does not load") << TestDocument::broken() << false;
 }
 
-void UnitManagerConnectionDataOpeningTest::anUpdateForgetsTheNotedChanges()
+void UnitManagerConnectionDataOpeningTest::anUpdateClearsTheRecordedChanges()
 {
     QFETCH(const QString, text);
     QFETCH(const bool, result);
@@ -293,14 +293,14 @@ void UnitManagerConnectionDataOpeningTest::anUpdateForgetsTheNotedChanges()
     QVERIFY(hasChanged(data));
 }
 
-void UnitManagerConnectionDataOpeningTest::resetsForgetTheNotedChanges_data()
+void UnitManagerConnectionDataOpeningTest::resetsClearTheRecordedChanges_data()
 {
     QTest::addColumn<bool>("everything");
     QTest::newRow("of the cached objects, which keeps connector and subscription") << false;
     QTest::newRow("of everything") << true;
 }
 
-void UnitManagerConnectionDataOpeningTest::resetsForgetTheNotedChanges()
+void UnitManagerConnectionDataOpeningTest::resetsClearTheRecordedChanges()
 {
     QFETCH(const bool, everything);
     LogCapture log;
@@ -319,7 +319,7 @@ void UnitManagerConnectionDataOpeningTest::resetsForgetTheNotedChanges()
     QCOMPARE(hasChanged(data), !everything);
 }
 
-void UnitManagerConnectionDataOpeningTest::resetObjectClosesThenDropsConnectorsThenTexts()
+void UnitManagerConnectionDataOpeningTest::resetObjectDiscardsInOrder()
 {
     LogCapture log;
     ConfiguredData data(false);

@@ -11,6 +11,7 @@
 #include "DeviceManagerDefinitions.h"
 #include "LogCapture.h"
 #include "ObjectSlots.h"
+#include "Row.h"
 #include "TestDocuments.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 
@@ -40,9 +41,9 @@ private Q_SLOTS:
     void objectsAreBuiltFromTheTexts_data();
     void objectsAreBuiltFromTheTexts();
     void theUnitManagerIsReplacedByAFreshOne();
-    void aDependencyTextAloneLeavesTheUnitManager();
-    void unitTextsAloneLeaveTheDependencyWalker();
-    void aDefaultUnitTextAloneGivesAManagerWithoutUnits();
+    void aDependencyTextAloneKeepsTheUnitManager();
+    void unitTextsAloneKeepTheDependencyWalker();
+    void aDefaultUnitTextAloneCreatesAManagerWithoutUnits();
     void theFetchedTextsOutliveAnUpdate();
     void resetsKeepKeysAndObjects_data();
     void resetsKeepKeysAndObjects();
@@ -235,12 +236,10 @@ void UnitManagerConnectionDataTest::objectsAreBuiltFromTheTexts_data()
     QTest::addColumn<QString>("defaultUnit");
     QTest::addColumn<QStringList>("dependents");
     const QStringList dependents{"Pressure"};
-    QTest::newRow("all texts load") << good << true << allTypes << "HectoPascal" << dependents;
-    QTest::newRow("the units do not load")
-        << noUnits << false << QStringList() << "HectoPascal" << dependents;
-    QTest::newRow("the default units do not load") << noDefaults << false << allTypes << "" << dependents;
-    QTest::newRow("the dependencies do not load")
-        << noDependencies << false << allTypes << "HectoPascal" << QStringList();
+    row("all texts load", good, true, allTypes, "HectoPascal", dependents);
+    row("the units do not load", noUnits, false, QStringList(), "HectoPascal", dependents);
+    row("the default units do not load", noDefaults, false, allTypes, "", dependents);
+    row("the dependencies do not load", noDependencies, false, allTypes, "HectoPascal", QStringList());
 }
 
 void UnitManagerConnectionDataTest::objectsAreBuiltFromTheTexts()
@@ -285,7 +284,7 @@ void UnitManagerConnectionDataTest::theUnitManagerIsReplacedByAFreshOne()
     QCOMPARE(unitTypesOf(*first), allTypes);
 }
 
-void UnitManagerConnectionDataTest::aDependencyTextAloneLeavesTheUnitManager()
+void UnitManagerConnectionDataTest::aDependencyTextAloneKeepsTheUnitManager()
 {
     LogCapture log;
     ConfiguredData data;
@@ -301,7 +300,7 @@ void UnitManagerConnectionDataTest::aDependencyTextAloneLeavesTheUnitManager()
     QCOMPARE(dependentsOf(*walker, "PressureUnit"), QStringList());
 }
 
-void UnitManagerConnectionDataTest::unitTextsAloneLeaveTheDependencyWalker()
+void UnitManagerConnectionDataTest::unitTextsAloneKeepTheDependencyWalker()
 {
     LogCapture log;
     ConfiguredData data;
@@ -314,7 +313,7 @@ void UnitManagerConnectionDataTest::unitTextsAloneLeaveTheDependencyWalker()
     QCOMPARE(data.walker(), walker);
 }
 
-void UnitManagerConnectionDataTest::aDefaultUnitTextAloneGivesAManagerWithoutUnits()
+void UnitManagerConnectionDataTest::aDefaultUnitTextAloneCreatesAManagerWithoutUnits()
 {
     LogCapture log;
     ConfiguredData data;

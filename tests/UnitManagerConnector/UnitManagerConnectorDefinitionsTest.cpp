@@ -5,6 +5,7 @@
 #include <type_traits>
 
 #include "ObjectSlots.h"
+#include "Row.h"
 
 using Definitions = UnitManagerConnectorDefinitions;
 using Getter = const QString& (*)();
@@ -36,13 +37,11 @@ void UnitManagerConnectorDefinitionsTest::theKeysAreFixed_data()
 {
     QTest::addColumn<Getter>("getter");
     QTest::addColumn<QString>("text");
-    QTest::newRow("optional") << Getter(Definitions::getKeyOptional) << "optional";
-    QTest::newRow("mandatory") << Getter(Definitions::getKeyMandatory) << "mandatory";
+    row("optional", Getter(Definitions::getKeyOptional), "optional");
+    row("mandatory", Getter(Definitions::getKeyMandatory), "mandatory");
     // Swapped on purpose; consumers rely on it.
-    QTest::newRow("configuration") << Getter(Definitions::getKeyConfigurationFile)
-                                   << "configuration.dependency";
-    QTest::newRow("dependency configuration")
-        << Getter(Definitions::getKeyConfigurationDependencyFile) << "configuration";
+    row("configuration", Getter(Definitions::getKeyConfigurationFile), "configuration.dependency");
+    row("dependency configuration", Getter(Definitions::getKeyConfigurationDependencyFile), "configuration");
 }
 
 void UnitManagerConnectorDefinitionsTest::theKeysAreFixed()

@@ -53,8 +53,8 @@ private Q_SLOTS:
     void theVirtualFunctionsFollowThoseOfAnObject();
     void statesAreRegisteredWhenTheLibraryIsLoaded_data();
     void statesAreRegisteredWhenTheLibraryIsLoaded();
-    void aStateIsMadeForItsWrapper_data();
-    void aStateIsMadeForItsWrapper();
+    void aStateUsesItsWrapper_data();
+    void aStateUsesItsWrapper();
     void aStateWithoutWrapperIsCalledValid_data();
     void aStateWithoutWrapperIsCalledValid();
     void enteringAStateDoesNothing_data();
@@ -154,12 +154,12 @@ void UnitManagerConnectorStateBaseTest::statesAreRegisteredWhenTheLibraryIsLoade
     QCOMPARE(state->metaObject()->methodCount(), state->metaObject()->methodOffset());
 }
 
-void UnitManagerConnectorStateBaseTest::aStateIsMadeForItsWrapper_data()
+void UnitManagerConnectorStateBaseTest::aStateUsesItsWrapper_data()
 {
     addStates();
 }
 
-void UnitManagerConnectorStateBaseTest::aStateIsMadeForItsWrapper()
+void UnitManagerConnectorStateBaseTest::aStateUsesItsWrapper()
 {
     QFETCH(const QString, key);
     RecordingWrapper wrapper;

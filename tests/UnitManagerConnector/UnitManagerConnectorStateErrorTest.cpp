@@ -19,11 +19,11 @@ class UnitManagerConnectorStateErrorTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everythingIsDroppedBeforeTheStartOver();
-    void theEventGoesOnUnchanged();
+    void everythingIsDiscardedBeforeTheRestart();
+    void theEventIsPassedOnUnchanged();
 };
 
-void UnitManagerConnectorStateErrorTest::everythingIsDroppedBeforeTheStartOver()
+void UnitManagerConnectorStateErrorTest::everythingIsDiscardedBeforeTheRestart()
 {
     const auto units = Definitions::UnitSwitch;
     ConfigurationService service;
@@ -35,17 +35,18 @@ void UnitManagerConnectorStateErrorTest::everythingIsDroppedBeforeTheStartOver()
     data.configurations()[units] = TestDocuments::units();
     QVERIFY(data.updateObjects());
     data.pendingReplies()[units] = QSharedPointer<DBusPendingReply>::create(
-        QDBusPendingCall::fromError(QDBusError(QDBusError::Failed, "as asked")));
+        QDBusPendingCall::fromError(QDBusError(QDBusError::Failed, "as requested")));
 
-    bool wasDropped = false;
+    bool wasDiscarded = false;
     wrapper.setObserver([&] {
-        wasDropped = data.connectors().value(units).isNull() && data.pendingReplies().value(units).isNull() &&
-                     data.configurations().value(units).isNull();
+        wasDiscarded = data.connectors().value(units).isNull() &&
+                       data.pendingReplies().value(units).isNull() &&
+                       data.configurations().value(units).isNull();
     });
     UnitManagerConnectorStateError state(&wrapper);
     state.postEvent(readTrigger({units}));
     QCOMPARE(wrapper.takeTransitions(), QStringList{"UnitManagerConnectorStateInitial ReadTrigger([0])"});
-    QVERIFY(wasDropped);
+    QVERIFY(wasDiscarded);
     QVERIFY(data.connectors().contains(units) && data.pendingReplies().contains(units) &&
             data.configurations().contains(units));
 
@@ -58,7 +59,7 @@ void UnitManagerConnectorStateErrorTest::everythingIsDroppedBeforeTheStartOver()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void UnitManagerConnectorStateErrorTest::theEventGoesOnUnchanged()
+void UnitManagerConnectorStateErrorTest::theEventIsPassedOnUnchanged()
 {
     RecordingWrapper wrapper;
     UnitManagerConnectorStateError state(&wrapper);

@@ -20,7 +20,7 @@ private Q_SLOTS:
     void theChangedSourcesAreRead_data();
     void theChangedSourcesAreRead();
     void aChangeWithoutNameGivesAnEmptyList();
-    void theChangesStayNoted();
+    void theChangesStayRecorded();
 };
 
 void UnitManagerConnectorStateIdleTest::withoutChangeTheStateStays_data()
@@ -101,7 +101,7 @@ void UnitManagerConnectorStateIdleTest::aChangeWithoutNameGivesAnEmptyList()
              QStringList{"UnitManagerConnectorStateReadConfigurationSynchron ReadTrigger([])"});
 }
 
-void UnitManagerConnectorStateIdleTest::theChangesStayNoted()
+void UnitManagerConnectorStateIdleTest::theChangesStayRecorded()
 {
     LogCapture log;
     RecordingWrapper wrapper;

@@ -6,6 +6,7 @@
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "RecordingWrapper.h"
+#include "Row.h"
 #include "ServiceFixture.h"
 
 using Definitions = UnitManagerConnectorDefinitions;
@@ -29,13 +30,13 @@ private Q_SLOTS:
     void anUnreachableOptionalSourceEndsTheAttempt_data();
     void anUnreachableOptionalSourceEndsTheAttempt();
     void aMandatorySourceWithoutSettingsEndsTheAttempt();
-    void aFailureDropsWhatIsThere();
+    void aFailureDiscardsTextsAndSubscriptions();
     void aShortListIsOpenedButNotRead_data();
     void aShortListIsOpenedButNotRead();
     void anUnknownRequirementIsOpenedButNotRead_data();
     void anUnknownRequirementIsOpenedButNotRead();
-    void aBadLastSourceDoesNotHoldTheMachine_data();
-    void aBadLastSourceDoesNotHoldTheMachine();
+    void aBadSourceDoesNotBlockTheOthers_data();
+    void aBadSourceDoesNotBlockTheOthers();
     void withoutSourcesTheListIsEmpty();
 };
 
@@ -146,10 +147,10 @@ void UnitManagerConnectorStateInitialTest::anUnreachableOptionalSourceEndsTheAtt
     QTest::addColumn<RecordingWrapper::OptionalSources>("sources");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QList<Type>>("tried");
-    QTest::newRow("dependency file") << RecordingWrapper::DependencyFileAbsent << dependencyName
-                                     << QList<Type>{units, dependencies};
-    QTest::newRow("default unit") << RecordingWrapper::DefaultUnitAbsent << defaultUnitName
-                                  << QList<Type>{units, dependencies, defaults};
+    row("dependency file", RecordingWrapper::DependencyFileAbsent, dependencyName,
+        QList<Type>{units, dependencies});
+    row("default unit", RecordingWrapper::DefaultUnitAbsent, defaultUnitName,
+        QList<Type>{units, dependencies, defaults});
 }
 
 void UnitManagerConnectorStateInitialTest::anUnreachableOptionalSourceEndsTheAttempt()
@@ -181,7 +182,7 @@ void UnitManagerConnectorStateInitialTest::aMandatorySourceWithoutSettingsEndsTh
     QCOMPARE(wrapper.data().connectors().keys(), QList<Type>{units});
 }
 
-void UnitManagerConnectorStateInitialTest::aFailureDropsWhatIsThere()
+void UnitManagerConnectorStateInitialTest::aFailureDiscardsTextsAndSubscriptions()
 {
     RecordingWrapper wrapper(true, false, RecordingWrapper::DefaultUnitAbsent);
     wrapper.data().configurations()[units] = QStringLiteral("text");
@@ -249,20 +250,19 @@ void UnitManagerConnectorStateInitialTest::anUnknownRequirementIsOpenedButNotRea
     QCOMPARE(openTypes(wrapper), (QList<Type>{units, dependencies, defaults}));
 }
 
-void UnitManagerConnectorStateInitialTest::aBadLastSourceDoesNotHoldTheMachine_data()
+void UnitManagerConnectorStateInitialTest::aBadSourceDoesNotBlockTheOthers_data()
 {
     QTest::addColumn<QStringList>("lastSettings");
     QTest::addColumn<QStringList>("messages");
-    QTest::newRow("not configured") << QStringList{"", "", "", "configuration.dependency", "optional"}
-                                    << QStringList();
-    QTest::newRow("a short list, its service absent")
-        << QStringList{absentModule, "Object", "Name", "configuration.dependency"}
-        << QStringList{"Unable to find handling for file type"};
-    QTest::newRow("an unknown requirement, its service absent")
-        << QStringList{absentModule, "Object", "Name", "configuration.dependency", "any"} << QStringList();
+    row("not configured", QStringList{"", "", "", "configuration.dependency", "optional"}, QStringList());
+    row("a short list, its service absent",
+        QStringList{absentModule, "Object", "Name", "configuration.dependency"},
+        QStringList{"Unable to find handling for file type"});
+    row("an unknown requirement, its service absent",
+        QStringList{absentModule, "Object", "Name", "configuration.dependency", "any"}, QStringList());
 }
 
-void UnitManagerConnectorStateInitialTest::aBadLastSourceDoesNotHoldTheMachine()
+void UnitManagerConnectorStateInitialTest::aBadSourceDoesNotBlockTheOthers()
 {
     QFETCH(const QStringList, lastSettings);
     QFETCH(const QStringList, messages);

@@ -22,18 +22,18 @@ class Machine : public UnitManagerConnectorStateMachine
 public:
     using UnitManagerConnectorStateMachine::UnitManagerConnectorStateMachine;
 
-    QStringList told;
+    QStringList logged;
 
 protected:
     void doLogEntryStateInitialized(StatePointer state) override
     {
-        told.append(QStringLiteral("initialized ") + state->metaObject()->className());
+        logged.append(QStringLiteral("initialized ") + state->metaObject()->className());
     }
 
     void doLogEntryStateChanged(StatePointer previous, StatePointer current) override
     {
-        told.append(QStringLiteral("changed %1 to %2")
-                        .arg(previous->metaObject()->className(), current->metaObject()->className()));
+        logged.append(QStringLiteral("changed %1 to %2")
+                          .arg(previous->metaObject()->className(), current->metaObject()->className()));
     }
 };
 
@@ -87,7 +87,7 @@ void UnitManagerConnectorStateMachineTest::statesAreLogged()
                             StateMachineEvent());
     machine.setNextState(VESKFactories::createFactoryKey<UnitManagerConnectorStateError>(),
                          StateMachineEvent());
-    QCOMPARE(machine.told,
+    QCOMPARE(machine.logged,
              (QStringList{"initialized UnitManagerConnectorStateInitial",
                           "changed UnitManagerConnectorStateInitial to UnitManagerConnectorStateError"}));
     QCOMPARE(machine.getCurrentStateIdentifier(), QStringLiteral("UnitManagerConnectorStateError"));

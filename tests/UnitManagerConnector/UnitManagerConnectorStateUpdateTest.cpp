@@ -6,6 +6,7 @@
 #include "DependencyWalker.h"
 #include "LogCapture.h"
 #include "RecordingWrapper.h"
+#include "Row.h"
 #include "TestDocuments.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 
@@ -21,11 +22,11 @@ class UnitManagerConnectorStateUpdateTest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void theResultDecidesWhereToGo_data();
-    void theResultDecidesWhereToGo();
-    void theEventGoesOnUnchanged_data();
-    void theEventGoesOnUnchanged();
-    void theObjectsStandBeforeTheTransition();
+    void theResultSelectsTheNextState_data();
+    void theResultSelectsTheNextState();
+    void theEventIsPassedOnUnchanged_data();
+    void theEventIsPassedOnUnchanged();
+    void theObjectsExistBeforeTheTransition();
 };
 
 void UnitManagerConnectorStateUpdateTest::initTestCase()
@@ -33,17 +34,16 @@ void UnitManagerConnectorStateUpdateTest::initTestCase()
     useNoBus();
 }
 
-void UnitManagerConnectorStateUpdateTest::theResultDecidesWhereToGo_data()
+void UnitManagerConnectorStateUpdateTest::theResultSelectsTheNextState_data()
 {
     QTest::addColumn<Texts>("texts");
     QTest::addColumn<QString>("state");
     const Texts good{{units, TestDocuments::units()},
                      {dependencies, TestDocument::dependencies()},
                      {defaults, TestDocuments::defaultUnits()}};
-    QTest::newRow("all texts load") << good << "Idle";
-    QTest::newRow("there is no text") << Texts() << "Idle";
-    QTest::newRow("only the default units are there")
-        << Texts{{defaults, TestDocuments::defaultUnits()}} << "Idle";
+    row("all texts load", good, "Idle");
+    row("no text", Texts(), "Idle");
+    row("only the default units", Texts{{defaults, TestDocuments::defaultUnits()}}, "Idle");
     for (const Type type : {units, dependencies, defaults}) {
         Texts texts = good;
         texts[type] = TestDocument::broken();
@@ -51,7 +51,7 @@ void UnitManagerConnectorStateUpdateTest::theResultDecidesWhereToGo_data()
     }
 }
 
-void UnitManagerConnectorStateUpdateTest::theResultDecidesWhereToGo()
+void UnitManagerConnectorStateUpdateTest::theResultSelectsTheNextState()
 {
     QFETCH(const Texts, texts);
     QFETCH(const QString, state);
@@ -66,7 +66,7 @@ void UnitManagerConnectorStateUpdateTest::theResultDecidesWhereToGo()
     QCOMPARE(wrapper.data().configurations(), texts);
 }
 
-void UnitManagerConnectorStateUpdateTest::theEventGoesOnUnchanged_data()
+void UnitManagerConnectorStateUpdateTest::theEventIsPassedOnUnchanged_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("state");
@@ -74,7 +74,7 @@ void UnitManagerConnectorStateUpdateTest::theEventGoesOnUnchanged_data()
     QTest::newRow("to the error state") << TestDocument::broken() << "Error";
 }
 
-void UnitManagerConnectorStateUpdateTest::theEventGoesOnUnchanged()
+void UnitManagerConnectorStateUpdateTest::theEventIsPassedOnUnchanged()
 {
     QFETCH(const QString, text);
     QFETCH(const QString, state);
@@ -87,7 +87,7 @@ void UnitManagerConnectorStateUpdateTest::theEventGoesOnUnchanged()
              QStringList{"UnitManagerConnectorState" + state + " any name(any data)"});
 }
 
-void UnitManagerConnectorStateUpdateTest::theObjectsStandBeforeTheTransition()
+void UnitManagerConnectorStateUpdateTest::theObjectsExistBeforeTheTransition()
 {
     LogCapture log;
     RecordingWrapper wrapper;

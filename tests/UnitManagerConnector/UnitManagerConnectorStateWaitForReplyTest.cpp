@@ -24,8 +24,8 @@ class UnitManagerConnectorStateWaitForReplyTest : public ServiceFixture
     Q_OBJECT
 
 private Q_SLOTS:
-    void aReplyIsLookedAt_data();
-    void aReplyIsLookedAt();
+    void aReplyIsChecked_data();
+    void aReplyIsChecked();
     void anOutstandingReplyIsKept();
     void withoutListTheStateStays_data();
     void withoutListTheStateStays();
@@ -34,11 +34,11 @@ private Q_SLOTS:
     void theFirstOutstandingReplyHidesTheLaterOnes();
     void aFailureEndsTheWaitAtOnce();
     void aCallThatFailsLaterEndsTheWait();
-    void aReplyThatIsNoTextCostsOneStep();
+    void aReplyThatIsNotATextCostsOneStep();
     void anEmptyTextIsASuccess();
-    void sourcesWithoutReplyArePassedOver_data();
-    void sourcesWithoutReplyArePassedOver();
-    void repliesThatAreNotListedAreLeftAlone();
+    void sourcesWithoutReplyAreSkipped_data();
+    void sourcesWithoutReplyAreSkipped();
+    void repliesThatAreNotListedAreIgnored();
 
 private:
     ReplyPointer outstanding() const;
@@ -63,7 +63,7 @@ ReplyPointer arrived(const QVariant& value)
 
 ReplyPointer failed()
 {
-    return finished(call().createErrorReply("org.example.Error", "as asked"));
+    return finished(call().createErrorReply("org.example.Error", "as requested"));
 }
 
 QString transition(const char* state, const char* list)
@@ -81,7 +81,7 @@ ReplyPointer UnitManagerConnectorStateWaitForReplyTest::outstanding() const
     return connector ? connector->getConfigurationAsynchron("never", "module", QString()) : ReplyPointer();
 }
 
-void UnitManagerConnectorStateWaitForReplyTest::aReplyIsLookedAt_data()
+void UnitManagerConnectorStateWaitForReplyTest::aReplyIsChecked_data()
 {
     QTest::addColumn<ReplyPointer>("reply");
     QTest::addColumn<int>("result");
@@ -95,7 +95,7 @@ void UnitManagerConnectorStateWaitForReplyTest::aReplyIsLookedAt_data()
     QTest::newRow("an error") << failed() << 2 << "earlier";
 }
 
-void UnitManagerConnectorStateWaitForReplyTest::aReplyIsLookedAt()
+void UnitManagerConnectorStateWaitForReplyTest::aReplyIsChecked()
 {
     QFETCH(ReplyPointer, reply);
     QFETCH(const int, result);
@@ -119,7 +119,7 @@ void UnitManagerConnectorStateWaitForReplyTest::anOutstandingReplyIsKept()
     QVERIFY(reply);
     const ReplyPointer before = reply;
     QString text = QStringLiteral("earlier");
-    for (int look = 0; look < 3; ++look)
+    for (int check = 0; check < 3; ++check)
         QCOMPARE(state.checkReplyState(reply, text), 1);
     QCOMPARE(reply, before);
     QCOMPARE(text, QStringLiteral("earlier"));
@@ -232,7 +232,7 @@ void UnitManagerConnectorStateWaitForReplyTest::aCallThatFailsLaterEndsTheWait()
     QVERIFY(wrapper.data().pendingReplies().value(units).isNull());
 }
 
-void UnitManagerConnectorStateWaitForReplyTest::aReplyThatIsNoTextCostsOneStep()
+void UnitManagerConnectorStateWaitForReplyTest::aReplyThatIsNotATextCostsOneStep()
 {
     RecordingWrapper wrapper;
     State state(&wrapper);
@@ -262,14 +262,14 @@ void UnitManagerConnectorStateWaitForReplyTest::anEmptyTextIsASuccess()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void UnitManagerConnectorStateWaitForReplyTest::sourcesWithoutReplyArePassedOver_data()
+void UnitManagerConnectorStateWaitForReplyTest::sourcesWithoutReplyAreSkipped_data()
 {
     QTest::addColumn<bool>("hasEntry");
     QTest::newRow("collected already") << true;
     QTest::newRow("never started") << false;
 }
 
-void UnitManagerConnectorStateWaitForReplyTest::sourcesWithoutReplyArePassedOver()
+void UnitManagerConnectorStateWaitForReplyTest::sourcesWithoutReplyAreSkipped()
 {
     QFETCH(const bool, hasEntry);
     RecordingWrapper wrapper;
@@ -283,7 +283,7 @@ void UnitManagerConnectorStateWaitForReplyTest::sourcesWithoutReplyArePassedOver
     QCOMPARE(wrapper.data().configurations(), (Texts{{units, "collected"}, {defaults, "text"}}));
 }
 
-void UnitManagerConnectorStateWaitForReplyTest::repliesThatAreNotListedAreLeftAlone()
+void UnitManagerConnectorStateWaitForReplyTest::repliesThatAreNotListedAreIgnored()
 {
     RecordingWrapper wrapper;
     State state(&wrapper);

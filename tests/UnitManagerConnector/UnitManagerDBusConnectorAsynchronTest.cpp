@@ -18,7 +18,7 @@ class UnitManagerDBusConnectorAsynchronTest : public ServiceFixture
 private Q_SLOTS:
     void anAsynchronousCallIsOneStep();
     void anAsynchronousCallDoesNotWait();
-    void asynchronousCallsGoOnAfterAnError();
+    void asynchronousCallsContinueAfterAnError();
     void aReplyWithoutTextEndsInIdleOrError_data();
     void aReplyWithoutTextEndsInIdleOrError();
     void initKeepsTheChangeAndSetsTheMode();
@@ -36,7 +36,7 @@ void UnitManagerDBusConnectorAsynchronTest::anAsynchronousCallIsOneStep()
     QVERIFY(!connector.isUnitManagerInitialized()); // starts to read
     QVERIFY(m_service->settle());
     QCOMPARE(m_service->takeCalls().size(), 3);
-    QVERIFY(!connector.isUnitManagerInitialized()); // takes the replies
+    QVERIFY(!connector.isUnitManagerInitialized()); // collects the replies
     QCOMPARE(connector.takeSignals(), QStringList());
     QVERIFY(!connector.hasConfigurationChanged());
     QVERIFY(connector.unitManager().isNull());
@@ -65,7 +65,7 @@ void UnitManagerDBusConnectorAsynchronTest::anAsynchronousCallDoesNotWait()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void UnitManagerDBusConnectorAsynchronTest::asynchronousCallsGoOnAfterAnError()
+void UnitManagerDBusConnectorAsynchronTest::asynchronousCallsContinueAfterAnError()
 {
     m_service->setAnswer(TestSource::unitSwitchName, FakeBusService::withError("org.example.Error"));
     LogCapture log;
@@ -79,7 +79,7 @@ void UnitManagerDBusConnectorAsynchronTest::asynchronousCallsGoOnAfterAnError()
     QVERIFY(!connector.isUnitManagerInitialized()); // opens
     QVERIFY(!connector.isUnitManagerInitialized()); // starts to read
     QVERIFY(m_service->settle());
-    QVERIFY(!connector.isUnitManagerInitialized()); // takes the replies
+    QVERIFY(!connector.isUnitManagerInitialized()); // collects the replies
     QCOMPARE(connector.takeSignals(), QStringList());
     QVERIFY(connector.isUnitManagerInitialized());
     QCOMPARE(connector.takeSignals(), changedAndInitialized);
@@ -95,9 +95,9 @@ void UnitManagerDBusConnectorAsynchronTest::aReplyWithoutTextEndsInIdleOrError_d
     const auto empty = FakeBusService::withValue("");
     const auto dictionary = FakeBusService::withValue(QVariantMap{{"a", 1}});
     QTest::newRow("an empty text, asynchronous") << empty << true << true;
-    QTest::newRow("no text, asynchronous") << dictionary << true << true;
+    QTest::newRow("not a text, asynchronous") << dictionary << true << true;
     QTest::newRow("an empty text, blocking") << empty << false << false;
-    QTest::newRow("no text, blocking") << dictionary << false << false;
+    QTest::newRow("not a text, blocking") << dictionary << false << false;
 }
 
 void UnitManagerDBusConnectorAsynchronTest::aReplyWithoutTextEndsInIdleOrError()
@@ -142,15 +142,15 @@ void UnitManagerDBusConnectorAsynchronTest::initKeepsTheChangeAndSetsTheMode()
 void UnitManagerDBusConnectorAsynchronTest::aChangeBeforeTheUpdate_data()
 {
     QTest::addColumn<bool>("polling");
-    QTest::addColumn<bool>("isTakenUp");
-    QTest::newRow("a delivered signal is forgotten by the update") << false << false;
-    QTest::newRow("a signal that was not polled yet is not") << true << true;
+    QTest::addColumn<bool>("isLoaded");
+    QTest::newRow("a delivered signal is cleared by the update") << false << false;
+    QTest::newRow("a signal that was not polled yet is kept") << true << true;
 }
 
 void UnitManagerDBusConnectorAsynchronTest::aChangeBeforeTheUpdate()
 {
     QFETCH(const bool, polling);
-    QFETCH(const bool, isTakenUp);
+    QFETCH(const bool, isLoaded);
     LogCapture log;
     ObservedConnector connector(polling, true);
     for (int step = 0; step < 2; ++step)
@@ -159,9 +159,9 @@ void UnitManagerDBusConnectorAsynchronTest::aChangeBeforeTheUpdate()
     m_service->takeCalls();
     QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
     QCoreApplication::processEvents();
-    QVERIFY(!connector.isUnitManagerInitialized()); // takes the replies
+    QVERIFY(!connector.isUnitManagerInitialized()); // collects the replies
     QVERIFY(connector.isUnitManagerInitialized());  // builds
-    QCOMPARE(connector.isUnitManagerInitialized(), !isTakenUp);
+    QCOMPARE(connector.isUnitManagerInitialized(), !isLoaded);
 }
 
 QTEST_GUILESS_MAIN(UnitManagerDBusConnectorAsynchronTest)

@@ -21,14 +21,14 @@ private Q_SLOTS:
     void theVirtualFunctionsAreInOrder();
     void theParentIsNotPassedOn();
     void nothingHappensBetweenCalls();
-    void aBlockingCallGoesOnToIdle();
-    void everyTrueIsAnnounced();
+    void aBlockingCallContinuesToIdle();
+    void everySuccessIsSignalled();
     void anAbsentServiceIsTriedAHundredTimes();
     void aFailedReadEndsABlockingCall();
-    void aFailingUpdateIsAnnouncedToo();
-    void resetForgetsTheChangeAndStartsAgain();
-    void aChangeIsTakenUp_data();
-    void aChangeIsTakenUp();
+    void aFailedUpdateIsSignalledToo();
+    void resetClearsTheChangeAndStartsAgain();
+    void aChangeIsLoaded_data();
+    void aChangeIsLoaded();
 };
 
 namespace {
@@ -86,7 +86,7 @@ void UnitManagerDBusConnectorTest::nothingHappensBetweenCalls()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void UnitManagerDBusConnectorTest::aBlockingCallGoesOnToIdle()
+void UnitManagerDBusConnectorTest::aBlockingCallContinuesToIdle()
 {
     LogCapture log;
     ObservedConnector connector(true, false);
@@ -107,7 +107,7 @@ void UnitManagerDBusConnectorTest::aBlockingCallGoesOnToIdle()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void UnitManagerDBusConnectorTest::everyTrueIsAnnounced()
+void UnitManagerDBusConnectorTest::everySuccessIsSignalled()
 {
     ObservedConnector connector(true, false);
     QVERIFY(connector.isUnitManagerInitialized());
@@ -161,7 +161,7 @@ void UnitManagerDBusConnectorTest::aFailedReadEndsABlockingCall()
     QCOMPARE(connector.takeSignals(), changedAndInitialized);
 }
 
-void UnitManagerDBusConnectorTest::aFailingUpdateIsAnnouncedToo()
+void UnitManagerDBusConnectorTest::aFailedUpdateIsSignalledToo()
 {
     m_service->setDocument(TestSource::unitSwitchName, TestDocument::broken());
     LogCapture log;
@@ -175,7 +175,7 @@ void UnitManagerDBusConnectorTest::aFailingUpdateIsAnnouncedToo()
     QVERIFY(!connector.unitManager()->isValid());
 }
 
-void UnitManagerDBusConnectorTest::resetForgetsTheChangeAndStartsAgain()
+void UnitManagerDBusConnectorTest::resetClearsTheChangeAndStartsAgain()
 {
     ObservedConnector connector(true, false);
     QVERIFY(connector.isUnitManagerInitialized());
@@ -193,12 +193,12 @@ void UnitManagerDBusConnectorTest::resetForgetsTheChangeAndStartsAgain()
     QVERIFY(connector.unitManager() != manager);
 }
 
-void UnitManagerDBusConnectorTest::aChangeIsTakenUp_data()
+void UnitManagerDBusConnectorTest::aChangeIsLoaded_data()
 {
     ChangeSources::addModes();
 }
 
-void UnitManagerDBusConnectorTest::aChangeIsTakenUp()
+void UnitManagerDBusConnectorTest::aChangeIsLoaded()
 {
     QFETCH(const bool, polling);
     LogCapture log;

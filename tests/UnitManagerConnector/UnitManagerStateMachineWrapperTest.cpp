@@ -74,14 +74,14 @@ private Q_SLOTS:
     void theVirtualFunctionsAreInOrder();
     void onlyTheStateMachineHasItAsParent();
     void theConnectionDataIsItsOwn();
-    void initTakesOverSettingsAndStartsAgain();
+    void initAppliesSettingsAndStartsAgain();
     void theInitialStateIsEnteredTwice();
     void theFirstStepDeliversAnEmptyEvent();
     void aTransitionKeepsItsEventForTheNextSteps();
-    void aStateMayHandItsOwnEventOn();
+    void aStateMayPassOnItsOwnEvent();
     void anUnknownStateKeepsItsEventToo();
     void resetKeepsThePendingEvent();
-    void resetDropsConnectorsAndTextsOnly();
+    void resetDiscardsConnectorsAndTextsOnly();
     void theBuiltObjectsAreShared();
 
 private:
@@ -150,7 +150,7 @@ void UnitManagerStateMachineWrapperTest::theConnectionDataIsItsOwn()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-void UnitManagerStateMachineWrapperTest::initTakesOverSettingsAndStartsAgain()
+void UnitManagerStateMachineWrapperTest::initAppliesSettingsAndStartsAgain()
 {
     Wrapper wrapper(nullptr, false, true, "s1", "s2", "s3", "s4", "s5", "s6");
     wrapper.moveToNextState(VESKFactories::createFactoryKey<UnitManagerConnectorStateIdle>(),
@@ -203,7 +203,7 @@ void UnitManagerStateMachineWrapperTest::aTransitionKeepsItsEventForTheNextSteps
                                     "enter second(7)", "step second(7)"}));
 }
 
-void UnitManagerStateMachineWrapperTest::aStateMayHandItsOwnEventOn()
+void UnitManagerStateMachineWrapperTest::aStateMayPassOnItsOwnEvent()
 {
     probeInitialState();
     Wrapper wrapper(nullptr, false, false, "", "", "", "", "", "");
@@ -240,7 +240,7 @@ void UnitManagerStateMachineWrapperTest::resetKeepsThePendingEvent()
              (QStringList{"enter initialEvent()", "step kept(7)", "enter initialEvent()", "step kept(7)"}));
 }
 
-void UnitManagerStateMachineWrapperTest::resetDropsConnectorsAndTextsOnly()
+void UnitManagerStateMachineWrapperTest::resetDiscardsConnectorsAndTextsOnly()
 {
     ConfigurationService service;
     QVERIFY(service.start());

@@ -10,6 +10,7 @@
 #include "LogCapture.h"
 #include "ProcessDataValue.h"
 #include "RecordingValueNode.h"
+#include "Row.h"
 #include "TestDocuments.h"
 
 static_assert(std::is_base_of_v<UnitManager, UnitManagerDevice>);
@@ -31,20 +32,20 @@ private Q_SLOTS:
     void nothingIsReadFromNull();
     void goodValueIsConverted_data();
     void goodValueIsConverted();
-    void faultyValueIsReadAsItIs_data();
-    void faultyValueIsReadAsItIs();
-    void lastGoodValueIsNotAskedFor();
-    void otherFieldsAreReadAlong();
+    void faultyValueIsReadUnchanged_data();
+    void faultyValueIsReadUnchanged();
+    void lastGoodValueIsNotUsed();
+    void otherFieldsAreReadToo();
     void nothingIsWrittenToNull();
     void goodValueIsStoredInTheBaseUnit_data();
     void goodValueIsStoredInTheBaseUnit();
     void withoutDefaultUnitTheValueIsStoredAsGiven();
-    void faultyValueIsWrittenAsItIs_data();
-    void faultyValueIsWrittenAsItIs();
+    void faultyValueIsWrittenUnchanged_data();
+    void faultyValueIsWrittenUnchanged();
     void failedConversionWritesNothing_data();
     void failedConversionWritesNothing();
     void markerOfUnknownUnitIsWrittenByNodeAccessOnly();
-    void otherFieldsAreWrittenAlong();
+    void otherFieldsAreWrittenToo();
     void equalValueIsWritten();
     void lockHolderReadsAndWrites();
 
@@ -136,32 +137,22 @@ void UnitManagerDeviceTest::goodValueIsConverted_data()
 
     const QStringList none;
     const QVariant marker = ConfigurationAndProcessDataTools::getNoInputValueIndicator();
-    QTest::newRow("given unit") << T::pressure << QVariant(1.5) << "HectoPascal"
-                                << "double 1500" << none;
-    QTest::newRow("default unit") << T::pressure << QVariant(2.25) << ""
-                                  << "double 2250" << none;
-    QTest::newRow("more places than the unit shows")
-        << T::pressure << QVariant(1.00048828125) << "HectoPascal"
-        << "double 1000.48828125" << none;
-    QTest::newRow("base unit, more places than it shows") << T::pressure << QVariant(0.00048828125) << "Bar"
-                                                          << "double 0.00048828125" << none;
-    QTest::newRow("integer") << T::pressure << QVariant(2) << "HectoPascal"
-                             << "double 2000" << none;
-    QTest::newRow("marker") << T::pressure << marker << "HectoPascal"
-                            << "double nan" << none;
-    QTest::newRow("fixed unit type") << T::pressure + "/Bar" << QVariant(1.5) << "HectoPascal"
-                                     << "double 1.5" << none;
-    QTest::newRow("no unit type") << "" << QVariant(1.5) << ""
-                                  << "double 1.5" << none;
-    QTest::newRow("unknown unit") << T::pressure << QVariant(1.5) << "Nope"
-                                  << "double 1.5"
-                                  << QStringList{Expected::unknownUnit(Expected::Conversion::FromBase, "Nope",
-                                                                       "Pressure")};
-    QTest::newRow("unknown unit type")
-        << T::unknown << QVariant(1.5) << "Bar"
-        << "double 1.5" << QStringList{Expected::noConversion(Expected::Conversion::FromBase, T::unknown)};
-    QTest::newRow("no default unit") << T::ratio << QVariant(1.5) << ""
-                                     << "double 1.5" << QStringList{Expected::noDefaultUnit(T::ratio)};
+    row("given unit", T::pressure, QVariant(1.5), "HectoPascal", "double 1500", none);
+    row("default unit", T::pressure, QVariant(2.25), "", "double 2250", none);
+    row("more places than the unit shows", T::pressure, QVariant(1.00048828125), "HectoPascal",
+        "double 1000.48828125", none);
+    row("base unit, more places than it shows", T::pressure, QVariant(0.00048828125), "Bar",
+        "double 0.00048828125", none);
+    row("integer", T::pressure, QVariant(2), "HectoPascal", "double 2000", none);
+    row("marker", T::pressure, marker, "HectoPascal", "double nan", none);
+    row("fixed unit type", T::pressure + "/Bar", QVariant(1.5), "HectoPascal", "double 1.5", none);
+    row("no unit type", "", QVariant(1.5), "", "double 1.5", none);
+    row("unknown unit", T::pressure, QVariant(1.5), "Nope", "double 1.5",
+        QStringList{Expected::unknownUnit(Expected::Conversion::FromBase, "Nope", "Pressure")});
+    row("unknown unit type", T::unknown, QVariant(1.5), "Bar", "double 1.5",
+        QStringList{Expected::noConversion(Expected::Conversion::FromBase, T::unknown)});
+    row("no default unit", T::ratio, QVariant(1.5), "", "double 1.5",
+        QStringList{Expected::noDefaultUnit(T::ratio)});
 }
 
 void UnitManagerDeviceTest::goodValueIsConverted()
@@ -179,12 +170,12 @@ void UnitManagerDeviceTest::goodValueIsConverted()
     QCOMPARE(described(processData->getValue().getValue()), described(stored));
 }
 
-void UnitManagerDeviceTest::faultyValueIsReadAsItIs_data()
+void UnitManagerDeviceTest::faultyValueIsReadUnchanged_data()
 {
     addErrorTypes();
 }
 
-void UnitManagerDeviceTest::faultyValueIsReadAsItIs()
+void UnitManagerDeviceTest::faultyValueIsReadUnchanged()
 {
     ProcessValue faulty = fullValue(1.5);
     faulty.setErrorType(fetchedErrorType());
@@ -196,7 +187,7 @@ void UnitManagerDeviceTest::faultyValueIsReadAsItIs()
     QCOMPARE(describedMessages(log), QStringList());
 }
 
-void UnitManagerDeviceTest::lastGoodValueIsNotAskedFor()
+void UnitManagerDeviceTest::lastGoodValueIsNotUsed()
 {
     const auto processData = valueOf(T::pressure, ProcessValue(1.5, noError));
     processData->setValue(ProcessValue(9.5, ProcessDataDefinitions::ErrorTypeSensor));
@@ -205,7 +196,7 @@ void UnitManagerDeviceTest::lastGoodValueIsNotAskedFor()
     QCOMPARE(described(value.getValue()), QStringLiteral("double 9.5"));
 }
 
-void UnitManagerDeviceTest::otherFieldsAreReadAlong()
+void UnitManagerDeviceTest::otherFieldsAreReadToo()
 {
     const auto processData = valueOf(T::pressure, fullValue(1.5));
     QCOMPARE(described(m_device.getValueNoLock(processData, "HectoPascal")),
@@ -228,20 +219,14 @@ void UnitManagerDeviceTest::goodValueIsStoredInTheBaseUnit_data()
     QTest::addColumn<QString>("stored");
 
     const QVariant marker = ConfigurationAndProcessDataTools::getNoInputValueIndicator();
-    QTest::newRow("given unit") << T::pressure << QVariant(1500.0) << "HectoPascal"
-                                << "double 1.5";
-    QTest::newRow("default unit") << T::pressure << QVariant(2250.0) << ""
-                                  << "double 2.25";
-    QTest::newRow("more places than the unit shows") << T::pressure << QVariant(0.00048828125) << "Bar"
-                                                     << "double 0.00048828125";
-    QTest::newRow("integer") << T::pressure << QVariant(1500) << "HectoPascal"
-                             << "double 1.5";
-    QTest::newRow("marker of a known unit") << T::pressure << marker << "HectoPascal"
-                                            << "double nan";
-    QTest::newRow("fixed unit type") << T::pressure + "/Bar" << QVariant(1.5) << "HectoPascal"
-                                     << "double 1.5";
-    QTest::newRow("neither unit type nor unit") << "" << QVariant(1.5) << ""
-                                                << "double 1.5";
+    row("given unit", T::pressure, QVariant(1500.0), "HectoPascal", "double 1.5");
+    row("default unit", T::pressure, QVariant(2250.0), "", "double 2.25");
+    row("more places than the unit shows", T::pressure, QVariant(0.00048828125), "Bar",
+        "double 0.00048828125");
+    row("integer", T::pressure, QVariant(1500), "HectoPascal", "double 1.5");
+    row("marker of a known unit", T::pressure, marker, "HectoPascal", "double nan");
+    row("fixed unit type", T::pressure + "/Bar", QVariant(1.5), "HectoPascal", "double 1.5");
+    row("neither unit type nor unit", "", QVariant(1.5), "", "double 1.5");
 }
 
 void UnitManagerDeviceTest::goodValueIsStoredInTheBaseUnit()
@@ -268,12 +253,12 @@ void UnitManagerDeviceTest::withoutDefaultUnitTheValueIsStoredAsGiven()
     QCOMPARE(describedMessages(log), QStringList{Expected::noDefaultUnit(T::ratio)});
 }
 
-void UnitManagerDeviceTest::faultyValueIsWrittenAsItIs_data()
+void UnitManagerDeviceTest::faultyValueIsWrittenUnchanged_data()
 {
     addErrorTypes();
 }
 
-void UnitManagerDeviceTest::faultyValueIsWrittenAsItIs()
+void UnitManagerDeviceTest::faultyValueIsWrittenUnchanged()
 {
     ProcessValue faulty = fullValue(1500.0);
     faulty.setErrorType(fetchedErrorType());
@@ -293,13 +278,13 @@ void UnitManagerDeviceTest::failedConversionWritesNothing_data()
     QTest::addColumn<QVariant>("given");
     QTest::addColumn<QString>("unit");
 
-    QTest::newRow("unknown unit") << T::pressure << QVariant(1500.0) << "Nope";
-    QTest::newRow("marker of an unknown unit")
-        << T::pressure << ConfigurationAndProcessDataTools::getNoInputValueIndicator() << "Nope";
-    QTest::newRow("unknown unit type") << T::unknown << QVariant(1500.0) << "Bar";
-    QTest::newRow("unit without unit type") << "" << QVariant(1500.0) << "Bar";
-    QTest::newRow("no number") << T::pressure << QVariant("abc") << "HectoPascal";
-    QTest::newRow("no value") << T::pressure << QVariant() << "HectoPascal";
+    row("unknown unit", T::pressure, QVariant(1500.0), "Nope");
+    row("marker of an unknown unit", T::pressure,
+        ConfigurationAndProcessDataTools::getNoInputValueIndicator(), "Nope");
+    row("unknown unit type", T::unknown, QVariant(1500.0), "Bar");
+    row("unit without unit type", "", QVariant(1500.0), "Bar");
+    row("not a number", T::pressure, QVariant("abc"), "HectoPascal");
+    row("no value", T::pressure, QVariant(), "HectoPascal");
 }
 
 void UnitManagerDeviceTest::failedConversionWritesNothing()
@@ -327,7 +312,7 @@ void UnitManagerDeviceTest::markerOfUnknownUnitIsWrittenByNodeAccessOnly()
     QCOMPARE(described(processData->getValue().getValue()), QStringLiteral("double nan"));
 }
 
-void UnitManagerDeviceTest::otherFieldsAreWrittenAlong()
+void UnitManagerDeviceTest::otherFieldsAreWrittenToo()
 {
     const auto processData = valueOf(T::pressure, ProcessValue(2.5, noError));
     const ProcessValue given = fullValue(1500.0);
@@ -358,5 +343,4 @@ void UnitManagerDeviceTest::lockHolderReadsAndWrites()
 }
 
 QTEST_GUILESS_MAIN(UnitManagerDeviceTest)
-
 #include "UnitManagerDeviceTest.moc"

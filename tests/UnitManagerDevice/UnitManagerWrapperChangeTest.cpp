@@ -21,12 +21,12 @@ private Q_SLOTS:
     void changeIsAdopted();
     void eventLoopIsNeeded_data();
     void eventLoopIsNeeded();
-    void changeIsTakenUpByTheCheck();
-    void changeIsNotSoughtByTheQuestion();
-    void unitsServeDuringAnAsynchronousRead();
+    void checkLoadsAChange();
+    void queryDoesNotLookForChanges();
+    void unitsRemainUsableDuringAnAsynchronousRead();
     void badDocumentReplacesGoodUnits_data();
     void badDocumentReplacesGoodUnits();
-    void badDocumentWaitsForTheQuestion();
+    void badDocumentIsAdoptedByTheQuery();
 };
 
 namespace {
@@ -90,7 +90,7 @@ void UnitManagerWrapperChangeTest::eventLoopIsNeeded_data()
         QTest::newRow(row) << int(names) << bool(changeSignals) << isNeeded;
     };
     add("no names, delivered", NoNames, Delivered, true);
-    add("no names, called polled", NoNames, Polled, true);
+    add("no names, polling requested", NoNames, Polled, true);
     add("default units, delivered", DefaultUnitNames, Delivered, true);
     add("default units, polled", DefaultUnitNames, Polled, false);
     add("all names, delivered", AllNames, Delivered, true);
@@ -112,7 +112,7 @@ void UnitManagerWrapperChangeTest::eventLoopIsNeeded()
     QCOMPARE(wrapper->getUnitManager()->getListofUnitTypes(), QStringList{T::voltage});
 }
 
-void UnitManagerWrapperChangeTest::changeIsTakenUpByTheCheck()
+void UnitManagerWrapperChangeTest::checkLoadsAChange()
 {
     const auto wrapper = create(AllNames, Blocking, Delivered);
     QVERIFY(hasAdopted(*wrapper));
@@ -126,7 +126,7 @@ void UnitManagerWrapperChangeTest::changeIsTakenUpByTheCheck()
     QCOMPARE(wrapper->getUnitManager(), units);
 }
 
-void UnitManagerWrapperChangeTest::changeIsNotSoughtByTheQuestion()
+void UnitManagerWrapperChangeTest::queryDoesNotLookForChanges()
 {
     const auto wrapper = create(AllNames, Blocking, Polled);
     QVERIFY(hasAdopted(*wrapper));
@@ -140,7 +140,7 @@ void UnitManagerWrapperChangeTest::changeIsNotSoughtByTheQuestion()
     QVERIFY(hasAdopted(*wrapper));
 }
 
-void UnitManagerWrapperChangeTest::unitsServeDuringAnAsynchronousRead()
+void UnitManagerWrapperChangeTest::unitsRemainUsableDuringAnAsynchronousRead()
 {
     const auto wrapper = create(AllNames, Asynchronous, Polled);
     QVERIFY(waitUntil([&] { return hasAdopted(*wrapper); }));
@@ -189,7 +189,7 @@ void UnitManagerWrapperChangeTest::badDocumentReplacesGoodUnits()
     QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
 }
 
-void UnitManagerWrapperChangeTest::badDocumentWaitsForTheQuestion()
+void UnitManagerWrapperChangeTest::badDocumentIsAdoptedByTheQuery()
 {
     const auto wrapper = create(AllNames, Blocking, Polled);
     QVERIFY(hasAdopted(*wrapper));
@@ -206,5 +206,4 @@ void UnitManagerWrapperChangeTest::badDocumentWaitsForTheQuestion()
 }
 
 QTEST_GUILESS_MAIN(UnitManagerWrapperChangeTest)
-
 #include "UnitManagerWrapperChangeTest.moc"

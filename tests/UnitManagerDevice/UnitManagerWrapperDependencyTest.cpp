@@ -57,7 +57,7 @@ private Q_SLOTS:
     void everyTraversalStartsAnew();
     void withoutWalkerNothingIsResolved_data();
     void withoutWalkerNothingIsResolved();
-    void initDropsTheWalker();
+    void initDiscardsTheWalker();
     void resetKeepsTheWalker();
 
 private:
@@ -84,7 +84,7 @@ void UnitManagerWrapperDependencyTest::dependenciesOfAWrittenValueAreResolved_da
     QTest::addColumn<int>("status");
     QTest::addColumn<int>("traversalCount");
     QTest::newRow("changed") << 0 << 1;
-    QTest::newRow("equal already") << 1 << 1;
+    QTest::newRow("unchanged") << 1 << 1;
     QTest::newRow("refused") << 2 << 0;
     QTest::newRow("another failure") << 3 << 0;
 }
@@ -182,7 +182,7 @@ void UnitManagerWrapperDependencyTest::withoutWalkerNothingIsResolved()
     QCOMPARE(traversals.size(), 0);
 }
 
-void UnitManagerWrapperDependencyTest::initDropsTheWalker()
+void UnitManagerWrapperDependencyTest::initDiscardsTheWalker()
 {
     const auto wrapper = create(AllNames, Blocking, Delivered);
     QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
@@ -202,5 +202,4 @@ void UnitManagerWrapperDependencyTest::resetKeepsTheWalker()
 }
 
 QTEST_GUILESS_MAIN(UnitManagerWrapperDependencyTest)
-
 #include "UnitManagerWrapperDependencyTest.moc"

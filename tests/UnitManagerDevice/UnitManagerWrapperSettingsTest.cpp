@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "Row.h"
 #include "UnitConversion/Factory.h"
 #include "UnitManagerConnector/UnitManagerConnectionData.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
@@ -72,11 +73,10 @@ void UnitManagerWrapperSettingsTest::missingNamesAreEmptyTexts_data()
     QTest::addColumn<Names>("names");
     QTest::addColumn<QStringList>("expected");
     const QStringList defaultUnits{"DeviceManager", "DefaultUnitObject", "Test/DefaultUnit"};
-    QTest::newRow("no names") << NoNames << QStringList{"", "", "", "", "", ""};
-    QTest::newRow("names of the default units") << DefaultUnitNames << QStringList{"", "", ""} + defaultUnits;
-    QTest::newRow("all names") << AllNames
-                               << QStringList{"DeviceManager", "DependencyObject", "Test/Dependency"} +
-                                      defaultUnits;
+    row("no names", NoNames, QStringList{"", "", "", "", "", ""});
+    row("names of the default units", DefaultUnitNames, QStringList{"", "", ""} + defaultUnits);
+    row("all names", AllNames,
+        QStringList{"DeviceManager", "DependencyObject", "Test/Dependency"} + defaultUnits);
 }
 
 void UnitManagerWrapperSettingsTest::missingNamesAreEmptyTexts()
@@ -95,5 +95,4 @@ void UnitManagerWrapperSettingsTest::missingNamesAreEmptyTexts()
 }
 
 QTEST_GUILESS_MAIN(UnitManagerWrapperSettingsTest)
-
 #include "UnitManagerWrapperSettingsTest.moc"

@@ -69,15 +69,15 @@ private Q_SLOTS:
     void firstConfigurationIsAdopted();
     void withoutServiceThereAreNoUnits_data();
     void withoutServiceThereAreNoUnits();
-    void idleWithoutUnitManagerIsWarnedOf_data();
-    void idleWithoutUnitManagerIsWarnedOf();
-    void initDropsWhatWasBuilt_data();
-    void initDropsWhatWasBuilt();
-    void initKeepsANotedChange();
-    void initTakesNewSettings();
-    void resetKeepsWhatWasBuilt_data();
-    void resetKeepsWhatWasBuilt();
-    void resetForgetsANotedChange();
+    void idleWithoutUnitManagerLogsAWarning_data();
+    void idleWithoutUnitManagerLogsAWarning();
+    void initDiscardsTheBuiltObjects_data();
+    void initDiscardsTheBuiltObjects();
+    void initKeepsARecordedChange();
+    void initAppliesNewSettings();
+    void resetKeepsTheBuiltObjects_data();
+    void resetKeepsTheBuiltObjects();
+    void resetClearsARecordedChange();
 };
 
 namespace {
@@ -213,14 +213,14 @@ void UnitManagerWrapperTest::withoutServiceThereAreNoUnits()
     QCOMPARE(shown(*wrapper), converted);
 }
 
-void UnitManagerWrapperTest::idleWithoutUnitManagerIsWarnedOf_data()
+void UnitManagerWrapperTest::idleWithoutUnitManagerLogsAWarning_data()
 {
     QTest::addColumn<QVariant>("answer");
     QTest::newRow("an empty text") << QVariant(QString());
-    QTest::newRow("no text") << QVariant(QVariantList{1, 2});
+    QTest::newRow("not a text") << QVariant(QVariantList{1, 2});
 }
 
-void UnitManagerWrapperTest::idleWithoutUnitManagerIsWarnedOf()
+void UnitManagerWrapperTest::idleWithoutUnitManagerLogsAWarning()
 {
     QFETCH(QVariant, answer);
     m_service->setDocument(TestSource::unitSwitchName, answer);
@@ -245,12 +245,12 @@ void UnitManagerWrapperTest::idleWithoutUnitManagerIsWarnedOf()
     QCOMPARE(describedMessages(log), QStringList());
 }
 
-void UnitManagerWrapperTest::initDropsWhatWasBuilt_data()
+void UnitManagerWrapperTest::initDiscardsTheBuiltObjects_data()
 {
     addModes();
 }
 
-void UnitManagerWrapperTest::initDropsWhatWasBuilt()
+void UnitManagerWrapperTest::initDiscardsTheBuiltObjects()
 {
     QFETCH(bool, reading);
     const auto wrapper = createInFetchedMode(AllNames);
@@ -274,7 +274,7 @@ void UnitManagerWrapperTest::initDropsWhatWasBuilt()
     QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
 }
 
-void UnitManagerWrapperTest::initKeepsANotedChange()
+void UnitManagerWrapperTest::initKeepsARecordedChange()
 {
     const auto wrapper = create(AllNames, Blocking, Delivered);
     const auto units = wrapper->getUnitManager();
@@ -287,7 +287,7 @@ void UnitManagerWrapperTest::initKeepsANotedChange()
     QCOMPARE(shown(*wrapper), converted);
 }
 
-void UnitManagerWrapperTest::initTakesNewSettings()
+void UnitManagerWrapperTest::initAppliesNewSettings()
 {
     const auto wrapper = create(NoNames, Blocking, Delivered);
     QCOMPARE(m_service->takeCalls(), QStringList{TestCall::units});
@@ -302,12 +302,12 @@ void UnitManagerWrapperTest::initTakesNewSettings()
     QVERIFY(*wrapper);
 }
 
-void UnitManagerWrapperTest::resetKeepsWhatWasBuilt_data()
+void UnitManagerWrapperTest::resetKeepsTheBuiltObjects_data()
 {
     addModes();
 }
 
-void UnitManagerWrapperTest::resetKeepsWhatWasBuilt()
+void UnitManagerWrapperTest::resetKeepsTheBuiltObjects()
 {
     const auto wrapper = createInFetchedMode(AllNames);
     QVERIFY(waitForUnits(*wrapper));
@@ -329,7 +329,7 @@ void UnitManagerWrapperTest::resetKeepsWhatWasBuilt()
     QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
 }
 
-void UnitManagerWrapperTest::resetForgetsANotedChange()
+void UnitManagerWrapperTest::resetClearsARecordedChange()
 {
     const auto wrapper = create(AllNames, Blocking, Delivered);
     QVERIFY(*wrapper);
@@ -338,5 +338,4 @@ void UnitManagerWrapperTest::resetForgetsANotedChange()
 }
 
 QTEST_GUILESS_MAIN(UnitManagerWrapperTest)
-
 #include "UnitManagerWrapperTest.moc"

@@ -5,6 +5,7 @@
 #include "EmptyText.h"
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
+#include "Row.h"
 #include "TestDocuments.h"
 #include "TwoWrappersFixture.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
@@ -37,16 +38,10 @@ void UnitManagerWrapperTextTest::textOfNode_data()
     QTest::addColumn<QString>("unitType");
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("text");
-    QTest::newRow("default unit") << T::pressure << "de"
-                                  << "Hektopascal";
-    QTest::newRow("another language") << T::pressure << "en"
-                                      << "hPa";
-    QTest::newRow("fixed unit") << T::pressure + "/Bar"
-                                << "de"
-                                << "Bar";
-    QTest::newRow("no unit type") << ""
-                                  << "de"
-                                  << "";
+    row("default unit", T::pressure, "de", "Hektopascal");
+    row("another language", T::pressure, "en", "hPa");
+    row("fixed unit", T::pressure + "/Bar", "de", "Bar");
+    row("no unit type", "", "de", "");
 }
 
 void UnitManagerWrapperTextTest::textOfNode()
@@ -72,28 +67,17 @@ void UnitManagerWrapperTextTest::textOfUnitType_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    QTest::newRow("default unit") << T::pressure << "de"
-                                  << "Hektopascal" << none;
-    QTest::newRow("another language") << T::pressure << "en"
-                                      << "hPa" << none;
-    QTest::newRow("fixed unit") << T::pressure + "/Bar"
-                                << "de"
-                                << "Bar" << none;
-    QTest::newRow("no unit") << T::noUnit << "de"
-                             << "" << none;
-    QTest::newRow("unknown fixed unit") << T::pressure + "/Nope"
-                                        << "de"
-                                        << "" << QStringList{Expected::unknownTextUnit("Nope", T::pressure)};
-    QTest::newRow("fixed unit of an unknown type")
-        << T::unknown + "/Bar"
-        << "de"
-        << "" << QStringList{Expected::unknownTextType(T::unknown)};
-    QTest::newRow("unknown unit type")
-        << T::unknown << "de"
-        << "" << QStringList{Expected::noDefaultUnit(T::unknown), Expected::unknownTextType(T::unknown)};
-    QTest::newRow("fixed unit with empty last part") << T::pressure + "/"
-                                                     << "de"
-                                                     << "Hektopascal" << none;
+    row("default unit", T::pressure, "de", "Hektopascal", none);
+    row("another language", T::pressure, "en", "hPa", none);
+    row("fixed unit", T::pressure + "/Bar", "de", "Bar", none);
+    row("no unit", T::noUnit, "de", "", none);
+    row("unknown fixed unit", T::pressure + "/Nope", "de", "",
+        QStringList{Expected::unknownTextUnit("Nope", T::pressure)});
+    row("fixed unit of an unknown type", T::unknown + "/Bar", "de", "",
+        QStringList{Expected::unknownTextType(T::unknown)});
+    row("unknown unit type", T::unknown, "de", "",
+        QStringList{Expected::noDefaultUnit(T::unknown), Expected::unknownTextType(T::unknown)});
+    row("fixed unit with empty last part", T::pressure + "/", "de", "Hektopascal", none);
 }
 
 void UnitManagerWrapperTextTest::textOfUnitType()
@@ -134,10 +118,9 @@ void UnitManagerWrapperTextTest::textMapAndBaseUnit_data()
     QTest::addColumn<QString>("unitType");
     QTest::addColumn<QVariant>("map");
     QTest::addColumn<QString>("baseUnit");
-    QTest::newRow("unit type") << T::pressure << QVariant(QVariantMap{{"en", "bar"}, {"de", "Bar"}})
-                               << T::pressure + "/Bar";
-    QTest::newRow("fixed unit") << T::pressure + "/MilliBar" << QVariant(QVariantMap{{"en", "mbar"}}) << "";
-    QTest::newRow("unknown unit type") << T::unknown << QVariant() << "";
+    row("unit type", T::pressure, QVariant(QVariantMap{{"en", "bar"}, {"de", "Bar"}}), T::pressure + "/Bar");
+    row("fixed unit", T::pressure + "/MilliBar", QVariant(QVariantMap{{"en", "mbar"}}), "");
+    row("unknown unit type", T::unknown, QVariant(), "");
 }
 
 void UnitManagerWrapperTextTest::textMapAndBaseUnit()
@@ -165,5 +148,4 @@ void UnitManagerWrapperTextTest::unitManagerIsTheOneInUse()
 }
 
 QTEST_GUILESS_MAIN(UnitManagerWrapperTextTest)
-
 #include "UnitManagerWrapperTextTest.moc"

@@ -116,5 +116,4 @@ void UnitManagerWrapperTrafficTest::blockingStartOnFrozenBus()
 }
 
 QTEST_GUILESS_MAIN(UnitManagerWrapperTrafficTest)
-
 #include "UnitManagerWrapperTrafficTest.moc"

@@ -6,6 +6,7 @@
 #include "LogCapture.h"
 #include "RecordingNode.h"
 #include "RecordingValueNode.h"
+#include "Row.h"
 #include "TestDocuments.h"
 #include "TwoWrappersFixture.h"
 
@@ -26,8 +27,8 @@ private Q_SLOTS:
     void arrayIsWritten();
     void nodeValueIsWritten_data();
     void nodeValueIsWritten();
-    void statusIsTheNodesOwn_data();
-    void statusIsTheNodesOwn();
+    void statusIsThatOfTheNode_data();
+    void statusIsThatOfTheNode();
 };
 
 namespace {
@@ -69,34 +70,15 @@ void UnitManagerWrapperValueTest::nodeValueIsRead_data()
     QTest::addColumn<QString>("converted");
     QTest::addColumn<QString>("asStored");
 
-    QTest::newRow("given unit") << pressure("1.5") << "Bar"
-                                << "double 1.5"
-                                << "double 1.5";
-    QTest::newRow("default unit") << pressure("1.5") << ""
-                                  << "double 1500"
-                                  << "double 1.5";
-    QTest::newRow("more places than the unit shows") << pressure("1.00048828125") << "HectoPascal"
-                                                     << "double 1000.48828125"
-                                                     << "double 1.00048828125";
-    QTest::newRow("no unit type") << "1.5"
-                                  << ""
-                                  << "double 1.5"
-                                  << "double 1.5";
-    QTest::newRow("marker") << R"({ "@type": "Number", "@value": null })"
-                            << "Bar"
-                            << "double nan"
-                            << "double nan";
-    QTest::newRow("text") << pressure(R"("much")") << "Bar"
-                          << "QString much"
-                          << "QString much";
-    QTest::newRow("no value") << R"({ "Child": 1 })"
-                              << "Bar"
-                              << "invalid"
-                              << "invalid";
-    QTest::newRow("null child") << "null"
-                                << "Bar"
-                                << "invalid"
-                                << "invalid";
+    row("given unit", pressure("1.5"), "Bar", "double 1.5", "double 1.5");
+    row("default unit", pressure("1.5"), "", "double 1500", "double 1.5");
+    row("more places than the unit shows", pressure("1.00048828125"), "HectoPascal", "double 1000.48828125",
+        "double 1.00048828125");
+    row("no unit type", "1.5", "", "double 1.5", "double 1.5");
+    row("marker", R"({ "@type": "Number", "@value": null })", "Bar", "double nan", "double nan");
+    row("text", pressure(R"("much")"), "Bar", "QString much", "QString much");
+    row("no value", R"({ "Child": 1 })", "Bar", "invalid", "invalid");
+    row("null child", "null", "Bar", "invalid", "invalid");
 }
 
 void UnitManagerWrapperValueTest::nodeValueIsRead()
@@ -131,26 +113,17 @@ void UnitManagerWrapperValueTest::plainValueIsConverted_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    QTest::newRow("given unit") << QVariant(1.5) << T::pressure << "HectoPascal"
-                                << "double 1500" << none;
-    QTest::newRow("default unit") << QVariant(1.5) << T::pressure << ""
-                                  << "double 1500" << none;
-    QTest::newRow("more places than the unit shows") << QVariant(1.00048828125) << T::pressure << ""
-                                                     << "double 1000.48828125" << none;
-    QTest::newRow("integer") << QVariant(2) << T::pressure << "HectoPascal"
-                             << "double 2000" << none;
-    QTest::newRow("fixed unit type") << QVariant(2) << T::pressure + "/Bar"
-                                     << "HectoPascal"
-                                     << "int 2" << none;
-    QTest::newRow("no value") << QVariant() << T::pressure << "HectoPascal"
-                              << "invalid" << none;
-    QTest::newRow("unknown unit") << QVariant(1.5) << T::pressure << "Nope"
-                                  << "double 1.5"
-                                  << QStringList{
-                                         Expected::unknownUnit(Conversion::FromBase, "Nope", "Pressure")};
-    QTest::newRow("unknown unit type")
-        << QVariant(1.5) << T::unknown << "Bar"
-        << "double 1.5" << QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)};
+    row("given unit", QVariant(1.5), T::pressure, "HectoPascal", "double 1500", none);
+    row("default unit", QVariant(1.5), T::pressure, "", "double 1500", none);
+    row("more places than the unit shows", QVariant(1.00048828125), T::pressure, "", "double 1000.48828125",
+        none);
+    row("integer", QVariant(2), T::pressure, "HectoPascal", "double 2000", none);
+    row("fixed unit type", QVariant(2), T::pressure + "/Bar", "HectoPascal", "int 2", none);
+    row("no value", QVariant(), T::pressure, "HectoPascal", "invalid", none);
+    row("unknown unit", QVariant(1.5), T::pressure, "Nope", "double 1.5",
+        QStringList{Expected::unknownUnit(Conversion::FromBase, "Nope", "Pressure")});
+    row("unknown unit type", QVariant(1.5), T::unknown, "Bar", "double 1.5",
+        QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)});
 }
 
 void UnitManagerWrapperValueTest::plainValueIsConverted()
@@ -175,13 +148,13 @@ void UnitManagerWrapperValueTest::arrayIsRead_data()
     QTest::addColumn<QStringList>("asStored");
 
     const QStringList nothing;
-    QTest::newRow("part of a row") << 0U << 1U << 2U << QStringList{"double 2.5", "double 3500"}
-                                   << QStringList{"double 2.5", "double 3.5"};
-    QTest::newRow("whole row") << 1U << 0U << 3U << QStringList{"double 4500", "double 5.5", "double 6500"}
-                               << QStringList{"double 4.5", "double 5.5", "double 6.5"};
-    QTest::newRow("one cell") << 1U << 2U << 1U << QStringList{"double 6500"} << QStringList{"double 6.5"};
-    QTest::newRow("beyond the columns") << 0U << 2U << 2U << nothing << nothing;
-    QTest::newRow("beyond the rows") << 2U << 0U << 1U << nothing << nothing;
+    row("part of a row", 0U, 1U, 2U, QStringList{"double 2.5", "double 3500"},
+        QStringList{"double 2.5", "double 3.5"});
+    row("whole row", 1U, 0U, 3U, QStringList{"double 4500", "double 5.5", "double 6500"},
+        QStringList{"double 4.5", "double 5.5", "double 6.5"});
+    row("one cell", 1U, 2U, 1U, QStringList{"double 6500"}, QStringList{"double 6.5"});
+    row("beyond the columns", 0U, 2U, 2U, nothing, nothing);
+    row("beyond the rows", 2U, 0U, 1U, nothing, nothing);
 }
 
 void UnitManagerWrapperValueTest::arrayIsRead()
@@ -209,16 +182,16 @@ void UnitManagerWrapperValueTest::arrayIsWritten_data()
     const QString row1 = QStringLiteral("double 4.5, double 5.5, double 6.5");
     const QStringList refused;
     using Values = QList<QVariant>;
-    QTest::newRow("part of a row") << 0U << 1U << Values{7.5, 8500.0} << "HectoPascal"
-                                   << QStringList{"double 1.5, double 7.5, double 8.5", row1}
-                                   << QStringList{"double 1.5, double 7.5, double 8500", row1};
-    QTest::newRow("whole row") << 1U << 0U << Values{7500.0, 8.5, 9500.0} << ""
-                               << QStringList{row0, "double 7.5, double 8.5, double 9.5"}
-                               << QStringList{row0, "double 7500, double 8.5, double 9500"};
-    QTest::newRow("unknown unit") << 0U << 0U << Values{7.5} << "Nope" << refused
-                                  << QStringList{"double 7.5, double 2.5, double 3.5", row1};
-    QTest::newRow("beyond the columns") << 0U << 2U << Values{7.5, 8.5} << "Bar" << refused << refused;
-    QTest::newRow("beyond the rows") << 2U << 0U << Values{7.5} << "Bar" << refused << refused;
+    row("part of a row", 0U, 1U, Values{7.5, 8500.0}, "HectoPascal",
+        QStringList{"double 1.5, double 7.5, double 8.5", row1},
+        QStringList{"double 1.5, double 7.5, double 8500", row1});
+    row("whole row", 1U, 0U, Values{7500.0, 8.5, 9500.0}, "",
+        QStringList{row0, "double 7.5, double 8.5, double 9.5"},
+        QStringList{row0, "double 7500, double 8.5, double 9500"});
+    row("unknown unit", 0U, 0U, Values{7.5}, "Nope", refused,
+        QStringList{"double 7.5, double 2.5, double 3.5", row1});
+    row("beyond the columns", 0U, 2U, Values{7.5, 8.5}, "Bar", refused, refused);
+    row("beyond the rows", 2U, 0U, Values{7.5}, "Bar", refused, refused);
 }
 
 void UnitManagerWrapperValueTest::arrayIsWritten()
@@ -233,7 +206,7 @@ void UnitManagerWrapperValueTest::arrayIsWritten()
         const auto count = static_cast<unsigned int>(values.size());
         if (wrapper.setValueArray(array, row, firstColumn, count, values, unit))
             return rowsOf(array);
-        return rowsOf(array) == rowsOf(threeColumns()) ? QStringList() : QStringList{"written all the same"};
+        return rowsOf(array) == rowsOf(threeColumns()) ? QStringList() : QStringList{"written nevertheless"};
     };
 
     QTEST(write(*m_units), "converted");
@@ -251,30 +224,15 @@ void UnitManagerWrapperValueTest::nodeValueIsWritten_data()
     const QString readOnly = R"({ "@readOnly": true, "@value": 2.5,
                                   "@unitType": "UnitManager/UnitType/Pressure" })";
     const QVariant marker = ConfigurationAndProcessDataTools::getNoInputValueIndicator();
-    QTest::newRow("given unit") << pressure("2.5") << QVariant(1500.0) << "HectoPascal"
-                                << "0: double 1.5"
-                                << "0: double 1500";
-    QTest::newRow("default unit") << pressure("2.5") << QVariant(1500.0) << ""
-                                  << "0: double 1.5"
-                                  << "0: double 1500";
-    QTest::newRow("not rounded") << pressure("2.5") << QVariant(0.00048828125) << "Bar"
-                                 << "0: double 0.00048828125"
-                                 << "0: double 0.00048828125";
-    QTest::newRow("what is there already") << pressure("1.5") << QVariant(1.5) << "Bar"
-                                           << "1: double 1.5"
-                                           << "1: double 1.5";
-    QTest::newRow("unknown unit") << pressure("2.5") << QVariant(1500.0) << "Nope"
-                                  << "2: double 2.5"
-                                  << "0: double 1500";
-    QTest::newRow("marker of an unknown unit") << pressure("2.5") << marker << "Nope"
-                                               << "0: double nan"
-                                               << "0: double nan";
-    QTest::newRow("read-only") << readOnly << QVariant(1500.0) << "HectoPascal"
-                               << "2: double 2.5"
-                               << "2: double 2.5";
-    QTest::newRow("null child") << "null" << QVariant(1500.0) << "HectoPascal"
-                                << "2: invalid"
-                                << "2: invalid";
+    row("given unit", pressure("2.5"), QVariant(1500.0), "HectoPascal", "0: double 1.5", "0: double 1500");
+    row("default unit", pressure("2.5"), QVariant(1500.0), "", "0: double 1.5", "0: double 1500");
+    row("not rounded", pressure("2.5"), QVariant(0.00048828125), "Bar", "0: double 0.00048828125",
+        "0: double 0.00048828125");
+    row("stored value", pressure("1.5"), QVariant(1.5), "Bar", "1: double 1.5", "1: double 1.5");
+    row("unknown unit", pressure("2.5"), QVariant(1500.0), "Nope", "2: double 2.5", "0: double 1500");
+    row("marker of an unknown unit", pressure("2.5"), marker, "Nope", "0: double nan", "0: double nan");
+    row("read-only", readOnly, QVariant(1500.0), "HectoPascal", "2: double 2.5", "2: double 2.5");
+    row("null child", "null", QVariant(1500.0), "HectoPascal", "2: invalid", "2: invalid");
 }
 
 void UnitManagerWrapperValueTest::nodeValueIsWritten()
@@ -296,17 +254,17 @@ void UnitManagerWrapperValueTest::nodeValueIsWritten()
     QCOMPARE(m_noUnits->setValueStatus("Value", {}, value, unit), 2);
 }
 
-void UnitManagerWrapperValueTest::statusIsTheNodesOwn_data()
+void UnitManagerWrapperValueTest::statusIsThatOfTheNode_data()
 {
     QTest::addColumn<int>("status");
     QTest::addColumn<bool>("isWritten");
     QTest::newRow("changed") << 0 << true;
-    QTest::newRow("equal already") << 1 << true;
+    QTest::newRow("unchanged") << 1 << true;
     QTest::newRow("refused") << 2 << false;
     QTest::newRow("another failure") << 3 << false;
 }
 
-void UnitManagerWrapperValueTest::statusIsTheNodesOwn()
+void UnitManagerWrapperValueTest::statusIsThatOfTheNode()
 {
     QFETCH(int, status);
     const auto child = RecordingValueNode::number(2.5, T::pressure);
@@ -320,5 +278,4 @@ void UnitManagerWrapperValueTest::statusIsTheNodesOwn()
 }
 
 QTEST_GUILESS_MAIN(UnitManagerWrapperValueTest)
-
 #include "UnitManagerWrapperValueTest.moc"

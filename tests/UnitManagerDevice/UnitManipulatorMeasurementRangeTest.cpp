@@ -11,6 +11,7 @@
 #include "MessageText.h"
 #include "RecordingNode.h"
 #include "RecordingValueNode.h"
+#include "Row.h"
 #include "ServiceFixture.h"
 #include "TestDocuments.h"
 #include "VirtualSlot.h"
@@ -36,20 +37,20 @@ class UnitManipulatorMeasurementRangeTest : public ServiceFixture
 private Q_SLOTS:
     void initTestCase();
     void manipulateHasTheThirdSlot();
-    void uninitializedWrapperIsWarnedOf_data();
-    void uninitializedWrapperIsWarnedOf();
+    void uninitializedWrapperLogsAWarning_data();
+    void uninitializedWrapperLogsAWarning();
     void wrapperIsAdvancedFirst();
-    void nodeWithoutRangesStaysAsItIs_data();
-    void nodeWithoutRangesStaysAsItIs();
-    void nullNodeIsLeftAlone();
-    void statusDecidesTheOutputs_data();
-    void statusDecidesTheOutputs();
+    void nodeWithoutRangesIsUnchanged_data();
+    void nodeWithoutRangesIsUnchanged();
+    void nullNodeIsIgnored();
+    void statusSelectsTheOutputs_data();
+    void statusSelectsTheOutputs();
     void firstRangeIsWritten_data();
     void firstRangeIsWritten();
     void secondWriteChangesNothing();
     void readOnlyNodeIsNotHandled();
-    void unknownUnitTypeIsWrittenAsNone();
-    void withoutUnitManagerNoneIsWritten();
+    void unknownUnitTypeIsWrittenAsEmptyUnit();
+    void withoutUnitManagerEmptyTextsAreWritten();
     void walkerAppliesIt();
 };
 
@@ -58,7 +59,7 @@ namespace {
 namespace T = TestUnitType;
 
 const QString rangeKey = QStringLiteral("@measurementRangeAttributes");
-const QString asked = QStringLiteral("hasProperty ") + rangeKey;
+const QString rangeQuery = QStringLiteral("hasProperty ") + rangeKey;
 
 struct Outputs
 {
@@ -127,14 +128,14 @@ void UnitManipulatorMeasurementRangeTest::manipulateHasTheThirdSlot()
     QCOMPARE(virtualSlot(&UnitManipulatorMeasurementRange::manipulate), std::size_t(2));
 }
 
-void UnitManipulatorMeasurementRangeTest::uninitializedWrapperIsWarnedOf_data()
+void UnitManipulatorMeasurementRangeTest::uninitializedWrapperLogsAWarning_data()
 {
     QTest::addColumn<bool>("hasNode");
     QTest::newRow("node with ranges") << true;
     QTest::newRow("null node") << false;
 }
 
-void UnitManipulatorMeasurementRangeTest::uninitializedWrapperIsWarnedOf()
+void UnitManipulatorMeasurementRangeTest::uninitializedWrapperLogsAWarning()
 {
     QFETCH(bool, hasNode);
     m_service->stop();
@@ -158,7 +159,7 @@ void UnitManipulatorMeasurementRangeTest::wrapperIsAdvancedFirst()
 
     QVERIFY(waitUntil([&] {
         manipulate(*wrapper, node, T::pressure);
-        return node->calls() == QStringList{asked};
+        return node->calls() == QStringList{rangeQuery};
     }));
     QVERIFY(*wrapper);
     const QStringList messages = describedMessages(log);
@@ -166,12 +167,12 @@ void UnitManipulatorMeasurementRangeTest::wrapperIsAdvancedFirst()
     QCOMPARE(messages.count(notInitialized), messages.size());
 }
 
-void UnitManipulatorMeasurementRangeTest::nodeWithoutRangesStaysAsItIs_data()
+void UnitManipulatorMeasurementRangeTest::nodeWithoutRangesIsUnchanged_data()
 {
     addModes();
 }
 
-void UnitManipulatorMeasurementRangeTest::nodeWithoutRangesStaysAsItIs()
+void UnitManipulatorMeasurementRangeTest::nodeWithoutRangesIsUnchanged()
 {
     const auto wrapper = createInFetchedMode(AllNames);
     QVERIFY(waitForUnits(*wrapper));
@@ -179,11 +180,11 @@ void UnitManipulatorMeasurementRangeTest::nodeWithoutRangesStaysAsItIs()
     LogCapture log;
 
     QCOMPARE(outputsOf(*wrapper, node), untouched);
-    QCOMPARE(node->calls(), (QStringList{asked, asked, asked, asked}));
+    QCOMPARE(node->calls(), (QStringList{rangeQuery, rangeQuery, rangeQuery, rangeQuery}));
     QCOMPARE(describedMessages(log), QStringList());
 }
 
-void UnitManipulatorMeasurementRangeTest::nullNodeIsLeftAlone()
+void UnitManipulatorMeasurementRangeTest::nullNodeIsIgnored()
 {
     const auto wrapper = create(AllNames, Blocking, Delivered);
     LogCapture log;
@@ -191,19 +192,19 @@ void UnitManipulatorMeasurementRangeTest::nullNodeIsLeftAlone()
     QCOMPARE(describedMessages(log), QStringList());
 }
 
-void UnitManipulatorMeasurementRangeTest::statusDecidesTheOutputs_data()
+void UnitManipulatorMeasurementRangeTest::statusSelectsTheOutputs_data()
 {
     QTest::addColumn<int>("status");
     QTest::addColumn<QStringList>("outputs");
     const QString both = QStringLiteral("handled, changed");
     QTest::newRow("changed") << 0 << QStringList{both, both, both, both};
-    QTest::newRow("equal already") << 1 << QStringList{"handled, -", both, "handled, -", both};
+    QTest::newRow("unchanged") << 1 << QStringList{"handled, -", both, "handled, -", both};
     QTest::newRow("refused") << 2 << untouched;
     QTest::newRow("another failure") << 3 << untouched;
     QTest::newRow("negative") << -1 << untouched;
 }
 
-void UnitManipulatorMeasurementRangeTest::statusDecidesTheOutputs()
+void UnitManipulatorMeasurementRangeTest::statusSelectsTheOutputs()
 {
     QFETCH(int, status);
     const auto wrapper = create(AllNames, Blocking, Delivered);
@@ -222,11 +223,11 @@ void UnitManipulatorMeasurementRangeTest::firstRangeIsWritten_data()
     const QVariantMap kelvin{{"unit", T::temperature + "/Kelvin"}, {"unitText", QVariantMap{{"en", "K"}}}};
     QVariantMap withMinimum = bar;
     withMinimum.insert("min", 0.5);
-    QTest::newRow("no range") << T::pressure << "[]" << QVariantList{bar};
-    QTest::newRow("another unit type") << T::temperature << "[]" << QVariantList{kelvin};
-    QTest::newRow("other members stay") << T::pressure << R"([{ "min": 0.5 }])" << QVariantList{withMinimum};
-    QTest::newRow("other ranges stay") << T::pressure << R"([{ "unit": "old" }, { "unit": "kept" }])"
-                                       << QVariantList{bar, QVariantMap{{"unit", "kept"}}};
+    row("no range", T::pressure, "[]", QVariantList{bar});
+    row("another unit type", T::temperature, "[]", QVariantList{kelvin});
+    row("other members stay", T::pressure, R"([{ "min": 0.5 }])", QVariantList{withMinimum});
+    row("other ranges stay", T::pressure, R"([{ "unit": "old" }, { "unit": "kept" }])",
+        QVariantList{bar, QVariantMap{{"unit", "kept"}}});
 }
 
 void UnitManipulatorMeasurementRangeTest::firstRangeIsWritten()
@@ -270,7 +271,7 @@ void UnitManipulatorMeasurementRangeTest::readOnlyNodeIsNotHandled()
     QCOMPARE(rangesOf(node), QVariantList());
 }
 
-void UnitManipulatorMeasurementRangeTest::unknownUnitTypeIsWrittenAsNone()
+void UnitManipulatorMeasurementRangeTest::unknownUnitTypeIsWrittenAsEmptyUnit()
 {
     const auto wrapper = create(AllNames, Blocking, Delivered);
     const auto node = nodeFromJson(R"({ "@measurementRangeAttributes": [] })");
@@ -282,7 +283,7 @@ void UnitManipulatorMeasurementRangeTest::unknownUnitTypeIsWrittenAsNone()
              (QStringList{Expected::unknownTextMapType(T::unknown), Expected::noBaseUnit(T::unknown)}));
 }
 
-void UnitManipulatorMeasurementRangeTest::withoutUnitManagerNoneIsWritten()
+void UnitManipulatorMeasurementRangeTest::withoutUnitManagerEmptyTextsAreWritten()
 {
     m_service->setDocument(TestSource::unitSwitchName, QString());
     const auto wrapper = create(NoNames, Asynchronous, Polled);
@@ -314,5 +315,4 @@ void UnitManipulatorMeasurementRangeTest::walkerAppliesIt()
 }
 
 QTEST_GUILESS_MAIN(UnitManipulatorMeasurementRangeTest)
-
 #include "UnitManipulatorMeasurementRangeTest.moc"
