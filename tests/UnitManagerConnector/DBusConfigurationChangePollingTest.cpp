@@ -59,6 +59,7 @@ void DBusConfigurationChangePollingTest::aNewSubscriptionReplacesTheEarlierOne()
 
 void DBusConfigurationChangePollingTest::sourcesArePolledInOrder()
 {
+    // The order is visible in the log.
     ConfiguredHandling handling(true);
     QVERIFY(!handling.pollChangeFlags());
     QCOMPARE(takeCalls(), QStringList());

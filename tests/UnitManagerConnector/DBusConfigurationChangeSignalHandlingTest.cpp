@@ -52,6 +52,7 @@ private Q_SLOTS:
 
 void DBusConfigurationChangeSignalHandlingTest::theMetaObjectListsTheSlotsInOrder()
 {
+    // Part of the binary interface: connections use the index of the method.
     const QMetaObject& metaObject = Handling::staticMetaObject;
     QCOMPARE(metaObject.className(), "DBusConfigurationChangeSignalHandling");
     QCOMPARE(metaObject.superClass(), &QObject::staticMetaObject);

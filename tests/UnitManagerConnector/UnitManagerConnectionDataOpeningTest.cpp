@@ -321,6 +321,7 @@ void UnitManagerConnectionDataOpeningTest::resetsClearTheRecordedChanges()
 
 void UnitManagerConnectionDataOpeningTest::resetObjectDiscardsInOrder()
 {
+    // The order is visible: closing logs a warning, and a destroyed connector notifies its observers.
     LogCapture log;
     ConfiguredData data(false);
     QCOMPARE(data.openConnector(Definitions::UnitSwitch), Definitions::Connected);

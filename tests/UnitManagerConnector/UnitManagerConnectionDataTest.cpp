@@ -122,6 +122,7 @@ void UnitManagerConnectionDataTest::theMetaObjectHasNoMethodsOfItsOwn()
 
 void UnitManagerConnectionDataTest::theFirstVirtualFunctionIsTheInterface()
 {
+    // Part of the binary interface: callers use the position in the virtual table.
     QCOMPARE(virtualSlot(&Data::useAsynchronInterface), firstSlotAfterObject());
 }
 

@@ -104,7 +104,7 @@ std::unique_ptr<StateMachineStateBase> create(const QString& key, QObject* paren
     return std::unique_ptr<StateMachineStateBase>(StateFactory::instance().create(key, parent));
 }
 
-/// A state that gives access to its wrapper.
+/// A state that gives access to its wrapper, a protected member that states of a device use.
 class VisibleState : public UnitManagerConnectorStateBase
 {
 public:
@@ -132,6 +132,7 @@ void UnitManagerConnectorStateBaseTest::theBaseAddsNoMethods()
 
 void UnitManagerConnectorStateBaseTest::theVirtualFunctionsFollowThoseOfAnObject()
 {
+    // Part of the binary interface: callers use the position in the virtual table.
     QCOMPARE(virtualSlot(&Base::postInitialEvent), firstSlotAfterObject());
     QCOMPARE(virtualSlot(&Base::postEvent), firstSlotAfterObject() + 1);
 }

@@ -68,6 +68,7 @@ void UnitManagerConnectorStateMachineTest::itAddsNoMethods()
 
 void UnitManagerConnectorStateMachineTest::theHooksFollowTheFunctionsOfAnObject()
 {
+    // Part of the binary interface: callers use the position in the virtual table.
     QCOMPARE(virtualSlot(&Hooks::doLogEntryStateInitialized), firstSlotAfterObject());
     QCOMPARE(virtualSlot(&Hooks::doLogEntryStateChanged), firstSlotAfterObject() + 1);
 }

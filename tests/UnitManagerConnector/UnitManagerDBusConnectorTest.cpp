@@ -39,6 +39,7 @@ using TestUnitType::pressure;
 
 void UnitManagerDBusConnectorTest::theMetaObjectListsTheSignalsInOrder()
 {
+    // Part of the binary interface: connections use the index of the method.
     const QMetaObject& metaObject = Connector::staticMetaObject;
     QCOMPARE(metaObject.className(), "UnitManagerDBusConnector");
     QCOMPARE(metaObject.superClass(), &QObject::staticMetaObject);
@@ -49,6 +50,7 @@ void UnitManagerDBusConnectorTest::theMetaObjectListsTheSignalsInOrder()
 
 void UnitManagerDBusConnectorTest::theVirtualFunctionsAreInOrder()
 {
+    // Part of the binary interface: callers use the position in the virtual table.
     const std::size_t places[] = {
         virtualSlot(&Connector::init),
         virtualSlot(&Connector::initializeDependencyWalker),

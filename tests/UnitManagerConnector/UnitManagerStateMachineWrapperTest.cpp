@@ -118,6 +118,7 @@ void UnitManagerStateMachineWrapperTest::theMetaObjectHasNoMethodsOfItsOwn()
 
 void UnitManagerStateMachineWrapperTest::theVirtualFunctionsAreInOrder()
 {
+    // Part of the binary interface: callers use the position in the virtual table.
     QCOMPARE(virtualSlot(&Wrapper::moveToNextState), firstSlotAfterObject());
     QCOMPARE(virtualSlot(&Wrapper::initializeDependencyWalker), firstSlotAfterObject() + 1);
     QCOMPARE(virtualSlot(&Wrapper::initializeUnitManager), firstSlotAfterObject() + 2);
@@ -129,6 +130,7 @@ void UnitManagerStateMachineWrapperTest::onlyTheStateMachineHasItAsParent()
     Wrapper wrapper(&parent, false, false, "", "", "", "", "", "");
     QCOMPARE(wrapper.parent(), nullptr);
     QVERIFY(parent.children().isEmpty());
+    // The state machine passes its parent, the wrapper, to every state.
     QCOMPARE(wrapper.children().size(), 1);
     QCOMPARE(wrapper.children().first()->metaObject()->className(), "UnitManagerConnectorStateMachine");
     QCOMPARE(wrapper.getConnectionDataObject()->parent(), nullptr);
@@ -171,6 +173,7 @@ void UnitManagerStateMachineWrapperTest::initAppliesSettingsAndStartsAgain()
 
 void UnitManagerStateMachineWrapperTest::theInitialStateIsEnteredTwice()
 {
+    // A device may register its own initial state, which sees both.
     probeInitialState();
     const Wrapper wrapper(nullptr, false, false, "", "", "", "", "", "");
     QCOMPARE(events(), (QStringList{"enter initialEvent()", "enter initialEvent()"}));

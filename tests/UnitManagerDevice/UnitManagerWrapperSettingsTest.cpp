@@ -85,7 +85,8 @@ void UnitManagerWrapperSettingsTest::missingNamesAreEmptyTexts()
     seenSettings().clear();
     create(names, Asynchronous, Polled);
 
-    // The data is built without names, then the connector, which finally gets the wrapper's names.
+    // A device may register its own initial state, which sees every step: the data is built without names,
+    // then the connector, which finally gets the wrapper's names.
     QCOMPARE(seenSettings().size(), 3);
     QCOMPARE(namesOf(seenSettings().at(0)), QStringList({"", "", "", "", "", ""}));
     QCOMPARE(namesOf(seenSettings().at(1)), QStringList({"", "", "", "", "", ""}));

@@ -93,13 +93,15 @@ QString wrapperWarning(const char* function, const char* text)
 
 void UnitManagerWrapperTest::initHasTheThirdSlot()
 {
+    // Part of the binary interface: callers use the position in the virtual table.
     QCOMPARE(virtualSlot(&UnitManagerWrapper::init), std::size_t(2));
 }
 
 void UnitManagerWrapperTest::unitManagerIsReleasedFirst()
 {
     const auto wrapper = create(AllNames, Blocking, Delivered);
-    // Members are destroyed in reverse order; the last member is the unit manager.
+    // The order of the members is part of the binary interface. They are destroyed in reverse order; the last
+    // one is the unit manager.
     using Pointer = QSharedPointer<UnitManagerDevice>;
     const auto* const end = reinterpret_cast<const char*>(wrapper.get() + 1);
     const UnitManagerDevice* last = nullptr;

@@ -125,6 +125,7 @@ void UnitManipulatorMeasurementRangeTest::initTestCase()
 
 void UnitManipulatorMeasurementRangeTest::manipulateHasTheThirdSlot()
 {
+    // Part of the binary interface: callers use the position in the virtual table.
     QCOMPARE(virtualSlot(&UnitManipulatorMeasurementRange::manipulate), std::size_t(2));
 }
 
