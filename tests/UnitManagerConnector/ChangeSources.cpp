@@ -2,7 +2,6 @@
 
 #include <QtTest/QTest>
 
-#include "ConfigurationService.h"
 #include "MessageText.h"
 
 using Definitions = UnitManagerConnectorDefinitions;
@@ -28,14 +27,6 @@ void ChangeSources::addModesAndSources()
         QTest::addRow("%s, signals delivered", nameOf(type)) << false << type;
         QTest::addRow("%s, signals polled", nameOf(type)) << true << type;
     }
-}
-
-ChangeSources::Settings ChangeSources::settings()
-{
-    using namespace TestSource;
-    return {{Definitions::UnitSwitch, {module, unitSwitchObject, unitSwitchName}},
-            {Definitions::DependencyFile, {module, dependencyObject, dependencyName}},
-            {Definitions::DefaultUnit, {module, defaultUnitObject, defaultUnitName}}};
 }
 
 ChangeSources::Status ChangeSources::subscribe(DBusConfigurationChangeSignalHandling& handling, Type type)

@@ -6,6 +6,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include "ConfigurationService.h"
 #include "LogCapture.h"
 #include "UnitManagerConnector/DBusConfigurationChangeSignalHandling.h"
 
@@ -17,9 +18,9 @@ using Status = UnitManagerConnectorDefinitions::ConnectionStatus;
 using Settings = QMap<Type, QStringList>;
 using Changes = QMap<Type, QString>;
 
-const Type all[] = {UnitManagerConnectorDefinitions::UnitSwitch,
-                    UnitManagerConnectorDefinitions::DependencyFile,
-                    UnitManagerConnectorDefinitions::DefaultUnit};
+using TestSource::settings;
+
+const Type all[] = {TestSource::units, TestSource::dependencies, TestSource::defaults};
 
 /// The name of a source in the test rows.
 const char* nameOf(Type type);
@@ -29,14 +30,11 @@ void addModes();
 /// Adds the columns "polling" and "type" with all combinations.
 void addModesAndSources();
 
-/// Service, object and configuration of each source, all in one module.
-Settings settings();
-
 /// A handling with the settings of the tests.
 class ConfiguredHandling : public DBusConfigurationChangeSignalHandling
 {
 public:
-    explicit ConfiguredHandling(bool useSignalPolling, const Settings& settings = ChangeSources::settings())
+    explicit ConfiguredHandling(bool useSignalPolling, const Settings& settings = TestSource::settings())
         : DBusConfigurationChangeSignalHandling(useSignalPolling)
     {
         init(settings);

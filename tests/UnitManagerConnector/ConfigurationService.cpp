@@ -25,6 +25,13 @@ QString callText(const QDBusMessage& call)
 
 } // namespace
 
+QMap<UnitManagerConnectorDefinitions::ConnectorType, QStringList> TestSource::settings()
+{
+    return {{units, {module, unitSwitchObject, unitSwitchName}},
+            {dependencies, {module, dependencyObject, dependencyName}},
+            {defaults, {module, defaultUnitObject, defaultUnitName}}};
+}
+
 QString TestDocument::dependencies()
 {
     return QStringLiteral(R"json({ "PressureUnit": ["Pressure"], "Value": ["Dependent"] })json");
@@ -106,9 +113,10 @@ QStringList ConfigurationService::takeCalls()
     return texts;
 }
 
-bool ConfigurationService::announce(const QString& object, const QVariant& parameter)
+bool ConfigurationService::announce(UnitManagerConnectorDefinitions::ConnectorType source)
 {
-    return announceWith(object, {parameter});
+    const QStringList settings = TestSource::settings().value(source);
+    return announceWith(settings.at(1), {settings.at(2)});
 }
 
 bool ConfigurationService::announceWith(const QString& object, const QVariantList& arguments)

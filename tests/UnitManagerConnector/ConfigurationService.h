@@ -2,6 +2,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QList>
+#include <QtCore/QMap>
 #include <QtCore/QMutex>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -30,6 +31,9 @@ const QString dependencyObject = QStringLiteral("DependencyObject");
 const QString dependencyName = QStringLiteral("Test/Dependency");
 const QString defaultUnitObject = QStringLiteral("DefaultUnitObject");
 const QString defaultUnitName = QStringLiteral("Test/DefaultUnit");
+
+/// Module, object and configuration of each source.
+QMap<UnitManagerConnectorDefinitions::ConnectorType, QStringList> settings();
 
 } // namespace TestSource
 
@@ -85,11 +89,11 @@ public:
     /// @return a list with one empty entry if the service does not answer within a minute.
     QStringList takeCalls();
 
-    /// Sends the change signal of an object. On return, the signal has reached all existing subscriptions and
+    /// Sends the change signal of a source. On return, the signal has reached all existing subscriptions and
     /// is queued in the event loops of their threads.
     /// @return whether it was sent.
-    bool announce(const QString& object, const QVariant& parameter);
-    /// Sends a change signal with any arguments; see announce().
+    bool announce(UnitManagerConnectorDefinitions::ConnectorType source);
+    /// Sends a change signal of any object, with any arguments; see announce().
     bool announceWith(const QString& object, const QVariantList& arguments);
 
     /// Waits until the bus and a service have processed everything that this process has sent, and this

@@ -180,7 +180,7 @@ void DBusConfigurationChangeSignalHandlingTest::resetClearsChangesAndSubscriptio
     QVERIFY(handling.reset());
     QVERIFY(!handling.pollChangeFlags());
     QCOMPARE(handling.getConfigurationChangeMap(), (Changes{{Definitions::DependencyFile, QString()}}));
-    QVERIFY(m_service->announce(TestSource::dependencyObject, TestSource::dependencyName));
+    QVERIFY(m_service->announce(TestSource::dependencies));
     QVERIFY(hasChanged(witness));
     QVERIFY(!hasChanged(handling));
 }
@@ -198,7 +198,7 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalOnTheBusIsAChange()
     ConfiguredHandling handling(polling);
     LogCapture log;
     QCOMPARE(subscribe(handling, type), Definitions::Connected);
-    QVERIFY(m_service->announce(source.at(1), source.at(2)));
+    QVERIFY(m_service->announce(type));
     // Only delivered signals need the event loop.
     QCOMPARE(handling.pollChangeFlags(), polling);
     QVERIFY(hasChanged(handling));
@@ -229,7 +229,7 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherConfigurationIsI
     QCOMPARE(subscribe(handling, type), Definitions::Connected);
     QCOMPARE(subscribe(witness, type), Definitions::Connected);
 
-    QVERIFY(m_service->announce(source.at(1), "Test/Other"));
+    QVERIFY(m_service->announceWith(source.at(1), {"Test/Other"}));
     QVERIFY(hasChanged(witness));
     QVERIFY(!hasChanged(handling));
     QCOMPARE(handling.getConfigurationChangeMap(), Changes());
@@ -259,7 +259,7 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalWithFurtherArgumentsIsOnl
 
     // The subscription remains.
     handling.resetCachedObjects();
-    QVERIFY(m_service->announce(source.at(1), source.at(2)));
+    QVERIFY(m_service->announce(type));
     QVERIFY(hasChanged(handling));
 }
 
@@ -285,7 +285,7 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalWithoutAStringIsNoChange(
     QVERIFY(!hasChanged(handling));
     QCOMPARE(log.takeTexts(), QStringList());
 
-    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
+    QVERIFY(m_service->announce(TestSource::units));
     QVERIFY(hasChanged(handling));
 }
 
@@ -332,7 +332,7 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherObjectOrServiceD
     QCOMPARE(witness.connectUnitSwitchChangeFlag(), Definitions::Connected);
 
     if (module == TestSource::module)
-        QVERIFY(m_service->announce(object, TestSource::unitSwitchName));
+        QVERIFY(m_service->announceWith(object, {TestSource::unitSwitchName}));
     else
         QVERIFY(ConfigurationService::settle(otherService) &&
                 other.sendSignal("/" + object, "configurationChanged", {TestSource::unitSwitchName}) &&

@@ -72,13 +72,12 @@ void DBusConfigurationChangeSubscriptionTest::closingEndsTheSubscriptions()
 {
     QFETCH(const bool, polling);
     QFETCH(const Type, type);
-    const QStringList source = settings()[type];
     ConfiguredHandling handling(polling);
     ConfiguredHandling witness(polling);
     LogCapture log;
     QVERIFY(subscribeAll(handling) && subscribeAll(witness));
     QVERIFY(handling.closeDbusConnections());
-    QVERIFY(m_service->announce(source.at(1), source.at(2)));
+    QVERIFY(m_service->announce(type));
     QVERIFY(hasChanged(witness));
     QVERIFY(!hasChanged(handling));
 
@@ -133,7 +132,7 @@ void DBusConfigurationChangeSubscriptionTest::closingUnderNewNamesLeavesTheOldSu
     QVERIFY(handling.init(moved));
     QCOMPARE(takeMessages(log), QStringList{messageOf(QtWarningMsg, "closeDbusConnections()",
                                                       "Unable to disconnect connection \"Moved\"")});
-    QVERIFY(m_service->announce(TestSource::defaultUnitObject, TestSource::defaultUnitName));
+    QVERIFY(m_service->announce(TestSource::defaults));
     QVERIFY(hasChanged(handling));
 }
 

@@ -81,10 +81,10 @@ void UnitManagerConnectionDataOpeningTest::aSourceIsOpenedAndItsChangesAreDetect
     // Changes of other objects are ignored.
     for (const Type other : all) {
         if (other != type)
-            QVERIFY(m_service->announce(settings()[other].at(1), settings()[other].at(2)));
+            QVERIFY(m_service->announce(other));
     }
     QVERIFY(!hasChanged(data));
-    QVERIFY(m_service->announce(source.at(1), source.at(2)));
+    QVERIFY(m_service->announce(type));
     QVERIFY(hasChanged(data));
     QCOMPARE(data.getConfigurationChangeMap(), (Changes{{type, source.at(2)}}));
 }
@@ -257,7 +257,7 @@ void UnitManagerConnectionDataOpeningTest::closedConnectionsDetectNoChanges()
     for (const Type type : all)
         QCOMPARE(data.openConnector(type), Definitions::Connected);
     QVERIFY(data.closeConnections());
-    QVERIFY(m_service->announce(unitSwitchObject, unitSwitchName));
+    QVERIFY(m_service->announce(units));
     QVERIFY(!hasChanged(data));
     // The connectors remain.
     QVERIFY(data.isConnectedToDBus());
@@ -280,7 +280,7 @@ void UnitManagerConnectionDataOpeningTest::anUpdateClearsTheRecordedChanges()
     LogCapture log;
     ConfiguredData data(true);
     QCOMPARE(data.openConnector(Definitions::UnitSwitch), Definitions::Connected);
-    QVERIFY(m_service->announce(unitSwitchObject, unitSwitchName));
+    QVERIFY(m_service->announce(units));
     QVERIFY(hasChanged(data));
     data.configurations()[Definitions::UnitSwitch] = text;
     QCOMPARE(data.updateObjects(), result);
@@ -289,7 +289,7 @@ void UnitManagerConnectionDataOpeningTest::anUpdateClearsTheRecordedChanges()
     QCOMPARE(data.configurations().value(Definitions::UnitSwitch), text);
 
     // The subscription remains.
-    QVERIFY(m_service->announce(unitSwitchObject, unitSwitchName));
+    QVERIFY(m_service->announce(units));
     QVERIFY(hasChanged(data));
 }
 
@@ -307,7 +307,7 @@ void UnitManagerConnectionDataOpeningTest::resetsClearTheRecordedChanges()
     ConfiguredData data(true);
     QCOMPARE(data.openConnector(Definitions::UnitSwitch), Definitions::Connected);
     const QWeakPointer<Connector> connector = data.connectors().value(Definitions::UnitSwitch);
-    QVERIFY(m_service->announce(unitSwitchObject, unitSwitchName));
+    QVERIFY(m_service->announce(units));
     QVERIFY(hasChanged(data));
 
     QVERIFY(everything ? data.resetObject() : data.resetCachedObjects());
@@ -315,7 +315,7 @@ void UnitManagerConnectionDataOpeningTest::resetsClearTheRecordedChanges()
     QCOMPARE(data.getConfigurationChangeMap(), (Changes{{Definitions::UnitSwitch, QString()}}));
     QCOMPARE(data.connectors().keys(), QList<Type>{Definitions::UnitSwitch});
     QCOMPARE(connector.isNull(), everything);
-    QVERIFY(m_service->announce(unitSwitchObject, unitSwitchName));
+    QVERIFY(m_service->announce(units));
     QCOMPARE(hasChanged(data), !everything);
 }
 

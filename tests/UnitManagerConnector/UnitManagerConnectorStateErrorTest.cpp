@@ -51,7 +51,7 @@ void UnitManagerConnectorStateErrorTest::everythingIsDiscardedBeforeTheRestart()
             data.configurations().contains(units));
 
     // The subscription is closed, and the objects that were built remain.
-    QVERIFY(service.announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
+    QVERIFY(service.announce(TestSource::units));
     QVERIFY(!data.pollChangeFlags());
     QSharedPointer<UnitManagerDevice> manager;
     QVERIFY(wrapper.initializeUnitManager(manager));

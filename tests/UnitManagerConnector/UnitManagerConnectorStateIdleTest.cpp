@@ -35,7 +35,7 @@ void UnitManagerConnectorStateIdleTest::withoutChangeTheStateStays()
     RecordingWrapper wrapper(polling);
     QVERIFY(wrapper.openAll());
     UnitManagerConnectorStateIdle state(&wrapper);
-    QVERIFY(m_service->announce(TestSource::unitSwitchObject, "Test/Other"));
+    QVERIFY(m_service->announceWith(TestSource::unitSwitchObject, {"Test/Other"}));
     QCoreApplication::processEvents();
     for (int step = 0; step < 3; ++step)
         state.postEvent(readTrigger({Definitions::UnitSwitch}));
@@ -74,7 +74,7 @@ void UnitManagerConnectorStateIdleTest::theChangedSourcesAreRead()
         QVERIFY(wrapper.openAll());
         UnitManagerConnectorStateIdle state(&wrapper);
         for (const Type type : changed)
-            QVERIFY(m_service->announce(settings()[type].at(1), settings()[type].at(2)));
+            QVERIFY(m_service->announce(type));
         QCoreApplication::processEvents();
         state.postEvent(StateMachineEvent("other", QVariant("data")));
         QCOMPARE(wrapper.takeTransitions(),
@@ -92,7 +92,7 @@ void UnitManagerConnectorStateIdleTest::aChangeWithoutNameGivesAnEmptyList()
     // no source.
     wrapper.data().connectorSettings()[Definitions::DependencyFile][2] = QStringLiteral("any");
     QCOMPARE(wrapper.data().openConnector(Definitions::DependencyFile), Definitions::Connected);
-    QVERIFY(m_service->announce(TestSource::dependencyObject, ""));
+    QVERIFY(m_service->announceWith(TestSource::dependencyObject, {""}));
     UnitManagerConnectorStateIdle state(&wrapper);
     state.postEvent(StateMachineEvent());
     QCOMPARE(wrapper.data().getConfigurationChangeMap(),
@@ -107,7 +107,7 @@ void UnitManagerConnectorStateIdleTest::theChangesStayRecorded()
     RecordingWrapper wrapper;
     QVERIFY(wrapper.openAll());
     UnitManagerConnectorStateIdle state(&wrapper);
-    QVERIFY(m_service->announce(TestSource::defaultUnitObject, TestSource::defaultUnitName));
+    QVERIFY(m_service->announce(TestSource::defaults));
     for (int step = 0; step < 2; ++step) {
         state.postEvent(StateMachineEvent());
         QCOMPARE(wrapper.takeTransitions(),

@@ -192,7 +192,7 @@ void UnitManagerConnectorStateInitialTest::aFailureDiscardsTextsAndSubscriptions
     QVERIFY(wrapper.data().configurations().contains(units));
     QVERIFY(wrapper.data().configurations().value(units).isNull());
     // The subscriptions are closed too.
-    QVERIFY(m_service->announce(unitSwitchObject, unitSwitchName));
+    QVERIFY(m_service->announce(units));
     QVERIFY(!wrapper.data().pollChangeFlags());
 }
 

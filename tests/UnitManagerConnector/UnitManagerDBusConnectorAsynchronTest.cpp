@@ -157,7 +157,7 @@ void UnitManagerDBusConnectorAsynchronTest::aChangeBeforeTheUpdate()
         QVERIFY(!connector.isUnitManagerInitialized());
     QVERIFY(m_service->settle());
     m_service->takeCalls();
-    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
+    QVERIFY(m_service->announce(TestSource::units));
     QCoreApplication::processEvents();
     QVERIFY(!connector.isUnitManagerInitialized()); // collects the replies
     QVERIFY(connector.isUnitManagerInitialized());  // builds

@@ -213,7 +213,7 @@ void UnitManagerDBusConnectorTest::aChangeIsLoaded()
 
     const QString bar = QStringLiteral(R"({ "Pressure": { "@type": "Selection", "@value": "Bar" } })");
     m_service->setDocument(TestSource::defaultUnitName, bar);
-    QVERIFY(m_service->announce(TestSource::defaultUnitObject, TestSource::defaultUnitName));
+    QVERIFY(m_service->announce(TestSource::defaults));
     QCoreApplication::processEvents();
     QVERIFY(connector.isUnitManagerInitialized());
     QCOMPARE(connector.takeSignals(), changedAndInitialized);

@@ -68,7 +68,7 @@ void UnitManagerWrapperChangeTest::changeIsAdopted()
     LogCapture log;
 
     m_service->setDocument(TestSource::defaultUnitName, milliBarAsDefault);
-    QVERIFY(m_service->announce(TestSource::defaultUnitObject, TestSource::defaultUnitName));
+    QVERIFY(m_service->announce(TestSource::defaults));
     QVERIFY(waitForAdoption(*wrapper));
 
     QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
@@ -106,7 +106,7 @@ void UnitManagerWrapperChangeTest::eventLoopIsNeeded()
     QVERIFY(hasAdopted(*wrapper));
 
     m_service->setDocument(TestSource::unitSwitchName, TestDocuments::voltage());
-    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
+    QVERIFY(m_service->announce(TestSource::units));
     QCOMPARE(hasAdopted(*wrapper), !isNeeded);
     QVERIFY(!isNeeded || waitForAdoption(*wrapper));
     QCOMPARE(wrapper->getUnitManager()->getListofUnitTypes(), QStringList{T::voltage});
@@ -117,7 +117,7 @@ void UnitManagerWrapperChangeTest::checkLoadsAChange()
     const auto wrapper = create(AllNames, Blocking, Delivered);
     QVERIFY(hasAdopted(*wrapper));
     m_service->setDocument(TestSource::defaultUnitName, milliBarAsDefault);
-    QVERIFY(m_service->announce(TestSource::defaultUnitObject, TestSource::defaultUnitName));
+    QVERIFY(m_service->announce(TestSource::defaults));
 
     QTRY_VERIFY_WITH_TIMEOUT(
         wrapper->checkInitialized() && defaultUnit(*wrapper) == QLatin1String("MilliBar"), waitLimit);
@@ -132,7 +132,7 @@ void UnitManagerWrapperChangeTest::queryDoesNotLookForChanges()
     QVERIFY(hasAdopted(*wrapper));
     m_service->takeCalls();
     m_service->setDocument(TestSource::defaultUnitName, milliBarAsDefault);
-    QVERIFY(m_service->announce(TestSource::defaultUnitObject, TestSource::defaultUnitName));
+    QVERIFY(m_service->announce(TestSource::defaults));
 
     for (int call = 0; call < 10; ++call)
         QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
@@ -145,7 +145,7 @@ void UnitManagerWrapperChangeTest::unitsRemainUsableDuringAnAsynchronousRead()
     const auto wrapper = create(AllNames, Asynchronous, Polled);
     QVERIFY(waitUntil([&] { return hasAdopted(*wrapper); }));
     m_service->setDocument(TestSource::unitSwitchName, TestDocuments::voltage());
-    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
+    QVERIFY(m_service->announce(TestSource::units));
 
     QVERIFY(!wrapper->checkInitialized());
     QVERIFY(*wrapper);
@@ -169,7 +169,7 @@ void UnitManagerWrapperChangeTest::badDocumentReplacesGoodUnits()
     LogCapture log;
 
     m_service->setDocument(TestSource::unitSwitchName, QStringLiteral("{"));
-    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
+    QVERIFY(m_service->announce(TestSource::units));
     QVERIFY(QTest::qWaitFor(
         [&] { return !wrapper->checkInitialized() && wrapper->hasUnitManagerConfigurationChanged(); },
         waitLimit));
@@ -194,7 +194,7 @@ void UnitManagerWrapperChangeTest::badDocumentIsAdoptedByTheQuery()
     const auto wrapper = create(AllNames, Blocking, Polled);
     QVERIFY(hasAdopted(*wrapper));
     m_service->setDocument(TestSource::unitSwitchName, QStringLiteral("{"));
-    QVERIFY(m_service->announce(TestSource::unitSwitchObject, TestSource::unitSwitchName));
+    QVERIFY(m_service->announce(TestSource::units));
     const LogCapture quiet;
 
     QVERIFY(!wrapper->checkInitialized());
