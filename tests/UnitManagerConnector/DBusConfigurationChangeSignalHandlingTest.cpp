@@ -5,7 +5,6 @@
 #include <QtDBus/QDBusMessage>
 #include <QtTest/QTest>
 
-#include <memory>
 #include <type_traits>
 
 #include "ChangeSources.h"

@@ -2,10 +2,8 @@
 
 #include <QtTest/QTest>
 
-#include "ConfigurationFileHandlerDBusConnector.h"
 #include "DBusPendingReply.h"
 #include "LogCapture.h"
-#include "MessageText.h"
 #include "ReadStateTest.h"
 #include "WaitUntil.h"
 

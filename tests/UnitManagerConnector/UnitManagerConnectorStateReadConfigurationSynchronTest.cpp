@@ -2,7 +2,6 @@
 
 #include <QtTest/QTest>
 
-#include "ConfigurationFileHandlerDBusConnector.h"
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "ReadStateTest.h"

@@ -2,6 +2,8 @@
 
 #include <QtTest/QTest>
 
+#include <memory>
+
 #include "BusMonitor.h"
 #include "DBusConnection.h"
 #include "LogCapture.h"
