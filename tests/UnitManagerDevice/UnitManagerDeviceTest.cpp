@@ -6,7 +6,8 @@
 #include <type_traits>
 
 #include "ConfigurationAndProcessDataTools.h"
-#include "Described.h"
+#include "DebugText.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "ProcessDataValue.h"
 #include "RecordingValueNode.h"
@@ -67,10 +68,10 @@ QSharedPointer<ProcessDataValue> valueOf(const QString& unitType, const ProcessV
 }
 
 /// All fields of a process value.
-QString described(const ProcessValue& value)
+QString toDebugText(const ProcessValue& value)
 {
     return QStringLiteral("%1, error %2, %3, from %4")
-        .arg(described(value.getValue()), QString::number(value.getErrorType()),
+        .arg(toDebugText(value.getValue()), QString::number(value.getErrorType()),
              value.getTimestamp().toString(Qt::ISODateWithMs), value.getSource());
 }
 
@@ -114,7 +115,7 @@ void UnitManagerDeviceTest::newDeviceIsEmpty()
 
     QVERIFY(!usable);
     QCOMPARE(device.getListofUnitTypes(), QStringList());
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerDeviceTest::nothingIsReadFromNull()
@@ -123,8 +124,8 @@ void UnitManagerDeviceTest::nothingIsReadFromNull()
     const ProcessValue value = m_device.getValueNoLock({}, QStringLiteral("Bar"));
 
     QCOMPARE(int(value.getErrorType()), 3);
-    QCOMPARE(described(value.getValue()), QStringLiteral("invalid"));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(toDebugText(value.getValue()), QStringLiteral("invalid"));
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerDeviceTest::goodValueIsConverted_data()
@@ -164,10 +165,10 @@ void UnitManagerDeviceTest::goodValueIsConverted()
     LogCapture log;
 
     const ProcessValue value = m_device.getValueNoLock(processData, unit);
-    QTEST(described(value.getValue()), "result");
+    QTEST(toDebugText(value.getValue()), "result");
     QCOMPARE(value.getErrorType(), noError);
-    QTEST(describedMessages(log), "messages");
-    QCOMPARE(described(processData->getValue().getValue()), described(stored));
+    QTEST(takeMessageTexts(log), "messages");
+    QCOMPARE(toDebugText(processData->getValue().getValue()), toDebugText(stored));
 }
 
 void UnitManagerDeviceTest::faultyValueIsReadUnchanged_data()
@@ -182,9 +183,9 @@ void UnitManagerDeviceTest::faultyValueIsReadUnchanged()
     const auto processData = valueOf(T::pressure, faulty);
     LogCapture log;
 
-    QCOMPARE(described(m_device.getValueNoLock(processData, "HectoPascal")), described(faulty));
-    QCOMPARE(described(m_device.getValueNoLock(processData, "Nope")), described(faulty));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(toDebugText(m_device.getValueNoLock(processData, "HectoPascal")), toDebugText(faulty));
+    QCOMPARE(toDebugText(m_device.getValueNoLock(processData, "Nope")), toDebugText(faulty));
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerDeviceTest::lastGoodValueIsNotUsed()
@@ -193,13 +194,13 @@ void UnitManagerDeviceTest::lastGoodValueIsNotUsed()
     processData->setValue(ProcessValue(9.5, ProcessDataDefinitions::ErrorTypeSensor));
 
     const ProcessValue value = m_device.getValueNoLock(processData, "HectoPascal");
-    QCOMPARE(described(value.getValue()), QStringLiteral("double 9.5"));
+    QCOMPARE(toDebugText(value.getValue()), QStringLiteral("double 9.5"));
 }
 
 void UnitManagerDeviceTest::otherFieldsAreReadToo()
 {
     const auto processData = valueOf(T::pressure, fullValue(1.5));
-    QCOMPARE(described(m_device.getValueNoLock(processData, "HectoPascal")),
+    QCOMPARE(toDebugText(m_device.getValueNoLock(processData, "HectoPascal")),
              QStringLiteral("double 1500") + otherFields);
 }
 
@@ -208,7 +209,7 @@ void UnitManagerDeviceTest::nothingIsWrittenToNull()
     LogCapture log;
     QVERIFY(!m_device.setValueNoLock({}, ProcessValue(1.5, noError), "Bar"));
     QVERIFY(!m_device.setValueNoLock({}, ProcessValue(ProcessDataDefinitions::ErrorTypeSensor), "Bar"));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerDeviceTest::goodValueIsStoredInTheBaseUnit_data()
@@ -238,9 +239,9 @@ void UnitManagerDeviceTest::goodValueIsStoredInTheBaseUnit()
     LogCapture log;
 
     QVERIFY(m_device.setValueNoLock(processData, ProcessValue(given, noError), unit));
-    QTEST(described(processData->getValue().getValue()), "stored");
+    QTEST(toDebugText(processData->getValue().getValue()), "stored");
     QCOMPARE(processData->getValue().getErrorType(), noError);
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerDeviceTest::withoutDefaultUnitTheValueIsStoredAsGiven()
@@ -249,8 +250,8 @@ void UnitManagerDeviceTest::withoutDefaultUnitTheValueIsStoredAsGiven()
     LogCapture log;
 
     QVERIFY(m_device.setValueNoLock(processData, ProcessValue(1.5, noError), QString()));
-    QCOMPARE(described(processData->getValue().getValue()), QStringLiteral("double 1.5"));
-    QCOMPARE(describedMessages(log), QStringList{Expected::noDefaultUnit(T::ratio)});
+    QCOMPARE(toDebugText(processData->getValue().getValue()), QStringLiteral("double 1.5"));
+    QCOMPARE(takeMessageTexts(log), QStringList{Expected::noDefaultUnit(T::ratio)});
 }
 
 void UnitManagerDeviceTest::faultyValueIsWrittenUnchanged_data()
@@ -267,9 +268,9 @@ void UnitManagerDeviceTest::faultyValueIsWrittenUnchanged()
     for (const char* unit : {"HectoPascal", "Nope"}) {
         const auto processData = valueOf(T::pressure, ProcessValue(2.5, noError));
         QVERIFY(m_device.setValueNoLock(processData, faulty, unit));
-        QCOMPARE(described(processData->getValue()), described(faulty));
+        QCOMPARE(toDebugText(processData->getValue()), toDebugText(faulty));
     }
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerDeviceTest::failedConversionWritesNothing_data()
@@ -296,7 +297,7 @@ void UnitManagerDeviceTest::failedConversionWritesNothing()
     const LogCapture quiet;
 
     QVERIFY(!m_device.setValueNoLock(processData, ProcessValue(given, noError), unit));
-    QCOMPARE(described(processData->getValue()), QStringLiteral("double 2.5") + otherFields);
+    QCOMPARE(toDebugText(processData->getValue()), QStringLiteral("double 2.5") + otherFields);
 }
 
 void UnitManagerDeviceTest::markerOfUnknownUnitIsWrittenByNodeAccessOnly()
@@ -307,9 +308,9 @@ void UnitManagerDeviceTest::markerOfUnknownUnitIsWrittenByNodeAccessOnly()
     const LogCapture quiet;
 
     QVERIFY(!m_device.setValueNoLock(processData, ProcessValue(marker, noError), "Nope"));
-    QCOMPARE(described(processData->getValue().getValue()), QStringLiteral("double 2.5"));
+    QCOMPARE(toDebugText(processData->getValue().getValue()), QStringLiteral("double 2.5"));
     QCOMPARE(m_device.setValueStatus("Value", parent, marker, "Nope"), 0);
-    QCOMPARE(described(processData->getValue().getValue()), QStringLiteral("double nan"));
+    QCOMPARE(toDebugText(processData->getValue().getValue()), QStringLiteral("double nan"));
 }
 
 void UnitManagerDeviceTest::otherFieldsAreWrittenToo()
@@ -318,8 +319,8 @@ void UnitManagerDeviceTest::otherFieldsAreWrittenToo()
     const ProcessValue given = fullValue(1500.0);
 
     QVERIFY(m_device.setValueNoLock(processData, given, "HectoPascal"));
-    QCOMPARE(described(processData->getValue()), QStringLiteral("double 1.5") + otherFields);
-    QCOMPARE(described(given.getValue()), QStringLiteral("double 1500"));
+    QCOMPARE(toDebugText(processData->getValue()), QStringLiteral("double 1.5") + otherFields);
+    QCOMPARE(toDebugText(given.getValue()), QStringLiteral("double 1500"));
 }
 
 void UnitManagerDeviceTest::equalValueIsWritten()
@@ -327,7 +328,7 @@ void UnitManagerDeviceTest::equalValueIsWritten()
     const auto processData = valueOf(T::pressure, ProcessValue(1.5, noError));
     QVERIFY(m_device.setValueNoLock(processData, ProcessValue(1500.0, noError), "HectoPascal"));
     QVERIFY(m_device.setValueNoLock(processData, ProcessValue(1500.0, noError), "HectoPascal"));
-    QCOMPARE(described(processData->getValue().getValue()), QStringLiteral("double 1.5"));
+    QCOMPARE(toDebugText(processData->getValue().getValue()), QStringLiteral("double 1.5"));
 }
 
 void UnitManagerDeviceTest::lockHolderReadsAndWrites()
@@ -336,10 +337,10 @@ void UnitManagerDeviceTest::lockHolderReadsAndWrites()
     const UnitManagerDevice& device = m_device;
     const std::lock_guard<const ProcessDataValue> guard(*processData);
 
-    QCOMPARE(described(device.getValueNoLock(processData, "HectoPascal").getValue()),
+    QCOMPARE(toDebugText(device.getValueNoLock(processData, "HectoPascal").getValue()),
              QStringLiteral("double 1500"));
     QVERIFY(device.setValueNoLock(processData, ProcessValue(2500.0, noError), "HectoPascal"));
-    QCOMPARE(described(processData->getValue().getValue()), QStringLiteral("double 2.5"));
+    QCOMPARE(toDebugText(processData->getValue().getValue()), QStringLiteral("double 2.5"));
 }
 
 QTEST_GUILESS_MAIN(UnitManagerDeviceTest)

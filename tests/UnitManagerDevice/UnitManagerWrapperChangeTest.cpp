@@ -1,6 +1,6 @@
 #include <QtTest/QTest>
 
-#include "Described.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "ServiceFixture.h"
 #include "TestDocuments.h"
@@ -178,7 +178,7 @@ void UnitManagerWrapperChangeTest::badDocumentReplacesGoodUnits()
     QVERIFY(!wrapper->getUnitManager()->isValid());
     QCOMPARE(shown(*wrapper), asStored);
     QVERIFY(good->isValid());
-    const QStringList messages = describedMessages(log);
+    const QStringList messages = takeMessageTexts(log);
     QVERIFY(messages.contains(Expected::invalidUnitDocument("{")));
     QCOMPARE(messages.filter("UnitManagerWrapper"), QStringList());
 

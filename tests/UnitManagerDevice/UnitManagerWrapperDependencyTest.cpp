@@ -1,8 +1,8 @@
 #include <QtTest/QTest>
 
 #include "ConfigurationService.h"
+#include "DebugText.h"
 #include "DependencyWalker.h"
-#include "Described.h"
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
 #include "TestDocuments.h"
@@ -101,7 +101,7 @@ void UnitManagerWrapperDependencyTest::dependenciesOfAWrittenValueAreResolved()
     QCOMPARE(traversals.size(), traversalCount);
     if (traversalCount == 0)
         return;
-    QCOMPARE(described(m_child->value()), QStringLiteral("double 1.5"));
+    QCOMPARE(toDebugText(m_child->value()), QStringLiteral("double 1.5"));
     const Traversal& traversal = traversals.first();
     QCOMPARE(traversal.key, QStringLiteral("Value"));
     QCOMPARE(traversal.node, BaseClassSharedPointer(m_parent));
@@ -120,7 +120,7 @@ void UnitManagerWrapperDependencyTest::dependenciesAreResolvedWithoutUnits()
     QVERIFY(!*wrapper);
 
     QVERIFY(wrapper->setValue("Value", m_parent, 1500.0, "HectoPascal"));
-    QCOMPARE(described(m_child->value()), QStringLiteral("double 1500"));
+    QCOMPARE(toDebugText(m_child->value()), QStringLiteral("double 1500"));
     QCOMPARE(traversals.size(), 1);
 }
 
@@ -178,7 +178,7 @@ void UnitManagerWrapperDependencyTest::withoutWalkerNothingIsResolved()
 
     QVERIFY(wrapper->resolveDependency("Value", m_parent, {}));
     QVERIFY(wrapper->setValue("Value", m_parent, 1.5, "Bar"));
-    QCOMPARE(described(m_child->value()), QStringLiteral("double 1.5"));
+    QCOMPARE(toDebugText(m_child->value()), QStringLiteral("double 1.5"));
     QCOMPARE(traversals.size(), 0);
 }
 

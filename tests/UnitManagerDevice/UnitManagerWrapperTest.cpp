@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "DependencyWalker.h"
-#include "Described.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "ServiceFixture.h"
@@ -120,7 +120,7 @@ void UnitManagerWrapperTest::newWrapperHasNoUnits()
     QVERIFY(!wrapper->getUnitManager());
     QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
     QCOMPARE(shown(*wrapper), asStored);
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerWrapperTest::constructionReads_data()
@@ -185,7 +185,7 @@ void UnitManagerWrapperTest::firstConfigurationIsAdopted()
         QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
         QVERIFY(wrapper->checkInitialized());
         QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
-        QCOMPARE(describedMessages(log), QStringList());
+        QCOMPARE(takeMessageTexts(log), QStringList());
         QCOMPARE(wrapper->getUnitManager()->getDefaultUnit(T::pressure),
                  names == NoNames ? QString() : QStringLiteral("HectoPascal"));
         log.take();
@@ -232,19 +232,19 @@ void UnitManagerWrapperTest::idleWithoutUnitManagerLogsAWarning()
         wrapperWarning("bool UnitManagerWrapper::checkInitialized()", "Unable to initialize UnitManager");
 
     QVERIFY(waitForUnits(*wrapper));
-    QCOMPARE(describedMessages(log), QStringList{notInitialized});
+    QCOMPARE(takeMessageTexts(log), QStringList{notInitialized});
     QVERIFY(!*wrapper);
     QVERIFY(!wrapper->getUnitManager());
     QCOMPARE(shown(*wrapper), asStored);
     QVERIFY(wrapper->checkInitialized());
-    QCOMPARE(describedMessages(log), QStringList{notInitialized});
+    QCOMPARE(takeMessageTexts(log), QStringList{notInitialized});
 
     QVERIFY(wrapper->hasUnitManagerConfigurationChanged());
-    QCOMPARE(describedMessages(log),
+    QCOMPARE(takeMessageTexts(log),
              QStringList{wrapperWarning("bool UnitManagerWrapper::hasUnitManagerConfigurationChanged()",
                                         "Unable to change configuration of UnitManager")});
     QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerWrapperTest::initDiscardsTheBuiltObjects_data()
@@ -268,7 +268,7 @@ void UnitManagerWrapperTest::initDiscardsTheBuiltObjects()
     QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
     QVERIFY(!*wrapper);
     QCOMPARE(m_service->takeCalls(), QStringList());
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 
     QVERIFY(waitForUnits(*wrapper));
     QCOMPARE(shown(*wrapper), converted);
@@ -322,7 +322,7 @@ void UnitManagerWrapperTest::resetKeepsTheBuiltObjects()
     QCOMPARE(wrapper->getUnitManager(), units);
     QCOMPARE(shown(*wrapper), converted);
     QCOMPARE(m_service->takeCalls(), QStringList());
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 
     QVERIFY(waitForUnits(*wrapper));
     QCOMPARE(m_service->takeCalls(), requests);

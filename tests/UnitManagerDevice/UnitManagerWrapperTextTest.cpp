@@ -1,8 +1,9 @@
 #include <QtTest/QTest>
 
 #include "Array2dDataTypeWrapper.h"
-#include "Described.h"
+#include "DebugText.h"
 #include "EmptyText.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
 #include "Row.h"
@@ -87,9 +88,9 @@ void UnitManagerWrapperTextTest::textOfUnitType()
     LogCapture log;
 
     QTEST(m_units->getUnitText(unitType, language), "text");
-    QTEST(describedMessages(log), "messages");
+    QTEST(takeMessageTexts(log), "messages");
     QVERIFY(isEmptyText(m_noUnits->getUnitText(unitType, language)));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerWrapperTextTest::textOfColumn_data()
@@ -130,7 +131,7 @@ void UnitManagerWrapperTextTest::textMapAndBaseUnit()
 
     QTEST(m_units->getUnitTextJsonMap(unitType), "map");
     QTEST(m_units->getBaseUnit(unitType), "baseUnit");
-    QCOMPARE(described(m_noUnits->getUnitTextJsonMap(unitType)), QStringLiteral("QString "));
+    QCOMPARE(toDebugText(m_noUnits->getUnitTextJsonMap(unitType)), QStringLiteral("QString "));
     QVERIFY2(!m_noUnits->getUnitTextJsonMap(unitType).isNull(), "an empty text, not a null one");
     QVERIFY(isEmptyText(m_noUnits->getBaseUnit(unitType)));
 }

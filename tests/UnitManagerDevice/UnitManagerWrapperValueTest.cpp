@@ -2,7 +2,8 @@
 
 #include "Array2dDataTypeWrapper.h"
 #include "ConfigurationAndProcessDataTools.h"
-#include "Described.h"
+#include "DebugText.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "RecordingNode.h"
 #include "RecordingValueNode.h"
@@ -57,7 +58,7 @@ QStringList rowsOf(const Array2dDataTypeWrapper& array)
 {
     QStringList rows;
     for (unsigned int row = 0; row < array.getDimensions().at(0); ++row)
-        rows.append(described(array.getRowValues(row)).join(", "));
+        rows.append(toDebugText(array.getRowValues(row)).join(", "));
     return rows;
 }
 
@@ -89,19 +90,19 @@ void UnitManagerWrapperValueTest::nodeValueIsRead()
     QVERIFY(node);
     LogCapture log;
 
-    QTEST(described(m_units->getValue("Value", node, unit)), "converted");
-    QTEST(described(m_noUnits->getValue("Value", node, unit)), "asStored");
-    QTEST(described(m_noUnits->getValue("Value", node, "Nope")), "asStored");
-    QCOMPARE(described(m_units->getValue("Other", node, unit)), QStringLiteral("invalid"));
-    QCOMPARE(described(m_noUnits->getValue("Other", node, unit)), QStringLiteral("invalid"));
-    QCOMPARE(describedMessages(log), QStringList());
+    QTEST(toDebugText(m_units->getValue("Value", node, unit)), "converted");
+    QTEST(toDebugText(m_noUnits->getValue("Value", node, unit)), "asStored");
+    QTEST(toDebugText(m_noUnits->getValue("Value", node, "Nope")), "asStored");
+    QCOMPARE(toDebugText(m_units->getValue("Other", node, unit)), QStringLiteral("invalid"));
+    QCOMPARE(toDebugText(m_noUnits->getValue("Other", node, unit)), QStringLiteral("invalid"));
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerWrapperValueTest::nullNodeHasNoValue()
 {
     const BaseClassSharedPointer null;
     for (const auto* wrapper : {m_units.get(), m_noUnits.get()})
-        QCOMPARE(described(wrapper->getValue("Value", null, "Bar")), QStringLiteral("invalid"));
+        QCOMPARE(toDebugText(wrapper->getValue("Value", null, "Bar")), QStringLiteral("invalid"));
 }
 
 void UnitManagerWrapperValueTest::plainValueIsConverted_data()
@@ -133,10 +134,10 @@ void UnitManagerWrapperValueTest::plainValueIsConverted()
     QFETCH(QString, unit);
     LogCapture log;
 
-    QTEST(described(m_units->getValue(value, unitType, unit)), "converted");
-    QTEST(describedMessages(log), "messages");
-    QCOMPARE(described(m_noUnits->getValue(value, unitType, unit)), described(value));
-    QCOMPARE(describedMessages(log), QStringList());
+    QTEST(toDebugText(m_units->getValue(value, unitType, unit)), "converted");
+    QTEST(takeMessageTexts(log), "messages");
+    QCOMPARE(toDebugText(m_noUnits->getValue(value, unitType, unit)), toDebugText(value));
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManagerWrapperValueTest::arrayIsRead_data()
@@ -165,8 +166,8 @@ void UnitManagerWrapperValueTest::arrayIsRead()
     const auto array = threeColumns();
     const QString unit = QStringLiteral("HectoPascal");
 
-    QTEST(described(m_units->getValueArray(array, row, firstColumn, columnCount, unit)), "converted");
-    QTEST(described(m_noUnits->getValueArray(array, row, firstColumn, columnCount, unit)), "asStored");
+    QTEST(toDebugText(m_units->getValueArray(array, row, firstColumn, columnCount, unit)), "converted");
+    QTEST(toDebugText(m_noUnits->getValueArray(array, row, firstColumn, columnCount, unit)), "asStored");
 }
 
 void UnitManagerWrapperValueTest::arrayIsWritten_data()
@@ -245,7 +246,7 @@ void UnitManagerWrapperValueTest::nodeValueIsWritten()
         const auto node = parentOf(child);
         const int status = wrapper.setValueStatus("Value", node, value, unit);
         const QVariant stored = ConfigurationAndProcessDataTools::extractConfigValue("Value", node);
-        return QStringLiteral("%1: %2").arg(QString::number(status), described(stored));
+        return QStringLiteral("%1: %2").arg(QString::number(status), toDebugText(stored));
     };
 
     QTEST(write(*m_units), "converted");

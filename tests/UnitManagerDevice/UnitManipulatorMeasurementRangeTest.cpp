@@ -5,8 +5,9 @@
 #include <type_traits>
 
 #include "ConfigurationAndProcessDataDefinitions.h"
+#include "DebugText.h"
 #include "DependencyWalker.h"
-#include "Described.h"
+#include "ExpectedMessages.h"
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "RecordingNode.h"
@@ -146,7 +147,7 @@ void UnitManipulatorMeasurementRangeTest::uninitializedWrapperLogsAWarning()
     LogCapture log;
 
     QCOMPARE(outputsOf(*wrapper, node), untouched);
-    const QStringList messages = describedMessages(log);
+    const QStringList messages = takeMessageTexts(log);
     QCOMPARE(messages.count(notInitialized), 4);
     QVERIFY2(messages.first() != notInitialized, "the connector warns first, of the missing service");
     QCOMPARE(hasNode ? node->calls() : QStringList(), calls);
@@ -163,7 +164,7 @@ void UnitManipulatorMeasurementRangeTest::wrapperIsAdvancedFirst()
         return node->calls() == QStringList{rangeQuery};
     }));
     QVERIFY(*wrapper);
-    const QStringList messages = describedMessages(log);
+    const QStringList messages = takeMessageTexts(log);
     QVERIFY(!messages.isEmpty());
     QCOMPARE(messages.count(notInitialized), messages.size());
 }
@@ -182,7 +183,7 @@ void UnitManipulatorMeasurementRangeTest::nodeWithoutRangesIsUnchanged()
 
     QCOMPARE(outputsOf(*wrapper, node), untouched);
     QCOMPARE(node->calls(), (QStringList{rangeQuery, rangeQuery, rangeQuery, rangeQuery}));
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManipulatorMeasurementRangeTest::nullNodeIsIgnored()
@@ -190,7 +191,7 @@ void UnitManipulatorMeasurementRangeTest::nullNodeIsIgnored()
     const auto wrapper = create(AllNames, Blocking, Delivered);
     LogCapture log;
     QCOMPARE(outputsOf(*wrapper, {}), untouched);
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManipulatorMeasurementRangeTest::statusSelectsTheOutputs_data()
@@ -250,7 +251,7 @@ void UnitManipulatorMeasurementRangeTest::firstRangeIsWritten()
     QVERIFY2(called.takeFirst().startsWith(QStringLiteral("node.changeProperty(%1").arg(rangeKey)),
              "a property is changed, never added");
     QCOMPARE(called, QStringList());
-    QCOMPARE(describedMessages(log), QStringList());
+    QCOMPARE(takeMessageTexts(log), QStringList());
 }
 
 void UnitManipulatorMeasurementRangeTest::secondWriteChangesNothing()
@@ -280,7 +281,7 @@ void UnitManipulatorMeasurementRangeTest::unknownUnitTypeIsWrittenAsEmptyUnit()
 
     QCOMPARE(text(manipulate(*wrapper, node, T::unknown)), QStringLiteral("handled, changed"));
     QCOMPARE(rangesOf(node), (QVariantList{QVariantMap{{"unit", ""}, {"unitText", QVariant()}}}));
-    QCOMPARE(describedMessages(log),
+    QCOMPARE(takeMessageTexts(log),
              (QStringList{Expected::unknownTextMapType(T::unknown), Expected::noBaseUnit(T::unknown)}));
 }
 
@@ -295,8 +296,8 @@ void UnitManipulatorMeasurementRangeTest::withoutUnitManagerEmptyTextsAreWritten
 
     QCOMPARE(text(manipulate(*wrapper, node, T::pressure)), QStringLiteral("handled, changed"));
     const QVariantMap range = rangesOf(node).value(0).toMap();
-    QCOMPARE(described(range.value("unit")), QStringLiteral("QString "));
-    QCOMPARE(described(range.value("unitText")), QStringLiteral("QString "));
+    QCOMPARE(toDebugText(range.value("unit")), QStringLiteral("QString "));
+    QCOMPARE(toDebugText(range.value("unitText")), QStringLiteral("QString "));
     QCOMPARE(range.size(), 2);
 }
 

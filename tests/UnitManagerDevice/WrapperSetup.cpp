@@ -3,7 +3,7 @@
 #include <QtTest/QTest>
 
 #include "ConfigurationService.h"
-#include "Described.h"
+#include "DebugText.h"
 #include "TestDocuments.h"
 #include "WaitUntil.h"
 
@@ -56,7 +56,7 @@ bool WrapperSetup::waitForUnits(UnitManagerWrapper& wrapper)
 
 QString WrapperSetup::shown(const UnitManagerWrapper& wrapper)
 {
-    return described(wrapper.getValue(1.5, TestUnitType::pressure, QStringLiteral("HectoPascal")));
+    return toDebugText(wrapper.getValue(1.5, TestUnitType::pressure, QStringLiteral("HectoPascal")));
 }
 
 void WrapperSetup::addModes()
