@@ -5,6 +5,7 @@
 
 #include "ChangeSources.h"
 #include "ConfigurationService.h"
+#include "TestProgram.h"
 
 using namespace ChangeSources;
 
@@ -95,5 +96,5 @@ void DBusConfigurationChangeArgumentsTest::closingUsesTheArgumentsOfTheSubscript
     QCOMPARE(takeCalls(), callsOf("disconnect"));
 }
 
-QTEST_GUILESS_MAIN(DBusConfigurationChangeArgumentsTest)
+static const TestClass<DBusConfigurationChangeArgumentsTest> testClass;
 #include "DBusConfigurationChangeArgumentsTest.moc"

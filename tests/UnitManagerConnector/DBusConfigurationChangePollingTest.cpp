@@ -6,6 +6,7 @@
 #include "ConfigurationService.h"
 #include "LogCapture.h"
 #include "ScriptedPollingHandler.h"
+#include "TestProgram.h"
 
 using Definitions = UnitManagerConnectorDefinitions;
 using namespace ChangeSources;
@@ -142,5 +143,5 @@ void DBusConfigurationChangePollingTest::deliveredSignalsNeedNoHandler()
     QCOMPARE(takeCalls(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(DBusConfigurationChangePollingTest)
+static const TestClass<DBusConfigurationChangePollingTest> testClass;
 #include "DBusConfigurationChangePollingTest.moc"

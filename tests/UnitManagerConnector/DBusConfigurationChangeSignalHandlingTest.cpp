@@ -13,6 +13,7 @@
 #include "ObjectSlots.h"
 #include "Row.h"
 #include "ServiceFixture.h"
+#include "TestProgram.h"
 #include "WaitLimit.h"
 
 using Handling = DBusConfigurationChangeSignalHandling;
@@ -340,5 +341,5 @@ void DBusConfigurationChangeSignalHandlingTest::aSignalOfAnotherObjectOrServiceD
     QVERIFY(!hasChanged(handling));
 }
 
-QTEST_GUILESS_MAIN(DBusConfigurationChangeSignalHandlingTest)
+static const TestClass<DBusConfigurationChangeSignalHandlingTest> testClass;
 #include "DBusConfigurationChangeSignalHandlingTest.moc"

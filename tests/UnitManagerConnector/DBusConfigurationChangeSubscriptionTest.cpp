@@ -7,6 +7,7 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "ServiceFixture.h"
+#include "TestProgram.h"
 #include "WaitLimit.h"
 
 using Definitions = UnitManagerConnectorDefinitions;
@@ -160,5 +161,5 @@ void DBusConfigurationChangeSubscriptionTest::aSourceThatIsNoLongerConfiguredIsN
     QVERIFY(subscribeAll(handling));
 }
 
-QTEST_GUILESS_MAIN(DBusConfigurationChangeSubscriptionTest)
+static const TestClass<DBusConfigurationChangeSubscriptionTest> testClass;
 #include "DBusConfigurationChangeSubscriptionTest.moc"

@@ -11,6 +11,7 @@
 #include "Row.h"
 #include "ServiceFixture.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "WaitLimit.h"
 #include "WaitUntil.h"
 
@@ -345,5 +346,5 @@ void UnitManagerConnectionDataOpeningTest::resetObjectDiscardsInOrder()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(UnitManagerConnectionDataOpeningTest)
+static const TestClass<UnitManagerConnectionDataOpeningTest> testClass;
 #include "UnitManagerConnectionDataOpeningTest.moc"

@@ -13,6 +13,7 @@
 #include "ObjectSlots.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 
 using Data = UnitManagerConnectionData;
@@ -382,5 +383,5 @@ void UnitManagerConnectionDataTest::resetsKeepKeysAndObjects()
     QCOMPARE(data.walker(), walker);
 }
 
-QTEST_GUILESS_MAIN(UnitManagerConnectionDataTest)
+static const TestClass<UnitManagerConnectionDataTest> testClass;
 #include "UnitManagerConnectionDataTest.moc"

@@ -6,6 +6,7 @@
 
 #include "ObjectSlots.h"
 #include "Row.h"
+#include "TestProgram.h"
 
 using Definitions = UnitManagerConnectorDefinitions;
 using Getter = const QString& (*)();
@@ -81,5 +82,5 @@ void UnitManagerConnectorDefinitionsTest::aListOfTypesTravelsInAVariant()
     QVERIFY(!QVariant("0").canConvert<Types>());
 }
 
-QTEST_GUILESS_MAIN(UnitManagerConnectorDefinitionsTest)
+static const TestClass<UnitManagerConnectorDefinitionsTest> testClass;
 #include "UnitManagerConnectorDefinitionsTest.moc"

@@ -9,6 +9,7 @@
 #include "ObjectSlots.h"
 #include "RecordingWrapper.h"
 #include "StateMachineStateBase.h"
+#include "TestProgram.h"
 #include "UnitConversion/Factory.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateError.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateIdle.h"
@@ -236,5 +237,5 @@ void UnitManagerConnectorStateBaseTest::aStateWithoutWrapperIsInert()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(UnitManagerConnectorStateBaseTest)
+static const TestClass<UnitManagerConnectorStateBaseTest> testClass;
 #include "UnitManagerConnectorStateBaseTest.moc"

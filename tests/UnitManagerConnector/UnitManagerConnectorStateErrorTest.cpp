@@ -10,6 +10,7 @@
 #include "LogCapture.h"
 #include "RecordingWrapper.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 
 using Definitions = UnitManagerConnectorDefinitions;
@@ -67,5 +68,5 @@ void UnitManagerConnectorStateErrorTest::theEventIsPassedOnUnchanged()
     QCOMPARE(wrapper.takeTransitions(), QStringList{"UnitManagerConnectorStateInitial any name(any data)"});
 }
 
-QTEST_GUILESS_MAIN(UnitManagerConnectorStateErrorTest)
+static const TestClass<UnitManagerConnectorStateErrorTest> testClass;
 #include "UnitManagerConnectorStateErrorTest.moc"

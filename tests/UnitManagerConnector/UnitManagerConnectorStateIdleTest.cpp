@@ -6,6 +6,7 @@
 #include "LogCapture.h"
 #include "RecordingWrapper.h"
 #include "ServiceFixture.h"
+#include "TestProgram.h"
 
 using Definitions = UnitManagerConnectorDefinitions;
 using namespace ChangeSources;
@@ -117,5 +118,5 @@ void UnitManagerConnectorStateIdleTest::theChangesStayRecorded()
              (Changes{{Definitions::DefaultUnit, TestSource::defaultUnitName}}));
 }
 
-QTEST_GUILESS_MAIN(UnitManagerConnectorStateIdleTest)
+static const TestClass<UnitManagerConnectorStateIdleTest> testClass;
 #include "UnitManagerConnectorStateIdleTest.moc"

@@ -8,6 +8,7 @@
 #include "RecordingWrapper.h"
 #include "Row.h"
 #include "ServiceFixture.h"
+#include "TestProgram.h"
 
 using Definitions = UnitManagerConnectorDefinitions;
 using Type = Definitions::ConnectorType;
@@ -295,5 +296,5 @@ void UnitManagerConnectorStateInitialTest::withoutSourcesTheListIsEmpty()
     QCOMPARE(wrapper.takeTransitions(), QStringList{readTransition("[]")});
 }
 
-QTEST_GUILESS_MAIN(UnitManagerConnectorStateInitialTest)
+static const TestClass<UnitManagerConnectorStateInitialTest> testClass;
 #include "UnitManagerConnectorStateInitialTest.moc"

@@ -6,6 +6,7 @@
 
 #include "ObjectSlots.h"
 #include "StateMachineStateBase.h"
+#include "TestProgram.h"
 #include "UnitConversion/Factory.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateError.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateInitial.h"
@@ -94,5 +95,5 @@ void UnitManagerConnectorStateMachineTest::statesAreLogged()
     QCOMPARE(machine.getCurrentStateIdentifier(), QStringLiteral("UnitManagerConnectorStateError"));
 }
 
-QTEST_GUILESS_MAIN(UnitManagerConnectorStateMachineTest)
+static const TestClass<UnitManagerConnectorStateMachineTest> testClass;
 #include "UnitManagerConnectorStateMachineTest.moc"

@@ -5,6 +5,7 @@
 #include "DBusPendingReply.h"
 #include "LogCapture.h"
 #include "ReadStateTest.h"
+#include "TestProgram.h"
 #include "WaitUntil.h"
 
 using ASynchronState = UnitManagerConnectorStateReadConfigurationASynchron;
@@ -126,5 +127,5 @@ void UnitManagerConnectorStateReadConfigurationASynchronTest::aFailureDoesNotSto
     QCOMPARE(m_service->takeCalls(), (QStringList{TestCall::dependencies, TestCall::defaults}));
 }
 
-QTEST_GUILESS_MAIN(UnitManagerConnectorStateReadConfigurationASynchronTest)
+static const TestClass<UnitManagerConnectorStateReadConfigurationASynchronTest> testClass;
 #include "UnitManagerConnectorStateReadConfigurationASynchronTest.moc"

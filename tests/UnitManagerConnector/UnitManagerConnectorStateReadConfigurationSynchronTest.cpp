@@ -7,6 +7,7 @@
 #include "ReadStateTest.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 
 using SynchronState = UnitManagerConnectorStateReadConfigurationSynchron;
 using namespace TestSource;
@@ -158,5 +159,5 @@ void UnitManagerConnectorStateReadConfigurationSynchronTest::aReplyIsConvertedTo
     QCOMPARE(wrapper.data().configurations().value(defaults), QStringLiteral("7"));
 }
 
-QTEST_GUILESS_MAIN(UnitManagerConnectorStateReadConfigurationSynchronTest)
+static const TestClass<UnitManagerConnectorStateReadConfigurationSynchronTest> testClass;
 #include "UnitManagerConnectorStateReadConfigurationSynchronTest.moc"

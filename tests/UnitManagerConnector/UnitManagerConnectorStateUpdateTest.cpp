@@ -8,6 +8,7 @@
 #include "RecordingWrapper.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 
 using Type = UnitManagerConnectorDefinitions::ConnectorType;
@@ -106,5 +107,5 @@ void UnitManagerConnectorStateUpdateTest::theObjectsExistBeforeTheTransition()
     QVERIFY(walker);
 }
 
-QTEST_GUILESS_MAIN(UnitManagerConnectorStateUpdateTest)
+static const TestClass<UnitManagerConnectorStateUpdateTest> testClass;
 #include "UnitManagerConnectorStateUpdateTest.moc"

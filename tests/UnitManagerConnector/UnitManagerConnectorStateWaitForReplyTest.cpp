@@ -9,6 +9,7 @@
 #include "LogCapture.h"
 #include "RecordingWrapper.h"
 #include "ServiceFixture.h"
+#include "TestProgram.h"
 #include "WaitUntil.h"
 
 using Type = UnitManagerConnectorDefinitions::ConnectorType;
@@ -294,5 +295,5 @@ void UnitManagerConnectorStateWaitForReplyTest::repliesThatAreNotListedAreIgnore
     QVERIFY(wrapper.data().pendingReplies().value(dependencies));
 }
 
-QTEST_GUILESS_MAIN(UnitManagerConnectorStateWaitForReplyTest)
+static const TestClass<UnitManagerConnectorStateWaitForReplyTest> testClass;
 #include "UnitManagerConnectorStateWaitForReplyTest.moc"

@@ -6,6 +6,7 @@
 #include "ObservedConnector.h"
 #include "ServiceFixture.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "WaitUntil.h"
 
 Q_DECLARE_METATYPE(FakeBusService::Answer)
@@ -164,5 +165,5 @@ void UnitManagerDBusConnectorAsynchronTest::aChangeBeforeTheUpdate()
     QCOMPARE(connector.isUnitManagerInitialized(), !isLoaded);
 }
 
-QTEST_GUILESS_MAIN(UnitManagerDBusConnectorAsynchronTest)
+static const TestClass<UnitManagerDBusConnectorAsynchronTest> testClass;
 #include "UnitManagerDBusConnectorAsynchronTest.moc"

@@ -9,6 +9,7 @@
 #include "ObservedConnector.h"
 #include "ServiceFixture.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 
 using Connector = UnitManagerDBusConnector;
 
@@ -231,5 +232,5 @@ void UnitManagerDBusConnectorTest::aChangeIsLoaded()
     QCOMPARE(m_service->takeCalls(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(UnitManagerDBusConnectorTest)
+static const TestClass<UnitManagerDBusConnectorTest> testClass;
 #include "UnitManagerDBusConnectorTest.moc"

@@ -12,6 +12,7 @@
 #include "ObjectSlots.h"
 #include "RecordingWrapper.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "UnitConversion/Factory.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateIdle.h"
@@ -292,5 +293,5 @@ void UnitManagerStateMachineWrapperTest::theBuiltObjectsAreShared()
     QCOMPARE(walker, dataWalker);
 }
 
-QTEST_GUILESS_MAIN(UnitManagerStateMachineWrapperTest)
+static const TestClass<UnitManagerStateMachineWrapperTest> testClass;
 #include "UnitManagerStateMachineWrapperTest.moc"

@@ -13,6 +13,7 @@
 #include "RecordingValueNode.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 
 static_assert(std::is_base_of_v<UnitManager, UnitManagerDevice>);
 static_assert(std::is_convertible_v<UnitManagerDevice*, UnitManager*>, "the base is public");
@@ -343,5 +344,5 @@ void UnitManagerDeviceTest::lockHolderReadsAndWrites()
     QCOMPARE(toDebugText(processData->getValue().getValue()), QStringLiteral("double 2.5"));
 }
 
-QTEST_GUILESS_MAIN(UnitManagerDeviceTest)
+static const TestClass<UnitManagerDeviceTest> testClass;
 #include "UnitManagerDeviceTest.moc"

@@ -4,6 +4,7 @@
 #include "LogCapture.h"
 #include "ServiceFixture.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 #include "WaitLimit.h"
 #include "WaitUntil.h"
@@ -205,5 +206,5 @@ void UnitManagerWrapperChangeTest::badDocumentIsAdoptedByTheQuery()
     QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
 }
 
-QTEST_GUILESS_MAIN(UnitManagerWrapperChangeTest)
+static const TestClass<UnitManagerWrapperChangeTest> testClass;
 #include "UnitManagerWrapperChangeTest.moc"

@@ -6,6 +6,7 @@
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 #include "WrapperSetup.h"
 
@@ -201,5 +202,5 @@ void UnitManagerWrapperDependencyTest::resetKeepsTheWalker()
     QCOMPARE(traversals.last().walker, traversals.first().walker);
 }
 
-QTEST_GUILESS_MAIN(UnitManagerWrapperDependencyTest)
+static const TestClass<UnitManagerWrapperDependencyTest> testClass;
 #include "UnitManagerWrapperDependencyTest.moc"

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "Row.h"
+#include "TestProgram.h"
 #include "UnitConversion/Factory.h"
 #include "UnitManagerConnector/UnitManagerConnectionData.h"
 #include "UnitManagerConnector/UnitManagerConnectorStateBase.h"
@@ -95,5 +96,5 @@ void UnitManagerWrapperSettingsTest::missingNamesAreEmptyTexts()
         QVERIFY(!hasNullText(namesOf(settings)));
 }
 
-QTEST_GUILESS_MAIN(UnitManagerWrapperSettingsTest)
+static const TestClass<UnitManagerWrapperSettingsTest> testClass;
 #include "UnitManagerWrapperSettingsTest.moc"

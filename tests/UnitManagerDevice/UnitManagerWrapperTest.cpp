@@ -12,6 +12,7 @@
 #include "MessageText.h"
 #include "ServiceFixture.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 #include "VirtualSlot.h"
 #include "WrapperSetup.h"
@@ -339,5 +340,5 @@ void UnitManagerWrapperTest::resetClearsARecordedChange()
     QVERIFY(!wrapper->hasUnitManagerConfigurationChanged());
 }
 
-QTEST_GUILESS_MAIN(UnitManagerWrapperTest)
+static const TestClass<UnitManagerWrapperTest> testClass;
 #include "UnitManagerWrapperTest.moc"

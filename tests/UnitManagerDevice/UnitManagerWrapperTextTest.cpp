@@ -8,6 +8,7 @@
 #include "RecordingValueNode.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "TwoWrappersFixture.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 
@@ -148,5 +149,5 @@ void UnitManagerWrapperTextTest::unitManagerIsTheOneInUse()
     QVERIFY(!m_noUnits->getUnitManager());
 }
 
-QTEST_GUILESS_MAIN(UnitManagerWrapperTextTest)
+static const TestClass<UnitManagerWrapperTextTest> testClass;
 #include "UnitManagerWrapperTextTest.moc"

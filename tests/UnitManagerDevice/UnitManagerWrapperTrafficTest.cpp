@@ -8,6 +8,7 @@
 #include "DBusConnection.h"
 #include "LogCapture.h"
 #include "ServiceFixture.h"
+#include "TestProgram.h"
 #include "WaitLimit.h"
 #include "WrapperSetup.h"
 
@@ -117,5 +118,5 @@ void UnitManagerWrapperTrafficTest::blockingStartOnFrozenBus()
     QVERIFY(waitForUnits(*wrapper));
 }
 
-QTEST_GUILESS_MAIN(UnitManagerWrapperTrafficTest)
+static const TestClass<UnitManagerWrapperTrafficTest> testClass;
 #include "UnitManagerWrapperTrafficTest.moc"

@@ -9,6 +9,7 @@
 #include "RecordingValueNode.h"
 #include "Row.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "TwoWrappersFixture.h"
 
 /// Values and arrays, each with and without loaded units.
@@ -278,5 +279,5 @@ void UnitManagerWrapperValueTest::statusIsThatOfTheNode()
     }
 }
 
-QTEST_GUILESS_MAIN(UnitManagerWrapperValueTest)
+static const TestClass<UnitManagerWrapperValueTest> testClass;
 #include "UnitManagerWrapperValueTest.moc"

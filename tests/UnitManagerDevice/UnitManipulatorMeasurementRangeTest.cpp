@@ -15,6 +15,7 @@
 #include "Row.h"
 #include "ServiceFixture.h"
 #include "TestDocuments.h"
+#include "TestProgram.h"
 #include "VirtualSlot.h"
 #include "WaitUntil.h"
 #include "WrapperSetup.h"
@@ -316,5 +317,5 @@ void UnitManipulatorMeasurementRangeTest::walkerAppliesIt()
     QCOMPARE(range, (QVariantMap{{"unit", T::pressure + "/Bar"}, {"unitText", barTexts}}));
 }
 
-QTEST_GUILESS_MAIN(UnitManipulatorMeasurementRangeTest)
+static const TestClass<UnitManipulatorMeasurementRangeTest> testClass;
 #include "UnitManipulatorMeasurementRangeTest.moc"
