@@ -9,35 +9,38 @@
 #include "Mode.h"
 #include "World.h"
 
+class Recorder;
 class UnitManagerDevice;
 
-/// Which configurations an application names besides the units.
+/// The configurations that an application names in addition to the units.
 struct Settings
 {
     SourceName dependencies;
     SourceName defaultUnits;
 };
 
-/// An application of the library at one of its levels.
+/// An application that uses the library at the level of its mode.
 class Application
 {
 public:
     virtual ~Application() = default;
 
-    /// Builds the application of a mode; one that hears of changes by the event loop makes its first attempt
-    /// here when it holds a wrapper.
-    static std::unique_ptr<Application> create(const Mode& mode, const Settings& settings);
+    /// Creates and initialises the application. A wrapper to which changes are delivered makes its first
+    /// attempt to read the configurations here.
+    /// @param recorder receives the connector's signals, at the connector level only
+    static std::unique_ptr<Application> create(const Mode& mode, const Settings& settings,
+                                               Recorder& recorder);
 
     virtual void init(const Settings& settings) = 0;
     virtual void reset() = 0;
-    /// One call that advances the library. @return whether it idles.
+    /// Advances the library by one call. @return whether the library is idle.
     virtual bool check() = 0;
-    /// Whether the configuration has changed since the last call; nothing at a level that does not know.
+    /// Whether the configuration has changed since the last call; no value at the machine level.
     virtual std::optional<bool> hasChanged() = 0;
-    /// The unit manager in use; null when there is none.
+    /// The current unit manager; null when there is none.
     virtual QSharedPointer<const UnitManagerDevice> units() = 0;
-    /// What is converted and said of two bar.
+    /// Result of the conversion of two bar, see Conversion.h.
     virtual QString converted() = 0;
-    /// The keys that depend on "PressureUnit"; nothing at a level that does not tell.
+    /// The keys that depend on "PressureUnit"; no value at the wrapper level.
     virtual std::optional<QString> dependents() = 0;
 };

@@ -1,11 +1,12 @@
 #include <QtTest/QTest>
 
-#include "Lines.h"
+#include "Expected.h"
+#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Usual.h"
+#include "Stage.h"
 
-using namespace Lines;
-using namespace Steps;
+using namespace Expected;
+using namespace Fixtures;
 
 // Changes of configurations, announced by the service.
 class LiveChangeTest : public LiveTest
@@ -13,119 +14,149 @@ class LiveChangeTest : public LiveTest
     Q_OBJECT
 
 protected:
-    QList<Situation> situations() const override;
+    QList<Scenario> scenarios() const override;
 };
 
 namespace {
 
-Situation unitsChange()
+/// What a change of the changing world leads to.
+struct Change
 {
-    return Usual::afterStart(
-        "change of the units", Usual::changingWorld(),
-        {change(Sources::units()), untilChanged(), convert(), kept(), dependents(), untilSettled()},
-        QStringList{takenUp, converts(2000), keptConverts(1000), "[connector] dependents: Pressure", quiet} +
-            firstReads + QStringList{readUnits, unitsChanged});
+    QList<SourceName> announced;
+    QString conversion;
+    QString dependents;
+    QStringList reads;
+    QStringList messages;
+};
+
+void reloadOnce(Stage& stage, const Mode& mode, const Change& change)
+{
+    stage.startAllSources(changingWorld());
+    for (const SourceName& source : change.announced)
+        stage.announce(source);
+    stage.checkUntilChanged(reload(mode));
+    stage.expectConversion(change.conversion);
+    stage.expectKept({inHectoPascal(1000)});
+    stage.expectDependents(change.dependents);
+    stage.checkUntilSettled(remainsIdle);
+    stage.finish(readAll + change.reads, change.messages);
 }
 
-Situation defaultUnitsChange()
+void changeOfUnits(Stage& stage, const Mode& mode)
 {
-    return Usual::afterStart(
-        "change of the default units", Usual::changingWorld(),
-        {change(Sources::defaultUnits()), untilChanged(), convert(), kept(), dependents(), untilSettled()},
-        QStringList{takenUp, "convert: usable: 2000 HectoPascal, 2 bar by default", keptConverts(1000),
-                    "[connector] dependents: Pressure", quiet} +
-            firstReads + QStringList{readDefaultUnits, defaultUnitsChanged});
+    reloadOnce(stage, mode, {{Sources::units}, inHectoPascal(2000), "Pressure", {readUnits}, {unitsChanged}});
 }
 
-Situation dependenciesChange()
+void changeOfDefaultUnits(Stage& stage, const Mode& mode)
 {
-    return Usual::afterStart(
-        "change of the dependencies", Usual::changingWorld(),
-        {change(Sources::dependencies()), untilChanged(), convert(), kept(), dependents(), untilSettled()},
-        QStringList{takenUp, converts(1000), keptConverts(1000), "[connector] dependents: Range", quiet} +
-            firstReads + QStringList{readDependencies, dependenciesChanged});
+    reloadOnce(stage, mode,
+               {{Sources::defaultUnits}, inBar(1000), "Pressure", {readDefaultUnits}, {defaultUnitsChanged}});
 }
 
-// The reads go by the sources' order, whatever that of the announcements.
-Situation twoSourcesChange()
+void changeOfDependencies(Stage& stage, const Mode& mode)
 {
-    return Usual::afterStart("change of two sources", Usual::changingWorld(),
-                             {change(Sources::defaultUnits()), change(Sources::units()), untilChanged(),
-                              convert(), kept(), dependents(), untilSettled()},
-                             QStringList{takenUp, "convert: usable: 4000 HectoPascal, 2 bar by default",
-                                         keptConverts(1000), "[connector] dependents: Pressure", quiet} +
-                                 firstReads +
-                                 QStringList{readUnits, readDefaultUnits,
-                                             "[delivered] " + defaultUnitsChanged,
-                                             "[delivered] " + unitsChanged, "[polled] " + unitsChanged,
-                                             "[polled] " + defaultUnitsChanged});
+    reloadOnce(
+        stage, mode,
+        {{Sources::dependencies}, inHectoPascal(1000), "Range", {readDependencies}, {dependenciesChanged}});
 }
 
-Situation threeSourcesChange()
+// The sources are read in a fixed order, regardless of the order of the announcements. Delivered changes are
+// logged in the order of the announcements, polled ones in that of polling.
+void changeOfTwoSources(Stage& stage, const Mode& mode)
 {
-    return Usual::afterStart(
-        "change of three sources", Usual::changingWorld(),
-        {change(Sources::dependencies()), change(Sources::defaultUnits()), change(Sources::units()),
-         untilChanged(), convert(), kept(), dependents(), untilSettled()},
-        QStringList{takenUp, "convert: usable: 4000 HectoPascal, 2 bar by default", keptConverts(1000),
-                    "[connector] dependents: Range", quiet} +
-            firstReads + firstReads +
-            QStringList{"[delivered] " + dependenciesChanged, "[delivered] " + defaultUnitsChanged,
-                        "[delivered] " + unitsChanged, "[polled] " + unitsChanged,
-                        "[polled] " + defaultUnitsChanged, "[polled] " + dependenciesChanged});
+    reloadOnce(stage, mode,
+               {{Sources::defaultUnits, Sources::units},
+                inBar(2000),
+                "Pressure",
+                {readUnits, readDefaultUnits},
+                mode.isPolled ? QStringList{unitsChanged, defaultUnitsChanged}
+                              : QStringList{defaultUnitsChanged, unitsChanged}});
 }
 
-Situation severalChangesOneAfterTheOther()
+void changeOfThreeSources(Stage& stage, const Mode& mode)
 {
-    return Usual::afterStart(
-        "one change after the other", Usual::changingWorld(),
-        {change(Sources::units()), untilChanged(), convert(), change(Sources::defaultUnits()), untilChanged(),
-         convert(), kept(), untilSettled()},
-        QStringList{takenUp, converts(2000), takenUp, "convert: usable: 4000 HectoPascal, 2 bar by default",
-                    keptConverts(1000), quiet} +
-            firstReads + QStringList{readUnits, readDefaultUnits, unitsChanged, defaultUnitsChanged});
+    reloadOnce(stage, mode,
+               {{Sources::dependencies, Sources::defaultUnits, Sources::units},
+                inBar(2000),
+                "Range",
+                readAll,
+                mode.isPolled ? QStringList{unitsChanged, defaultUnitsChanged, dependenciesChanged}
+                              : QStringList{dependenciesChanged, defaultUnitsChanged, unitsChanged}});
 }
 
-Situation anotherName()
+void oneChangeAfterTheOther(Stage& stage, const Mode& mode)
 {
-    return Usual::afterStart("change with another name", Usual::changingWorld(),
-                             {changeWith(Sources::units(), {"UnitManager/Other"}),
-                              changeWith(Sources::defaultUnits(), {"UnitManager/UnitType"}),
-                              changeWith(Sources::units(), {"unitmanager/unittype"}), untilSettled(),
-                              changed(), convert()},
-                             QStringList{quiet, "changed: false", converts(1000)} + firstReads);
+    stage.startAllSources(changingWorld());
+    stage.announce(Sources::units);
+    stage.checkUntilChanged(reload(mode));
+    stage.expectConversion(inHectoPascal(2000));
+    stage.announce(Sources::defaultUnits);
+    stage.checkUntilChanged(reload(mode));
+    stage.expectConversion(inBar(2000));
+    stage.expectKept({inHectoPascal(1000)});
+    stage.checkUntilSettled(remainsIdle);
+    stage.finish(readAll + QStringList{readUnits, readDefaultUnits}, {unitsChanged, defaultUnitsChanged});
 }
 
-Situation wrongArgument()
+void changeWithAnotherName(Stage& stage, const Mode& /*mode*/)
 {
-    return Usual::afterStart(
-        "change with a wrong argument", Usual::changingWorld(),
-        {changeWith(Sources::units(), {42}), untilSettled(), changeWith(Sources::units(), {}), untilSettled(),
-         changeWith(Sources::units(), {QVariantMap{{"a", 1}}}), untilSettled(), changed(), convert(),
-         change(Sources::units()), untilChanged(), convert()},
-        QStringList{quiet, quiet, quiet, "changed: false", converts(1000), takenUp, converts(2000)} +
-            firstReads + QStringList{readUnits, unitsChanged});
+    stage.startAllSources(changingWorld());
+    stage.announceWith(Sources::units, {"UnitManager/Other"});
+    stage.announceWith(Sources::defaultUnits, {"UnitManager/UnitType"});
+    stage.announceWith(Sources::units, {"unitmanager/unittype"});
+    stage.checkUntilSettled(remainsIdle);
+    stage.expectUnchanged();
+    stage.expectConversion(inHectoPascal(1000));
+    stage.finish(readAll);
 }
 
-// A slot hears signals of exactly its own signature, the polling handler whatever comes.
-Situation oneArgumentMore()
+void changeWithAWrongArgument(Stage& stage, const Mode& mode)
 {
-    return Usual::afterStart(
-        "change with one argument more", Usual::changingWorld(),
-        {changeWith(Sources::units(), {"UnitManager/UnitType", "more"}), untilSettled(), changed(),
-         convert()},
-        QStringList{"[delivered] " + quiet, "[delivered] changed: false", "[delivered] " + converts(1000),
-                    "[polled] " + takenUpInPassing, "[polled] changed: true", "[polled] " + converts(2000)} +
-            firstReads + QStringList{"[polled] " + readUnits, "[polled] " + unitsChanged});
+    stage.startAllSources(changingWorld());
+    for (const QVariantList& arguments :
+         {QVariantList{42}, QVariantList(), QVariantList{QVariantMap{{"a", 1}}}}) {
+        stage.announceWith(Sources::units, arguments);
+        stage.checkUntilSettled(remainsIdle);
+    }
+    stage.expectUnchanged();
+    stage.expectConversion(inHectoPascal(1000));
+    stage.announce(Sources::units);
+    stage.checkUntilChanged(reload(mode));
+    stage.expectConversion(inHectoPascal(2000));
+    stage.finish(readAll + QStringList{readUnits}, {unitsChanged});
+}
+
+// A slot receives only signals of exactly its own signature, the polling handler receives all.
+void changeWithAnExtraArgument(Stage& stage, const Mode& mode)
+{
+    stage.startAllSources(changingWorld());
+    stage.announceWith(Sources::units, {"UnitManager/UnitType", "more"});
+    if (!mode.isPolled) {
+        stage.checkUntilSettled(remainsIdle);
+        stage.expectUnchanged();
+        stage.expectConversion(inHectoPascal(1000));
+        stage.finish(readAll);
+        return;
+    }
+    stage.checkUntilSettled(reload(mode) + remainsIdle);
+    stage.expectChanged();
+    stage.expectConversion(inHectoPascal(2000));
+    stage.finish(readAll + QStringList{readUnits}, {unitsChanged});
 }
 
 } // namespace
 
-QList<Situation> LiveChangeTest::situations() const
+QList<Scenario> LiveChangeTest::scenarios() const
 {
-    return {unitsChange(),      defaultUnitsChange(), dependenciesChange(),
-            twoSourcesChange(), threeSourcesChange(), severalChangesOneAfterTheOther(),
-            anotherName(),      wrongArgument(),      oneArgumentMore()};
+    return {{"change of the units", changeOfUnits},
+            {"change of the default units", changeOfDefaultUnits},
+            {"change of the dependencies", changeOfDependencies},
+            {"change of two sources", changeOfTwoSources},
+            {"change of three sources", changeOfThreeSources},
+            {"one change after the other", oneChangeAfterTheOther},
+            {"change with another name", changeWithAnotherName},
+            {"change with a wrong argument", changeWithAWrongArgument},
+            {"change with one argument more", changeWithAnExtraArgument}};
 }
 
 QTEST_GUILESS_MAIN(LiveChangeTest)

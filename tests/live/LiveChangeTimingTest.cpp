@@ -1,123 +1,154 @@
 #include <QtTest/QTest>
 
-#include "Lines.h"
+#include "Expected.h"
+#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Usual.h"
+#include "Stage.h"
 
-using namespace Lines;
-using namespace Steps;
+using namespace Expected;
+using namespace Fixtures;
 
-// Changes that come when another is being dealt with, too many at once, or to two applications.
+// Changes during a read, many changes at once, and changes for two applications.
 class LiveChangeTimingTest : public LiveTest
 {
     Q_OBJECT
 
 protected:
-    QList<Situation> situations() const override;
+    QList<Scenario> scenarios() const override;
 };
 
 namespace {
 
-const int burst = 10000;
-
-/// A read of units that have changed, during which @p changed is announced to have changed; that is read
-/// next, if it is.
-///
-/// What is heard while replies are awaited is forgotten by the update. Nothing is heard while a read blocks,
-/// nor before the idle state polls.
-Situation changeDuringARead(const QString& name, const SourceName& changed, const QString& conversion,
-                            const QString& read, const QStringList& messages)
+void conversionsDuringARead(Stage& stage, const Mode& mode)
 {
-    World world = Usual::changingWorld();
-    world.sources.first().answers = {Usual::units(1000), Answer::afterChange(changed, Documents::units(2000)),
-                                     Usual::units(3000)};
-    // The idle state has polled already when it was entered, or else polls at once.
-    const QString pollsAndTakesUp =
-        "until settled: {read} Update *changed Idle *initialized *initialized *initialized = true";
-    return Usual::afterStart(
-        name, world, {change(Sources::units()), untilChanged(), convert(), untilSettled(), convert()},
-        QStringList{takenUp, converts(2000), "[asynchronous delivered] " + quiet,
-                    "[asynchronous delivered] " + converts(2000), "[blocking delivered] " + takenUpInPassing,
-                    "[blocking delivered] " + conversion, "[polled] " + pollsAndTakesUp,
-                    "[polled] " + conversion} +
-            firstReads + QStringList{readUnits, "[blocking delivered] " + read, "[polled] " + read} +
-            messages);
+    stage.startAllSources(changingWorld({units(1000), Answer::held(Documents::units(2000))}));
+    stage.announce(Sources::units);
+    stage.checkUntilEntered(changeDetected(mode) + read(mode));
+    stage.checkNotIdle({}, 20);
+    stage.expectConversion(inHectoPascal(1000));
+    stage.expectUnchanged();
+    stage.release(Sources::units);
+    stage.checkUntilChanged(update);
+    stage.expectConversion(inHectoPascal(2000));
+    stage.expectKept({inHectoPascal(1000)});
+    stage.finish(readAll + QStringList{readUnits}, {unitsChanged});
 }
 
-Situation changeDuringItsOwnRead()
+/// The units are read because of a change. During that read another change is announced.
+struct ChangeDuringARead
 {
-    return changeDuringARead("change during its own read", Sources::units(), converts(3000), readUnits,
-                             {"2 x " + unitsChanged});
+    SourceName source;
+    QString conversion; ///< after the other change has been read
+    QString read;
+    QStringList messages;
+};
+
+void changeDuringARead(Stage& stage, const Mode& mode, const ChangeDuringARead& change)
+{
+    stage.startAllSources(changingWorld(
+        {units(1000), Answer::afterChange(change.source, Documents::units(2000)), units(3000)}));
+    stage.announce(Sources::units);
+    stage.checkUntilChanged(reload(mode));
+    stage.expectConversion(inHectoPascal(2000));
+    // A change that is delivered while the library waits for replies is discarded by the update. During a
+    // blocking read nothing is delivered, and changes are polled in the idle state only.
+    const bool isDiscarded = !mode.isBlocking && !mode.isPolled;
+    if (isDiscarded) {
+        stage.checkUntilSettled(remainsIdle);
+        stage.expectConversion(inHectoPascal(2000));
+        stage.finish(readAll + QStringList{readUnits}, change.messages);
+        return;
+    }
+    // The idle state polls on entry or in its first check, so that no idle check precedes the read.
+    const QStringList secondReload = mode.isPolled ? read(mode) + update : reload(mode);
+    stage.checkUntilSettled(secondReload + remainsIdle);
+    stage.expectConversion(change.conversion);
+    stage.finish(readAll + QStringList{readUnits, change.read}, change.messages);
 }
 
-Situation changeOfAnotherSourceDuringARead()
+void changeDuringItsOwnRead(Stage& stage, const Mode& mode)
 {
-    return changeDuringARead("change of another source during a read", Sources::defaultUnits(),
-                             "convert: usable: 4000 HectoPascal, 2 bar by default", readDefaultUnits,
-                             {unitsChanged, defaultUnitsChanged});
+    changeDuringARead(
+        stage, mode, {Sources::units, inHectoPascal(3000), readUnits, {Recorder::repeated(2, unitsChanged)}});
 }
 
-Situation conversionsDuringARead()
+void changeOfAnotherSourceDuringARead(Stage& stage, const Mode& mode)
 {
-    World world = Usual::changingWorld();
-    world.sources.first().answers = {Usual::units(1000), Answer::held(Documents::units(2000))};
-    Situation situation = Usual::afterStart(
-        "conversions while changed units are read", world,
-        {change(Sources::units()), untilEntered("WaitForReply"), checks(20), convert(), changed(),
-         release(Sources::units()), untilChanged(), convert(), kept()},
-        QStringList{"until WaitForReply: {noticed} {read} = true", "20 checks: = 0 true", converts(1000),
-                    "changed: false", "until changed: Update *changed Idle *initialized = true",
-                    converts(2000), keptConverts(1000)} +
-            firstReads + QStringList{readUnits, unitsChanged});
-    situation.modes = QStringList{"asynchronous wrapper", "asynchronous connector"};
-    return situation;
+    changeDuringARead(
+        stage, mode,
+        {Sources::defaultUnits, inBar(2000), readDefaultUnits, {unitsChanged, defaultUnitsChanged}});
 }
 
-// Polling knows only the last signal of an object.
-Situation changeOvertakenByAnotherName()
+// Polling returns only the last signal of an object.
+void changeFollowedByAnotherName(Stage& stage, const Mode& mode)
 {
-    return Usual::afterStart("change followed by one with another name", Usual::changingWorld(),
-                             {change(Sources::units()), changeWith(Sources::units(), {"UnitManager/Other"}),
-                              untilSettled(), changed(), convert()},
-                             QStringList{"[delivered] " + takenUpInPassing, "[delivered] changed: true",
-                                         "[delivered] " + converts(2000), "[polled] " + quiet,
-                                         "[polled] changed: false", "[polled] " + converts(1000)} +
-                                 firstReads +
-                                 QStringList{"[delivered] " + readUnits, "[delivered] " + unitsChanged});
+    stage.startAllSources(changingWorld());
+    stage.announce(Sources::units);
+    stage.announceWith(Sources::units, {"UnitManager/Other"});
+    if (mode.isPolled) {
+        stage.checkUntilSettled(remainsIdle);
+        stage.expectUnchanged();
+        stage.expectConversion(inHectoPascal(1000));
+        stage.finish(readAll);
+        return;
+    }
+    stage.checkUntilSettled(reload(mode) + remainsIdle);
+    stage.expectChanged();
+    stage.expectConversion(inHectoPascal(2000));
+    stage.finish(readAll + QStringList{readUnits}, {unitsChanged});
 }
 
-Situation burstOfChanges()
+void burstOfChanges(Stage& stage, const Mode& mode)
 {
-    return Usual::afterStart(
-        "10,000 changes in a burst", Usual::changingWorld(),
-        {change(Sources::units(), burst), untilChanged(), convert(), kept(), untilSettled()},
-        QStringList{takenUp, converts(2000), keptConverts(1000), quiet} + firstReads +
-            QStringList{readUnits, QStringLiteral("[delivered] %1 x ").arg(burst) + unitsChanged,
-                        "[polled] " + unitsChanged});
+    const int changes = 10000;
+    stage.startAllSources(changingWorld());
+    stage.announce(Sources::units, changes);
+    stage.checkUntilChanged(reload(mode));
+    stage.expectConversion(inHectoPascal(2000));
+    stage.expectKept({inHectoPascal(1000)});
+    stage.checkUntilSettled(remainsIdle);
+    stage.finish(readAll + QStringList{readUnits},
+                 {Recorder::repeated(mode.isPolled ? 1 : changes, unitsChanged)});
 }
 
-Situation twoApplications()
+void twoApplications(Stage& stage, const Mode& mode)
 {
-    World world = Usual::fullWorld(
-        {Usual::units(1000), Usual::units(1000), Usual::units(2000), Usual::units(2000), Usual::units(3000)});
-    const QString second = "application 2 ";
-    return Usual::afterStart(
-        "two applications at once", world,
-        {start(Usual::allSources()), untilIdle(), changed(), convert(), change(Sources::units()), switchTo(0),
-         untilChanged(), convert(), switchTo(1), convert(), untilChanged(), convert(), switchTo(0), kept(),
-         destroy(), change(Sources::units()), switchTo(1), untilChanged(), convert()},
-        QStringList{second + firstStart, second + "changed: true", second + converts(1000), takenUp,
-                    converts(2000), second + converts(1000), second + takenUp, second + converts(2000),
-                    keptConverts(1000), second + takenUp, second + converts(3000)} +
-            firstReads + firstReads + QStringList{readUnits, readUnits, readUnits, "3 x " + unitsChanged});
+    stage.startAllSources(fullWorld({units(1000), units(1000), units(2000), units(2000), units(3000)}));
+    stage.start(allSources);
+    stage.checkUntilIdle(firstStart(mode));
+    stage.expectChanged();
+    stage.expectConversion(inHectoPascal(1000));
+
+    stage.announce(Sources::units);
+    stage.switchTo(0);
+    stage.checkUntilChanged(reload(mode));
+    stage.expectConversion(inHectoPascal(2000));
+    stage.switchTo(1);
+    stage.expectConversion(inHectoPascal(1000));
+    stage.checkUntilChanged(reload(mode));
+    stage.expectConversion(inHectoPascal(2000));
+
+    stage.switchTo(0);
+    stage.expectKept({inHectoPascal(1000)});
+    stage.destroy();
+    stage.announce(Sources::units);
+    stage.switchTo(1);
+    stage.checkUntilChanged(reload(mode));
+    stage.expectConversion(inHectoPascal(3000));
+    stage.finish(readAll + readAll + QStringList{readUnits, readUnits, readUnits},
+                 {Recorder::repeated(3, unitsChanged)});
 }
 
 } // namespace
 
-QList<Situation> LiveChangeTimingTest::situations() const
+QList<Scenario> LiveChangeTimingTest::scenarios() const
 {
-    return {conversionsDuringARead(),       changeDuringItsOwnRead(), changeOfAnotherSourceDuringARead(),
-            changeOvertakenByAnotherName(), burstOfChanges(),         twoApplications()};
+    return {{"conversions while changed units are read", conversionsDuringARead, Modes::asynchronous},
+            {"change during its own read", changeDuringItsOwnRead},
+            {"change of another source during a read", changeOfAnotherSourceDuringARead},
+            {"change followed by one with another name", changeFollowedByAnotherName},
+            {"10,000 changes in a burst", burstOfChanges},
+            {"two applications at once", twoApplications}};
 }
 
 QTEST_GUILESS_MAIN(LiveChangeTimingTest)

@@ -1,141 +1,170 @@
 #include <QtTest/QTest>
 
-#include "Lines.h"
+#include "Expected.h"
+#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Usual.h"
+#include "Stage.h"
 
-using namespace Lines;
-using namespace Steps;
+using namespace Expected;
+using namespace Fixtures;
 
-// What goes wrong when the library is up, and how it comes back.
+// Failures while the library is running, and the recovery from them.
 class LiveRecoveryTest : public LiveTest
 {
     Q_OBJECT
 
 protected:
-    QList<Situation> situations() const override;
+    QList<Scenario> scenarios() const override;
 };
 
 namespace {
 
-const QString notConnected = "warning Unitswitch connector: Cannot call method configuration get via DBus";
+const QString notConnected =
+    QStringLiteral("warning Unitswitch connector: Cannot call method configuration get via DBus");
 
-/// A failing read of changed sources.
-const QString failedRead = "until Error: {noticed} {read} Error = true";
-
-// A document that does not load replaces the good one, for the wrapper when it takes it up. The start that
-// follows reads everything again.
-Situation goodThenBrokenThenGood()
+/// Brings the library from the error state back to the idle state with new documents.
+void recover(Stage& stage, const QStringList& events, const QString& conversion)
 {
-    World world =
-        Usual::fullWorld({Usual::units(1000), Answer::with(Documents::broken()), Usual::units(3000)});
-    return Usual::afterStart(
-        "good document, then a broken one, then a good one", world,
-        {change(Sources::units()), untilEntered("Error"), convert(), changed(), convert(), kept(),
-         dependents(), keep(), untilIdle(), convert(), changed(), kept(), untilSettled()},
-        QStringList{"until Error: {noticed} {read} Update *changed Error = true",
-                    "[wrapper] " + converts(1000), "[connector] " + raw, "changed: true", raw,
-                    keptConverts(1000), "[connector] dependents: Pressure", secondStart, converts(3000),
-                    "changed: true", keptConverts(1000), keptIsRaw, quiet} +
-            firstReads + QStringList{readUnits} + firstReads + QStringList{unitsChanged, brokenUnits});
+    stage.checkUntilIdle(events);
+    stage.expectConversion(conversion);
+    stage.expectChanged();
 }
 
-Situation changeThatCannotBeRead()
+// The connector replaces the good document by the one that cannot be loaded, the wrapper does so only when it
+// detects the change. The restart after the error reads all sources.
+void goodThenBrokenThenGood(Stage& stage, const Mode& mode)
 {
-    return Usual::afterStart(
-        "change whose read fails",
-        Usual::fullWorld({Usual::units(1000), Answer::of(Answer::Error), Usual::units(3000)}),
-        {change(Sources::units()), untilEntered("Error"), convert(), changed(), convert(), untilIdle(),
-         convert(), changed(), kept()},
-        QStringList{failedRead, converts(1000), "changed: false", converts(1000), secondStart, converts(3000),
-                    "changed: true", keptConverts(1000)} +
-            firstReads + QStringList{readUnits} + firstReads +
-            QStringList{unitsChanged, "[blocking] " + unitsUnread});
+    stage.startAllSources(fullWorld({units(1000), Answer::with(Documents::broken()), units(3000)}));
+    stage.announce(Sources::units);
+    stage.checkUntilEntered(changeDetected(mode) + read(mode) +
+                            QStringList{State::update, Signal::configurationChanged, State::error});
+    stage.expectConversion(mode.isWrapper() ? inHectoPascal(1000) : unconverted);
+    stage.expectChanged();
+    stage.expectConversion(unconverted);
+    stage.expectKept({inHectoPascal(1000)});
+    stage.expectDependents("Pressure");
+    stage.keepUnits();
+    recover(stage, restart(mode), inHectoPascal(3000));
+    stage.expectKept({inHectoPascal(1000), unconverted});
+    stage.checkUntilSettled(remainsIdle);
+    stage.finish(readAll + QStringList{readUnits} + readAll, {unitsChanged, unitsInvalid});
 }
 
-/// The attempts of one check after an error, while the service is away. The step of the error state makes
-/// none; with deferred entry it has been made when the state was entered, and else it is the check's first.
-const QStringList attemptsAfterError{"[blocking immediate] 99 x " + unitsUnreachable,
-                                     "[blocking deferred] 100 x " + unitsUnreachable,
-                                     "[asynchronous deferred] " + unitsUnreachable};
-
-Situation deathDuringTheFirstRead()
+void changeWhoseReadFails(Stage& stage, const Mode& mode)
 {
-    return {"service that dies during the first read and comes back",
-            Usual::unitsWorld({Answer::of(Answer::Death), Usual::units(2000)}),
-            {start(Usual::unitsOnly()), untilEntered("Error"), convert(), check(),
-             startModule("DeviceManager"), untilIdle(), convert(), changed()},
-            QStringList{failedStart, raw, "check: Initial = false",
-                        "until idle: {read} Update *changed Idle *initialized = true",
-                        convertsWithoutDefault(2000), "changed: true", readUnits, readUnits,
-                        "[blocking] " + unitsUnread} +
-                attemptsAfterError};
+    stage.startAllSources(fullWorld({units(1000), Answer::error(), units(3000)}));
+    stage.announce(Sources::units);
+    stage.checkUntilEntered(failedReload(mode));
+    stage.expectConversion(inHectoPascal(1000));
+    stage.expectUnchanged();
+    stage.expectConversion(inHectoPascal(1000));
+    recover(stage, restart(mode), inHectoPascal(3000));
+    stage.expectKept({inHectoPascal(1000)});
+    stage.finish(readAll + QStringList{readUnits} + readAll,
+                 QStringList{unitsChanged} + onlyIf(mode.isBlocking, unitsUnread));
 }
 
-Situation deathDuringALaterRead()
+/// Logged by the first check after an error while the service is away. The error state itself makes no
+/// attempt: with immediate entry its step is the first one of the check, with deferred entry it has already
+/// run.
+QStringList attemptsAfterError(const Mode& mode)
 {
-    World world = Usual::fullWorld({Usual::units(1000), Answer::of(Answer::Death), Usual::units(3000)});
-    return Usual::afterStart(
-        "service that dies during a later read and comes back", world,
-        {change(Sources::units()), untilEntered("Error"), convert(), changed(), check(), convert(),
-         startModule("DeviceManager"), untilIdle(), convert(), changed(), kept()},
-        QStringList{failedRead, converts(1000), "changed: false", "check: Initial = false", converts(1000),
-                    "until idle: {read} Update *changed Idle *initialized = true", converts(3000),
-                    "changed: true", keptConverts(1000)} +
-            firstReads + QStringList{readUnits} + firstReads +
-            QStringList{unitsChanged, "[blocking] " + unitsUnread} + attemptsAfterError);
+    if (mode.isBlocking)
+        return {Recorder::repeated(mode.isDeferred ? 100 : 99, unitsUnreachable)};
+    return onlyIf(mode.isDeferred, unitsUnreachable);
 }
 
-Situation restartWhileIdle()
+void deathDuringTheFirstRead(Stage& stage, const Mode& mode)
 {
-    return Usual::afterStart("service that is restarted while the library idles", Usual::changingWorld(),
-                             {stopModule("DeviceManager"), checks(3), convert(), startModule("DeviceManager"),
-                              checks(3), change(Sources::units()), untilChanged(), convert(), kept()},
-                             QStringList{"3 checks: *initialized *initialized *initialized = 3 true",
-                                         converts(1000),
-                                         "3 checks: *initialized *initialized *initialized = 3 true", takenUp,
-                                         converts(2000), keptConverts(1000)} +
-                                 firstReads + QStringList{readUnits, unitsChanged});
+    stage.serve(unitsWorld({Answer::death(), units(2000)}));
+    stage.start(unitsOnly);
+    stage.checkUntilEntered(failedStart(mode));
+    stage.expectConversion(unconverted);
+    stage.checkNotIdle({State::initial});
+    stage.startModule(Modules::deviceManager);
+    recover(stage, read(mode) + update, inBar(2000));
+    stage.finish({readUnits, readUnits}, onlyIf(mode.isBlocking, unitsUnread) + attemptsAfterError(mode));
 }
 
-Situation deathBetweenChangeAndRead()
+void deathDuringALaterRead(Stage& stage, const Mode& mode)
 {
-    return Usual::afterStart(
-        "service that dies between a change and its read", Usual::changingWorld(),
-        {change(Sources::units()), stopModule("DeviceManager"), untilEntered("Error"), convert(), changed(),
-         startModule("DeviceManager"), untilIdle(), convert(), changed()},
-        QStringList{"[blocking] " + failedRead,
-                    "[asynchronous] until Error: {noticed} ReadConfigurationASynchron Error = true",
-                    converts(1000), "changed: false", secondStart,
-                    "convert: usable: 4000 HectoPascal, 2 bar by default", "changed: true"} +
-            firstReads + firstReads + QStringList{unitsChanged, notConnected});
+    stage.startAllSources(fullWorld({units(1000), Answer::death(), units(3000)}));
+    stage.announce(Sources::units);
+    stage.checkUntilEntered(failedReload(mode));
+    stage.expectConversion(inHectoPascal(1000));
+    stage.expectUnchanged();
+    stage.checkNotIdle({State::initial});
+    stage.expectConversion(inHectoPascal(1000));
+    stage.startModule(Modules::deviceManager);
+    recover(stage, read(mode) + update, inHectoPascal(3000));
+    stage.expectKept({inHectoPascal(1000)});
+    stage.finish(readAll + QStringList{readUnits} + readAll,
+                 QStringList{unitsChanged} + onlyIf(mode.isBlocking, unitsUnread) + attemptsAfterError(mode));
 }
 
-// An optional module that has gone keeps the others from being read again.
-Situation optionalModuleGone()
+void restartWhileIdle(Stage& stage, const Mode& mode)
 {
-    World world = Usual::changingWorld();
-    world.sources << Source{Sources::remoteDefaultUnits(), {Usual::defaultUnits()}};
-    const QString readRemote = "read DefaultUnitManager/DefaultUnitConfiguration "
-                               "getConfiguration(UnitManager/DefaultUnit, UnitManager, )";
-    return {"optional module that dies before a change of the units",
-            world,
-            {start({Sources::none(), Sources::remoteDefaultUnits()}), untilIdle(), changed(),
-             stopModule("DefaultUnitManager"), change(Sources::units()), untilEntered("Error"), convert(),
-             startModule("DefaultUnitManager"), untilIdle(), convert(), changed()},
-            {firstStart, "changed: true", "[blocking] " + failedRead,
-             "[asynchronous] until Error: {noticed} ReadConfigurationASynchron Error = true", converts(1000),
-             secondStart, converts(2000), "changed: true", readUnits, readRemote, readUnits, readRemote,
-             unitsChanged, notConnected}};
+    stage.startAllSources(changingWorld());
+    stage.stopModule(Modules::deviceManager);
+    stage.checkIdle(idleChecks(3), 3);
+    stage.expectConversion(inHectoPascal(1000));
+    stage.startModule(Modules::deviceManager);
+    stage.checkIdle(idleChecks(3), 3);
+    stage.announce(Sources::units);
+    stage.checkUntilChanged(reload(mode));
+    stage.expectConversion(inHectoPascal(2000));
+    stage.expectKept({inHectoPascal(1000)});
+    stage.finish(readAll + QStringList{readUnits}, {unitsChanged});
+}
+
+/// A reload that fails because a module is not on the bus: an asynchronous read fails at its start.
+QStringList unconnectedReload(const Mode& mode)
+{
+    return changeDetected(mode) +
+           QStringList{mode.isBlocking ? State::readBlocking : State::readAsynchronous, State::error};
+}
+
+void deathBetweenChangeAndRead(Stage& stage, const Mode& mode)
+{
+    stage.startAllSources(changingWorld());
+    stage.announce(Sources::units);
+    stage.stopModule(Modules::deviceManager);
+    stage.checkUntilEntered(unconnectedReload(mode));
+    stage.expectConversion(inHectoPascal(1000));
+    stage.expectUnchanged();
+    stage.startModule(Modules::deviceManager);
+    recover(stage, restart(mode), inBar(2000));
+    stage.finish(readAll + readAll, {unitsChanged, notConnected});
+}
+
+// While an optional module is missing, the others are not read either.
+void deathOfAnOptionalModule(Stage& stage, const Mode& mode)
+{
+    stage.serve(changingWorld() << Source{Sources::remoteDefaultUnits, {defaultUnits()}});
+    stage.start({Sources::none, Sources::remoteDefaultUnits});
+    stage.checkUntilIdle(firstStart(mode));
+    stage.expectChanged();
+    stage.stopModule(Modules::defaultUnitManager);
+    stage.announce(Sources::units);
+    stage.checkUntilEntered(unconnectedReload(mode));
+    stage.expectConversion(inHectoPascal(1000));
+    stage.startModule(Modules::defaultUnitManager);
+    recover(stage, restart(mode), inHectoPascal(2000));
+    stage.finish({readUnits, readRemoteDefaultUnits, readUnits, readRemoteDefaultUnits},
+                 {unitsChanged, notConnected});
 }
 
 } // namespace
 
-QList<Situation> LiveRecoveryTest::situations() const
+QList<Scenario> LiveRecoveryTest::scenarios() const
 {
-    return {goodThenBrokenThenGood(), changeThatCannotBeRead(), deathDuringTheFirstRead(),
-            deathDuringALaterRead(),  restartWhileIdle(),       deathBetweenChangeAndRead(),
-            optionalModuleGone()};
+    return {{"good document, then a broken one, then a good one", goodThenBrokenThenGood},
+            {"change whose read fails", changeWhoseReadFails},
+            {"service that dies during the first read and comes back", deathDuringTheFirstRead},
+            {"service that dies during a later read and comes back", deathDuringALaterRead},
+            {"service that is restarted while the library idles", restartWhileIdle},
+            {"service that dies between a change and its read", deathBetweenChangeAndRead},
+            {"optional module that dies before a change of the units", deathOfAnOptionalModule}};
 }
 
 QTEST_GUILESS_MAIN(LiveRecoveryTest)

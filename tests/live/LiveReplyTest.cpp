@@ -1,245 +1,262 @@
 #include <QtTest/QTest>
 
-#include "Lines.h"
+#include "Expected.h"
+#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Usual.h"
+#include "Stage.h"
+#include "WaitLimit.h"
 
-using namespace Lines;
-using namespace Steps;
+using namespace Expected;
+using namespace Fixtures;
 
-// What the service may answer to a read.
+// The possible answers of the service to a read.
 class LiveReplyTest : public LiveTest
 {
     Q_OBJECT
 
 protected:
-    QList<Situation> situations() const override;
+    QList<Scenario> scenarios() const override;
 };
 
 namespace {
 
-const QStringList blocking{"blocking wrapper", "blocking connector"};
-const QStringList asynchronous{"asynchronous wrapper", "asynchronous connector"};
-
-/// A first read that fails, and a second one that succeeds.
-Situation failingFirstRead(const QString& name, const Answer& answer, const QString& warning)
+/// The restart after a first answer that is not usable.
+void restartWithUnits(Stage& stage, const Mode& mode, const QStringList& messages)
 {
-    return {name,
-            Usual::unitsWorld({answer, Usual::units()}),
-            {start(Usual::unitsOnly()), untilEntered("Error"), convert(), changed(), untilIdle(), convert(),
-             changed()},
-            {failedStart, raw, "changed: false", secondStart, convertsWithoutDefault(1000), "changed: true",
-             readUnits, readUnits, warning}};
+    stage.checkUntilIdle(restart(mode));
+    stage.expectConversion(inBar(1000));
+    stage.expectChanged();
+    stage.finish({readUnits, readUnits}, messages);
 }
 
-/// A first text that is read, but does not load.
-Situation unloadableFirstText(const QString& name, const QVariant& value, const QString& warning)
+void firstReadFails(Stage& stage, const Mode& mode, const Answer& answer, const QStringList& messages)
 {
-    return {name,
-            Usual::unitsWorld({Answer::with(value), Usual::units()}),
-            {start(Usual::unitsOnly()), untilEntered("Error"), convert(), changed(), convert(), untilIdle(),
-             convert(), changed()},
-            {"until Error: {start} {read} Update *changed Error = true", raw, "changed: true", raw,
-             secondStart, convertsWithoutDefault(1000), "changed: true", readUnits, readUnits, warning}};
+    stage.serve(unitsWorld({answer, units()}));
+    stage.start(unitsOnly);
+    stage.checkUntilEntered(failedStart(mode));
+    stage.setCallTimeout(waitLimit); // undoes the short one of missingReply()
+    stage.expectConversion(unconverted);
+    stage.expectUnchanged();
+    restartWithUnits(stage, mode, messages);
 }
 
-/// A first reply that counts as no text when reading does not block; @p checks are three of them and those
-/// until the library idles.
-Situation absentFirstText(const QString& name, const QVariant& value, const QStringList& checks)
+void errorReply(Stage& stage, const Mode& mode)
 {
-    return {
-        name,
-        Usual::unitsWorld({Answer::held(value), Usual::units()}),
-        {start(Usual::unitsOnly()), untilEntered("WaitForReply"), release(Sources::units()), check(), check(),
-         check(), untilIdle(), convert(), changed(), change(Sources::units()), untilChanged(), convert()},
-        QStringList{"until WaitForReply: {start} ReadConfigurationASynchron WaitForReply = true"} + checks +
-            QStringList{raw, "changed: true", takenUp, convertsWithoutDefault(1000), readUnits, readUnits},
-        asynchronous};
+    firstReadFails(stage, mode, Answer::error(), onlyIf(mode.isBlocking, unitsUnread));
 }
 
-Situation errorReply()
+void missingReply(Stage& stage, const Mode& mode)
 {
-    return failingFirstRead("error reply", Answer::of(Answer::Error), "[blocking] " + unitsUnread);
+    stage.setCallTimeout(500);
+    firstReadFails(stage, mode, Answer::never(), onlyIf(mode.isBlocking, unitsUnread));
 }
 
-Situation replyThatNeverComes()
+void emptyTextForBlockingRead(Stage& stage, const Mode& mode)
 {
-    Situation situation =
-        failingFirstRead("reply that never comes", Answer::of(Answer::Never), "[blocking] " + unitsUnread);
-    situation.world.callTimeout = 500;
-    situation.script.insert(2, callTimeout(60000));
-    return situation;
+    firstReadFails(stage, mode, Answer::with(""), {unitsEmpty});
 }
 
-Situation emptyTextForBlockingRead()
+const QVariantMap map{{"text", "{}"}};
+
+void mapForBlockingRead(Stage& stage, const Mode& mode)
 {
-    Situation situation = failingFirstRead("empty text", Answer::with(""), unitsEmpty);
-    situation.modes = blocking;
-    return situation;
+    firstReadFails(stage, mode, Answer::with(map), {unitsEmpty});
 }
 
-Situation mapForBlockingRead()
+/// The first text is read, but cannot be loaded.
+void firstTextIsUnloadable(Stage& stage, const Mode& mode, const QVariant& value, const QString& warning)
 {
-    Situation situation =
-        failingFirstRead("a map as reply", Answer::with(QVariantMap{{"text", "{}"}}), unitsEmpty);
-    situation.modes = blocking;
-    return situation;
+    stage.serve(unitsWorld({Answer::with(value), units()}));
+    stage.start(unitsOnly);
+    stage.checkUntilEntered(unloadableStart(mode));
+    stage.expectConversion(unconverted);
+    stage.expectChanged();
+    stage.expectConversion(unconverted);
+    restartWithUnits(stage, mode, {warning});
 }
 
-/// What a wrapper logs that finds no unit manager at @p idleChecks checks, before the units change. With
-/// deferred entry it idles once more after the change, in the check that finds it.
-QStringList missedUnitManager(const char* entry, int idleChecks)
+void textThatDoesNotParse(Stage& stage, const Mode& mode)
 {
-    const QString times = idleChecks == 1 ? QString() : QStringLiteral("%1 x ").arg(idleChecks);
-    const QString condition = QStringLiteral("[wrapper %1] ").arg(QLatin1String(entry));
-    return {condition + times + notInitialized, condition + notChanged};
+    firstTextIsUnloadable(stage, mode, Documents::broken(), unitsInvalid);
 }
 
-const QString idlesOnceMore = "[wrapper deferred] " + notInitialized;
-
-// The first check collects the reply, the second one updates.
-Situation emptyTextForAsynchronousRead()
+void numberAsReply(Stage& stage, const Mode& mode)
 {
-    Situation situation = absentFirstText(
-        "empty text", "",
-        {"[immediate] check: Update = false", "[immediate] check: *changed Idle *initialized = true",
-         "[immediate] check: *initialized = true", "[immediate] until idle: *initialized = true",
-         "[deferred] check: = false", "[deferred] check: Update = false",
-         "[deferred] check: *changed Idle *initialized = true",
-         "[deferred] until idle: *initialized = true"});
-    situation.record += missedUnitManager("immediate", 3) + missedUnitManager("deferred", 2) +
-                        QStringList{unitsChanged, idlesOnceMore};
-    return situation;
+    firstTextIsUnloadable(stage, mode, 42, "warning Conversion configuration invalid \"42\"");
 }
 
-// A reply that is no text costs one more check.
-Situation mapForAsynchronousRead()
+/// The check after the one in the update state.
+const QStringList updated{Signal::configurationChanged, State::idle, Signal::initialized};
+
+/// Asynchronous reads accept a first reply without a text. Then there is no unit manager until the units
+/// change.
+/// @param collectingChecks the number of checks that collect the reply, without the one that enters the
+/// update
+void firstTextIsAbsent(Stage& stage, const Mode& mode, const QVariant& value, int collectingChecks)
 {
-    Situation situation =
-        absentFirstText("a map as reply", QVariantMap{{"text", "{}"}},
-                        {"[immediate] check: = false", "[immediate] check: Update = false",
-                         "[immediate] check: *changed Idle *initialized = true",
-                         "[immediate] until idle: *initialized = true", "[deferred] check: = false",
-                         "[deferred] check: = false", "[deferred] check: Update = false",
-                         "[deferred] until idle: *changed Idle *initialized = true"});
-    situation.record += missedUnitManager("immediate", 2) + missedUnitManager("deferred", 1) +
-                        QStringList{unitsChanged, idlesOnceMore};
-    return situation;
+    stage.serve(unitsWorld({Answer::held(value), units()}));
+    stage.start(unitsOnly);
+    stage.checkUntilEntered(startUntilWaiting(mode));
+    stage.release(Sources::units);
+    stage.checkNotIdle({}, mode.isDeferred ? collectingChecks + 1 : collectingChecks);
+    stage.checkNotIdle({State::update});
+    stage.checkIdle(updated);
+    stage.checkIdle(idleChecks(2), 2);
+    stage.expectConversion(unconverted);
+    stage.expectChanged();
+    stage.announce(Sources::units);
+    stage.checkUntilChanged(reload(mode));
+    stage.expectConversion(inBar(1000));
+
+    // A wrapper logs each idle check that finds no unit manager; so is the one that detects the change.
+    const QString notInitialized = QStringLiteral("warning Unable to initialize UnitManager");
+    const QStringList missing{Recorder::repeated(3, notInitialized),
+                              QStringLiteral("warning Unable to change configuration of UnitManager")};
+    stage.finish({readUnits, readUnits}, (mode.isWrapper() ? missing : QStringList()) +
+                                             QStringList{unitsChanged} +
+                                             onlyIf(mode.isWrapper() && mode.isDeferred, notInitialized));
 }
 
-/// All three sources are asked although one of them fails.
-Situation oneOfThreeFails(const QString& name, const World& world, const QString& warning)
+void emptyTextForAsynchronousRead(Stage& stage, const Mode& mode)
 {
-    return {name,
-            world,
-            {start(Usual::allSources()), untilEntered("Error"), convert(), untilIdle(), convert(), changed()},
-            {failedStart, raw, secondStart, converts(1000), "changed: true", readUnits, readDependencies,
-             readDefaultUnits, readUnits, readDependencies, readDefaultUnits, "[blocking] " + warning}};
+    firstTextIsAbsent(stage, mode, "", 0);
 }
 
-Situation firstOfThreeFails()
+// A reply that is not a text costs one more check.
+void mapForAsynchronousRead(Stage& stage, const Mode& mode)
 {
-    return oneOfThreeFails("error reply of the first of three",
-                           Usual::fullWorld({Answer::of(Answer::Error), Usual::units()}), unitsUnread);
+    firstTextIsAbsent(stage, mode, map, 1);
 }
 
-Situation lastOfThreeFails()
+/// All three sources are read although one of them fails.
+void oneOfThreeFails(Stage& stage, const Mode& mode, const World& world, const QString& warning)
 {
-    return oneOfThreeFails("error reply of the last of three",
-                           Usual::fullWorld({Usual::units()}, {Usual::dependencies()},
-                                            {Answer::of(Answer::Error), Usual::defaultUnits()}),
-                           defaultUnitsUnread);
+    stage.serve(world);
+    stage.start(allSources);
+    stage.checkUntilEntered(failedStart(mode));
+    stage.expectConversion(unconverted);
+    stage.checkUntilIdle(restart(mode));
+    stage.expectConversion(inHectoPascal(1000));
+    stage.expectChanged();
+    stage.finish(readAll + readAll, onlyIf(mode.isBlocking, warning));
 }
 
-Situation emptyDefaultUnits()
+void firstOfThreeFails(Stage& stage, const Mode& mode)
 {
-    return {"empty text of an optional source",
-            Usual::fullWorld({Usual::units()}, {Usual::dependencies()}, {Answer::with("")}),
-            {start(Usual::allSources()), untilIdle(), convert(), dependents(), changed()},
-            {firstStart, convertsWithoutDefault(1000), "[connector] dependents: Pressure", "changed: true",
-             readUnits, readDependencies, readDefaultUnits},
-            asynchronous};
+    oneOfThreeFails(stage, mode, fullWorld({Answer::error(), units()}), unitsUnread);
 }
 
-Situation brokenDependencies()
+void lastOfThreeFails(Stage& stage, const Mode& mode)
 {
-    return {"text of the dependencies that does not parse",
-            Usual::fullWorld({Usual::units()}, {Answer::with("[]"), Usual::dependencies()}),
-            {start(Usual::allSources()), untilEntered("Error"), changed(), convert(), dependents(),
-             untilIdle(), convert(), dependents(), changed()},
-            {"until Error: {start} {read} Update *changed Error = true", "changed: true", converts(1000),
-             "[connector] dependents: none", secondStart, converts(1000), "[connector] dependents: Pressure",
-             "changed: true", readUnits, readDependencies, readDefaultUnits, readUnits, readDependencies,
-             readDefaultUnits,
-             "warning Dependency configuration invalid: \"the document is not an object\""}};
+    oneOfThreeFails(stage, mode, fullWorld({units()}, {dependencies()}, {Answer::error(), defaultUnits()}),
+                    defaultUnitsUnread);
 }
 
-/// Three held replies, released one a check.
-Situation releasedOneByOne(const QString& name, const QList<SourceName>& order)
+void emptyDefaultUnits(Stage& stage, const Mode& mode)
 {
-    const Answer heldUnits = Answer::held(Documents::units(1000));
-    const Answer heldDependencies = Answer::held(Documents::dependencies("Pressure"));
-    const Answer heldDefaultUnits = Answer::held(Documents::defaultUnits("HectoPascal"));
-    return {name,
-            Usual::fullWorld({heldUnits}, {heldDependencies}, {heldDefaultUnits}),
-            {start(Usual::allSources()), untilEntered("WaitForReply"), checks(20), release(order.at(0)),
-             check(), release(order.at(1)), check(), release(order.at(2)), check(), convert(), check(),
-             untilIdle(), convert(), dependents(), changed()},
-            {"until WaitForReply: {start} ReadConfigurationASynchron WaitForReply = true",
-             "20 checks: = 0 true", "check: = false", "check: = false", "[immediate] check: Update = false",
-             "[deferred] check: = false", raw, "[immediate] check: *changed Idle *initialized = true",
-             "[immediate] until idle: *initialized = true", "[deferred] check: Update = false",
-             "[deferred] until idle: *changed Idle *initialized = true", converts(1000),
-             "[connector] dependents: Pressure", "changed: true", readUnits, readDependencies,
-             readDefaultUnits},
-            asynchronous};
+    stage.serve(fullWorld({units()}, {dependencies()}, {Answer::with("")}));
+    stage.start(allSources);
+    stage.checkUntilIdle(firstStart(mode));
+    stage.expectConversion(inBar(1000));
+    stage.expectDependents("Pressure");
+    stage.expectChanged();
+    stage.finish(readAll);
 }
 
-Situation failureBeforeAnOutstandingReply()
+void dependenciesThatDoNotParse(Stage& stage, const Mode& mode)
 {
-    return {"error reply ahead of a reply that is outstanding",
-            Usual::fullWorld({Answer::of(Answer::Error)}, {Usual::dependencies()},
-                             {Answer::held(Documents::defaultUnits("Bar"))}),
-            {start(Usual::allSources()), untilEntered("Error"), changed()},
-            {failedStart, "changed: false", readUnits, readDependencies, readDefaultUnits},
-            asynchronous};
+    stage.serve(fullWorld({units()}, {Answer::with("[]"), dependencies()}));
+    stage.start(allSources);
+    stage.checkUntilEntered(unloadableStart(mode));
+    stage.expectChanged();
+    stage.expectConversion(inHectoPascal(1000));
+    stage.expectDependents("none");
+    stage.checkUntilIdle(restart(mode));
+    stage.expectConversion(inHectoPascal(1000));
+    stage.expectDependents("Pressure");
+    stage.expectChanged();
+    stage.finish(readAll + readAll,
+                 {"warning Dependency configuration invalid: \"the document is not an object\""});
 }
 
-Situation failureBehindAnOutstandingReply()
+/// Three replies are held; each of three checks receives one.
+void repliesOneByOne(Stage& stage, const Mode& mode, const QList<SourceName>& order)
 {
-    return {"error reply behind a reply that is outstanding",
-            Usual::fullWorld({Answer::held(Documents::units(1000))}, {Usual::dependencies()},
-                             {Answer::of(Answer::Error)}),
-            {start(Usual::allSources()), untilEntered("WaitForReply"), checks(20), release(Sources::units()),
-             untilEntered("Error"), changed()},
-            {"until WaitForReply: {start} ReadConfigurationASynchron WaitForReply = true",
-             "20 checks: = 0 true", "until Error: Error = true", "changed: false", readUnits,
-             readDependencies, readDefaultUnits},
-            asynchronous};
+    stage.serve(fullWorld({Answer::held(Documents::units(1000))},
+                          {Answer::held(Documents::dependencies("Pressure"))},
+                          {Answer::held(Documents::defaultUnits("HectoPascal"))}));
+    stage.start(allSources);
+    stage.checkUntilEntered(startUntilWaiting(mode));
+    stage.checkNotIdle({}, 20);
+    stage.release(order.at(0));
+    stage.checkNotIdle({});
+    stage.release(order.at(1));
+    stage.checkNotIdle({});
+    stage.release(order.at(2));
+    stage.checkNotIdle(onlyIf(!mode.isDeferred, State::update));
+    stage.expectConversion(unconverted);
+    if (mode.isDeferred)
+        stage.checkNotIdle({State::update});
+    stage.checkIdle(updated);
+    stage.checkIdle(idleChecks(1));
+    stage.expectConversion(inHectoPascal(1000));
+    stage.expectDependents("Pressure");
+    stage.expectChanged();
+    stage.finish(readAll);
+}
+
+void repliesInOrder(Stage& stage, const Mode& mode)
+{
+    repliesOneByOne(stage, mode, {Sources::units, Sources::dependencies, Sources::defaultUnits});
+}
+
+void repliesInReverseOrder(Stage& stage, const Mode& mode)
+{
+    repliesOneByOne(stage, mode, {Sources::defaultUnits, Sources::dependencies, Sources::units});
+}
+
+void errorBeforeAnOutstandingReply(Stage& stage, const Mode& mode)
+{
+    stage.serve(
+        fullWorld({Answer::error()}, {dependencies()}, {Answer::held(Documents::defaultUnits("Bar"))}));
+    stage.start(allSources);
+    stage.checkUntilEntered(failedStart(mode));
+    stage.expectUnchanged();
+    stage.finish(readAll);
+}
+
+void errorAfterAnOutstandingReply(Stage& stage, const Mode& mode)
+{
+    stage.serve(fullWorld({Answer::held(Documents::units(1000))}, {dependencies()}, {Answer::error()}));
+    stage.start(allSources);
+    stage.checkUntilEntered(startUntilWaiting(mode));
+    stage.checkNotIdle({}, 20);
+    stage.release(Sources::units);
+    stage.checkUntilEntered({State::error});
+    stage.expectUnchanged();
+    stage.finish(readAll);
 }
 
 } // namespace
 
-QList<Situation> LiveReplyTest::situations() const
+QList<Scenario> LiveReplyTest::scenarios() const
 {
-    const QList<SourceName> order{Sources::units(), Sources::dependencies(), Sources::defaultUnits()};
-    const QList<SourceName> reverse{order.at(2), order.at(1), order.at(0)};
-    return {errorReply(),
-            replyThatNeverComes(),
-            emptyTextForBlockingRead(),
-            emptyTextForAsynchronousRead(),
-            unloadableFirstText("text that does not parse", Documents::broken(), brokenUnits),
-            unloadableFirstText("a number as reply", 42, "warning Conversion configuration invalid \"42\""),
-            mapForBlockingRead(),
-            mapForAsynchronousRead(),
-            firstOfThreeFails(),
-            lastOfThreeFails(),
-            emptyDefaultUnits(),
-            brokenDependencies(),
-            releasedOneByOne("replies one per step", order),
-            releasedOneByOne("replies one per step in reverse order", reverse),
-            failureBeforeAnOutstandingReply(),
-            failureBehindAnOutstandingReply()};
+    return {{"error reply", errorReply},
+            {"reply that never comes", missingReply},
+            {"empty text", emptyTextForBlockingRead, Modes::blocking},
+            {"empty text", emptyTextForAsynchronousRead, Modes::asynchronous},
+            {"text that does not parse", textThatDoesNotParse},
+            {"a number as reply", numberAsReply},
+            {"a map as reply", mapForBlockingRead, Modes::blocking},
+            {"a map as reply", mapForAsynchronousRead, Modes::asynchronous},
+            {"error reply of the first of three", firstOfThreeFails},
+            {"error reply of the last of three", lastOfThreeFails},
+            {"empty text of an optional source", emptyDefaultUnits, Modes::asynchronous},
+            {"text of the dependencies that does not parse", dependenciesThatDoNotParse},
+            {"replies one per step", repliesInOrder, Modes::asynchronous},
+            {"replies one per step in reverse order", repliesInReverseOrder, Modes::asynchronous},
+            {"error reply before an outstanding reply", errorBeforeAnOutstandingReply, Modes::asynchronous},
+            {"error reply after an outstanding reply", errorAfterAnOutstandingReply, Modes::asynchronous}};
 }
 
 QTEST_GUILESS_MAIN(LiveReplyTest)

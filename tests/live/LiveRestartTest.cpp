@@ -1,226 +1,222 @@
 #include <QtTest/QTest>
 
-#include "Lines.h"
+#include "Expected.h"
+#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Usual.h"
+#include "Stage.h"
 
-using namespace Lines;
-using namespace Steps;
+using namespace Expected;
+using namespace Fixtures;
 
-// Reset and destruction in each state, and new settings.
+// Reset and destruction in each state of the machine.
 class LiveRestartTest : public LiveTest
 {
     Q_OBJECT
 
 protected:
-    QList<Situation> situations() const override;
+    QList<Scenario> scenarios() const override;
 };
 
 namespace {
 
-const QStringList everyLevel{"wrapper", "connector", "machine"};
-// Between two checks that block, only these levels stand in any state but initial, idle and error.
-const QStringList everyStep{"asynchronous wrapper", "asynchronous connector", "machine"};
-// A wrapper that hears of changes by the event loop has left the initial state when it is built.
-const QStringList beforeTheFirstStep{"polled wrapper", "connector", "machine"};
+/// What is expected after a start has been brought to a state.
+struct Reached
+{
+    QStringList reads;        ///< so far
+    QStringList messages;     ///< so far
+    QStringList lateMessages; ///< when the application runs on
+    QString conversion = unconverted;
+    QStringList restart; ///< events of a start after a reset
+    QString restartConversion = inHectoPascal(2000);
+};
 
-/// A start that is brought to a state, with what was seen of it; from there the first replies may be held.
-/// With deferred entry the state runs in the step that enters it.
+/// A state, and the way to it from the construction of an application with all sources.
+///
+/// With immediate entry, the last state of the way has been entered but not been stepped yet. With deferred
+/// entry, a state is stepped when it is entered.
 struct Place
 {
     QString name;
-    QStringList modes;
-    World world;
-    Script way;
-    QStringList seen;
-    QStringList reads;                   ///< of the way
-    QStringList messages;                ///< of the way
-    QStringList lateMessages = {};       ///< of what was under way to the application and reaches it later
-    QStringList converted = {raw};       ///< by what the way has built
-    QStringList restart = {secondStart}; ///< what is seen of another start
-    QStringList restarted = {converts(2000)}; ///< by what that has built
+    std::function<bool(const Mode&)> runsIn;
+    std::function<Reached(Stage&, const Mode&)> reach;
 };
 
-/// Lines that are expected in the modes that fulfil @p condition.
-QStringList under(const char* condition, const QStringList& lines)
+bool everyLevel(const Mode& /*mode*/)
 {
-    QStringList conditional;
-    for (const QString& line : lines)
-        conditional.append(QStringLiteral("[%1] %2").arg(QLatin1String(condition), line));
-    return conditional;
+    return true;
 }
 
-/// The conversion after another start: with deferred entry the first answers have been read before it.
-QStringList convertsAfterReadState()
+bool asynchronous(const Mode& mode)
 {
-    return under("immediate", {converts(1000)}) + under("deferred", {converts(2000)});
+    return !mode.isBlocking;
 }
 
-World heldWorld()
+bool blockingMachine(const Mode& mode)
 {
-    return Usual::fullWorld({Answer::held(Documents::units(1000)), Usual::units(2000)},
-                            {Answer::held(Documents::dependencies("Pressure")), Usual::dependencies("Range")},
-                            {Answer::held(Documents::defaultUnits("Bar")), Usual::defaultUnits()});
+    return mode.isBlocking && mode.level == Mode::Machine;
+}
+
+// A blocking check of the wrapper or the connector ends in the initial, idle or error state.
+bool stopsInEveryState(const Mode& mode)
+{
+    return asynchronous(mode) || mode.level == Mode::Machine;
+}
+
+// A wrapper to which changes are delivered leaves the initial state in its constructor.
+bool startsInInitialState(const Mode& mode)
+{
+    return !mode.isWrapper() || mode.isPolled;
 }
 
 World plainWorld()
 {
-    return Usual::fullWorld({Usual::units(1000), Usual::units(2000)},
-                            {Usual::dependencies("Pressure"), Usual::dependencies("Range")});
+    return fullWorld({units(1000), units(2000)}, {dependencies("Pressure"), dependencies("Range")});
 }
 
-Place initial()
+World heldWorld()
 {
-    Place place{"the initial state", beforeTheFirstStep, plainWorld(), {}, {}, {}, {}};
-    // With deferred entry only the last of the selections is entered.
-    place.restart =
-        QStringList{"[immediate] until idle: {start} Initial {read} Update *changed Idle *initialized = true",
-                    "[deferred] " + secondStart};
-    place.restarted = QStringList{converts(1000)};
-    return place;
+    return fullWorld({Answer::held(Documents::units(1000)), units(2000)},
+                     {Answer::held(Documents::dependencies("Pressure")), dependencies("Range")},
+                     {Answer::held(Documents::defaultUnits("Bar")), defaultUnits()});
 }
 
-Place reading()
+void serveAndStart(Stage& stage, const World& world)
 {
-    Place place{"the blocking read",
-                {"blocking machine"},
-                plainWorld(),
-                {untilEntered("ReadConfigurationSynchron")},
-                {"until ReadConfigurationSynchron: {start} ReadConfigurationSynchron = true"},
-                under("deferred", firstReads),
-                {}};
-    place.restarted = convertsAfterReadState();
-    return place;
+    stage.serve(world);
+    stage.start(allSources);
 }
 
-Place startingToRead()
+Reached initial(Stage& stage, const Mode& mode)
 {
-    Place place{"the start of the reads",
-                {"asynchronous"},
-                plainWorld(),
-                {untilEntered("ReadConfigurationASynchron")},
-                {"until ReadConfigurationASynchron: {start} ReadConfigurationASynchron = true"},
-                under("deferred", firstReads),
-                {}};
-    place.restarted = convertsAfterReadState();
-    return place;
-}
-
-Place waiting()
-{
-    return {
-        "the wait for replies",
-        {"asynchronous"},
-        heldWorld(),
-        {untilEntered("WaitForReply"), checks(5)},
-        {"until WaitForReply: {start} ReadConfigurationASynchron WaitForReply = true", "5 checks: = 0 true"},
-        firstReads,
-        {}};
-}
-
-Place waitingForTheLast()
-{
-    return {
-        "the wait for the last reply",
-        {"asynchronous"},
-        heldWorld(),
-        {untilEntered("WaitForReply"), release(Sources::units()), release(Sources::dependencies()), check()},
-        {"until WaitForReply: {start} ReadConfigurationASynchron WaitForReply = true", "check: = false"},
-        firstReads,
-        {}};
-}
-
-Place updating()
-{
-    Place place{"the update",
-                everyStep,
-                plainWorld(),
-                {untilEntered("Update")},
-                {"until Update: {start} {read} Update = true"},
-                firstReads,
-                {}};
-    // With deferred entry the objects are built. A wrapper has not shared them yet: they are announced by the
-    // next step, which begins in the update state although it enters another one.
-    place.converted = under("immediate", {raw}) + under("deferred wrapper", {raw}) +
-                      under("deferred connector", {converts(1000)}) +
-                      under("deferred machine", {converts(1000)});
-    place.restart = QStringList{"[immediate] " + secondStart,
-                                "[deferred] until idle: *changed Initial {read} Update *changed Idle "
-                                "*initialized = true"};
-    return place;
-}
-
-Place idling()
-{
-    Place place{"the idle state", everyLevel, plainWorld(), {untilIdle()}, {firstStart}, firstReads, {}};
-    place.converted = QStringList{converts(1000)};
-    return place;
-}
-
-Place idlingWithAChange()
-{
-    Place place = idling();
-    place.name = "the idle state with a change announced";
-    place.way << change(Sources::units());
-    place.lateMessages = under("delivered", {unitsChanged});
-    return place;
-}
-
-Place failed()
-{
-    return {"the error state",
-            everyLevel,
-            Usual::fullWorld({Answer::of(Answer::Error), Usual::units(2000)}, {Usual::dependencies("Range")}),
-            {untilEntered("Error")},
-            {failedStart},
-            firstReads,
-            {"[blocking] " + unitsUnread}};
-}
-
-QList<Place> places()
-{
-    return {initial(),  reading(), startingToRead(),    waiting(), waitingForTheLast(),
-            updating(), idling(),  idlingWithAChange(), failed()};
-}
-
-/// Late replies of the calls that were given up; none is held at most places.
-const Script lateReplies{release(Sources::units()), release(Sources::dependencies()),
-                         release(Sources::defaultUnits())};
-
-Situation resetIn(const Place& place)
-{
-    // Nothing that was built gets lost, and what was announced needs no read of its own.
-    const QStringList unchanged{"[wrapper] changed: false", "[connector] changed: false"};
-    const QStringList changedOnce{"[wrapper] changed: true", "[connector] changed: true"};
-    return {"reset in " + place.name, place.world,
-            Script{start(Usual::allSources())} + place.way +
-                Script{reset(), changed(), convert(), untilIdle()} + Script{convert(), changed()} +
-                lateReplies + Script{untilSettled(), convert()},
-            place.seen + unchanged + place.converted + place.restart + place.restarted + changedOnce +
-                QStringList{"until settled: *initialized *initialized = true"} + place.restarted +
-                place.reads + firstReads + place.messages + place.lateMessages,
-            place.modes};
-}
-
-Situation destructionIn(const Place& place)
-{
-    QStringList kept = place.converted;
-    kept.replaceInStrings("convert: ", "kept: ");
+    serveAndStart(stage, plainWorld());
     // With deferred entry nothing is entered before the first step.
-    const QStringList end = place.way.isEmpty() ? QStringList{"[immediate] end: {start}"} : QStringList();
-    return {"destruction in " + place.name, place.world,
-            Script{start(Usual::allSources())} + place.way + Script{keep(), destroy(), Steps::kept()} +
-                lateReplies,
-            place.seen + kept + end + place.reads + place.messages, place.modes};
+    stage.expectEvents(mode.isDeferred ? QStringList() : construction(mode));
+    Reached reached{{}, {}, {}, unconverted, restart(mode)};
+    reached.restartConversion = inHectoPascal(1000);
+    return reached;
+}
+
+/// The start of the reads: with deferred entry, the state has sent them.
+Reached reading(Stage& stage, const Mode& mode)
+{
+    serveAndStart(stage, plainWorld());
+    stage.checkUntilEntered(construction(mode) + QStringList{read(mode).first()});
+    Reached reached{mode.isDeferred ? readAll : QStringList(), {}, {}, unconverted, restart(mode)};
+    reached.restartConversion = inHectoPascal(mode.isDeferred ? 2000 : 1000);
+    return reached;
+}
+
+Reached waiting(Stage& stage, const Mode& mode)
+{
+    serveAndStart(stage, heldWorld());
+    stage.checkUntilEntered(startUntilWaiting(mode));
+    stage.checkNotIdle({}, 5);
+    return {readAll, {}, {}, unconverted, restart(mode)};
+}
+
+Reached waitingForLastReply(Stage& stage, const Mode& mode)
+{
+    serveAndStart(stage, heldWorld());
+    stage.checkUntilEntered(startUntilWaiting(mode));
+    stage.release(Sources::units);
+    stage.release(Sources::dependencies);
+    stage.checkNotIdle({});
+    return {readAll, {}, {}, unconverted, restart(mode)};
+}
+
+// With deferred entry the objects have been built. A wrapper has not got them yet: the next step, which
+// begins in the update state although it enters another one, announces them.
+Reached updating(Stage& stage, const Mode& mode)
+{
+    serveAndStart(stage, plainWorld());
+    stage.checkUntilEntered(construction(mode) + read(mode) + QStringList{State::update});
+    if (!mode.isDeferred)
+        return {readAll, {}, {}, unconverted, restart(mode)};
+    return {readAll,
+            {},
+            {},
+            mode.isWrapper() ? unconverted : inHectoPascal(1000),
+            QStringList{Signal::configurationChanged} + restart(mode)};
+}
+
+Reached idling(Stage& stage, const Mode& mode)
+{
+    serveAndStart(stage, plainWorld());
+    stage.checkUntilIdle(firstStart(mode));
+    return {readAll, {}, {}, inHectoPascal(1000), restart(mode)};
+}
+
+Reached idlingWithChange(Stage& stage, const Mode& mode)
+{
+    Reached reached = idling(stage, mode);
+    stage.announce(Sources::units);
+    reached.lateMessages = onlyIf(!mode.isPolled, unitsChanged);
+    return reached;
+}
+
+Reached failed(Stage& stage, const Mode& mode)
+{
+    serveAndStart(stage, fullWorld({Answer::error(), units(2000)}, {dependencies("Range")}));
+    stage.checkUntilEntered(failedStart(mode));
+    return {readAll, onlyIf(mode.isBlocking, unitsUnread), {}, unconverted, restart(mode)};
+}
+
+/// Late replies to the calls that were given up; at most places there are none.
+void releaseAll(Stage& stage)
+{
+    stage.release(Sources::units);
+    stage.release(Sources::dependencies);
+    stage.release(Sources::defaultUnits);
+}
+
+// The objects that were built remain until others replace them, and an announced change needs no read of its
+// own.
+void resetIn(const Place& place, Stage& stage, const Mode& mode)
+{
+    const Reached reached = place.reach(stage, mode);
+    stage.reset();
+    stage.expectUnchanged();
+    stage.expectConversion(reached.conversion);
+    stage.checkUntilIdle(reached.restart);
+    stage.expectConversion(reached.restartConversion);
+    stage.expectChanged();
+    releaseAll(stage);
+    stage.checkUntilSettled(remainsIdle);
+    stage.expectConversion(reached.restartConversion);
+    stage.finish(reached.reads + readAll, reached.messages + reached.lateMessages);
+}
+
+void destructionIn(const Place& place, Stage& stage, const Mode& mode)
+{
+    const Reached reached = place.reach(stage, mode);
+    stage.keepUnits();
+    stage.destroy();
+    stage.expectKept({reached.conversion});
+    releaseAll(stage);
+    stage.finish(reached.reads, reached.messages);
 }
 
 } // namespace
 
-QList<Situation> LiveRestartTest::situations() const
+QList<Scenario> LiveRestartTest::scenarios() const
 {
-    QList<Situation> list;
-    for (const Place& place : places())
-        list << resetIn(place) << destructionIn(place);
+    const QList<Place> places{{"the initial state", startsInInitialState, initial},
+                              {"the blocking read", blockingMachine, reading},
+                              {"the start of the reads", asynchronous, reading},
+                              {"the wait for replies", asynchronous, waiting},
+                              {"the wait for the last reply", asynchronous, waitingForLastReply},
+                              {"the update", stopsInEveryState, updating},
+                              {"the idle state", everyLevel, idling},
+                              {"the idle state with a change announced", everyLevel, idlingWithChange},
+                              {"the error state", everyLevel, failed}};
+    QList<Scenario> list;
+    for (const Place& place : places) {
+        list.append({"reset in " + place.name,
+                     [place](Stage& stage, const Mode& mode) { resetIn(place, stage, mode); }, place.runsIn});
+        list.append({"destruction in " + place.name,
+                     [place](Stage& stage, const Mode& mode) { destructionIn(place, stage, mode); },
+                     place.runsIn});
+    }
     return list;
 }
 

@@ -1,139 +1,163 @@
 #include <QtTest/QTest>
 
-#include "Lines.h"
+#include "Expected.h"
+#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Usual.h"
+#include "Stage.h"
 
-using namespace Lines;
-using namespace Steps;
+using namespace Expected;
+using namespace Fixtures;
 
-// Initialisation with other names while the library is at work.
+// Initialisation with other sources while the library is running.
 class LiveSettingsTest : public LiveTest
 {
     Q_OBJECT
 
 protected:
-    QList<Situation> situations() const override;
+    QList<Scenario> scenarios() const override;
 };
 
 namespace {
 
-const QString readOther = QStringLiteral(
-    "read DeviceManager/OtherConfiguration getConfiguration(UnitManager/OtherDefaultUnit, UnitManager, )");
+const Settings otherDefaultUnitSettings{Sources::dependencies, Sources::otherDefaultUnits};
 
-/// The wrapper drops at once what it has; the connector's own objects survive until others are built.
-const QStringList droppedByWrapper{"[wrapper] " + raw, "[connector] " + converts(1000)};
+const Source otherDefaultUnitSource{Sources::otherDefaultUnits,
+                                    {defaultUnits("Bar"), defaultUnits("HectoPascal")}};
 
-World worldWithOtherDefaultUnits()
+QString notDisconnected(const char* object)
 {
-    World world = Usual::changingWorld();
-    world.sources << Source{Sources::otherDefaultUnits(),
-                            {Usual::defaultUnits("Bar"), Usual::defaultUnits("HectoPascal")}};
-    return world;
+    return QStringLiteral("warning Unable to disconnect connection \"%1\"").arg(QLatin1String(object));
 }
 
-// Subscriptions are closed under the new names, which leaves the old one; what it brings has the wrong name.
-Situation otherNames()
+/// The wrapper releases its objects immediately; the connector keeps its own until others are built.
+QString conversionAfterInit(const Mode& mode)
 {
-    return Usual::afterStart(
-        "init with other names", worldWithOtherDefaultUnits(),
-        {init({Sources::dependencies(), Sources::otherDefaultUnits()}), convert(), changed(), untilIdle(),
-         convert(), changed(), kept(), change(Sources::defaultUnits()), untilSettled(),
-         change(Sources::otherDefaultUnits()), untilChanged(), convert(), kept()},
-        droppedByWrapper +
-            QStringList{"changed: false", secondStart, "convert: usable: 4000 HectoPascal, 2 bar by default",
-                        "changed: true", keptConverts(1000), quiet, takenUp, converts(2000),
-                        keptConverts(1000)} +
-            firstReads + QStringList{readUnits, readDependencies, readOther, readOther} +
-            QStringList{"[delivered] warning Unable to disconnect connection \"OtherConfiguration\"",
-                        defaultUnitsChanged});
+    return mode.isWrapper() ? unconverted : inHectoPascal(1000);
 }
 
-// The connector's dependencies survive, too, because nothing new takes their place.
-Situation fewerSources()
+// init() unsubscribes with the new names, so that the old subscription remains. The old name in its signals
+// is then ignored.
+void otherNames(Stage& stage, const Mode& mode)
 {
-    return Usual::afterStart("init with the mandatory source alone", Usual::changingWorld(),
-                             {init(Usual::unitsOnly()), convert(), untilIdle(), convert(), dependents(),
-                              changed(), change(Sources::defaultUnits()), change(Sources::dependencies()),
-                              untilSettled(), change(Sources::units()), untilChanged(), convert(), kept()},
-                             droppedByWrapper +
-                                 QStringList{secondStart, convertsWithoutDefault(2000),
-                                             "[connector] dependents: Pressure", "changed: true", quiet,
-                                             takenUp, convertsWithoutDefault(2000), keptConverts(1000)} +
-                                 firstReads + QStringList{readUnits, readUnits, unitsChanged});
+    stage.startAllSources(changingWorld() << otherDefaultUnitSource);
+    stage.init(otherDefaultUnitSettings);
+    stage.expectConversion(conversionAfterInit(mode));
+    stage.expectUnchanged();
+    stage.checkUntilIdle(restart(mode));
+    stage.expectConversion(inBar(2000));
+    stage.expectChanged();
+    stage.expectKept({inHectoPascal(1000)});
+    stage.announce(Sources::defaultUnits);
+    stage.checkUntilSettled(remainsIdle);
+    stage.announce(Sources::otherDefaultUnits);
+    stage.checkUntilChanged(reload(mode));
+    stage.expectConversion(inHectoPascal(2000));
+    stage.expectKept({inHectoPascal(1000)});
+    stage.finish(
+        readAll + QStringList{readUnits, readDependencies, readOtherDefaultUnits, readOtherDefaultUnits},
+        onlyIf(!mode.isPolled, notDisconnected("OtherConfiguration")) + QStringList{defaultUnitsChanged});
 }
 
-Situation moreSources()
+// The connector keeps its dependencies too, because no new ones replace them.
+void fewerSources(Stage& stage, const Mode& mode)
 {
-    return {"init with more sources",
-            Usual::changingWorld(),
-            {start(Usual::unitsOnly()), untilIdle(), convert(), dependents(), changed(),
-             init(Usual::allSources()), changed(), untilIdle(), convert(), dependents(), changed(),
-             change(Sources::dependencies()), untilChanged(), dependents()},
-            QStringList{firstStart, convertsWithoutDefault(1000), "[connector] dependents: none",
-                        "changed: true", "changed: false", secondStart, converts(2000),
-                        "[connector] dependents: Pressure", "changed: true", takenUp,
-                        "[connector] dependents: Range", readUnits} +
-                firstReads + QStringList{readDependencies, dependenciesChanged}};
+    stage.startAllSources(changingWorld());
+    stage.init(unitsOnly);
+    stage.expectConversion(conversionAfterInit(mode));
+    stage.checkUntilIdle(restart(mode));
+    stage.expectConversion(inBar(2000));
+    stage.expectDependents("Pressure");
+    stage.expectChanged();
+    stage.announce(Sources::defaultUnits);
+    stage.announce(Sources::dependencies);
+    stage.checkUntilSettled(remainsIdle);
+    stage.announce(Sources::units);
+    stage.checkUntilChanged(reload(mode));
+    stage.expectConversion(inBar(2000));
+    stage.expectKept({inHectoPascal(1000)});
+    stage.finish(readAll + QStringList{readUnits, readUnits}, {unitsChanged});
 }
 
-Situation whileRepliesAreOutstanding()
+void moreSources(Stage& stage, const Mode& mode)
 {
-    World world = worldWithOtherDefaultUnits();
-    world.sources.first().answers = {Answer::held(Documents::units(1000)), Usual::units(2000)};
-    return {"init while a reply is outstanding",
-            world,
-            {start(Usual::allSources()), untilEntered("WaitForReply"), checks(5),
-             init({Sources::dependencies(), Sources::otherDefaultUnits()}), release(Sources::units()),
-             convert(), changed(), untilIdle(), convert(), changed()},
-            QStringList{"until WaitForReply: {start} ReadConfigurationASynchron WaitForReply = true",
-                        "5 checks: = 0 true", raw, "changed: false", secondStart,
-                        "convert: usable: 4000 HectoPascal, 2 bar by default", "changed: true"} +
-                firstReads + QStringList{readUnits, readDependencies, readOther} +
-                QStringList{"[delivered] warning Unable to disconnect connection \"OtherConfiguration\""},
-            {"asynchronous wrapper", "asynchronous connector"}};
+    stage.serve(changingWorld());
+    stage.start(unitsOnly);
+    stage.checkUntilIdle(firstStart(mode));
+    stage.expectConversion(inBar(1000));
+    stage.expectDependents("none");
+    stage.expectChanged();
+    stage.init(allSources);
+    stage.expectUnchanged();
+    stage.checkUntilIdle(restart(mode));
+    stage.expectConversion(inHectoPascal(2000));
+    stage.expectDependents("Pressure");
+    stage.expectChanged();
+    stage.announce(Sources::dependencies);
+    stage.checkUntilChanged(reload(mode));
+    stage.expectDependents("Range");
+    stage.finish(QStringList{readUnits} + readAll + QStringList{readDependencies}, {dependenciesChanged});
 }
 
-// Whoever asks for the change that is still noted gets the old objects back.
-Situation withANotedChange()
+void initWithOutstandingReply(Stage& stage, const Mode& mode)
 {
-    return {"init with a change that nobody has asked for",
-            Usual::changingWorld(),
-            {start(Usual::allSources()), untilIdle(), init(Usual::allSources()), convert(), changed(),
-             convert(), changed(), untilIdle(), convert(), changed()},
-            QStringList{firstStart} + droppedByWrapper +
-                QStringList{"changed: true", converts(1000), "changed: false", secondStart,
-                            "convert: usable: 4000 HectoPascal, 2 bar by default", "changed: true"} +
-                firstReads + firstReads};
+    stage.serve(changingWorld({Answer::held(Documents::units(1000)), units(2000)}) << otherDefaultUnitSource);
+    stage.start(allSources);
+    stage.checkUntilEntered(startUntilWaiting(mode));
+    stage.checkNotIdle({}, 5);
+    stage.init(otherDefaultUnitSettings);
+    stage.release(Sources::units);
+    stage.expectConversion(unconverted);
+    stage.expectUnchanged();
+    stage.checkUntilIdle(restart(mode));
+    stage.expectConversion(inBar(2000));
+    stage.expectChanged();
+    stage.finish(readAll + QStringList{readUnits, readDependencies, readOtherDefaultUnits},
+                 onlyIf(!mode.isPolled, notDisconnected("OtherConfiguration")));
 }
 
-Situation withASourceThatIsDown()
+// The query for the earlier change returns the old objects.
+void initWithUnqueriedChange(Stage& stage, const Mode& mode)
 {
-    World world = Usual::changingWorld();
-    world.sources << Source{Sources::remoteDefaultUnits(), {Usual::defaultUnits("Bar")}};
-    world.absentModules << "DefaultUnitManager";
-    const QString warning = "warning Connection Error to optional file type \"UnitManager/DefaultUnit\"";
-    return Usual::afterStart(
-        "init with a source that is down", world,
-        {init({Sources::dependencies(), Sources::remoteDefaultUnits()}), check(), convert(),
-         startModule("DefaultUnitManager"), untilIdle(), convert(), changed()},
-        QStringList{"check: Initial = false"} + droppedByWrapper +
-            QStringList{"until idle: {read} Update *changed Idle *initialized = true",
-                        "convert: usable: 4000 HectoPascal, 2 bar by default", "changed: true"} +
-            firstReads +
-            QStringList{readUnits, readDependencies,
-                        "read DefaultUnitManager/DefaultUnitConfiguration "
-                        "getConfiguration(UnitManager/DefaultUnit, UnitManager, )",
-                        "[delivered] warning Unable to disconnect connection \"DefaultUnitConfiguration\"",
-                        "[blocking] 100 x " + warning, "[asynchronous] " + warning});
+    stage.serve(changingWorld());
+    stage.start(allSources);
+    stage.checkUntilIdle(firstStart(mode));
+    stage.init(allSources);
+    stage.expectConversion(conversionAfterInit(mode));
+    stage.expectChanged();
+    stage.expectConversion(inHectoPascal(1000));
+    stage.expectUnchanged();
+    stage.checkUntilIdle(restart(mode));
+    stage.expectConversion(inBar(2000));
+    stage.expectChanged();
+    stage.finish(readAll + readAll);
+}
+
+void initWithMissingModule(Stage& stage, const Mode& mode)
+{
+    stage.startAllSources(changingWorld() << Source{Sources::remoteDefaultUnits, {defaultUnits("Bar")}},
+                          Modules::defaultUnitManager);
+    stage.init({Sources::dependencies, Sources::remoteDefaultUnits});
+    stage.checkNotIdle({State::initial});
+    stage.expectConversion(conversionAfterInit(mode));
+    stage.startModule(Modules::defaultUnitManager);
+    stage.checkUntilIdle(read(mode) + update);
+    stage.expectConversion(inBar(2000));
+    stage.expectChanged();
+    stage.finish(readAll + QStringList{readUnits, readDependencies, readRemoteDefaultUnits},
+                 onlyIf(!mode.isPolled, notDisconnected("DefaultUnitConfiguration")) +
+                     QStringList{Recorder::repeated(mode.isBlocking ? 100 : 1, defaultUnitsUnreachable)});
 }
 
 } // namespace
 
-QList<Situation> LiveSettingsTest::situations() const
+QList<Scenario> LiveSettingsTest::scenarios() const
 {
-    return {otherNames(),       fewerSources(),         moreSources(), whileRepliesAreOutstanding(),
-            withANotedChange(), withASourceThatIsDown()};
+    return {{"init with other names", otherNames},
+            {"init with the mandatory source alone", fewerSources},
+            {"init with more sources", moreSources},
+            {"init while a reply is outstanding", initWithOutstandingReply, Modes::asynchronous},
+            {"init with a change that has not been queried", initWithUnqueriedChange},
+            {"init with a source that is down", initWithMissingModule}};
 }
 
 QTEST_GUILESS_MAIN(LiveSettingsTest)

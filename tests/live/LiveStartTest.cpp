@@ -1,139 +1,146 @@
 #include <QtTest/QTest>
 
-#include "Lines.h"
+#include "Expected.h"
+#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Usual.h"
+#include "Stage.h"
 
-using namespace Lines;
-using namespace Steps;
+using namespace Expected;
+using namespace Fixtures;
 
-// From the construction to a unit manager, with all that may be missing on the way.
+// From the construction to a usable unit manager, also when parts of the service are missing.
 class LiveStartTest : public LiveTest
 {
     Q_OBJECT
 
 protected:
-    QList<Situation> situations() const override;
+    QList<Scenario> scenarios() const override;
 };
 
 namespace {
 
-Situation allThreeSources()
+void threeSources(Stage& stage, const Mode& mode)
 {
-    return {"all three sources",
-            Usual::fullWorld(),
-            {start(Usual::allSources()), convert(), untilIdle(), convert(), dependents(), changed(),
-             changed(), untilSettled()},
-            {"[blocking delivered wrapper] " + converts(1000), "[asynchronous delivered wrapper] " + raw,
-             "[polled wrapper] " + raw, "[connector] " + raw, firstStart, converts(1000),
-             "[connector] dependents: Pressure", "changed: true", "changed: false", quiet, readUnits,
-             readDependencies, readDefaultUnits}};
+    stage.serve(fullWorld());
+    stage.start(allSources);
+    const bool startsInConstructor = mode.isWrapper() && mode.isBlocking && !mode.isPolled;
+    stage.expectConversion(startsInConstructor ? inHectoPascal(1000) : unconverted);
+    stage.checkUntilIdle(firstStart(mode));
+    stage.expectConversion(inHectoPascal(1000));
+    stage.expectDependents("Pressure");
+    stage.expectChanged();
+    stage.expectUnchanged();
+    stage.checkUntilSettled(remainsIdle);
+    stage.finish(readAll);
 }
 
-Situation onlyTheMandatorySource()
+void onlyTheMandatorySource(Stage& stage, const Mode& mode)
 {
-    return {"only the mandatory source",
-            Usual::fullWorld(),
-            {start(Usual::unitsOnly()), untilIdle(), convert(), dependents(), changed(), changed()},
-            {firstStart, convertsWithoutDefault(1000), "[connector] dependents: none", "changed: true",
-             "changed: false", readUnits}};
+    stage.serve(fullWorld());
+    stage.start(unitsOnly);
+    stage.checkUntilIdle(firstStart(mode));
+    stage.expectConversion(inBar(1000));
+    stage.expectDependents("none");
+    stage.expectChanged();
+    stage.expectUnchanged();
+    stage.finish({readUnits});
 }
 
-Situation oneOptionalSource()
+void startWithoutDependencies(Stage& stage, const Mode& mode, const SourceName& dependencySource)
 {
-    return {
-        "no dependencies configured",
-        Usual::fullWorld(),
-        {start({Sources::none(), Sources::defaultUnits()}), untilIdle(), convert(), dependents(), changed()},
-        {firstStart, converts(1000), "[connector] dependents: none", "changed: true", readUnits,
-         readDefaultUnits}};
+    stage.serve(fullWorld());
+    stage.start({dependencySource, Sources::defaultUnits});
+    stage.checkUntilIdle(firstStart(mode));
+    stage.expectConversion(inHectoPascal(1000));
+    stage.expectDependents("none");
+    stage.expectChanged();
+    stage.finish({readUnits, readDefaultUnits});
 }
 
-Situation optionalSourceWithoutAName()
+void noDependencies(Stage& stage, const Mode& mode)
 {
-    const SourceName unnamed{"DeviceManager", "DependencyConfiguration", ""};
-    return {"an optional source with an empty name",
-            Usual::fullWorld(),
-            {start({unnamed, Sources::defaultUnits()}), untilIdle(), convert(), dependents(), changed()},
-            {firstStart, converts(1000), "[connector] dependents: none", "changed: true", readUnits,
-             readDefaultUnits}};
+    startWithoutDependencies(stage, mode, Sources::none);
 }
 
-Situation noBus()
+void optionalSourceWithoutName(Stage& stage, const Mode& mode)
 {
-    World world;
-    world.hasBus = false;
-    return {"no bus",
-            world,
-            {start(Usual::allSources()), check(), convert(), check(), changed()},
-            QStringList{"check: {start} = false", raw, "check: = false", "changed: false"} +
-                perAttempt(2, unitsUnreachable)};
+    startWithoutDependencies(stage, mode, {"DeviceManager", "DependencyConfiguration", ""});
 }
 
-Situation busWithoutService()
+void checkTwiceInVain(Stage& stage, const Mode& mode)
 {
-    return {"bus without service",
-            World(),
-            {start(Usual::allSources()), check(), convert(), check(), changed()},
-            QStringList{"check: {start} = false", raw, "check: = false", "changed: false"} +
-                perAttempt(2, unitsUnreachable)};
+    stage.start(allSources);
+    stage.checkNotIdle(construction(mode));
+    stage.expectConversion(unconverted);
+    stage.checkNotIdle({});
+    stage.expectUnchanged();
+    stage.finish({}, {perAttempt(mode, 2, unitsUnreachable)});
 }
 
-Situation serviceThatAppearsLater()
+void noBus(Stage& stage, const Mode& mode)
 {
-    World world = Usual::fullWorld();
-    world.absentModules << "DeviceManager";
-    return {"service that appears later",
-            world,
-            {start(Usual::allSources()), check(), convert(), startModule("DeviceManager"), untilIdle(),
-             convert(), changed()},
-            QStringList{"check: {start} = false", raw,
-                        "until idle: {read} Update *changed Idle *initialized = true", converts(1000),
-                        "changed: true", readUnits, readDependencies, readDefaultUnits} +
-                perAttempt(1, unitsUnreachable)};
+    stage.withoutBus();
+    checkTwiceInVain(stage, mode);
 }
 
-Situation serviceWithoutTheObject()
+void busWithoutService(Stage& stage, const Mode& mode)
 {
-    World world;
-    world.sources << Source{Sources::dependencies(), {Usual::dependencies()}};
-    return {"service without the object",
-            world,
-            {start(Usual::unitsOnly()), untilEntered("Error"), convert(), untilEntered("Error"), changed()},
-            {"until Error: {start} {read} Error = true", raw, "until Error: Initial {read} Error = true",
-             "changed: false", "[blocking] 2 x " + unitsUnread}};
+    checkTwiceInVain(stage, mode);
 }
 
-Situation optionalSourceDown()
+/// A start in which one module of the service is missing until after the first check.
+void startWithLateModule(Stage& stage, const Mode& mode, const Settings& settings, const QString& module)
 {
-    World world = Usual::fullWorld();
-    world.sources << Source{Sources::remoteDefaultUnits(), {Usual::defaultUnits()}};
-    world.absentModules << "DefaultUnitManager";
-    return {"an optional source down, which appears later",
-            world,
-            {start({Sources::dependencies(), Sources::remoteDefaultUnits()}), check(), convert(),
-             startModule("DefaultUnitManager"), untilIdle(), convert(), changed()},
-            QStringList{"check: {start} = false", raw,
-                        "until idle: {read} Update *changed Idle *initialized = true", converts(1000),
-                        "changed: true", readUnits, readDependencies,
-                        "read DefaultUnitManager/DefaultUnitConfiguration "
-                        "getConfiguration(UnitManager/DefaultUnit, UnitManager, )"} +
-                perAttempt(1, "warning Connection Error to optional file type \"UnitManager/DefaultUnit\"")};
+    stage.start(settings);
+    stage.checkNotIdle(construction(mode));
+    stage.expectConversion(unconverted);
+    stage.startModule(module);
+    stage.checkUntilIdle(read(mode) + update);
+    stage.expectConversion(inHectoPascal(1000));
+    stage.expectChanged();
+}
+
+void serviceAppearsLater(Stage& stage, const Mode& mode)
+{
+    stage.serve(fullWorld(), Modules::deviceManager);
+    startWithLateModule(stage, mode, allSources, Modules::deviceManager);
+    stage.finish(readAll, {perAttempt(mode, 1, unitsUnreachable)});
+}
+
+void serviceWithoutTheObject(Stage& stage, const Mode& mode)
+{
+    stage.serve({{Sources::dependencies, {dependencies()}}});
+    stage.start(unitsOnly);
+    stage.checkUntilEntered(failedStart(mode));
+    stage.expectConversion(unconverted);
+    stage.checkUntilEntered(QStringList{State::initial} + read(mode) + QStringList{State::error});
+    stage.expectUnchanged();
+    stage.finish({}, onlyIf(mode.isBlocking, Recorder::repeated(2, unitsUnread)));
+}
+
+void optionalSourceAppearsLater(Stage& stage, const Mode& mode)
+{
+    stage.serve(fullWorld() << Source{Sources::remoteDefaultUnits, {defaultUnits()}},
+                Modules::defaultUnitManager);
+    startWithLateModule(stage, mode, {Sources::dependencies, Sources::remoteDefaultUnits},
+                        Modules::defaultUnitManager);
+    stage.finish({readUnits, readDependencies, readRemoteDefaultUnits},
+                 {perAttempt(mode, 1, defaultUnitsUnreachable)});
 }
 
 } // namespace
 
-QList<Situation> LiveStartTest::situations() const
+QList<Scenario> LiveStartTest::scenarios() const
 {
-    return {allThreeSources(),
-            onlyTheMandatorySource(),
-            oneOptionalSource(),
-            optionalSourceWithoutAName(),
-            noBus(),
-            busWithoutService(),
-            serviceThatAppearsLater(),
-            serviceWithoutTheObject(),
-            optionalSourceDown()};
+    return {{"all three sources", threeSources},
+            {"only the mandatory source", onlyTheMandatorySource},
+            {"no dependencies configured", noDependencies},
+            {"an optional source with an empty name", optionalSourceWithoutName},
+            {"no bus", noBus},
+            {"bus without service", busWithoutService},
+            {"service that appears later", serviceAppearsLater},
+            {"service without the object", serviceWithoutTheObject},
+            {"an optional source down, which appears later", optionalSourceAppearsLater}};
 }
 
 QTEST_GUILESS_MAIN(LiveStartTest)

@@ -3,57 +3,45 @@
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtTest/QTest>
 
-#include <algorithm>
-
 #include "Stage.h"
 
 namespace {
 
-Mode::Changes changesOfProcess()
+bool isPolledProcess()
 {
-    return qgetenv("LIVE_CHANGES") == "Polled" ? Mode::Polled : Mode::Delivered;
+    return qgetenv("LIVE_CHANGES") == "Polled";
 }
 
-Mode::Entry entryOfProcess()
+bool isDeferredProcess()
 {
-    return qgetenv("LIVE_ENTRY") == "Deferred" ? Mode::Deferred : Mode::Immediate;
+    return qgetenv("LIVE_ENTRY") == "Deferred";
 }
 
 /// The modes of this process.
 QList<Mode> modes()
 {
     QList<Mode> list;
-    for (const Mode::Reading reading : {Mode::Blocking, Mode::Asynchronous}) {
+    for (const bool isBlocking : {true, false}) {
         for (const Mode::Level level : {Mode::Wrapper, Mode::Connector, Mode::Machine})
-            list.append({reading, changesOfProcess(), level, entryOfProcess()});
+            list.append({isBlocking, isPolledProcess(), level, isDeferredProcess()});
     }
     return list;
 }
 
-bool isPlayedIn(const Situation& situation, const Mode& mode)
+/// Runs a scenario up to its first failure.
+/// @return the message of the failure; empty if there is none.
+QString run(const Scenario& scenario, const Mode& mode, const QString& address)
 {
-    return std::any_of(situation.modes.begin(), situation.modes.end(),
-                       [&mode](const QString& condition) { return mode.fulfils(condition); });
-}
-
-/// Both records in full; nothing when they are the same.
-QStringList difference(const QStringList& actual, const QStringList& expected)
-{
-    if (actual == expected)
-        return {};
-    QStringList text;
-    const int lineCount = std::max(actual.size(), expected.size());
-    for (int i = 0; i < lineCount; ++i) {
-        if (actual.value(i) == expected.value(i)) {
-            text.append(QLatin1String("    ") + actual.at(i));
-            continue;
-        }
-        if (i < expected.size())
-            text.append(QLatin1String("  - ") + expected.at(i));
-        if (i < actual.size())
-            text.append(QLatin1String("  + ") + actual.at(i));
+    try {
+        Stage stage(mode, address);
+        scenario.run(stage, mode);
+        return stage.isFinished() ? QString() : QStringLiteral("the scenario does not call finish()");
+    } catch (const ScenarioFailure& failure) {
+        // One message per line, because QtTest truncates long ones.
+        for (const QString& line : failure.difference)
+            qWarning("%s", qPrintable(line));
+        return failure.step + QLatin1String(": lines differ (- expected, + seen)");
     }
-    return text;
 }
 
 } // namespace
@@ -65,42 +53,29 @@ void LiveTest::initTestCase()
             [this] { ++m_eventLoopRuns; });
 }
 
-void LiveTest::situation_data()
+void LiveTest::scenario_data()
 {
-    QTest::addColumn<Situation>("situation");
+    QTest::addColumn<Scenario>("scenario");
     QTest::addColumn<Mode>("mode");
-    for (const Situation& situation : situations()) {
+    for (const Scenario& scenario : scenarios()) {
         for (const Mode& mode : modes()) {
-            if (isPlayedIn(situation, mode))
-                QTest::addRow("%s, %s", qPrintable(situation.name),
-                              qPrintable(mode.words().join(QLatin1Char(' '))))
-                    << situation << mode;
+            if (scenario.runsIn(mode))
+                QTest::addRow("%s, %s", qPrintable(scenario.name), qPrintable(mode.name()))
+                    << scenario << mode;
         }
     }
 }
 
-void LiveTest::situation()
+void LiveTest::scenario()
 {
-    QFETCH(Situation, situation);
+    QFETCH(Scenario, scenario);
     QFETCH(Mode, mode);
-
-    QStringList record;
-    {
-        const PrivateBus& bus = situation.world.hasBus ? m_bus : m_neverStartedBus;
-        Stage stage(mode, bus.address(), situation.world);
-        for (const Step& step : qAsConst(situation.script))
-            step(stage);
-        record = stage.takeRecord();
-    }
-    const QStringList lines = difference(record, mode.expected(situation.record));
-    // Line by line, because the message of a failure is cut.
-    for (const QString& line : lines)
-        qWarning("%s", qPrintable(line));
-    QVERIFY2(lines.isEmpty(), "the record differs (- expected, + seen)");
+    const QString failure = run(scenario, mode, m_bus.address());
+    QVERIFY2(failure.isEmpty(), qPrintable(failure));
 }
 
 void LiveTest::cleanupTestCase()
 {
-    // That event loops are noticed is shown by the processes in which they run.
-    QCOMPARE(m_eventLoopRuns > 0, changesOfProcess() == Mode::Delivered);
+    // The processes that do run an event loop show that the count works.
+    QCOMPARE(m_eventLoopRuns > 0, !isPolledProcess());
 }

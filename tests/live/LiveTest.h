@@ -3,32 +3,29 @@
 #include <QtCore/QList>
 #include <QtCore/QObject>
 
-#include "Mode.h"
 #include "PrivateBus.h"
-#include "Situation.h"
+#include "Scenario.h"
 
-/// The frame of the tests that play situations on a bus of their own: each situation in every mode that it is
-/// meant for.
+/// Base of the tests that run the whole library on a private bus: each scenario in each of its modes.
 ///
-/// How changes are heard of and when states are entered is fixed for a process, so that where changes are
-/// polled no event loop has ever run in it. The environment names both: LIVE_CHANGES is "Delivered" or
-/// "Polled", LIVE_ENTRY is "Immediate" or "Deferred". Deferred entry needs the state machine that does so in
-/// place of the platform's.
+/// Two properties of the mode are the same for the whole process, so that a process that polls changes never
+/// runs an event loop. The environment sets them: LIVE_CHANGES is "Delivered" or "Polled", LIVE_ENTRY is
+/// "Immediate" or "Deferred". Deferred entry needs the state machine of the folder `machine` instead of the
+/// platform's.
 class LiveTest : public QObject
 {
     Q_OBJECT
 
 protected:
-    virtual QList<Situation> situations() const = 0;
+    virtual QList<Scenario> scenarios() const = 0;
 
 private Q_SLOTS:
     void initTestCase();
-    void situation_data();
-    void situation();
+    void scenario_data();
+    void scenario();
     void cleanupTestCase();
 
 private:
     PrivateBus m_bus;
-    PrivateBus m_neverStartedBus;
     int m_eventLoopRuns = 0;
 };

@@ -1,52 +1,26 @@
 #include "Mode.h"
 
-#include <QtCore/QRegularExpression>
+namespace {
 
-QStringList Mode::words() const
+QString levelName(Mode::Level level)
 {
-    static const char* const readings[] = {"blocking", "asynchronous"};
-    static const char* const changeWays[] = {"delivered", "polled"};
-    static const char* const levels[] = {"wrapper", "connector", "machine"};
-    static const char* const entries[] = {"immediate", "deferred"};
-    return {QLatin1String(readings[reading]), QLatin1String(changeWays[changes]),
-            QLatin1String(levels[level]), QLatin1String(entries[entry])};
-}
-
-bool Mode::fulfils(const QString& condition) const
-{
-    const QStringList own = words();
-    for (const QString& word : condition.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        if (!own.contains(word))
-            return false;
+    switch (level) {
+    case Mode::Wrapper:
+        return QStringLiteral("wrapper");
+    case Mode::Connector:
+        return QStringLiteral("connector");
+    case Mode::Machine:
+        return QStringLiteral("machine");
     }
-    return true;
+    return {};
 }
 
-QStringList Mode::expected(const QStringList& description) const
-{
-    static const QRegularExpression conditional(QStringLiteral("^\\[([a-z ]*)\\] (.*)$"));
-    QStringList lines;
-    for (const QString& line : description) {
-        const QRegularExpressionMatch match = conditional.match(line);
-        if (!match.hasMatch())
-            lines.append(expectedLine(line));
-        else if (fulfils(match.captured(1)))
-            lines.append(expectedLine(match.captured(2)));
-    }
-    return lines;
-}
+} // namespace
 
-QString Mode::expectedLine(QString text) const
+QString Mode::name() const
 {
-    static const QRegularExpression signalName(QStringLiteral("\\*\\w+"));
-    text.replace(QLatin1String("{start}"),
-                 QLatin1String(entry == Immediate ? "Initial Initial Initial" : "Initial"));
-    text.replace(QLatin1String("{read}"),
-                 QLatin1String(reading == Blocking ? "ReadConfigurationSynchron"
-                                                   : "ReadConfigurationASynchron WaitForReply"));
-    // A machine that enters states late still idles after the step that finds a change.
-    text.replace(QLatin1String("{noticed}"), QLatin1String(entry == Immediate ? "" : "*initialized"));
-    if (level != Connector)
-        text.remove(signalName);
-    return text.simplified();
+    return QStringLiteral("%1 %2 %3 %4")
+        .arg(isBlocking ? QLatin1String("blocking") : QLatin1String("asynchronous"),
+             isPolled ? QLatin1String("polled") : QLatin1String("delivered"), levelName(level),
+             isDeferred ? QLatin1String("deferred") : QLatin1String("immediate"));
 }

@@ -2,59 +2,31 @@
 
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
-#include <QtCore/QStringList>
 
-/// In which way a situation is played.
+/// How a scenario runs.
 struct Mode
 {
-    /// How configurations are read.
-    enum Reading
-    {
-        Blocking,
-        Asynchronous
-    };
-    /// How changes are heard of; with polled ones no event loop ever runs.
-    enum Changes
-    {
-        Delivered,
-        Polled
-    };
-    /// What the application holds: the wrapper as devices do, the connector alone, or only its state machine,
-    /// which it steps itself.
+    /// What the application holds: the wrapper, as devices do; only the connector; or only the connector's
+    /// state machine, which it steps itself.
     enum Level
     {
         Wrapper,
         Connector,
         Machine
     };
-    /// When the state machine enters a state that was selected: at once, or at the next step.
-    enum Entry
-    {
-        Immediate,
-        Deferred
-    };
 
-    Reading reading = Blocking;
-    Changes changes = Delivered;
+    bool isBlocking = true; ///< configurations are read with blocking calls instead of asynchronous ones
+    bool isPolled = false;  ///< changes are polled, without an event loop, instead of delivered by it
     Level level = Wrapper;
-    Entry entry = Immediate;
+    bool isDeferred = false; ///< a selected state is entered at the next step instead of at once
 
-    /// The mode in words: one of blocking and asynchronous, of delivered and polled, of wrapper, connector
-    /// and machine, of immediate and deferred.
-    QStringList words() const;
+    bool isWrapper() const
+    {
+        return level == Wrapper;
+    }
 
-    /// Whether each word of @p condition, between blanks, is one of the mode's words.
-    bool fulfils(const QString& condition) const;
-
-    /// What a situation's record must be in this mode, of its description for all modes.
-    ///
-    /// A line "[words] text" stands only in modes that fulfil the words. In the text, {start} stands for the
-    /// states entered by the construction, {read} for those of a read, and {noticed} for what a step shows
-    /// that finds a change. Signals, written "*name", are seen by the connector's holder alone.
-    QStringList expected(const QStringList& description) const;
-
-private:
-    QString expectedLine(QString text) const;
+    /// Name of the mode in a row of test data, for example "blocking delivered wrapper immediate".
+    QString name() const;
 };
 
 Q_DECLARE_METATYPE(Mode)

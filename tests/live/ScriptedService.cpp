@@ -10,8 +10,6 @@
 
 namespace {
 
-const int synchronizationLimit = 60000;
-
 QString busName(const QString& module)
 {
     return QLatin1String("org.measuringdevice.") + module;
@@ -19,21 +17,9 @@ QString busName(const QString& module)
 
 } // namespace
 
-ScriptedService::ScriptedService(const QString& address, const World& world) : m_address(address)
+ScriptedService::ScriptedService(const QString& address) : m_address(address)
 {
-    QStringList modules;
-    for (const Source& source : world.sources) {
-        m_sources.push_back(std::make_unique<ScriptedSource>(
-            source, m_log, [this](const QDBusConnection& connection) { leave(connection); }));
-        m_sources.back()->moveToThread(&m_thread);
-        modules.append(source.name.module);
-    }
     m_thread.start();
-    modules.removeDuplicates();
-    for (const QString& module : qAsConst(modules)) {
-        if (!world.absentModules.contains(module))
-            start(module);
-    }
 }
 
 ScriptedService::~ScriptedService()
@@ -42,6 +28,21 @@ ScriptedService::~ScriptedService()
         leave(QDBusConnection(name));
     m_thread.quit();
     m_thread.wait();
+}
+
+bool ScriptedService::serve(const World& world, const QString& absentModule)
+{
+    QStringList modules;
+    for (const Source& source : world) {
+        m_sources.push_back(std::make_unique<ScriptedSource>(
+            source, m_log, [this](const QDBusConnection& connection) { leave(connection); }));
+        m_sources.back()->moveToThread(&m_thread);
+        modules.append(source.name.module);
+    }
+    modules.removeDuplicates();
+    modules.removeOne(absentModule);
+    return std::all_of(modules.cbegin(), modules.cend(),
+                       [this](const QString& module) { return start(module); });
 }
 
 bool ScriptedService::start(const QString& module)
@@ -88,7 +89,7 @@ void ScriptedService::synchronize(const QDBusConnection& application) const
         QDBusMessage call = QDBusMessage::createMethodCall(busName(module), source->name().path(), QString(),
                                                            QStringLiteral("synchronize"));
         call.setAutoStartService(false);
-        application.call(call, QDBus::Block, synchronizationLimit);
+        application.call(call, QDBus::Block, waitLimit);
     }
 }
 
@@ -110,8 +111,7 @@ QDBusConnection ScriptedService::connection(const QString& module) const
     return QDBusConnection(m_connectionNames.value(module));
 }
 
-// The connection is closed by a thread of Qt's own some time later; it must not know the objects any more
-// then.
+// One of Qt's own threads closes the connection later, when the objects may no longer exist.
 void ScriptedService::leave(QDBusConnection connection) const
 {
     for (const auto& source : m_sources)

@@ -12,30 +12,34 @@
 #include "ScriptedSource.h"
 #include "World.h"
 
-/// The modules of a world on the bus, on connections and a thread of their own. What the sources have
-/// answered stays counted when a module leaves the bus and comes back.
+/// The modules of a world on the bus, with a connection each and a common thread. A source continues with its
+/// next answer when its module leaves the bus and returns.
 class ScriptedService
 {
 public:
-    /// Starts every module that the world does not call absent.
-    ScriptedService(const QString& address, const World& world);
+    /// @param address of the bus
+    explicit ScriptedService(const QString& address);
     ~ScriptedService();
     ScriptedService(const ScriptedService&) = delete;
     ScriptedService& operator=(const ScriptedService&) = delete;
 
-    /// Brings a module to the bus. @return whether it has its name there.
+    /// Adds the sources of @p world and starts their modules except @p absentModule; call it once. @return
+    /// false if a module does not obtain its name.
+    bool serve(const World& world, const QString& absentModule);
+
+    /// Connects a module to the bus. @return false if it does not obtain its name.
     bool start(const QString& module);
-    /// Takes a module from the bus, and waits until the bus says so to @p application. @return false when it
-    /// does not.
+    /// Removes a module from the bus and waits until @p application knows. @return false if it does not
+    /// within a minute.
     bool stop(const QString& module, const QDBusConnection& application);
 
-    /// Announces a change of a configuration, @p count times. @return whether that was sent.
-    bool announce(const SourceName& name, const QVariantList& arguments, int count = 1);
-    /// Replies to the reads of a configuration that are held.
+    /// Announces a change of a configuration @p count times. @return false if a signal cannot be sent.
+    bool announce(const SourceName& name, const QVariantList& arguments, int count);
+    /// Sends the held replies of a configuration.
     void release(const SourceName& name);
 
-    /// Returns when the service has seen all that was sent over @p application, and that has received all
-    /// that the service sent.
+    /// Returns when the service has received everything that was sent over @p application, and @p application
+    /// everything that the service sent.
     void synchronize(const QDBusConnection& application) const;
 
     /// All reads so far.

@@ -24,6 +24,18 @@ QDBusMessage changeSignal(const SourceName& name, const QVariantList& arguments)
     return message;
 }
 
+void ReadLog::append(const QString& read)
+{
+    const QMutexLocker locker(&m_mutex);
+    m_reads.append(read);
+}
+
+QStringList ReadLog::reads() const
+{
+    const QMutexLocker locker(&m_mutex);
+    return m_reads;
+}
+
 ScriptedSource::ScriptedSource(const Source& source, ReadLog& log, const Death& death)
     : m_source(source), m_log(log), m_death(death)
 {}

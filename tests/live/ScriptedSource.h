@@ -2,24 +2,36 @@
 
 #include <QtCore/QList>
 #include <QtCore/QMutex>
+#include <QtCore/QStringList>
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusVirtualObject>
 
 #include <functional>
 
-#include "ReadLog.h"
 #include "World.h"
 
-/// The announcement of a change of a configuration, with any arguments.
+/// The signal that announces a change of a configuration, with any arguments.
 QDBusMessage changeSignal(const SourceName& name, const QVariantList& arguments);
 
-/// One object of the service: answers every call of a read by its script. A call of "synchronize" is answered
-/// at once and not logged.
+/// The reads that a service has received, oldest first. Any thread.
+class ReadLog
+{
+public:
+    void append(const QString& read);
+    QStringList reads() const;
+
+private:
+    mutable QMutex m_mutex;
+    QStringList m_reads;
+};
+
+/// One object of the service: answers each read according to its script. A call of "synchronize" is answered
+/// immediately and not logged.
 class ScriptedSource : public QDBusVirtualObject
 {
 public:
-    /// Takes the module on a connection from the bus.
+    /// Removes the module of a connection from the bus.
     using Death = std::function<void(const QDBusConnection& connection)>;
 
     ScriptedSource(const Source& source, ReadLog& log, const Death& death);
@@ -29,7 +41,7 @@ public:
     QString introspect(const QString& path) const override;
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
 
-    /// Sends the replies held so far over a connection. Any thread.
+    /// Sends the held replies over a connection. Any thread.
     void release(QDBusConnection connection);
 
 private:

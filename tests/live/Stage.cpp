@@ -2,25 +2,99 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <algorithm>
+
 #include "Conversion.h"
 #include "DBusConnection.h"
+#include "Expected.h"
+#include "PrivateBus.h"
 #include "WaitUntil.h"
 
 namespace {
 
-QString answerText(bool answer)
+QString text(bool value)
 {
-    return answer ? QStringLiteral("true") : QStringLiteral("false");
+    return value ? QStringLiteral("true") : QStringLiteral("false");
+}
+
+/// All lines, those that differ with a marker; see ScenarioFailure.
+QStringList difference(const QStringList& actual, const QStringList& expected)
+{
+    QStringList lines;
+    const int lineCount = std::max(actual.size(), expected.size());
+    for (int i = 0; i < lineCount; ++i) {
+        if (i < actual.size() && i < expected.size() && actual.at(i) == expected.at(i)) {
+            lines.append(QLatin1String("  ") + actual.at(i));
+            continue;
+        }
+        if (i < expected.size())
+            lines.append(QLatin1String("- ") + expected.at(i));
+        if (i < actual.size())
+            lines.append(QLatin1String("+ ") + actual.at(i));
+    }
+    return lines;
+}
+
+void compare(const QString& step, const QStringList& actual, const QStringList& expected)
+{
+    if (actual != expected)
+        throw ScenarioFailure{step, difference(actual, expected)};
+}
+
+void require(const QString& step, bool isDone)
+{
+    compare(step, {text(isDone)}, {text(true)});
 }
 
 } // namespace
 
-Stage::Stage(const Mode& mode, const QString& address, const World& world)
-    : m_mode(mode), m_hasBus(world.hasBus), m_service(address, world)
+Stage::Stage(const Mode& mode, const QString& address) : m_mode(mode), m_service(address)
 {
     qputenv("DEVICE_BUS", address.toLocal8Bit());
-    setCallTimeout(world.callTimeout);
-    m_journal.dropMessages();
+    setCallTimeout(waitLimit);
+}
+
+void Stage::withoutBus()
+{
+    m_hasBus = false;
+    qputenv("DEVICE_BUS", PrivateBus().address().toLocal8Bit());
+}
+
+void Stage::serve(const World& world, const QString& absentModule)
+{
+    require(nextStep(QStringLiteral("serve")), m_service.serve(world, absentModule));
+    m_recorder.discardMessages();
+}
+
+void Stage::startModule(const QString& module)
+{
+    require(nextStep(QStringLiteral("start of ") + module), m_service.start(module));
+    synchronize();
+}
+
+void Stage::stopModule(const QString& module)
+{
+    require(nextStep(QStringLiteral("stop of ") + module),
+            m_service.stop(module, DBusConnection::getQDBusConnection()));
+}
+
+void Stage::announce(const SourceName& name, int count)
+{
+    announceWith(name, {name.configuration}, count);
+}
+
+void Stage::announceWith(const SourceName& name, const QVariantList& arguments, int count)
+{
+    require(nextStep(QStringLiteral("announcement by ") + name.object),
+            m_service.announce(name, arguments, count));
+    synchronize();
+}
+
+void Stage::release(const SourceName& name)
+{
+    synchronize();
+    m_service.release(name);
+    synchronize();
 }
 
 void Stage::setCallTimeout(int milliseconds)
@@ -28,15 +102,24 @@ void Stage::setCallTimeout(int milliseconds)
     qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(milliseconds));
 }
 
-void Stage::startApplication(const Settings& settings)
+void Stage::start(const Settings& settings)
 {
-    m_applications.push_back(Application::create(m_mode, settings));
-    m_acting = static_cast<int>(m_applications.size()) - 1;
+    m_applications.push_back(Application::create(m_mode, settings, m_recorder));
+    m_active = m_applications.size() - 1;
 }
 
-void Stage::switchTo(int index)
+void Stage::startAllSources(const World& world, const QString& absentModule)
 {
-    m_acting = index;
+    serve(world, absentModule);
+    start(Fixtures::allSources);
+    checkUntilIdle(Expected::firstStart(m_mode));
+    expectChanged();
+    keepUnits();
+}
+
+void Stage::switchTo(std::size_t index)
+{
+    m_active = index;
 }
 
 void Stage::init(const Settings& settings)
@@ -51,78 +134,80 @@ void Stage::reset()
 
 void Stage::destroy()
 {
-    m_applications.at(static_cast<std::size_t>(m_acting)).reset();
+    m_applications.at(m_active).reset();
 }
 
-void Stage::check()
+void Stage::checkIdle(const QStringList& events, int count)
 {
-    const bool isIdle = pumpAndCheck();
-    m_journal.addStep(stepName(QStringLiteral("check")), answerText(isIdle));
+    checkCount(QStringLiteral("idle"), count, events, count);
 }
 
-void Stage::check(int count)
+void Stage::checkNotIdle(const QStringList& events, int count)
 {
-    int idle = 0;
-    for (int i = 0; i < count; ++i)
-        idle += pumpAndCheck() ? 1 : 0;
-    m_journal.addStep(stepName(QStringLiteral("%1 checks").arg(count)), QStringLiteral("%1 true").arg(idle));
+    checkCount(QStringLiteral("not idle"), count, events, 0);
 }
 
-void Stage::checkUntilIdle()
+void Stage::checkUntilIdle(const QStringList& events)
 {
-    const bool isIdle = waitUntil([this] { return pumpAndCheck(); });
-    m_journal.addStep(stepName(QStringLiteral("until idle")), answerText(isIdle));
+    checkUntil(QStringLiteral("idle"), events, [this] { return pumpAndCheck(); });
 }
 
-void Stage::checkUntilChanged()
+void Stage::checkUntilChanged(const QStringList& events)
 {
-    const bool hasChanged = waitUntil([this] {
+    checkUntil(QStringLiteral("changed"), events, [this] {
         pumpAndCheck();
         return application().hasChanged().value_or(false);
     });
-    m_journal.addStep(stepName(QStringLiteral("until changed")), answerText(hasChanged));
 }
 
-void Stage::checkUntilEntered(const QString& state)
+void Stage::checkUntilEntered(const QStringList& events)
 {
-    const bool isReached = waitUntil([this, &state] {
-        if (!m_journal.events().contains(state))
+    const QString& state = events.last();
+    checkUntil(state, events, [this, &state] {
+        if (!m_recorder.events().contains(state))
             pumpAndCheck();
-        return m_journal.events().contains(state);
+        return m_recorder.events().contains(state);
     });
-    m_journal.addStep(stepName(QStringLiteral("until ") + state), answerText(isReached));
 }
 
-void Stage::checkUntilSettled()
+void Stage::checkUntilSettled(const QStringList& events)
 {
     int quietChecks = 0;
-    const bool isSettled = waitUntil([this, &quietChecks] {
-        const int enteredBefore = m_journal.enteredStates();
-        const bool isQuiet = pumpAndCheck() && m_journal.enteredStates() == enteredBefore;
+    checkUntil(QStringLiteral("settled"), events, [this, &quietChecks] {
+        const int enteredBefore = m_recorder.enteredStates();
+        const bool isQuiet = pumpAndCheck() && m_recorder.enteredStates() == enteredBefore;
         quietChecks = isQuiet ? quietChecks + 1 : 0;
         return quietChecks == 2;
     });
-    m_journal.addStep(stepName(QStringLiteral("until settled")), answerText(isSettled));
 }
 
-void Stage::askChanged()
+void Stage::expectEvents(const QStringList& events)
 {
-    if (const std::optional<bool> changed = application().hasChanged())
-        m_journal.addAnswer(stepName(QStringLiteral("changed")), answerText(*changed));
+    compareEvents(nextStep(QStringLiteral("events")), events);
 }
 
-void Stage::convert()
+void Stage::expectChanged()
 {
-    m_journal.update();
-    m_journal.addAnswer(stepName(QStringLiteral("convert")), application().converted());
-    // What a conversion logs is not the connector's.
-    m_journal.dropMessages();
+    expectChange(true);
 }
 
-void Stage::askDependents()
+void Stage::expectUnchanged()
+{
+    expectChange(false);
+}
+
+void Stage::expectConversion(const QString& conversion)
+{
+    m_recorder.update();
+    compare(nextStep(QStringLiteral("conversion")), {application().converted()}, {conversion});
+    // Only the connector's messages are compared, not those of a conversion.
+    m_recorder.discardMessages();
+}
+
+void Stage::expectDependents(const QString& keys)
 {
     if (const std::optional<QString> dependents = application().dependents())
-        m_journal.addAnswer(stepName(QStringLiteral("dependents")), *dependents);
+        compare(nextStep(QStringLiteral("dependents")), {*dependents}, {keys});
 }
 
 void Stage::keepUnits()
@@ -130,66 +215,67 @@ void Stage::keepUnits()
     m_kept.append(application().units());
 }
 
-void Stage::convertByKept()
+void Stage::expectKept(const QStringList& conversions)
 {
-    m_journal.update();
+    m_recorder.update();
+    QStringList kept;
     for (const QSharedPointer<const UnitManagerDevice>& units : qAsConst(m_kept))
-        m_journal.addAnswer(QStringLiteral("kept"), Conversion::by(units));
-    m_journal.dropMessages();
+        kept.append(Conversion::by(units));
+    compare(nextStep(QStringLiteral("conversions by kept unit managers")), kept, conversions);
+    m_recorder.discardMessages();
 }
 
-void Stage::startModule(const QString& module)
-{
-    if (!m_service.start(module))
-        m_journal.addAnswer(QStringLiteral("start of ") + module, QStringLiteral("failed"));
-    synchronize();
-}
-
-void Stage::stopModule(const QString& module)
-{
-    if (!m_service.stop(module, DBusConnection::getQDBusConnection()))
-        m_journal.addAnswer(QStringLiteral("end of ") + module, QStringLiteral("failed"));
-}
-
-void Stage::announce(const SourceName& name, const QVariantList& arguments, int count)
-{
-    if (!m_service.announce(name, arguments, count))
-        m_journal.addAnswer(QStringLiteral("announcement"), QStringLiteral("failed"));
-    synchronize();
-}
-
-void Stage::release(const SourceName& name)
-{
-    synchronize();
-    m_service.release(name);
-    synchronize();
-}
-
-QStringList Stage::takeRecord()
+void Stage::finish(const QStringList& reads, const QStringList& messages)
 {
     synchronize();
     m_applications.clear();
-    QStringList lines = m_journal.takeLines();
-    for (const QString& read : m_service.reads())
-        lines.append(QLatin1String("read ") + read);
-    return lines + m_journal.messages();
+    m_active = 0;
+    compareEvents(nextStep(QStringLiteral("events at the end")), {});
+    compare(nextStep(QStringLiteral("reads")), m_service.reads(), reads);
+    compare(nextStep(QStringLiteral("messages")), m_recorder.messages(), messages);
+    m_isFinished = true;
+}
+
+bool Stage::isFinished() const
+{
+    return m_isFinished;
 }
 
 Application& Stage::application()
 {
-    return *m_applications.at(static_cast<std::size_t>(m_acting));
+    return *m_applications.at(m_active);
 }
 
 bool Stage::pumpAndCheck()
 {
-    deliver();
+    if (!m_mode.isPolled)
+        QCoreApplication::processEvents();
     return application().check();
 }
 
-void Stage::deliver()
+void Stage::checkCount(const QString& condition, int count, const QStringList& events, int idleCount)
 {
-    if (m_mode.changes == Mode::Delivered)
-        QCoreApplication::processEvents();
+    const QString step = nextStep(QStringLiteral("%1 checks, %2").arg(count).arg(condition));
+    int idle = 0;
+    for (int i = 0; i < count; ++i)
+        idle += pumpAndCheck() ? 1 : 0;
+    compareEvents(step, events);
+    compare(step + QLatin1String(", idle checks"), {QString::number(idle)}, {QString::number(idleCount)});
+}
+
+template <typename Condition>
+void Stage::checkUntil(const QString& condition, const QStringList& events, Condition isMet)
+{
+    const QString step = nextStep(QStringLiteral("check until ") + condition);
+    const bool isMetInTime = waitUntil(isMet);
+    compareEvents(isMetInTime ? step : step + QLatin1String(", not reached"), events);
+    require(step, isMetInTime);
+}
+
+void Stage::expectChange(bool expected)
+{
+    if (const std::optional<bool> changed = application().hasChanged())
+        compare(nextStep(QStringLiteral("changed")), {text(*changed)}, {text(expected)});
 }
 
 void Stage::synchronize()
@@ -198,7 +284,20 @@ void Stage::synchronize()
         m_service.synchronize(DBusConnection::getQDBusConnection());
 }
 
-QString Stage::stepName(const QString& step) const
+QString Stage::nextStep(const QString& operation)
 {
-    return m_acting == 0 ? step : QStringLiteral("application %1 %2").arg(m_acting + 1).arg(step);
+    ++m_steps;
+    return m_active == 0
+               ? QStringLiteral("step %1 (%2)").arg(m_steps).arg(operation)
+               : QStringLiteral("step %1 (application %2: %3)").arg(m_steps).arg(m_active + 1).arg(operation);
+}
+
+void Stage::compareEvents(const QString& step, const QStringList& expected)
+{
+    QStringList visible = expected;
+    if (m_mode.level != Mode::Connector) {
+        visible.removeAll(Signal::configurationChanged);
+        visible.removeAll(Signal::initialized);
+    }
+    compare(step, m_recorder.takeEvents(), visible);
 }

@@ -4,79 +4,116 @@
 #include <QtCore/QSharedPointer>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
-#include <QtDBus/QDBusConnection>
 
 #include <memory>
 #include <vector>
 
 #include "Application.h"
-#include "Journal.h"
+#include "Fixtures.h"
 #include "Mode.h"
+#include "Recorder.h"
 #include "ScriptedService.h"
 #include "World.h"
 
-/// Where a situation is played: the world on the bus, the applications, and the record of what they show. All
-/// waiting ends after a minute.
+/// Thrown by the first operation of a stage whose expectation is not met; ends the scenario.
+struct ScenarioFailure
+{
+    QString step;
+    /// All lines in order: "- " before an expected line that was not seen, "+ " before one that was seen
+    /// instead, two blanks before a line that is as expected.
+    QStringList difference;
+};
+
+/// Runs a scenario: the service on the bus, the applications, and the record of what they do. Operations
+/// throw ScenarioFailure. All waiting ends after a minute.
+///
+/// Each check compares the events since the previous comparison with the expected ones: states entered and,
+/// at the connector level, signals. At the other levels, which have no signals, expected signals are left
+/// out.
 class Stage
 {
 public:
     /// @param address of the bus; the applications find it through the environment
-    Stage(const Mode& mode, const QString& address, const World& world);
+    Stage(const Mode& mode, const QString& address);
 
-    /// Builds another application, which is the one that acts from now on.
-    void startApplication(const Settings& settings);
-    /// Lets the application that was started as number @p index, from 0, act from now on.
-    void switchTo(int index);
-    void init(const Settings& settings);
-    void reset();
-    /// Destroys the application that acts.
-    void destroy();
-
-    /// One check of the application; recorded with what it showed and answered.
-    void check();
-    /// Checks, recorded as one, with how many of them idled.
-    void check(int count);
-    /// Checks until one idles.
-    void checkUntilIdle();
-    /// Checks until a change has been announced, which takes that answer.
-    void checkUntilChanged();
-    /// Checks, if necessary, until the machine has entered a state since the last step recorded.
-    void checkUntilEntered(const QString& state);
-    /// Checks until two in a row idled and entered no state.
-    void checkUntilSettled();
-
-    /// Recorded answers of the application.
-    void askChanged();
-    void convert();
-    void askDependents();
-    /// Keeps the unit manager in use.
-    void keepUnits();
-    /// What the unit managers kept so far convert.
-    void convertByKept();
-
-    /// The service's deeds. When they return, the application has received what came of them.
+    /// Lets the applications look for a bus that does not exist.
+    void withoutBus();
+    /// Puts a world on the bus, except for one module.
+    void serve(const World& world, const QString& absentModule = QString());
+    /// After each of these operations, the application has received the resulting messages.
     void startModule(const QString& module);
     void stopModule(const QString& module);
-    void announce(const SourceName& name, const QVariantList& arguments, int count = 1);
+    /// Announces a change of a configuration under its own name.
+    void announce(const SourceName& name, int count = 1);
+    /// Announces a change on the object of a configuration, with any arguments.
+    void announceWith(const SourceName& name, const QVariantList& arguments, int count = 1);
+    /// Sends the held replies of a configuration.
     void release(const SourceName& name);
-    /// Lets the application give up its calls after a time.
-    static void setCallTimeout(int milliseconds);
 
-    /// Everything that was recorded, then the reads that the service saw, then the messages.
-    QStringList takeRecord();
+    /// Time after which the applications give up a call.
+    static void setCallTimeout(int milliseconds);
+    /// Creates an application and makes it the active one.
+    void start(const Settings& settings);
+    /// Serves a world and starts an application with all sources. When it is idle, its change has been
+    /// queried and its unit manager kept.
+    void startAllSources(const World& world, const QString& absentModule = QString());
+    /// Makes the application that was started as number @p index, from 0, the active one.
+    void switchTo(std::size_t index);
+    void init(const Settings& settings);
+    void reset();
+    /// Destroys the active application.
+    void destroy();
+
+    /// @p count checks after which the library is idle.
+    void checkIdle(const QStringList& events, int count = 1);
+    /// @p count checks after which the library is not idle.
+    void checkNotIdle(const QStringList& events, int count = 1);
+    /// Checks until the library is idle.
+    void checkUntilIdle(const QStringList& events);
+    /// Checks until a change has been detected; hasChanged() is then false again.
+    void checkUntilChanged(const QStringList& events);
+    /// Checks, if necessary, until the last one of the expected states has been entered.
+    void checkUntilEntered(const QStringList& events);
+    /// Checks until two checks in a row are idle and enter no state.
+    void checkUntilSettled(const QStringList& events);
+    /// Compares the events since the last check.
+    void expectEvents(const QStringList& events);
+
+    /// Asks the application whether the configuration has changed, except at the machine level.
+    void expectChanged();
+    void expectUnchanged();
+    /// Compares the conversion of two bar, see Conversion.h.
+    void expectConversion(const QString& conversion);
+    /// Compares the keys that depend on "PressureUnit", except at the wrapper level.
+    void expectDependents(const QString& keys);
+    /// Keeps the current unit manager.
+    void keepUnits();
+    /// Compares the conversions by the unit managers kept so far.
+    void expectKept(const QStringList& conversions);
+
+    /// Destroys the applications and compares all reads that the service received and all messages. The last
+    /// operation of every scenario.
+    void finish(const QStringList& reads, const QStringList& messages = {});
+    bool isFinished() const;
 
 private:
     Application& application();
     bool pumpAndCheck();
-    void deliver();
+    void checkCount(const QString& condition, int count, const QStringList& events, int idleCount);
+    template <typename Condition>
+    void checkUntil(const QString& condition, const QStringList& events, Condition isMet);
+    void expectChange(bool expected);
     void synchronize();
-    QString stepName(const QString& step) const;
+    QString nextStep(const QString& operation);
+    void compareEvents(const QString& step, const QStringList& expected);
 
     const Mode m_mode;
-    const bool m_hasBus;
-    Journal m_journal;
+    bool m_hasBus = true;
+    bool m_isFinished = false;
+    int m_steps = 0;
+    Recorder m_recorder;
     ScriptedService m_service;
     std::vector<std::unique_ptr<Application>> m_applications;
-    int m_acting = -1;
+    std::size_t m_active = 0;
     QList<QSharedPointer<const UnitManagerDevice>> m_kept;
 };

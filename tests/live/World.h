@@ -4,7 +4,7 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
-/// Where a configuration is found: module and object on the bus, and its name. All empty: not configured.
+/// Location of a configuration: module and object on the bus, and its name. All empty: not configured.
 struct SourceName
 {
     QString module;
@@ -23,21 +23,21 @@ inline bool operator==(const SourceName& left, const SourceName& right)
            left.configuration == right.configuration;
 }
 
-/// What the service does with one read.
+/// Reaction of the service to one read.
 struct Answer
 {
     enum Kind
     {
         Value, ///< replies with the value
         Error, ///< replies with an error
-        Never, ///< stays silent
-        Held,  ///< replies with the value when it is told to
+        Never, ///< does not reply
+        Held,  ///< replies with the value when the reply is released
         Death  ///< leaves the bus without a reply
     };
 
     Kind kind = Value;
     QVariant value;
-    SourceName changed; ///< the configuration that is announced to have changed, just before
+    SourceName changed; ///< a change of this configuration is announced just before the reply
 
     static Answer with(const QVariant& value)
     {
@@ -51,25 +51,27 @@ struct Answer
     {
         return {Value, value, changed};
     }
-    static Answer of(Kind kind)
+    static Answer error()
     {
-        return {kind, QVariant(), {}};
+        return {Error, {}, {}};
+    }
+    static Answer never()
+    {
+        return {Never, {}, {}};
+    }
+    static Answer death()
+    {
+        return {Death, {}, {}};
     }
 };
 
-/// One configuration that the service has, and its answers to the first read, the second and so on; the last
-/// one serves all further reads.
+/// One configuration of the service, with its answers to the first read, the second and so on; the last
+/// answer is also the answer to all further reads.
 struct Source
 {
     SourceName name;
     QList<Answer> answers;
 };
 
-/// What the application meets on the bus.
-struct World
-{
-    QList<Source> sources;
-    QStringList absentModules; ///< modules that are not on the bus at first
-    bool hasBus = true;
-    int callTimeout = 60000; ///< milliseconds after which the application gives up a call
-};
+/// The configurations of the service.
+using World = QList<Source>;

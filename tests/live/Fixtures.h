@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+#include "Application.h"
+#include "World.h"
+
+/// Modules of the service, by name.
+namespace Modules {
+
+const QString deviceManager = QStringLiteral("DeviceManager");
+const QString defaultUnitManager = QStringLiteral("DefaultUnitManager");
+
+} // namespace Modules
+
+/// Locations of the configurations.
+namespace Sources {
+
+const SourceName none;
+const SourceName units{Modules::deviceManager, QStringLiteral("UnitManagerConfiguration"),
+                       QStringLiteral("UnitManager/UnitType")};
+const SourceName dependencies{Modules::deviceManager, QStringLiteral("DependencyConfiguration"),
+                              QStringLiteral("UnitManager/Dependency")};
+const SourceName defaultUnits{Modules::deviceManager, QStringLiteral("DefaultUnitConfiguration"),
+                              QStringLiteral("UnitManager/DefaultUnit")};
+/// Default units of another module.
+const SourceName remoteDefaultUnits{Modules::defaultUnitManager, QStringLiteral("DefaultUnitConfiguration"),
+                                    QStringLiteral("UnitManager/DefaultUnit")};
+/// Other default units of the same module.
+const SourceName otherDefaultUnits{Modules::deviceManager, QStringLiteral("OtherConfiguration"),
+                                   QStringLiteral("UnitManager/OtherDefaultUnit")};
+
+} // namespace Sources
+
+/// Contents of the configurations.
+namespace Documents {
+
+/// Pressure in Bar (the base unit) and HectoPascal. A bar has @p hectoPascalPerBar hectopascal, so that
+/// conversions show which document is active.
+QString units(int hectoPascalPerBar);
+/// @p unit as the default unit of Pressure.
+QString defaultUnits(const QString& unit);
+/// @p key as the only key that depends on "PressureUnit".
+QString dependencies(const QString& key);
+/// A text that is not a document.
+QString broken();
+
+} // namespace Documents
+
+/// Answers, worlds and settings that many scenarios share.
+namespace Fixtures {
+
+Answer units(int hectoPascalPerBar = 1000);
+Answer dependencies(const QString& key = QStringLiteral("Pressure"));
+Answer defaultUnits(const QString& unit = QStringLiteral("HectoPascal"));
+
+/// Only the units, with the answers to their reads.
+World unitsWorld(const QList<Answer>& answers);
+/// All three sources, with the answers to the reads of each.
+World fullWorld(const QList<Answer>& unitAnswers = {units()},
+                const QList<Answer>& dependencyAnswers = {dependencies()},
+                const QList<Answer>& defaultUnitAnswers = {defaultUnits()});
+/// All three sources; each has a different answer when it is read again.
+World changingWorld(const QList<Answer>& unitAnswers = {units(1000), units(2000)});
+
+/// The settings of an application without optional sources.
+const Settings unitsOnly;
+const Settings allSources{Sources::dependencies, Sources::defaultUnits};
+
+} // namespace Fixtures
