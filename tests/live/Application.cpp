@@ -1,179 +1,172 @@
 #include "Application.h"
 
-#include "Conversion.h"
+#include <QtCore/QVariant>
+
+#include <memory>
+
+#include "DependencyWalker.h"
 #include "Expected.h"
 #include "Recorder.h"
 #include "UnitManagerConnector/UnitManagerDBusConnector.h"
 #include "UnitManagerConnector/UnitManagerStateMachineWrapper.h"
+#include "UnitManagerDevice/UnitManagerDevice.h"
 #include "UnitManagerDevice/UnitManagerWrapper.h"
 
 namespace {
 
-/// Calls init() of the wrapper, the connector or its state machine.
-template <typename Library>
-void initialize(Library& library, const Mode& mode, const Settings& settings)
+const QVariant twoBar(2.0);
+const QString hectoPascal = QStringLiteral("HectoPascal");
+const QString pressure = QStringLiteral("UnitManager/UnitType/Pressure");
+const QString language = QStringLiteral("en");
+
+QString conversionText(bool isUsable, const QVariant& inHectoPascal, const QVariant& shown,
+                       const QString& label)
 {
-    library.init(!mode.isBlocking, settings.dependencies.module, settings.dependencies.object,
-                 settings.dependencies.configuration, settings.defaultUnits.module,
-                 settings.defaultUnits.object, settings.defaultUnits.configuration);
+    return QStringLiteral("%1: %2 HectoPascal, %3 %4 by default")
+        .arg(isUsable ? QLatin1String("usable") : QLatin1String("raw"), inHectoPascal.toString(),
+             shown.toString(), label)
+        .simplified();
+}
+
+QString conversionByWrapper(UnitManagerWrapper& wrapper)
+{
+    return conversionText(wrapper, wrapper.getValue(twoBar, pressure, hectoPascal),
+                          wrapper.getValue(twoBar, pressure, QString()),
+                          wrapper.getUnitText(pressure, language));
+}
+
+QString dependentKeys(DependencyWalker* walker)
+{
+    QList<QVariant> visited;
+    if (walker)
+        walker->traverseDependencyGraph(QStringLiteral("PressureUnit"), {}, {}, visited, {}, {});
+    QStringList keys;
+    for (const QVariant& key : qAsConst(visited))
+        keys.append(key.toString());
+    return keys.isEmpty() ? QStringLiteral("none") : keys.join(QLatin1Char(' '));
+}
+
+/// Sets the operations that are called in the same way at all levels.
+template <typename Library>
+Application commonOperations(const std::shared_ptr<Library>& library, const Mode& mode)
+{
+    Application application;
+    application.init = [library, mode](const Settings& settings) {
+        library->init(!mode.isBlocking, settings.dependencies.module, settings.dependencies.object,
+                      settings.dependencies.configuration, settings.defaultUnits.module,
+                      settings.defaultUnits.object, settings.defaultUnits.configuration);
+    };
+    application.reset = [library] {
+        library->reset();
+    };
+    return application;
 }
 
 /// Holds a wrapper, as devices do.
-class WrapperApplication : public Application
+Application wrapperApplication(const Mode& mode, const Settings& settings)
 {
-public:
-    WrapperApplication(const Mode& mode, const Settings& settings)
-        : m_mode(mode),
-          m_wrapper(settings.dependencies.module, settings.dependencies.object,
-                    settings.dependencies.configuration, settings.defaultUnits.module,
-                    settings.defaultUnits.object, settings.defaultUnits.configuration, !mode.isBlocking,
-                    mode.isPolled)
-    {}
+    const auto wrapper = std::make_shared<UnitManagerWrapper>(
+        settings.dependencies.module, settings.dependencies.object, settings.dependencies.configuration,
+        settings.defaultUnits.module, settings.defaultUnits.object, settings.defaultUnits.configuration,
+        !mode.isBlocking, mode.isPolled);
+    Application application = commonOperations(wrapper, mode);
+    application.check = [wrapper] {
+        return wrapper->checkInitialized();
+    };
+    application.units = [wrapper] {
+        return wrapper->getUnitManager();
+    };
+    application.conversion = [wrapper] {
+        return conversionByWrapper(*wrapper);
+    };
+    application.hasChanged = [wrapper] {
+        return wrapper->hasUnitManagerConfigurationChanged();
+    };
+    return application;
+}
 
-    void init(const Settings& settings) override
-    {
-        initialize(m_wrapper, m_mode, settings);
-    }
-
-    void reset() override
-    {
-        m_wrapper.reset();
-    }
-
-    bool check() override
-    {
-        return m_wrapper.checkInitialized();
-    }
-
-    std::optional<bool> hasChanged() override
-    {
-        return m_wrapper.hasUnitManagerConfigurationChanged();
-    }
-
-    QSharedPointer<const UnitManagerDevice> units() override
-    {
-        return m_wrapper.getUnitManager();
-    }
-
-    QString converted() override
-    {
-        return Conversion::by(m_wrapper);
-    }
-
-    std::optional<QString> dependents() override
-    {
-        return std::nullopt;
-    }
-
-private:
-    const Mode m_mode;
-    UnitManagerWrapper m_wrapper;
-};
-
-/// Holds the connector or its state machine. Both are constructed without sources and initialised by the
-/// derived class, in the same order as in the wrapper.
+/// Constructs the connector or its state machine without sources. Initialisation follows, as in the wrapper.
 template <typename Library>
-class ConnectorLevelApplication : public Application
+std::shared_ptr<Library> construct(const Mode& mode)
 {
-public:
-    explicit ConnectorLevelApplication(const Mode& mode)
-        : m_library(nullptr, mode.isPolled, false, {}, {}, {}, {}, {}, {}), m_mode(mode)
-    {}
+    const QString none;
+    return std::make_shared<Library>(nullptr, mode.isPolled, false, none, none, none, none, none, none);
+}
 
-    void init(const Settings& settings) override
-    {
-        initialize(m_library, m_mode, settings);
-    }
-
-    void reset() override
-    {
-        m_library.reset();
-    }
-
-    QSharedPointer<const UnitManagerDevice> units() override
-    {
-        QSharedPointer<UnitManagerDevice> units;
-        m_library.initializeUnitManager(units);
-        return units;
-    }
-
-    QString converted() override
-    {
-        return Conversion::by(units());
-    }
-
-    std::optional<QString> dependents() override
-    {
+/// Sets the operations that the connector and its state machine have in common.
+template <typename Library>
+Application connectorLevelApplication(const std::shared_ptr<Library>& library, const Mode& mode)
+{
+    Application application = commonOperations(library, mode);
+    const auto units = [library] {
+        QSharedPointer<UnitManagerDevice> current;
+        library->initializeUnitManager(current);
+        return current;
+    };
+    application.units = units;
+    application.conversion = [units] {
+        return conversionBy(units());
+    };
+    application.dependents = [library] {
         QSharedPointer<DependencyWalker> walker;
-        m_library.initializeDependencyWalker(walker);
-        return Conversion::dependentsBy(walker);
-    }
-
-protected:
-    Library m_library;
-
-private:
-    const Mode m_mode;
-};
+        library->initializeDependencyWalker(walker);
+        return dependentKeys(walker.data());
+    };
+    return application;
+}
 
 /// Holds only the connector and records its signals.
-class ConnectorApplication : public ConnectorLevelApplication<UnitManagerDBusConnector>
+Application connectorApplication(const Mode& mode, const Settings& settings, Recorder& recorder)
 {
-public:
-    ConnectorApplication(const Mode& mode, const Settings& settings, Recorder& recorder)
-        : ConnectorLevelApplication(mode)
-    {
-        QObject::connect(&m_library, &UnitManagerDBusConnector::unitManagerConfigurationChanged,
-                         [&recorder] { recorder.addEvent(Signal::configurationChanged); });
-        QObject::connect(&m_library, &UnitManagerDBusConnector::unitManagerIsInitialized,
-                         [&recorder] { recorder.addEvent(Signal::initialized); });
-        initialize(m_library, mode, settings);
-    }
-
-    bool check() override
-    {
-        return m_library.isUnitManagerInitialized();
-    }
-
-    std::optional<bool> hasChanged() override
-    {
-        return m_library.hasConfigurationChanged();
-    }
-};
+    const auto connector = construct<UnitManagerDBusConnector>(mode);
+    QObject::connect(connector.get(), &UnitManagerDBusConnector::unitManagerConfigurationChanged,
+                     [&recorder] { recorder.addEvent(Signal::configurationChanged); });
+    QObject::connect(connector.get(), &UnitManagerDBusConnector::unitManagerIsInitialized,
+                     [&recorder] { recorder.addEvent(Signal::initialized); });
+    Application application = connectorLevelApplication(connector, mode);
+    application.check = [connector] {
+        return connector->isUnitManagerInitialized();
+    };
+    application.hasChanged = [connector] {
+        return connector->hasConfigurationChanged();
+    };
+    application.init(settings);
+    return application;
+}
 
 /// Holds only the connector's state machine; each check is one step of it.
-class MachineApplication : public ConnectorLevelApplication<UnitManagerStateMachineWrapper>
+Application machineApplication(const Mode& mode, const Settings& settings)
 {
-public:
-    MachineApplication(const Mode& mode, const Settings& settings) : ConnectorLevelApplication(mode)
-    {
-        initialize(m_library, mode, settings);
-    }
-
-    bool check() override
-    {
-        m_library.postEvent();
-        return m_library.getCurrentStateIdentifier() == State::idle;
-    }
-
-    std::optional<bool> hasChanged() override
-    {
-        return std::nullopt;
-    }
-};
+    const auto machine = construct<UnitManagerStateMachineWrapper>(mode);
+    Application application = connectorLevelApplication(machine, mode);
+    application.check = [machine] {
+        machine->postEvent();
+        return machine->getCurrentStateIdentifier() == State::idle;
+    };
+    application.init(settings);
+    return application;
+}
 
 } // namespace
 
-std::unique_ptr<Application> Application::create(const Mode& mode, const Settings& settings,
-                                                 Recorder& recorder)
+Application Application::create(const Mode& mode, const Settings& settings, Recorder& recorder)
 {
     switch (mode.level) {
     case Mode::Wrapper:
-        return std::make_unique<WrapperApplication>(mode, settings);
+        return wrapperApplication(mode, settings);
     case Mode::Connector:
-        return std::make_unique<ConnectorApplication>(mode, settings, recorder);
+        return connectorApplication(mode, settings, recorder);
     case Mode::Machine:
-        return std::make_unique<MachineApplication>(mode, settings);
+        return machineApplication(mode, settings);
     }
-    return nullptr;
+    return {};
+}
+
+QString conversionBy(const QSharedPointer<const UnitManagerDevice>& units)
+{
+    if (!units || !units->isValid())
+        return conversionText(false, twoBar, twoBar, QString());
+    return conversionText(true, units->getValue(twoBar, pressure, hectoPascal),
+                          units->getValue(twoBar, pressure, QString()),
+                          units->getUnitText(pressure, language, QString()));
 }

@@ -3,8 +3,7 @@
 #include <QtCore/QSharedPointer>
 #include <QtCore/QString>
 
-#include <memory>
-#include <optional>
+#include <functional>
 
 #include "Mode.h"
 #include "World.h"
@@ -19,28 +18,30 @@ struct Settings
     SourceName defaultUnits;
 };
 
-/// An application that uses the library at the level of its mode.
-class Application
+/// The operations of an application that uses the library at the level of its mode. Owns the objects that it
+/// uses; a default-constructed application has none.
+struct Application
 {
-public:
-    virtual ~Application() = default;
+    std::function<void(const Settings& settings)> init;
+    std::function<void()> reset;
+    /// Advances the library by one call. @return whether the library is idle.
+    std::function<bool()> check;
+    /// The current unit manager; null when there is none.
+    std::function<QSharedPointer<const UnitManagerDevice>()> units;
+    /// The conversion of two bar, see conversionBy().
+    std::function<QString()> conversion;
+    /// Whether the configuration has changed since the last call; not at the machine level.
+    std::function<bool()> hasChanged;
+    /// The keys that depend on "PressureUnit", or "none"; not at the wrapper level.
+    std::function<QString()> dependents;
 
-    /// Creates and initialises the application. A wrapper to which changes are delivered makes its first
+    /// Creates and initialises an application. A wrapper to which changes are delivered makes its first
     /// attempt to read the configurations here.
     /// @param recorder receives the connector's signals, at the connector level only
-    static std::unique_ptr<Application> create(const Mode& mode, const Settings& settings,
-                                               Recorder& recorder);
-
-    virtual void init(const Settings& settings) = 0;
-    virtual void reset() = 0;
-    /// Advances the library by one call. @return whether the library is idle.
-    virtual bool check() = 0;
-    /// Whether the configuration has changed since the last call; no value at the machine level.
-    virtual std::optional<bool> hasChanged() = 0;
-    /// The current unit manager; null when there is none.
-    virtual QSharedPointer<const UnitManagerDevice> units() = 0;
-    /// Result of the conversion of two bar, see Conversion.h.
-    virtual QString converted() = 0;
-    /// The keys that depend on "PressureUnit"; no value at the wrapper level.
-    virtual std::optional<QString> dependents() = 0;
+    static Application create(const Mode& mode, const Settings& settings, Recorder& recorder);
 };
+
+/// The conversion of two bar as a line of text: whether the unit manager is usable, the value in HectoPascal,
+/// and the value and the label in the default unit; "usable: 2000 HectoPascal, 2 bar by default". If @p units
+/// is null or invalid, nothing is converted and there is no label.
+QString conversionBy(const QSharedPointer<const UnitManagerDevice>& units);

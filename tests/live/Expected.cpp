@@ -78,9 +78,9 @@ QString Expected::inBar(int hectoPascalPerBar)
     return QStringLiteral("usable: %1 HectoPascal, 2 bar by default").arg(2 * hectoPascalPerBar);
 }
 
-QStringList Expected::onlyIf(bool condition, const QString& message)
+QStringList Expected::onlyIf(bool condition, const QString& line)
 {
-    return condition ? QStringList{message} : QStringList();
+    return condition ? QStringList{line} : QStringList();
 }
 
 QString Expected::perAttempt(const Mode& mode, int checks, const QString& message)

@@ -103,8 +103,8 @@ const QString unitsEmpty = QStringLiteral("warning Unit switch configuration emp
                                           "\"UnitManagerConfiguration\" \"UnitManager/UnitType\"");
 const QString unitsInvalid = QStringLiteral("warning Conversion configuration invalid \"{ broken\"");
 
-/// The message, as a list, if @p condition is true; else nothing.
-QStringList onlyIf(bool condition, const QString& message);
+/// The line, as a list, if @p condition is true; else nothing.
+QStringList onlyIf(bool condition, const QString& line);
 /// Logged by @p checks checks that cannot open the sources: one message for each attempt.
 QString perAttempt(const Mode& mode, int checks, const QString& message);
 

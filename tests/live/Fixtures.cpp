@@ -1,46 +1,44 @@
 #include "Fixtures.h"
 
-QString Documents::units(int hectoPascalPerBar)
+Answer Fixtures::units(int hectoPascalPerBar)
 {
-    return QStringLiteral(R"json({
+    const QString document = QStringLiteral(R"json({
         "Pressure": {
             "Bar": { "@displayPosition": 0, "DecimalPlaces": 3,
                      "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]], "UnitLabel": "bar" },
             "HectoPascal": { "@displayPosition": 1, "DecimalPlaces": 1,
                              "Polynomial": [[0], [%1]], "InversePolynomial": [[0], [1]], "UnitLabel": "hPa" }
         }
-    })json")
-        .arg(hectoPascalPerBar);
-}
-
-QString Documents::defaultUnits(const QString& unit)
-{
-    return QStringLiteral(R"json({ "Pressure": { "@type": "Selection", "@value": "%1" } })json").arg(unit);
-}
-
-QString Documents::dependencies(const QString& key)
-{
-    return QStringLiteral(R"json({ "PressureUnit": ["%1"] })json").arg(key);
-}
-
-QString Documents::broken()
-{
-    return QStringLiteral("{ broken");
-}
-
-Answer Fixtures::units(int hectoPascalPerBar)
-{
-    return Answer::with(Documents::units(hectoPascalPerBar));
+    })json");
+    return {Answer::Value, document.arg(hectoPascalPerBar)};
 }
 
 Answer Fixtures::dependencies(const QString& key)
 {
-    return Answer::with(Documents::dependencies(key));
+    return {Answer::Value, QStringLiteral(R"json({ "PressureUnit": ["%1"] })json").arg(key)};
 }
 
 Answer Fixtures::defaultUnits(const QString& unit)
 {
-    return Answer::with(Documents::defaultUnits(unit));
+    return {Answer::Value,
+            QStringLiteral(R"json({ "Pressure": { "@type": "Selection", "@value": "%1" } })json").arg(unit)};
+}
+
+Answer Fixtures::brokenUnits()
+{
+    return {Answer::Value, QStringLiteral("{ broken")};
+}
+
+Answer Fixtures::held(Answer answer)
+{
+    answer.kind = Answer::Held;
+    return answer;
+}
+
+Answer Fixtures::afterChange(const SourceName& changed, Answer answer)
+{
+    answer.changed = changed;
+    return answer;
 }
 
 World Fixtures::unitsWorld(const QList<Answer>& answers)

@@ -33,27 +33,22 @@ const SourceName otherDefaultUnits{Modules::deviceManager, QStringLiteral("Other
 
 } // namespace Sources
 
-/// Contents of the configurations.
-namespace Documents {
-
-/// Pressure in Bar (the base unit) and HectoPascal. A bar has @p hectoPascalPerBar hectopascal, so that
-/// conversions show which document is active.
-QString units(int hectoPascalPerBar);
-/// @p unit as the default unit of Pressure.
-QString defaultUnits(const QString& unit);
-/// @p key as the only key that depends on "PressureUnit".
-QString dependencies(const QString& key);
-/// A text that is not a document.
-QString broken();
-
-} // namespace Documents
-
 /// Answers, worlds and settings that many scenarios share.
 namespace Fixtures {
 
+/// Pressure in Bar (the base unit) and HectoPascal. A bar has @p hectoPascalPerBar hectopascal, so that
+/// conversions show which document is active.
 Answer units(int hectoPascalPerBar = 1000);
+/// @p key as the only key that depends on "PressureUnit".
 Answer dependencies(const QString& key = QStringLiteral("Pressure"));
+/// @p unit as the default unit of Pressure.
 Answer defaultUnits(const QString& unit = QStringLiteral("HectoPascal"));
+/// A text that is not a document.
+Answer brokenUnits();
+/// The same answer, held until the reply is released.
+Answer held(Answer answer);
+/// The same answer, just after a change of a configuration has been announced.
+Answer afterChange(const SourceName& changed, Answer answer);
 
 /// Only the units, with the answers to their reads.
 World unitsWorld(const QList<Answer>& answers);

@@ -1,4 +1,4 @@
-#include <QtTest/QTest>
+// Failures while the library is running, and the recovery from them.
 
 #include "Expected.h"
 #include "Fixtures.h"
@@ -8,60 +8,43 @@
 using namespace Expected;
 using namespace Fixtures;
 
-// Failures while the library is running, and the recovery from them.
-class LiveRecoveryTest : public LiveTest
-{
-    Q_OBJECT
-
-protected:
-    QList<Scenario> scenarios() const override;
-};
-
 namespace {
 
 const QString notConnected =
     QStringLiteral("warning Unitswitch connector: Cannot call method configuration get via DBus");
 
-/// Brings the library from the error state back to the idle state with new documents.
-void recover(Stage& stage, const QStringList& events, const QString& conversion)
-{
-    stage.checkUntilIdle(events);
-    stage.expectConversion(conversion);
-    stage.expectChanged();
-}
-
 // The connector replaces the good document by the one that cannot be loaded, the wrapper does so only when it
 // detects the change. The restart after the error reads all sources.
-void goodThenBrokenThenGood(Stage& stage, const Mode& mode)
+void goodThenBrokenThenGood(Stage& stage)
 {
-    stage.startAllSources(fullWorld({units(1000), Answer::with(Documents::broken()), units(3000)}));
+    stage.startAllSources(fullWorld({units(1000), brokenUnits(), units(3000)}));
     stage.announce(Sources::units);
-    stage.checkUntilEntered(changeDetected(mode) + read(mode) +
+    stage.checkUntilEntered(changeDetected(stage.mode) + read(stage.mode) +
                             QStringList{State::update, Signal::configurationChanged, State::error});
-    stage.expectConversion(mode.isWrapper() ? inHectoPascal(1000) : unconverted);
-    stage.expectChanged();
+    stage.expectConversion(stage.mode.isWrapper() ? inHectoPascal(1000) : unconverted);
+    stage.expectChanged(true);
     stage.expectConversion(unconverted);
     stage.expectKept({inHectoPascal(1000)});
     stage.expectDependents("Pressure");
     stage.keepUnits();
-    recover(stage, restart(mode), inHectoPascal(3000));
+    stage.expectStart(restart(stage.mode), inHectoPascal(3000));
     stage.expectKept({inHectoPascal(1000), unconverted});
     stage.checkUntilSettled(remainsIdle);
     stage.finish(readAll + QStringList{readUnits} + readAll, {unitsChanged, unitsInvalid});
 }
 
-void changeWhoseReadFails(Stage& stage, const Mode& mode)
+void changeWhoseReadFails(Stage& stage)
 {
-    stage.startAllSources(fullWorld({units(1000), Answer::error(), units(3000)}));
+    stage.startAllSources(fullWorld({units(1000), {Answer::Error}, units(3000)}));
     stage.announce(Sources::units);
-    stage.checkUntilEntered(failedReload(mode));
+    stage.checkUntilEntered(failedReload(stage.mode));
     stage.expectConversion(inHectoPascal(1000));
-    stage.expectUnchanged();
+    stage.expectChanged(false);
     stage.expectConversion(inHectoPascal(1000));
-    recover(stage, restart(mode), inHectoPascal(3000));
+    stage.expectStart(restart(stage.mode), inHectoPascal(3000));
     stage.expectKept({inHectoPascal(1000)});
     stage.finish(readAll + QStringList{readUnits} + readAll,
-                 QStringList{unitsChanged} + onlyIf(mode.isBlocking, unitsUnread));
+                 QStringList{unitsChanged} + onlyIf(stage.mode.isBlocking, unitsUnread));
 }
 
 /// Logged by the first check after an error while the service is away. The error state itself makes no
@@ -74,35 +57,36 @@ QStringList attemptsAfterError(const Mode& mode)
     return onlyIf(mode.isDeferred, unitsUnreachable);
 }
 
-void deathDuringTheFirstRead(Stage& stage, const Mode& mode)
+void deathDuringTheFirstRead(Stage& stage)
 {
-    stage.serve(unitsWorld({Answer::death(), units(2000)}));
-    stage.start(unitsOnly);
-    stage.checkUntilEntered(failedStart(mode));
+    stage.start(unitsOnly, unitsWorld({{Answer::Death}, units(2000)}));
+    stage.checkUntilEntered(failedStart(stage.mode));
     stage.expectConversion(unconverted);
     stage.checkNotIdle({State::initial});
     stage.startModule(Modules::deviceManager);
-    recover(stage, read(mode) + update, inBar(2000));
-    stage.finish({readUnits, readUnits}, onlyIf(mode.isBlocking, unitsUnread) + attemptsAfterError(mode));
+    stage.expectStart(read(stage.mode) + update, inBar(2000));
+    stage.finish({readUnits, readUnits},
+                 onlyIf(stage.mode.isBlocking, unitsUnread) + attemptsAfterError(stage.mode));
 }
 
-void deathDuringALaterRead(Stage& stage, const Mode& mode)
+void deathDuringALaterRead(Stage& stage)
 {
-    stage.startAllSources(fullWorld({units(1000), Answer::death(), units(3000)}));
+    stage.startAllSources(fullWorld({units(1000), {Answer::Death}, units(3000)}));
     stage.announce(Sources::units);
-    stage.checkUntilEntered(failedReload(mode));
+    stage.checkUntilEntered(failedReload(stage.mode));
     stage.expectConversion(inHectoPascal(1000));
-    stage.expectUnchanged();
+    stage.expectChanged(false);
     stage.checkNotIdle({State::initial});
     stage.expectConversion(inHectoPascal(1000));
     stage.startModule(Modules::deviceManager);
-    recover(stage, read(mode) + update, inHectoPascal(3000));
+    stage.expectStart(read(stage.mode) + update, inHectoPascal(3000));
     stage.expectKept({inHectoPascal(1000)});
-    stage.finish(readAll + QStringList{readUnits} + readAll,
-                 QStringList{unitsChanged} + onlyIf(mode.isBlocking, unitsUnread) + attemptsAfterError(mode));
+    stage.finish(readAll + QStringList{readUnits} + readAll, QStringList{unitsChanged} +
+                                                                 onlyIf(stage.mode.isBlocking, unitsUnread) +
+                                                                 attemptsAfterError(stage.mode));
 }
 
-void restartWhileIdle(Stage& stage, const Mode& mode)
+void restartWhileIdle(Stage& stage)
 {
     stage.startAllSources(changingWorld());
     stage.stopModule(Modules::deviceManager);
@@ -111,8 +95,7 @@ void restartWhileIdle(Stage& stage, const Mode& mode)
     stage.startModule(Modules::deviceManager);
     stage.checkIdle(idleChecks(3), 3);
     stage.announce(Sources::units);
-    stage.checkUntilChanged(reload(mode));
-    stage.expectConversion(inHectoPascal(2000));
+    stage.expectReload(inHectoPascal(2000));
     stage.expectKept({inHectoPascal(1000)});
     stage.finish(readAll + QStringList{readUnits}, {unitsChanged});
 }
@@ -124,39 +107,39 @@ QStringList unconnectedReload(const Mode& mode)
            QStringList{mode.isBlocking ? State::readBlocking : State::readAsynchronous, State::error};
 }
 
-void deathBetweenChangeAndRead(Stage& stage, const Mode& mode)
+void deathBetweenChangeAndRead(Stage& stage)
 {
     stage.startAllSources(changingWorld());
     stage.announce(Sources::units);
     stage.stopModule(Modules::deviceManager);
-    stage.checkUntilEntered(unconnectedReload(mode));
+    stage.checkUntilEntered(unconnectedReload(stage.mode));
     stage.expectConversion(inHectoPascal(1000));
-    stage.expectUnchanged();
+    stage.expectChanged(false);
     stage.startModule(Modules::deviceManager);
-    recover(stage, restart(mode), inBar(2000));
+    stage.expectStart(restart(stage.mode), inBar(2000));
     stage.finish(readAll + readAll, {unitsChanged, notConnected});
 }
 
 // While an optional module is missing, the others are not read either.
-void deathOfAnOptionalModule(Stage& stage, const Mode& mode)
+void deathOfAnOptionalModule(Stage& stage)
 {
-    stage.serve(changingWorld() << Source{Sources::remoteDefaultUnits, {defaultUnits()}});
-    stage.start({Sources::none, Sources::remoteDefaultUnits});
-    stage.checkUntilIdle(firstStart(mode));
-    stage.expectChanged();
+    stage.start({Sources::none, Sources::remoteDefaultUnits},
+                changingWorld() << Source{Sources::remoteDefaultUnits, {defaultUnits()}});
+    stage.checkUntilIdle(firstStart(stage.mode));
+    stage.expectChanged(true);
     stage.stopModule(Modules::defaultUnitManager);
     stage.announce(Sources::units);
-    stage.checkUntilEntered(unconnectedReload(mode));
+    stage.checkUntilEntered(unconnectedReload(stage.mode));
     stage.expectConversion(inHectoPascal(1000));
     stage.startModule(Modules::defaultUnitManager);
-    recover(stage, restart(mode), inHectoPascal(2000));
+    stage.expectStart(restart(stage.mode), inHectoPascal(2000));
     stage.finish({readUnits, readRemoteDefaultUnits, readUnits, readRemoteDefaultUnits},
                  {unitsChanged, notConnected});
 }
 
 } // namespace
 
-QList<Scenario> LiveRecoveryTest::scenarios() const
+QList<Scenario> scenarios()
 {
     return {{"good document, then a broken one, then a good one", goodThenBrokenThenGood},
             {"change whose read fails", changeWhoseReadFails},
@@ -166,7 +149,3 @@ QList<Scenario> LiveRecoveryTest::scenarios() const
             {"service that dies between a change and its read", deathBetweenChangeAndRead},
             {"optional module that dies before a change of the units", deathOfAnOptionalModule}};
 }
-
-QTEST_GUILESS_MAIN(LiveRecoveryTest)
-
-#include "LiveRecoveryTest.moc"

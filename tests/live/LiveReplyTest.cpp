@@ -1,4 +1,4 @@
-#include <QtTest/QTest>
+// The possible answers of the service to a read.
 
 #include "Expected.h"
 #include "Fixtures.h"
@@ -9,80 +9,41 @@
 using namespace Expected;
 using namespace Fixtures;
 
-// The possible answers of the service to a read.
-class LiveReplyTest : public LiveTest
-{
-    Q_OBJECT
-
-protected:
-    QList<Scenario> scenarios() const override;
-};
-
 namespace {
 
 /// The restart after a first answer that is not usable.
-void restartWithUnits(Stage& stage, const Mode& mode, const QStringList& messages)
+void restartWithUnits(Stage& stage, const QStringList& messages)
 {
-    stage.checkUntilIdle(restart(mode));
-    stage.expectConversion(inBar(1000));
-    stage.expectChanged();
+    stage.expectStart(restart(stage.mode), inBar(1000));
     stage.finish({readUnits, readUnits}, messages);
 }
 
-void firstReadFails(Stage& stage, const Mode& mode, const Answer& answer, const QStringList& messages)
+/// Only blocking reads log the failure.
+void firstReadFails(Stage& stage, const Answer& answer, const QString& warning)
 {
-    stage.serve(unitsWorld({answer, units()}));
-    stage.start(unitsOnly);
-    stage.checkUntilEntered(failedStart(mode));
+    stage.start(unitsOnly, unitsWorld({answer, units()}));
+    stage.checkUntilEntered(failedStart(stage.mode));
     stage.setCallTimeout(waitLimit); // undoes the short one of missingReply()
     stage.expectConversion(unconverted);
-    stage.expectUnchanged();
-    restartWithUnits(stage, mode, messages);
+    stage.expectChanged(false);
+    restartWithUnits(stage, onlyIf(stage.mode.isBlocking, warning));
 }
 
-void errorReply(Stage& stage, const Mode& mode)
-{
-    firstReadFails(stage, mode, Answer::error(), onlyIf(mode.isBlocking, unitsUnread));
-}
-
-void missingReply(Stage& stage, const Mode& mode)
+void missingReply(Stage& stage)
 {
     stage.setCallTimeout(500);
-    firstReadFails(stage, mode, Answer::never(), onlyIf(mode.isBlocking, unitsUnread));
-}
-
-void emptyTextForBlockingRead(Stage& stage, const Mode& mode)
-{
-    firstReadFails(stage, mode, Answer::with(""), {unitsEmpty});
-}
-
-const QVariantMap map{{"text", "{}"}};
-
-void mapForBlockingRead(Stage& stage, const Mode& mode)
-{
-    firstReadFails(stage, mode, Answer::with(map), {unitsEmpty});
+    firstReadFails(stage, {Answer::Never}, unitsUnread);
 }
 
 /// The first text is read, but cannot be loaded.
-void firstTextIsUnloadable(Stage& stage, const Mode& mode, const QVariant& value, const QString& warning)
+void firstTextIsUnloadable(Stage& stage, const Answer& answer, const QString& warning)
 {
-    stage.serve(unitsWorld({Answer::with(value), units()}));
-    stage.start(unitsOnly);
-    stage.checkUntilEntered(unloadableStart(mode));
+    stage.start(unitsOnly, unitsWorld({answer, units()}));
+    stage.checkUntilEntered(unloadableStart(stage.mode));
     stage.expectConversion(unconverted);
-    stage.expectChanged();
+    stage.expectChanged(true);
     stage.expectConversion(unconverted);
-    restartWithUnits(stage, mode, {warning});
-}
-
-void textThatDoesNotParse(Stage& stage, const Mode& mode)
-{
-    firstTextIsUnloadable(stage, mode, Documents::broken(), unitsInvalid);
-}
-
-void numberAsReply(Stage& stage, const Mode& mode)
-{
-    firstTextIsUnloadable(stage, mode, 42, "warning Conversion configuration invalid \"42\"");
+    restartWithUnits(stage, {warning});
 }
 
 /// The check after the one in the update state.
@@ -90,175 +51,149 @@ const QStringList updated{Signal::configurationChanged, State::idle, Signal::ini
 
 /// Asynchronous reads accept a first reply without a text. Then there is no unit manager until the units
 /// change.
-/// @param collectingChecks the number of checks that collect the reply, without the one that enters the
-/// update
-void firstTextIsAbsent(Stage& stage, const Mode& mode, const QVariant& value, int collectingChecks)
+/// @param collectingChecks with immediate entry, the number of checks before the one that enters the update
+void firstTextIsAbsent(Stage& stage, const Answer& answer, int collectingChecks)
 {
-    stage.serve(unitsWorld({Answer::held(value), units()}));
-    stage.start(unitsOnly);
-    stage.checkUntilEntered(startUntilWaiting(mode));
+    stage.start(unitsOnly, unitsWorld({held(answer), units()}));
+    stage.checkUntilEntered(startUntilWaiting(stage.mode));
     stage.release(Sources::units);
-    stage.checkNotIdle({}, mode.isDeferred ? collectingChecks + 1 : collectingChecks);
+    stage.checkNotIdle({}, stage.mode.isDeferred ? collectingChecks + 1 : collectingChecks);
     stage.checkNotIdle({State::update});
     stage.checkIdle(updated);
     stage.checkIdle(idleChecks(2), 2);
     stage.expectConversion(unconverted);
-    stage.expectChanged();
+    stage.expectChanged(true);
     stage.announce(Sources::units);
-    stage.checkUntilChanged(reload(mode));
-    stage.expectConversion(inBar(1000));
+    stage.expectReload(inBar(1000));
 
-    // A wrapper logs each idle check that finds no unit manager; so is the one that detects the change.
+    // A wrapper logs each idle check without a unit manager. With deferred entry, the check that detects the
+    // change is one of these.
     const QString notInitialized = QStringLiteral("warning Unable to initialize UnitManager");
     const QStringList missing{Recorder::repeated(3, notInitialized),
                               QStringLiteral("warning Unable to change configuration of UnitManager")};
-    stage.finish({readUnits, readUnits}, (mode.isWrapper() ? missing : QStringList()) +
-                                             QStringList{unitsChanged} +
-                                             onlyIf(mode.isWrapper() && mode.isDeferred, notInitialized));
-}
-
-void emptyTextForAsynchronousRead(Stage& stage, const Mode& mode)
-{
-    firstTextIsAbsent(stage, mode, "", 0);
-}
-
-// A reply that is not a text costs one more check.
-void mapForAsynchronousRead(Stage& stage, const Mode& mode)
-{
-    firstTextIsAbsent(stage, mode, map, 1);
+    stage.finish({readUnits, readUnits},
+                 (stage.mode.isWrapper() ? missing : QStringList()) + QStringList{unitsChanged} +
+                     onlyIf(stage.mode.isWrapper() && stage.mode.isDeferred, notInitialized));
 }
 
 /// All three sources are read although one of them fails.
-void oneOfThreeFails(Stage& stage, const Mode& mode, const World& world, const QString& warning)
+void oneOfThreeFails(Stage& stage, const World& world, const QString& warning)
 {
-    stage.serve(world);
-    stage.start(allSources);
-    stage.checkUntilEntered(failedStart(mode));
+    stage.start(allSources, world);
+    stage.checkUntilEntered(failedStart(stage.mode));
     stage.expectConversion(unconverted);
-    stage.checkUntilIdle(restart(mode));
-    stage.expectConversion(inHectoPascal(1000));
-    stage.expectChanged();
-    stage.finish(readAll + readAll, onlyIf(mode.isBlocking, warning));
+    stage.expectStart(restart(stage.mode), inHectoPascal(1000));
+    stage.finish(readAll + readAll, onlyIf(stage.mode.isBlocking, warning));
 }
 
-void firstOfThreeFails(Stage& stage, const Mode& mode)
+void emptyDefaultUnits(Stage& stage)
 {
-    oneOfThreeFails(stage, mode, fullWorld({Answer::error(), units()}), unitsUnread);
-}
-
-void lastOfThreeFails(Stage& stage, const Mode& mode)
-{
-    oneOfThreeFails(stage, mode, fullWorld({units()}, {dependencies()}, {Answer::error(), defaultUnits()}),
-                    defaultUnitsUnread);
-}
-
-void emptyDefaultUnits(Stage& stage, const Mode& mode)
-{
-    stage.serve(fullWorld({units()}, {dependencies()}, {Answer::with("")}));
-    stage.start(allSources);
-    stage.checkUntilIdle(firstStart(mode));
-    stage.expectConversion(inBar(1000));
+    stage.start(allSources, fullWorld({units()}, {dependencies()}, {{Answer::Value, ""}}));
+    stage.expectStart(firstStart(stage.mode), inBar(1000));
     stage.expectDependents("Pressure");
-    stage.expectChanged();
     stage.finish(readAll);
 }
 
-void dependenciesThatDoNotParse(Stage& stage, const Mode& mode)
+void dependenciesThatDoNotParse(Stage& stage)
 {
-    stage.serve(fullWorld({units()}, {Answer::with("[]"), dependencies()}));
-    stage.start(allSources);
-    stage.checkUntilEntered(unloadableStart(mode));
-    stage.expectChanged();
+    stage.start(allSources, fullWorld({units()}, {{Answer::Value, "[]"}, dependencies()}));
+    stage.checkUntilEntered(unloadableStart(stage.mode));
+    stage.expectChanged(true);
     stage.expectConversion(inHectoPascal(1000));
     stage.expectDependents("none");
-    stage.checkUntilIdle(restart(mode));
-    stage.expectConversion(inHectoPascal(1000));
+    stage.expectStart(restart(stage.mode), inHectoPascal(1000));
     stage.expectDependents("Pressure");
-    stage.expectChanged();
     stage.finish(readAll + readAll,
                  {"warning Dependency configuration invalid: \"the document is not an object\""});
 }
 
 /// Three replies are held; each of three checks receives one.
-void repliesOneByOne(Stage& stage, const Mode& mode, const QList<SourceName>& order)
+void repliesOneByOne(Stage& stage, const QList<SourceName>& order)
 {
-    stage.serve(fullWorld({Answer::held(Documents::units(1000))},
-                          {Answer::held(Documents::dependencies("Pressure"))},
-                          {Answer::held(Documents::defaultUnits("HectoPascal"))}));
-    stage.start(allSources);
-    stage.checkUntilEntered(startUntilWaiting(mode));
+    stage.start(allSources, fullWorld({held(units(1000))}, {held(dependencies("Pressure"))},
+                                      {held(defaultUnits("HectoPascal"))}));
+    stage.checkUntilEntered(startUntilWaiting(stage.mode));
     stage.checkNotIdle({}, 20);
     stage.release(order.at(0));
     stage.checkNotIdle({});
     stage.release(order.at(1));
     stage.checkNotIdle({});
     stage.release(order.at(2));
-    stage.checkNotIdle(onlyIf(!mode.isDeferred, State::update));
+    stage.checkNotIdle(onlyIf(!stage.mode.isDeferred, State::update));
     stage.expectConversion(unconverted);
-    if (mode.isDeferred)
+    if (stage.mode.isDeferred)
         stage.checkNotIdle({State::update});
     stage.checkIdle(updated);
     stage.checkIdle(idleChecks(1));
     stage.expectConversion(inHectoPascal(1000));
     stage.expectDependents("Pressure");
-    stage.expectChanged();
+    stage.expectChanged(true);
     stage.finish(readAll);
 }
 
-void repliesInOrder(Stage& stage, const Mode& mode)
+void errorBeforeAnOutstandingReply(Stage& stage)
 {
-    repliesOneByOne(stage, mode, {Sources::units, Sources::dependencies, Sources::defaultUnits});
-}
-
-void repliesInReverseOrder(Stage& stage, const Mode& mode)
-{
-    repliesOneByOne(stage, mode, {Sources::defaultUnits, Sources::dependencies, Sources::units});
-}
-
-void errorBeforeAnOutstandingReply(Stage& stage, const Mode& mode)
-{
-    stage.serve(
-        fullWorld({Answer::error()}, {dependencies()}, {Answer::held(Documents::defaultUnits("Bar"))}));
-    stage.start(allSources);
-    stage.checkUntilEntered(failedStart(mode));
-    stage.expectUnchanged();
+    stage.start(allSources, fullWorld({{Answer::Error}}, {dependencies()}, {held(defaultUnits("Bar"))}));
+    stage.checkUntilEntered(failedStart(stage.mode));
+    stage.expectChanged(false);
     stage.finish(readAll);
 }
 
-void errorAfterAnOutstandingReply(Stage& stage, const Mode& mode)
+void errorAfterAnOutstandingReply(Stage& stage)
 {
-    stage.serve(fullWorld({Answer::held(Documents::units(1000))}, {dependencies()}, {Answer::error()}));
-    stage.start(allSources);
-    stage.checkUntilEntered(startUntilWaiting(mode));
+    stage.start(allSources, fullWorld({held(units(1000))}, {dependencies()}, {{Answer::Error}}));
+    stage.checkUntilEntered(startUntilWaiting(stage.mode));
     stage.checkNotIdle({}, 20);
     stage.release(Sources::units);
     stage.checkUntilEntered({State::error});
-    stage.expectUnchanged();
+    stage.expectChanged(false);
     stage.finish(readAll);
 }
 
 } // namespace
 
-QList<Scenario> LiveReplyTest::scenarios() const
+QList<Scenario> scenarios()
 {
-    return {{"error reply", errorReply},
-            {"reply that never comes", missingReply},
-            {"empty text", emptyTextForBlockingRead, Modes::blocking},
-            {"empty text", emptyTextForAsynchronousRead, Modes::asynchronous},
-            {"text that does not parse", textThatDoesNotParse},
-            {"a number as reply", numberAsReply},
-            {"a map as reply", mapForBlockingRead, Modes::blocking},
-            {"a map as reply", mapForAsynchronousRead, Modes::asynchronous},
-            {"error reply of the first of three", firstOfThreeFails},
-            {"error reply of the last of three", lastOfThreeFails},
-            {"empty text of an optional source", emptyDefaultUnits, Modes::asynchronous},
-            {"text of the dependencies that does not parse", dependenciesThatDoNotParse},
-            {"replies one per step", repliesInOrder, Modes::asynchronous},
-            {"replies one per step in reverse order", repliesInReverseOrder, Modes::asynchronous},
-            {"error reply before an outstanding reply", errorBeforeAnOutstandingReply, Modes::asynchronous},
-            {"error reply after an outstanding reply", errorAfterAnOutstandingReply, Modes::asynchronous}};
+    const Answer emptyText{Answer::Value, ""};
+    const Answer number{Answer::Value, 42};
+    const Answer map{Answer::Value, QVariantMap{{"text", "{}"}}};
+    const QString invalidNumber = QStringLiteral("warning Conversion configuration invalid \"42\"");
+    const World firstFails = fullWorld({{Answer::Error}, units()});
+    const World lastFails = fullWorld({units()}, {dependencies()}, {{Answer::Error}, defaultUnits()});
+    const QList<SourceName> order{Sources::units, Sources::dependencies, Sources::defaultUnits};
+    const QList<SourceName> reverse{order.at(2), order.at(1), order.at(0)};
+    return {
+        {"error reply",
+         [](Stage& stage) {
+             firstReadFails(stage, {Answer::Error}, unitsUnread);
+         }},
+        {"reply that never comes", missingReply},
+        {"empty text", [=](Stage& stage) { firstReadFails(stage, emptyText, unitsEmpty); }, Modes::blocking},
+        {"empty text", [=](Stage& stage) { firstTextIsAbsent(stage, emptyText, 0); }, Modes::asynchronous},
+        {"text that does not parse",
+         [](Stage& stage) {
+             firstTextIsUnloadable(stage, brokenUnits(), unitsInvalid);
+         }},
+        {"a number as reply",
+         [=](Stage& stage) {
+             firstTextIsUnloadable(stage, number, invalidNumber);
+         }},
+        {"a map as reply", [=](Stage& stage) { firstReadFails(stage, map, unitsEmpty); }, Modes::blocking},
+        // A reply that is not a text costs one more check.
+        {"a map as reply", [=](Stage& stage) { firstTextIsAbsent(stage, map, 1); }, Modes::asynchronous},
+        {"error reply of the first of three",
+         [=](Stage& stage) {
+             oneOfThreeFails(stage, firstFails, unitsUnread);
+         }},
+        {"error reply of the last of three",
+         [=](Stage& stage) {
+             oneOfThreeFails(stage, lastFails, defaultUnitsUnread);
+         }},
+        {"empty text of an optional source", emptyDefaultUnits, Modes::asynchronous},
+        {"text of the dependencies that does not parse", dependenciesThatDoNotParse},
+        {"replies one per step", [=](Stage& stage) { repliesOneByOne(stage, order); }, Modes::asynchronous},
+        {"replies one per step in reverse order", [=](Stage& stage) { repliesOneByOne(stage, reverse); },
+         Modes::asynchronous},
+        {"error reply before an outstanding reply", errorBeforeAnOutstandingReply, Modes::asynchronous},
+        {"error reply after an outstanding reply", errorAfterAnOutstandingReply, Modes::asynchronous}};
 }
-
-QTEST_GUILESS_MAIN(LiveReplyTest)
-
-#include "LiveReplyTest.moc"

@@ -1,4 +1,4 @@
-#include <QtTest/QTest>
+// Reset and destruction in each state of the machine.
 
 #include "Expected.h"
 #include "Fixtures.h"
@@ -8,65 +8,47 @@
 using namespace Expected;
 using namespace Fixtures;
 
-// Reset and destruction in each state of the machine.
-class LiveRestartTest : public LiveTest
-{
-    Q_OBJECT
-
-protected:
-    QList<Scenario> scenarios() const override;
-};
-
 namespace {
 
-/// What is expected after a start has been brought to a state.
+/// What is expected after an application with all sources has been brought to a state.
 struct Reached
 {
-    QStringList reads;        ///< so far
-    QStringList messages;     ///< so far
-    QStringList lateMessages; ///< when the application runs on
+    QStringList reads = {}; ///< so far
     QString conversion = unconverted;
-    QStringList restart; ///< events of a start after a reset
     QString restartConversion = inHectoPascal(2000);
+    QStringList eventsBeforeRestart = {};
+    QStringList messages = {};     ///< so far
+    QStringList lateMessages = {}; ///< when the application continues
 };
 
-/// A state, and the way to it from the construction of an application with all sources.
+/// A state, and the way to it from the start of an application.
 ///
-/// With immediate entry, the last state of the way has been entered but not been stepped yet. With deferred
-/// entry, a state is stepped when it is entered.
+/// With immediate entry, the state has been entered, but its step is still to come. With deferred entry, the
+/// step has been made as well.
 struct Place
 {
     QString name;
     std::function<bool(const Mode&)> runsIn;
-    std::function<Reached(Stage&, const Mode&)> reach;
+    std::function<Reached(Stage&)> reach;
 };
 
-bool everyLevel(const Mode& /*mode*/)
-{
+const auto everyLevel = [](const Mode& /*mode*/) {
     return true;
-}
-
-bool asynchronous(const Mode& mode)
-{
+};
+const auto asynchronous = [](const Mode& mode) {
     return !mode.isBlocking;
-}
-
-bool blockingMachine(const Mode& mode)
-{
+};
+const auto blockingMachine = [](const Mode& mode) {
     return mode.isBlocking && mode.level == Mode::Machine;
-}
-
+};
 // A blocking check of the wrapper or the connector ends in the initial, idle or error state.
-bool stopsInEveryState(const Mode& mode)
-{
-    return asynchronous(mode) || mode.level == Mode::Machine;
-}
-
+const auto stopsInEveryState = [](const Mode& mode) {
+    return !mode.isBlocking || mode.level == Mode::Machine;
+};
 // A wrapper to which changes are delivered leaves the initial state in its constructor.
-bool startsInInitialState(const Mode& mode)
-{
+const auto startsInInitialState = [](const Mode& mode) {
     return !mode.isWrapper() || mode.isPolled;
-}
+};
 
 World plainWorld()
 {
@@ -75,90 +57,82 @@ World plainWorld()
 
 World heldWorld()
 {
-    return fullWorld({Answer::held(Documents::units(1000)), units(2000)},
-                     {Answer::held(Documents::dependencies("Pressure")), dependencies("Range")},
-                     {Answer::held(Documents::defaultUnits("Bar")), defaultUnits()});
+    return fullWorld({held(units(1000)), units(2000)},
+                     {held(dependencies("Pressure")), dependencies("Range")},
+                     {held(defaultUnits("Bar")), defaultUnits()});
 }
 
-void serveAndStart(Stage& stage, const World& world)
+Reached initial(Stage& stage)
 {
-    stage.serve(world);
-    stage.start(allSources);
-}
-
-Reached initial(Stage& stage, const Mode& mode)
-{
-    serveAndStart(stage, plainWorld());
+    stage.start(allSources, plainWorld());
     // With deferred entry nothing is entered before the first step.
-    stage.expectEvents(mode.isDeferred ? QStringList() : construction(mode));
-    Reached reached{{}, {}, {}, unconverted, restart(mode)};
-    reached.restartConversion = inHectoPascal(1000);
-    return reached;
+    stage.expectEvents(stage.mode.isDeferred ? QStringList() : construction(stage.mode));
+    return {{}, unconverted, inHectoPascal(1000)};
 }
 
-/// The start of the reads: with deferred entry, the state has sent them.
-Reached reading(Stage& stage, const Mode& mode)
+Reached startingToRead(Stage& stage)
 {
-    serveAndStart(stage, plainWorld());
-    stage.checkUntilEntered(construction(mode) + QStringList{read(mode).first()});
-    Reached reached{mode.isDeferred ? readAll : QStringList(), {}, {}, unconverted, restart(mode)};
-    reached.restartConversion = inHectoPascal(mode.isDeferred ? 2000 : 1000);
-    return reached;
+    stage.start(allSources, plainWorld());
+    stage.checkUntilEntered(construction(stage.mode) + QStringList{read(stage.mode).first()});
+    if (stage.mode.isDeferred)
+        return {readAll};
+    return {{}, unconverted, inHectoPascal(1000)};
 }
 
-Reached waiting(Stage& stage, const Mode& mode)
+Reached waiting(Stage& stage)
 {
-    serveAndStart(stage, heldWorld());
-    stage.checkUntilEntered(startUntilWaiting(mode));
+    stage.start(allSources, heldWorld());
+    stage.checkUntilEntered(startUntilWaiting(stage.mode));
     stage.checkNotIdle({}, 5);
-    return {readAll, {}, {}, unconverted, restart(mode)};
+    return {readAll};
 }
 
-Reached waitingForLastReply(Stage& stage, const Mode& mode)
+Reached waitingForLastReply(Stage& stage)
 {
-    serveAndStart(stage, heldWorld());
-    stage.checkUntilEntered(startUntilWaiting(mode));
+    stage.start(allSources, heldWorld());
+    stage.checkUntilEntered(startUntilWaiting(stage.mode));
     stage.release(Sources::units);
     stage.release(Sources::dependencies);
     stage.checkNotIdle({});
-    return {readAll, {}, {}, unconverted, restart(mode)};
+    return {readAll};
 }
 
-// With deferred entry the objects have been built. A wrapper has not got them yet: the next step, which
-// begins in the update state although it enters another one, announces them.
-Reached updating(Stage& stage, const Mode& mode)
+Reached updating(Stage& stage)
 {
-    serveAndStart(stage, plainWorld());
-    stage.checkUntilEntered(construction(mode) + read(mode) + QStringList{State::update});
-    if (!mode.isDeferred)
-        return {readAll, {}, {}, unconverted, restart(mode)};
+    stage.start(allSources, plainWorld());
+    stage.checkUntilEntered(construction(stage.mode) + read(stage.mode) + QStringList{State::update});
+    if (!stage.mode.isDeferred)
+        return {readAll};
+    // The objects have been built. They are announced by the next step, which begins in the update state
+    // although it enters another one; until then the wrapper has none.
     return {readAll,
-            {},
-            {},
-            mode.isWrapper() ? unconverted : inHectoPascal(1000),
-            QStringList{Signal::configurationChanged} + restart(mode)};
+            stage.mode.isWrapper() ? unconverted : inHectoPascal(1000),
+            inHectoPascal(2000),
+            {Signal::configurationChanged}};
 }
 
-Reached idling(Stage& stage, const Mode& mode)
+Reached idling(Stage& stage)
 {
-    serveAndStart(stage, plainWorld());
-    stage.checkUntilIdle(firstStart(mode));
-    return {readAll, {}, {}, inHectoPascal(1000), restart(mode)};
+    stage.start(allSources, plainWorld());
+    stage.checkUntilIdle(firstStart(stage.mode));
+    return {readAll, inHectoPascal(1000)};
 }
 
-Reached idlingWithChange(Stage& stage, const Mode& mode)
+Reached idlingWithChange(Stage& stage)
 {
-    Reached reached = idling(stage, mode);
+    Reached reached = idling(stage);
     stage.announce(Sources::units);
-    reached.lateMessages = onlyIf(!mode.isPolled, unitsChanged);
+    reached.lateMessages = onlyIf(!stage.mode.isPolled, unitsChanged);
     return reached;
 }
 
-Reached failed(Stage& stage, const Mode& mode)
+Reached failed(Stage& stage)
 {
-    serveAndStart(stage, fullWorld({Answer::error(), units(2000)}, {dependencies("Range")}));
-    stage.checkUntilEntered(failedStart(mode));
-    return {readAll, onlyIf(mode.isBlocking, unitsUnread), {}, unconverted, restart(mode)};
+    stage.start(allSources, fullWorld({{Answer::Error}, units(2000)}, {dependencies("Range")}));
+    stage.checkUntilEntered(failedStart(stage.mode));
+    Reached reached{readAll};
+    reached.messages = onlyIf(stage.mode.isBlocking, unitsUnread);
+    return reached;
 }
 
 /// Late replies to the calls that were given up; at most places there are none.
@@ -171,26 +145,24 @@ void releaseAll(Stage& stage)
 
 // The objects that were built remain until others replace them, and an announced change needs no read of its
 // own.
-void resetIn(const Place& place, Stage& stage, const Mode& mode)
+void resetIn(const Place& place, Stage& stage)
 {
-    const Reached reached = place.reach(stage, mode);
-    stage.reset();
-    stage.expectUnchanged();
+    const Reached reached = place.reach(stage);
+    stage.application().reset();
+    stage.expectChanged(false);
     stage.expectConversion(reached.conversion);
-    stage.checkUntilIdle(reached.restart);
-    stage.expectConversion(reached.restartConversion);
-    stage.expectChanged();
+    stage.expectStart(reached.eventsBeforeRestart + restart(stage.mode), reached.restartConversion);
     releaseAll(stage);
     stage.checkUntilSettled(remainsIdle);
     stage.expectConversion(reached.restartConversion);
     stage.finish(reached.reads + readAll, reached.messages + reached.lateMessages);
 }
 
-void destructionIn(const Place& place, Stage& stage, const Mode& mode)
+void destructionIn(const Place& place, Stage& stage)
 {
-    const Reached reached = place.reach(stage, mode);
+    const Reached reached = place.reach(stage);
     stage.keepUnits();
-    stage.destroy();
+    stage.application() = {};
     stage.expectKept({reached.conversion});
     releaseAll(stage);
     stage.finish(reached.reads, reached.messages);
@@ -198,11 +170,11 @@ void destructionIn(const Place& place, Stage& stage, const Mode& mode)
 
 } // namespace
 
-QList<Scenario> LiveRestartTest::scenarios() const
+QList<Scenario> scenarios()
 {
     const QList<Place> places{{"the initial state", startsInInitialState, initial},
-                              {"the blocking read", blockingMachine, reading},
-                              {"the start of the reads", asynchronous, reading},
+                              {"the blocking read", blockingMachine, startingToRead},
+                              {"the start of the reads", asynchronous, startingToRead},
                               {"the wait for replies", asynchronous, waiting},
                               {"the wait for the last reply", asynchronous, waitingForLastReply},
                               {"the update", stopsInEveryState, updating},
@@ -211,15 +183,10 @@ QList<Scenario> LiveRestartTest::scenarios() const
                               {"the error state", everyLevel, failed}};
     QList<Scenario> list;
     for (const Place& place : places) {
-        list.append({"reset in " + place.name,
-                     [place](Stage& stage, const Mode& mode) { resetIn(place, stage, mode); }, place.runsIn});
-        list.append({"destruction in " + place.name,
-                     [place](Stage& stage, const Mode& mode) { destructionIn(place, stage, mode); },
+        list.append(
+            {"reset in " + place.name, [place](Stage& stage) { resetIn(place, stage); }, place.runsIn});
+        list.append({"destruction in " + place.name, [place](Stage& stage) { destructionIn(place, stage); },
                      place.runsIn});
     }
     return list;
 }
-
-QTEST_GUILESS_MAIN(LiveRestartTest)
-
-#include "LiveRestartTest.moc"

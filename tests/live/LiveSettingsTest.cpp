@@ -1,4 +1,4 @@
-#include <QtTest/QTest>
+// Initialisation with other sources while the library is running.
 
 #include "Expected.h"
 #include "Fixtures.h"
@@ -7,15 +7,6 @@
 
 using namespace Expected;
 using namespace Fixtures;
-
-// Initialisation with other sources while the library is running.
-class LiveSettingsTest : public LiveTest
-{
-    Q_OBJECT
-
-protected:
-    QList<Scenario> scenarios() const override;
-};
 
 namespace {
 
@@ -37,120 +28,103 @@ QString conversionAfterInit(const Mode& mode)
 
 // init() unsubscribes with the new names, so that the old subscription remains. The old name in its signals
 // is then ignored.
-void otherNames(Stage& stage, const Mode& mode)
+void otherNames(Stage& stage)
 {
     stage.startAllSources(changingWorld() << otherDefaultUnitSource);
-    stage.init(otherDefaultUnitSettings);
-    stage.expectConversion(conversionAfterInit(mode));
-    stage.expectUnchanged();
-    stage.checkUntilIdle(restart(mode));
-    stage.expectConversion(inBar(2000));
-    stage.expectChanged();
+    stage.application().init(otherDefaultUnitSettings);
+    stage.expectConversion(conversionAfterInit(stage.mode));
+    stage.expectChanged(false);
+    stage.expectStart(restart(stage.mode), inBar(2000));
     stage.expectKept({inHectoPascal(1000)});
     stage.announce(Sources::defaultUnits);
     stage.checkUntilSettled(remainsIdle);
     stage.announce(Sources::otherDefaultUnits);
-    stage.checkUntilChanged(reload(mode));
-    stage.expectConversion(inHectoPascal(2000));
+    stage.expectReload(inHectoPascal(2000));
     stage.expectKept({inHectoPascal(1000)});
-    stage.finish(
-        readAll + QStringList{readUnits, readDependencies, readOtherDefaultUnits, readOtherDefaultUnits},
-        onlyIf(!mode.isPolled, notDisconnected("OtherConfiguration")) + QStringList{defaultUnitsChanged});
+    stage.finish(readAll +
+                     QStringList{readUnits, readDependencies, readOtherDefaultUnits, readOtherDefaultUnits},
+                 onlyIf(!stage.mode.isPolled, notDisconnected("OtherConfiguration")) +
+                     QStringList{defaultUnitsChanged});
 }
 
 // The connector keeps its dependencies too, because no new ones replace them.
-void fewerSources(Stage& stage, const Mode& mode)
+void fewerSources(Stage& stage)
 {
     stage.startAllSources(changingWorld());
-    stage.init(unitsOnly);
-    stage.expectConversion(conversionAfterInit(mode));
-    stage.checkUntilIdle(restart(mode));
-    stage.expectConversion(inBar(2000));
+    stage.application().init(unitsOnly);
+    stage.expectConversion(conversionAfterInit(stage.mode));
+    stage.expectStart(restart(stage.mode), inBar(2000));
     stage.expectDependents("Pressure");
-    stage.expectChanged();
     stage.announce(Sources::defaultUnits);
     stage.announce(Sources::dependencies);
     stage.checkUntilSettled(remainsIdle);
     stage.announce(Sources::units);
-    stage.checkUntilChanged(reload(mode));
-    stage.expectConversion(inBar(2000));
+    stage.expectReload(inBar(2000));
     stage.expectKept({inHectoPascal(1000)});
     stage.finish(readAll + QStringList{readUnits, readUnits}, {unitsChanged});
 }
 
-void moreSources(Stage& stage, const Mode& mode)
+void moreSources(Stage& stage)
 {
-    stage.serve(changingWorld());
-    stage.start(unitsOnly);
-    stage.checkUntilIdle(firstStart(mode));
-    stage.expectConversion(inBar(1000));
+    stage.start(unitsOnly, changingWorld());
+    stage.expectStart(firstStart(stage.mode), inBar(1000));
     stage.expectDependents("none");
-    stage.expectChanged();
-    stage.init(allSources);
-    stage.expectUnchanged();
-    stage.checkUntilIdle(restart(mode));
-    stage.expectConversion(inHectoPascal(2000));
+    stage.application().init(allSources);
+    stage.expectChanged(false);
+    stage.expectStart(restart(stage.mode), inHectoPascal(2000));
     stage.expectDependents("Pressure");
-    stage.expectChanged();
     stage.announce(Sources::dependencies);
-    stage.checkUntilChanged(reload(mode));
+    stage.checkUntilChanged(reload(stage.mode));
     stage.expectDependents("Range");
     stage.finish(QStringList{readUnits} + readAll + QStringList{readDependencies}, {dependenciesChanged});
 }
 
-void initWithOutstandingReply(Stage& stage, const Mode& mode)
+void initWithOutstandingReply(Stage& stage)
 {
-    stage.serve(changingWorld({Answer::held(Documents::units(1000)), units(2000)}) << otherDefaultUnitSource);
-    stage.start(allSources);
-    stage.checkUntilEntered(startUntilWaiting(mode));
+    stage.start(allSources, changingWorld({held(units(1000)), units(2000)}) << otherDefaultUnitSource);
+    stage.checkUntilEntered(startUntilWaiting(stage.mode));
     stage.checkNotIdle({}, 5);
-    stage.init(otherDefaultUnitSettings);
+    stage.application().init(otherDefaultUnitSettings);
     stage.release(Sources::units);
     stage.expectConversion(unconverted);
-    stage.expectUnchanged();
-    stage.checkUntilIdle(restart(mode));
-    stage.expectConversion(inBar(2000));
-    stage.expectChanged();
+    stage.expectChanged(false);
+    stage.expectStart(restart(stage.mode), inBar(2000));
     stage.finish(readAll + QStringList{readUnits, readDependencies, readOtherDefaultUnits},
-                 onlyIf(!mode.isPolled, notDisconnected("OtherConfiguration")));
+                 onlyIf(!stage.mode.isPolled, notDisconnected("OtherConfiguration")));
 }
 
 // The query for the earlier change returns the old objects.
-void initWithUnqueriedChange(Stage& stage, const Mode& mode)
+void initWithUnqueriedChange(Stage& stage)
 {
-    stage.serve(changingWorld());
-    stage.start(allSources);
-    stage.checkUntilIdle(firstStart(mode));
-    stage.init(allSources);
-    stage.expectConversion(conversionAfterInit(mode));
-    stage.expectChanged();
+    stage.start(allSources, changingWorld());
+    stage.checkUntilIdle(firstStart(stage.mode));
+    stage.application().init(allSources);
+    stage.expectConversion(conversionAfterInit(stage.mode));
+    stage.expectChanged(true);
     stage.expectConversion(inHectoPascal(1000));
-    stage.expectUnchanged();
-    stage.checkUntilIdle(restart(mode));
-    stage.expectConversion(inBar(2000));
-    stage.expectChanged();
+    stage.expectChanged(false);
+    stage.expectStart(restart(stage.mode), inBar(2000));
     stage.finish(readAll + readAll);
 }
 
-void initWithMissingModule(Stage& stage, const Mode& mode)
+void initWithMissingModule(Stage& stage)
 {
     stage.startAllSources(changingWorld() << Source{Sources::remoteDefaultUnits, {defaultUnits("Bar")}},
                           Modules::defaultUnitManager);
-    stage.init({Sources::dependencies, Sources::remoteDefaultUnits});
+    stage.application().init({Sources::dependencies, Sources::remoteDefaultUnits});
     stage.checkNotIdle({State::initial});
-    stage.expectConversion(conversionAfterInit(mode));
+    stage.expectConversion(conversionAfterInit(stage.mode));
     stage.startModule(Modules::defaultUnitManager);
-    stage.checkUntilIdle(read(mode) + update);
-    stage.expectConversion(inBar(2000));
-    stage.expectChanged();
-    stage.finish(readAll + QStringList{readUnits, readDependencies, readRemoteDefaultUnits},
-                 onlyIf(!mode.isPolled, notDisconnected("DefaultUnitConfiguration")) +
-                     QStringList{Recorder::repeated(mode.isBlocking ? 100 : 1, defaultUnitsUnreachable)});
+    stage.expectStart(read(stage.mode) + update, inBar(2000));
+    stage.finish(
+        readAll + QStringList{readUnits, readDependencies, readRemoteDefaultUnits},
+        onlyIf(!stage.mode.isPolled, notDisconnected("DefaultUnitConfiguration")) +
+            QStringList{Recorder::repeated(stage.mode.isBlocking ? 100 : 1, defaultUnitsUnreachable)});
 }
 
 } // namespace
 
-QList<Scenario> LiveSettingsTest::scenarios() const
+QList<Scenario> scenarios()
 {
     return {{"init with other names", otherNames},
             {"init with the mandatory source alone", fewerSources},
@@ -159,7 +133,3 @@ QList<Scenario> LiveSettingsTest::scenarios() const
             {"init with a change that has not been queried", initWithUnqueriedChange},
             {"init with a source that is down", initWithMissingModule}};
 }
-
-QTEST_GUILESS_MAIN(LiveSettingsTest)
-
-#include "LiveSettingsTest.moc"

@@ -1,4 +1,4 @@
-#include <QtTest/QTest>
+// From the construction to a usable unit manager, also when parts of the service are missing.
 
 #include "Expected.h"
 #include "Fixtures.h"
@@ -8,141 +8,106 @@
 using namespace Expected;
 using namespace Fixtures;
 
-// From the construction to a usable unit manager, also when parts of the service are missing.
-class LiveStartTest : public LiveTest
-{
-    Q_OBJECT
-
-protected:
-    QList<Scenario> scenarios() const override;
-};
-
 namespace {
 
-void threeSources(Stage& stage, const Mode& mode)
+void threeSources(Stage& stage)
 {
-    stage.serve(fullWorld());
-    stage.start(allSources);
-    const bool startsInConstructor = mode.isWrapper() && mode.isBlocking && !mode.isPolled;
+    stage.start(allSources, fullWorld());
+    const bool startsInConstructor = stage.mode.isWrapper() && stage.mode.isBlocking && !stage.mode.isPolled;
     stage.expectConversion(startsInConstructor ? inHectoPascal(1000) : unconverted);
-    stage.checkUntilIdle(firstStart(mode));
-    stage.expectConversion(inHectoPascal(1000));
+    stage.expectStart(firstStart(stage.mode), inHectoPascal(1000));
     stage.expectDependents("Pressure");
-    stage.expectChanged();
-    stage.expectUnchanged();
+    stage.expectChanged(false);
     stage.checkUntilSettled(remainsIdle);
     stage.finish(readAll);
 }
 
-void onlyTheMandatorySource(Stage& stage, const Mode& mode)
+void onlyTheMandatorySource(Stage& stage)
 {
-    stage.serve(fullWorld());
-    stage.start(unitsOnly);
-    stage.checkUntilIdle(firstStart(mode));
-    stage.expectConversion(inBar(1000));
+    stage.start(unitsOnly, fullWorld());
+    stage.expectStart(firstStart(stage.mode), inBar(1000));
     stage.expectDependents("none");
-    stage.expectChanged();
-    stage.expectUnchanged();
+    stage.expectChanged(false);
     stage.finish({readUnits});
 }
 
-void startWithoutDependencies(Stage& stage, const Mode& mode, const SourceName& dependencySource)
+void startWithoutDependencies(Stage& stage, const SourceName& dependencySource)
 {
-    stage.serve(fullWorld());
-    stage.start({dependencySource, Sources::defaultUnits});
-    stage.checkUntilIdle(firstStart(mode));
-    stage.expectConversion(inHectoPascal(1000));
+    stage.start({dependencySource, Sources::defaultUnits}, fullWorld());
+    stage.expectStart(firstStart(stage.mode), inHectoPascal(1000));
     stage.expectDependents("none");
-    stage.expectChanged();
     stage.finish({readUnits, readDefaultUnits});
 }
 
-void noDependencies(Stage& stage, const Mode& mode)
-{
-    startWithoutDependencies(stage, mode, Sources::none);
-}
-
-void optionalSourceWithoutName(Stage& stage, const Mode& mode)
-{
-    startWithoutDependencies(stage, mode, {"DeviceManager", "DependencyConfiguration", ""});
-}
-
-void checkTwiceInVain(Stage& stage, const Mode& mode)
+void checkTwiceInVain(Stage& stage)
 {
     stage.start(allSources);
-    stage.checkNotIdle(construction(mode));
+    stage.checkNotIdle(construction(stage.mode));
     stage.expectConversion(unconverted);
     stage.checkNotIdle({});
-    stage.expectUnchanged();
-    stage.finish({}, {perAttempt(mode, 2, unitsUnreachable)});
+    stage.expectChanged(false);
+    stage.finish({}, {perAttempt(stage.mode, 2, unitsUnreachable)});
 }
 
-void noBus(Stage& stage, const Mode& mode)
+void noBus(Stage& stage)
 {
     stage.withoutBus();
-    checkTwiceInVain(stage, mode);
+    checkTwiceInVain(stage);
 }
 
-void busWithoutService(Stage& stage, const Mode& mode)
+/// A module of the service is missing until the first check has failed.
+void startWithLateModule(Stage& stage, const Settings& settings, const World& world, const QString& module)
 {
-    checkTwiceInVain(stage, mode);
-}
-
-/// A start in which one module of the service is missing until after the first check.
-void startWithLateModule(Stage& stage, const Mode& mode, const Settings& settings, const QString& module)
-{
-    stage.start(settings);
-    stage.checkNotIdle(construction(mode));
+    stage.start(settings, world, module);
+    stage.checkNotIdle(construction(stage.mode));
     stage.expectConversion(unconverted);
     stage.startModule(module);
-    stage.checkUntilIdle(read(mode) + update);
-    stage.expectConversion(inHectoPascal(1000));
-    stage.expectChanged();
+    stage.expectStart(read(stage.mode) + update, inHectoPascal(1000));
 }
 
-void serviceAppearsLater(Stage& stage, const Mode& mode)
+void serviceAppearsLater(Stage& stage)
 {
-    stage.serve(fullWorld(), Modules::deviceManager);
-    startWithLateModule(stage, mode, allSources, Modules::deviceManager);
-    stage.finish(readAll, {perAttempt(mode, 1, unitsUnreachable)});
+    startWithLateModule(stage, allSources, fullWorld(), Modules::deviceManager);
+    stage.finish(readAll, {perAttempt(stage.mode, 1, unitsUnreachable)});
 }
 
-void serviceWithoutTheObject(Stage& stage, const Mode& mode)
+void optionalSourceAppearsLater(Stage& stage)
 {
-    stage.serve({{Sources::dependencies, {dependencies()}}});
-    stage.start(unitsOnly);
-    stage.checkUntilEntered(failedStart(mode));
-    stage.expectConversion(unconverted);
-    stage.checkUntilEntered(QStringList{State::initial} + read(mode) + QStringList{State::error});
-    stage.expectUnchanged();
-    stage.finish({}, onlyIf(mode.isBlocking, Recorder::repeated(2, unitsUnread)));
-}
-
-void optionalSourceAppearsLater(Stage& stage, const Mode& mode)
-{
-    stage.serve(fullWorld() << Source{Sources::remoteDefaultUnits, {defaultUnits()}},
-                Modules::defaultUnitManager);
-    startWithLateModule(stage, mode, {Sources::dependencies, Sources::remoteDefaultUnits},
+    startWithLateModule(stage, {Sources::dependencies, Sources::remoteDefaultUnits},
+                        fullWorld() << Source{Sources::remoteDefaultUnits, {defaultUnits()}},
                         Modules::defaultUnitManager);
     stage.finish({readUnits, readDependencies, readRemoteDefaultUnits},
-                 {perAttempt(mode, 1, defaultUnitsUnreachable)});
+                 {perAttempt(stage.mode, 1, defaultUnitsUnreachable)});
+}
+
+void serviceWithoutTheObject(Stage& stage)
+{
+    stage.start(unitsOnly, {{Sources::dependencies, {dependencies()}}});
+    stage.checkUntilEntered(failedStart(stage.mode));
+    stage.expectConversion(unconverted);
+    stage.checkUntilEntered(QStringList{State::initial} + read(stage.mode) + QStringList{State::error});
+    stage.expectChanged(false);
+    stage.finish({}, onlyIf(stage.mode.isBlocking, Recorder::repeated(2, unitsUnread)));
 }
 
 } // namespace
 
-QList<Scenario> LiveStartTest::scenarios() const
+QList<Scenario> scenarios()
 {
+    const SourceName unnamed{Modules::deviceManager, "DependencyConfiguration", ""};
     return {{"all three sources", threeSources},
             {"only the mandatory source", onlyTheMandatorySource},
-            {"no dependencies configured", noDependencies},
-            {"an optional source with an empty name", optionalSourceWithoutName},
+            {"no dependencies configured",
+             [](Stage& stage) {
+                 startWithoutDependencies(stage, Sources::none);
+             }},
+            {"an optional source with an empty name",
+             [unnamed](Stage& stage) {
+                 startWithoutDependencies(stage, unnamed);
+             }},
             {"no bus", noBus},
-            {"bus without service", busWithoutService},
+            {"bus without service", checkTwiceInVain},
             {"service that appears later", serviceAppearsLater},
             {"service without the object", serviceWithoutTheObject},
             {"an optional source down, which appears later", optionalSourceAppearsLater}};
 }
-
-QTEST_GUILESS_MAIN(LiveStartTest)
-
-#include "LiveStartTest.moc"

@@ -3,7 +3,29 @@
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtTest/QTest>
 
+#include "PrivateBus.h"
 #include "Stage.h"
+
+/// Runs the whole library on a private bus: each scenario of the program in each of its modes.
+///
+/// Two properties of the mode are the same for the whole process, so that a process that polls changes never
+/// runs an event loop. The environment sets them: LIVE_CHANGES is "Delivered" or "Polled", LIVE_ENTRY is
+/// "Immediate" or "Deferred". Deferred entry needs the state machine of the folder `machine` instead of the
+/// platform's.
+class LiveTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void scenario_data();
+    void scenario();
+    void cleanupTestCase();
+
+private:
+    PrivateBus m_bus;
+    int m_eventLoopRuns = 0;
+};
 
 namespace {
 
@@ -12,20 +34,13 @@ bool isPolledProcess()
     return qgetenv("LIVE_CHANGES") == "Polled";
 }
 
-bool isDeferredProcess()
+void addRow(const Scenario& scenario, const Mode& mode)
 {
-    return qgetenv("LIVE_ENTRY") == "Deferred";
-}
-
-/// The modes of this process.
-QList<Mode> modes()
-{
-    QList<Mode> list;
-    for (const bool isBlocking : {true, false}) {
-        for (const Mode::Level level : {Mode::Wrapper, Mode::Connector, Mode::Machine})
-            list.append({isBlocking, isPolledProcess(), level, isDeferredProcess()});
-    }
-    return list;
+    static const char* const levels[] = {"wrapper", "connector", "machine"};
+    QTest::addRow("%s, %s %s %s %s", qPrintable(scenario.name), mode.isBlocking ? "blocking" : "asynchronous",
+                  mode.isPolled ? "polled" : "delivered", levels[mode.level],
+                  mode.isDeferred ? "deferred" : "immediate")
+        << scenario << mode;
 }
 
 /// Runs a scenario up to its first failure.
@@ -34,7 +49,7 @@ QString run(const Scenario& scenario, const Mode& mode, const QString& address)
 {
     try {
         Stage stage(mode, address);
-        scenario.run(stage, mode);
+        scenario.run(stage);
         return stage.isFinished() ? QString() : QStringLiteral("the scenario does not call finish()");
     } catch (const ScenarioFailure& failure) {
         // One message per line, because QtTest truncates long ones.
@@ -57,11 +72,14 @@ void LiveTest::scenario_data()
 {
     QTest::addColumn<Scenario>("scenario");
     QTest::addColumn<Mode>("mode");
+    const bool isDeferred = qgetenv("LIVE_ENTRY") == "Deferred";
     for (const Scenario& scenario : scenarios()) {
-        for (const Mode& mode : modes()) {
-            if (scenario.runsIn(mode))
-                QTest::addRow("%s, %s", qPrintable(scenario.name), qPrintable(mode.name()))
-                    << scenario << mode;
+        for (const bool isBlocking : {true, false}) {
+            for (const Mode::Level level : {Mode::Wrapper, Mode::Connector, Mode::Machine}) {
+                const Mode mode{isBlocking, isPolledProcess(), level, isDeferred};
+                if (scenario.runsIn(mode))
+                    addRow(scenario, mode);
+            }
         }
     }
 }
@@ -79,3 +97,7 @@ void LiveTest::cleanupTestCase()
     // The processes that do run an event loop show that the count works.
     QCOMPARE(m_eventLoopRuns > 0, !isPolledProcess());
 }
+
+QTEST_GUILESS_MAIN(LiveTest)
+
+#include "LiveTest.moc"

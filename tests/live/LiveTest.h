@@ -1,31 +1,40 @@
 #pragma once
 
 #include <QtCore/QList>
-#include <QtCore/QObject>
+#include <QtCore/QMetaType>
+#include <QtCore/QString>
 
-#include "PrivateBus.h"
-#include "Scenario.h"
+#include <functional>
 
-/// Base of the tests that run the whole library on a private bus: each scenario in each of its modes.
-///
-/// Two properties of the mode are the same for the whole process, so that a process that polls changes never
-/// runs an event loop. The environment sets them: LIVE_CHANGES is "Delivered" or "Polled", LIVE_ENTRY is
-/// "Immediate" or "Deferred". Deferred entry needs the state machine of the folder `machine` instead of the
-/// platform's.
-class LiveTest : public QObject
-{
-    Q_OBJECT
+#include "Mode.h"
 
-protected:
-    virtual QList<Scenario> scenarios() const = 0;
+class Stage;
 
-private Q_SLOTS:
-    void initTestCase();
-    void scenario_data();
-    void scenario();
-    void cleanupTestCase();
+/// The modes that a scenario runs in.
+namespace Modes {
 
-private:
-    PrivateBus m_bus;
-    int m_eventLoopRuns = 0;
+const auto wrapperOrConnector = [](const Mode& mode) {
+    return mode.level != Mode::Machine;
 };
+const auto blocking = [](const Mode& mode) {
+    return wrapperOrConnector(mode) && mode.isBlocking;
+};
+const auto asynchronous = [](const Mode& mode) {
+    return wrapperOrConnector(mode) && !mode.isBlocking;
+};
+
+} // namespace Modes
+
+/// Operations of a stage in order, with their expectations. The last one is Stage::finish().
+struct Scenario
+{
+    QString name;
+    std::function<void(Stage&)> run;
+    std::function<bool(const Mode&)> runsIn = Modes::wrapperOrConnector;
+};
+
+Q_DECLARE_METATYPE(Scenario)
+
+/// The scenarios of a test program, which runs each of them in each of its modes; defined in the file of the
+/// program's name.
+QList<Scenario> scenarios();

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QtCore/QMetaType>
-#include <QtCore/QString>
 
 /// How a scenario runs.
 struct Mode
@@ -24,9 +23,6 @@ struct Mode
     {
         return level == Wrapper;
     }
-
-    /// Name of the mode in a row of test data, for example "blocking delivered wrapper immediate".
-    QString name() const;
 };
 
 Q_DECLARE_METATYPE(Mode)

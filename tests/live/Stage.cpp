@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "Conversion.h"
 #include "DBusConnection.h"
 #include "Expected.h"
 #include "PrivateBus.h"
@@ -48,7 +47,7 @@ void require(const QString& step, bool isDone)
 
 } // namespace
 
-Stage::Stage(const Mode& mode, const QString& address) : m_mode(mode), m_service(address)
+Stage::Stage(const Mode& stageMode, const QString& address) : mode(stageMode), m_service(address)
 {
     qputenv("DEVICE_BUS", address.toLocal8Bit());
     setCallTimeout(waitLimit);
@@ -60,22 +59,15 @@ void Stage::withoutBus()
     qputenv("DEVICE_BUS", PrivateBus().address().toLocal8Bit());
 }
 
-void Stage::serve(const World& world, const QString& absentModule)
-{
-    require(nextStep(QStringLiteral("serve")), m_service.serve(world, absentModule));
-    m_recorder.discardMessages();
-}
-
 void Stage::startModule(const QString& module)
 {
-    require(nextStep(QStringLiteral("start of ") + module), m_service.start(module));
+    require(nextStep("start of " + module), m_service.start(module));
     synchronize();
 }
 
 void Stage::stopModule(const QString& module)
 {
-    require(nextStep(QStringLiteral("stop of ") + module),
-            m_service.stop(module, DBusConnection::getQDBusConnection()));
+    require(nextStep("stop of " + module), m_service.stop(module, DBusConnection::getQDBusConnection()));
 }
 
 void Stage::announce(const SourceName& name, int count)
@@ -85,8 +77,7 @@ void Stage::announce(const SourceName& name, int count)
 
 void Stage::announceWith(const SourceName& name, const QVariantList& arguments, int count)
 {
-    require(nextStep(QStringLiteral("announcement by ") + name.object),
-            m_service.announce(name, arguments, count));
+    require(nextStep("announcement by " + name.object), m_service.announce(name, arguments, count));
     synchronize();
 }
 
@@ -102,19 +93,24 @@ void Stage::setCallTimeout(int milliseconds)
     qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(milliseconds));
 }
 
-void Stage::start(const Settings& settings)
+void Stage::start(const Settings& settings, const World& world, const QString& absentModule)
 {
-    m_applications.push_back(Application::create(m_mode, settings, m_recorder));
-    m_active = m_applications.size() - 1;
+    require(nextStep("service"), m_service.serve(world, absentModule));
+    start(settings);
 }
 
 void Stage::startAllSources(const World& world, const QString& absentModule)
 {
-    serve(world, absentModule);
-    start(Fixtures::allSources);
-    checkUntilIdle(Expected::firstStart(m_mode));
-    expectChanged();
+    start(Fixtures::allSources, world, absentModule);
+    checkUntilIdle(Expected::firstStart(mode));
+    expectChanged(true);
     keepUnits();
+}
+
+void Stage::start(const Settings& settings)
+{
+    m_applications.push_back(Application::create(mode, settings, m_recorder));
+    m_active = m_applications.size() - 1;
 }
 
 void Stage::switchTo(std::size_t index)
@@ -122,41 +118,31 @@ void Stage::switchTo(std::size_t index)
     m_active = index;
 }
 
-void Stage::init(const Settings& settings)
+Application& Stage::application()
 {
-    application().init(settings);
-}
-
-void Stage::reset()
-{
-    application().reset();
-}
-
-void Stage::destroy()
-{
-    m_applications.at(m_active).reset();
+    return m_applications.at(m_active);
 }
 
 void Stage::checkIdle(const QStringList& events, int count)
 {
-    checkCount(QStringLiteral("idle"), count, events, count);
+    checkCount("idle", count, events, count);
 }
 
 void Stage::checkNotIdle(const QStringList& events, int count)
 {
-    checkCount(QStringLiteral("not idle"), count, events, 0);
+    checkCount("not idle", count, events, 0);
 }
 
 void Stage::checkUntilIdle(const QStringList& events)
 {
-    checkUntil(QStringLiteral("idle"), events, [this] { return pumpAndCheck(); });
+    checkUntil("idle", events, [this] { return pumpAndCheck(); });
 }
 
 void Stage::checkUntilChanged(const QStringList& events)
 {
-    checkUntil(QStringLiteral("changed"), events, [this] {
+    checkUntil("changed", events, [this] {
         pumpAndCheck();
-        return application().hasChanged().value_or(false);
+        return application().hasChanged();
     });
 }
 
@@ -173,7 +159,7 @@ void Stage::checkUntilEntered(const QStringList& events)
 void Stage::checkUntilSettled(const QStringList& events)
 {
     int quietChecks = 0;
-    checkUntil(QStringLiteral("settled"), events, [this, &quietChecks] {
+    checkUntil("settled", events, [this, &quietChecks] {
         const int enteredBefore = m_recorder.enteredStates();
         const bool isQuiet = pumpAndCheck() && m_recorder.enteredStates() == enteredBefore;
         quietChecks = isQuiet ? quietChecks + 1 : 0;
@@ -183,31 +169,27 @@ void Stage::checkUntilSettled(const QStringList& events)
 
 void Stage::expectEvents(const QStringList& events)
 {
-    compareEvents(nextStep(QStringLiteral("events")), events);
+    compareEvents(nextStep("events"), events);
 }
 
-void Stage::expectChanged()
+void Stage::expectChanged(bool expected)
 {
-    expectChange(true);
-}
-
-void Stage::expectUnchanged()
-{
-    expectChange(false);
+    if (application().hasChanged)
+        compare(nextStep("changed"), {text(application().hasChanged())}, {text(expected)});
 }
 
 void Stage::expectConversion(const QString& conversion)
 {
     m_recorder.update();
-    compare(nextStep(QStringLiteral("conversion")), {application().converted()}, {conversion});
+    compare(nextStep("conversion"), {application().conversion()}, {conversion});
     // Only the connector's messages are compared, not those of a conversion.
     m_recorder.discardMessages();
 }
 
 void Stage::expectDependents(const QString& keys)
 {
-    if (const std::optional<QString> dependents = application().dependents())
-        compare(nextStep(QStringLiteral("dependents")), {*dependents}, {keys});
+    if (application().dependents)
+        compare(nextStep("dependents"), {application().dependents()}, {keys});
 }
 
 void Stage::keepUnits()
@@ -220,9 +202,31 @@ void Stage::expectKept(const QStringList& conversions)
     m_recorder.update();
     QStringList kept;
     for (const QSharedPointer<const UnitManagerDevice>& units : qAsConst(m_kept))
-        kept.append(Conversion::by(units));
-    compare(nextStep(QStringLiteral("conversions by kept unit managers")), kept, conversions);
+        kept.append(conversionBy(units));
+    compare(nextStep("conversions by kept unit managers"), kept, conversions);
     m_recorder.discardMessages();
+}
+
+void Stage::expectStart(const QStringList& events, const QString& conversion)
+{
+    checkUntilIdle(events);
+    expectConversion(conversion);
+    expectChanged(true);
+}
+
+void Stage::expectReload(const QString& conversion)
+{
+    checkUntilChanged(Expected::reload(mode));
+    expectConversion(conversion);
+}
+
+void Stage::finishAnnouncement(bool accepted)
+{
+    using namespace Expected;
+    checkUntilSettled(accepted ? reload(mode) + remainsIdle : remainsIdle);
+    expectChanged(accepted);
+    expectConversion(inHectoPascal(accepted ? 2000 : 1000));
+    finish(readAll + onlyIf(accepted, readUnits), onlyIf(accepted, unitsChanged));
 }
 
 void Stage::finish(const QStringList& reads, const QStringList& messages)
@@ -230,9 +234,9 @@ void Stage::finish(const QStringList& reads, const QStringList& messages)
     synchronize();
     m_applications.clear();
     m_active = 0;
-    compareEvents(nextStep(QStringLiteral("events at the end")), {});
-    compare(nextStep(QStringLiteral("reads")), m_service.reads(), reads);
-    compare(nextStep(QStringLiteral("messages")), m_recorder.messages(), messages);
+    compareEvents(nextStep("events at the end"), {});
+    compare(nextStep("reads"), m_service.reads(), reads);
+    compare(nextStep("messages"), m_recorder.messages(), messages);
     m_isFinished = true;
 }
 
@@ -241,14 +245,9 @@ bool Stage::isFinished() const
     return m_isFinished;
 }
 
-Application& Stage::application()
-{
-    return *m_applications.at(m_active);
-}
-
 bool Stage::pumpAndCheck()
 {
-    if (!m_mode.isPolled)
+    if (!mode.isPolled)
         QCoreApplication::processEvents();
     return application().check();
 }
@@ -266,16 +265,10 @@ void Stage::checkCount(const QString& condition, int count, const QStringList& e
 template <typename Condition>
 void Stage::checkUntil(const QString& condition, const QStringList& events, Condition isMet)
 {
-    const QString step = nextStep(QStringLiteral("check until ") + condition);
+    const QString step = nextStep("check until " + condition);
     const bool isMetInTime = waitUntil(isMet);
     compareEvents(isMetInTime ? step : step + QLatin1String(", not reached"), events);
     require(step, isMetInTime);
-}
-
-void Stage::expectChange(bool expected)
-{
-    if (const std::optional<bool> changed = application().hasChanged())
-        compare(nextStep(QStringLiteral("changed")), {text(*changed)}, {text(expected)});
 }
 
 void Stage::synchronize()
@@ -295,7 +288,7 @@ QString Stage::nextStep(const QString& operation)
 void Stage::compareEvents(const QString& step, const QStringList& expected)
 {
     QStringList visible = expected;
-    if (m_mode.level != Mode::Connector) {
+    if (mode.level != Mode::Connector) {
         visible.removeAll(Signal::configurationChanged);
         visible.removeAll(Signal::initialized);
     }

@@ -5,7 +5,6 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-#include <memory>
 #include <vector>
 
 #include "Application.h"
@@ -34,12 +33,12 @@ class Stage
 {
 public:
     /// @param address of the bus; the applications find it through the environment
-    Stage(const Mode& mode, const QString& address);
+    Stage(const Mode& stageMode, const QString& address);
+
+    const Mode mode;
 
     /// Lets the applications look for a bus that does not exist.
     void withoutBus();
-    /// Puts a world on the bus, except for one module.
-    void serve(const World& world, const QString& absentModule = QString());
     /// After each of these operations, the application has received the resulting messages.
     void startModule(const QString& module);
     void stopModule(const QString& module);
@@ -52,17 +51,17 @@ public:
 
     /// Time after which the applications give up a call.
     static void setCallTimeout(int milliseconds);
-    /// Creates an application and makes it the active one.
-    void start(const Settings& settings);
-    /// Serves a world and starts an application with all sources. When it is idle, its change has been
-    /// queried and its unit manager kept.
+    /// Puts a world on the bus, except for one module, and starts an application.
+    void start(const Settings& settings, const World& world, const QString& absentModule = QString());
+    /// The same with all sources. When the library is idle, its change has been queried and its unit manager
+    /// kept.
     void startAllSources(const World& world, const QString& absentModule = QString());
+    /// Starts an application, which becomes the active one.
+    void start(const Settings& settings);
     /// Makes the application that was started as number @p index, from 0, the active one.
     void switchTo(std::size_t index);
-    void init(const Settings& settings);
-    void reset();
-    /// Destroys the active application.
-    void destroy();
+    /// The active application.
+    Application& application();
 
     /// @p count checks after which the library is idle.
     void checkIdle(const QStringList& events, int count = 1);
@@ -79,10 +78,9 @@ public:
     /// Compares the events since the last check.
     void expectEvents(const QStringList& events);
 
-    /// Asks the application whether the configuration has changed, except at the machine level.
-    void expectChanged();
-    void expectUnchanged();
-    /// Compares the conversion of two bar, see Conversion.h.
+    /// Queries whether the configuration has changed, except at the machine level.
+    void expectChanged(bool expected);
+    /// Compares the conversion of two bar, see conversionBy().
     void expectConversion(const QString& conversion);
     /// Compares the keys that depend on "PressureUnit", except at the wrapper level.
     void expectDependents(const QString& keys);
@@ -91,29 +89,34 @@ public:
     /// Compares the conversions by the unit managers kept so far.
     void expectKept(const QStringList& conversions);
 
+    /// Checks until the library is idle. Then the conversion is as expected, and the configuration changed.
+    void expectStart(const QStringList& events, const QString& conversion);
+    /// Checks until an announced change has been read and detected. Then the conversion is as expected.
+    void expectReload(const QString& conversion);
+
+    /// For an application in the changing world, after an announcement about the units: the library settles,
+    /// and has reloaded the units only if the announcement is @p accepted. Finishes the scenario.
+    void finishAnnouncement(bool accepted);
     /// Destroys the applications and compares all reads that the service received and all messages. The last
     /// operation of every scenario.
     void finish(const QStringList& reads, const QStringList& messages = {});
     bool isFinished() const;
 
 private:
-    Application& application();
     bool pumpAndCheck();
     void checkCount(const QString& condition, int count, const QStringList& events, int idleCount);
     template <typename Condition>
     void checkUntil(const QString& condition, const QStringList& events, Condition isMet);
-    void expectChange(bool expected);
     void synchronize();
     QString nextStep(const QString& operation);
     void compareEvents(const QString& step, const QStringList& expected);
 
-    const Mode m_mode;
     bool m_hasBus = true;
     bool m_isFinished = false;
     int m_steps = 0;
     Recorder m_recorder;
     ScriptedService m_service;
-    std::vector<std::unique_ptr<Application>> m_applications;
+    std::vector<Application> m_applications;
     std::size_t m_active = 0;
     QList<QSharedPointer<const UnitManagerDevice>> m_kept;
 };

@@ -10,18 +10,7 @@ struct SourceName
     QString module;
     QString object;
     QString configuration;
-
-    QString path() const
-    {
-        return QLatin1Char('/') + object;
-    }
 };
-
-inline bool operator==(const SourceName& left, const SourceName& right)
-{
-    return left.module == right.module && left.object == right.object &&
-           left.configuration == right.configuration;
-}
 
 /// Reaction of the service to one read.
 struct Answer
@@ -32,37 +21,12 @@ struct Answer
         Error, ///< replies with an error
         Never, ///< does not reply
         Held,  ///< replies with the value when the reply is released
-        Death  ///< leaves the bus without a reply
+        Death  ///< the module leaves the bus without a reply
     };
 
     Kind kind = Value;
-    QVariant value;
-    SourceName changed; ///< a change of this configuration is announced just before the reply
-
-    static Answer with(const QVariant& value)
-    {
-        return {Value, value, {}};
-    }
-    static Answer held(const QVariant& value)
-    {
-        return {Held, value, {}};
-    }
-    static Answer afterChange(const SourceName& changed, const QVariant& value)
-    {
-        return {Value, value, changed};
-    }
-    static Answer error()
-    {
-        return {Error, {}, {}};
-    }
-    static Answer never()
-    {
-        return {Never, {}, {}};
-    }
-    static Answer death()
-    {
-        return {Death, {}, {}};
-    }
+    QVariant value = {};
+    SourceName changed = {}; ///< a change of this configuration is announced just before the reply
 };
 
 /// One configuration of the service, with its answers to the first read, the second and so on; the last

@@ -1,29 +1,16 @@
-// A state machine that enters a selected state only at the next step: it stands in for the platform's, with
-// the platform's own header.
+// A state machine that enters a selected state at the next step. It implements the platform's header.
 
 #include "StateMachineBase.h"
 
 #include "UnitConversion/Factory.h"
 
-#include <QtCore/QDebug>
 #include <QtCore/QLoggingCategory>
-#include <QtCore/QMessageLogger>
+#include <QtCore/QVariant>
 
 namespace {
 
-// Kept as a property of the machine, because the header is the platform's.
+// A property, because the header has no member for the key of the selected state.
 const char* const selectedState = "selectedState";
-
-const QLoggingCategory& stateMachineCategory()
-{
-    static const QLoggingCategory category("device.statemachine", QtInfoMsg);
-    return category;
-}
-
-QString identifierOf(const QSharedPointer<StateMachineStateBase>& state)
-{
-    return state ? QString::fromLatin1(state->metaObject()->className()) : QString();
-}
 
 } // namespace
 
@@ -46,10 +33,9 @@ bool StateMachineBase::postEvent(const StateMachineEvent& event)
     const QString selected = property(selectedState).toString();
     if (!selected.isEmpty()) {
         setProperty(selectedState, QString());
-        const QSharedPointer<StateMachineStateBase> previous = m_currentState;
         m_currentState = createState(selected);
         if (m_logStates)
-            doLogEntryStateChanged(previous, m_currentState);
+            doLogEntryStateInitialized(m_currentState);
         m_currentState->postInitialEvent(event);
     }
     m_currentState->postEvent(event);
@@ -58,19 +44,19 @@ bool StateMachineBase::postEvent(const StateMachineEvent& event)
 
 QString StateMachineBase::getCurrentStateIdentifier() const
 {
-    return identifierOf(m_currentState);
+    return m_currentState ? QString::fromLatin1(m_currentState->metaObject()->className()) : QString();
 }
 
 void StateMachineBase::doLogEntryStateInitialized(QSharedPointer<StateMachineStateBase> state)
 {
-    doLogEntryStateChanged({}, state);
+    static const QLoggingCategory category("device.statemachine", QtInfoMsg);
+    qCDebug(category) << "State changed to" << QString::fromLatin1(state->metaObject()->className());
 }
 
-void StateMachineBase::doLogEntryStateChanged(QSharedPointer<StateMachineStateBase> previous,
+void StateMachineBase::doLogEntryStateChanged(QSharedPointer<StateMachineStateBase> /*previous*/,
                                               QSharedPointer<StateMachineStateBase> current)
 {
-    QMessageLogger(nullptr, 0, nullptr).debug(stateMachineCategory())
-        << "State changed from" << identifierOf(previous) << "to" << identifierOf(current);
+    doLogEntryStateInitialized(current);
 }
 
 QSharedPointer<StateMachineStateBase> StateMachineBase::createState(const QString& stateKey) const
