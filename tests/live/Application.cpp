@@ -85,17 +85,9 @@ Application wrapperApplication(const Mode& mode, const Settings& settings)
     return application;
 }
 
-/// Constructs the connector or its state machine without sources. Initialisation follows, as in the wrapper.
-template <typename Library>
-std::shared_ptr<Library> construct(const Mode& mode)
-{
-    const QString none;
-    return std::make_shared<Library>(nullptr, mode.isPolled, false, none, none, none, none, none, none);
-}
-
 /// Sets the operations that the connector and its state machine have in common.
 template <typename Library>
-Application connectorLevelApplication(const std::shared_ptr<Library>& library, const Mode& mode)
+Application connectorLevelOperations(const std::shared_ptr<Library>& library, const Mode& mode)
 {
     Application application = commonOperations(library, mode);
     const auto units = [library] {
@@ -115,15 +107,20 @@ Application connectorLevelApplication(const std::shared_ptr<Library>& library, c
     return application;
 }
 
+// The connector and its state machine are constructed without sources, and then initialised, as in the
+// wrapper.
+const QString none;
+
 /// Holds only the connector and records its signals.
 Application connectorApplication(const Mode& mode, const Settings& settings, Recorder& recorder)
 {
-    const auto connector = construct<UnitManagerDBusConnector>(mode);
+    const auto connector = std::make_shared<UnitManagerDBusConnector>(nullptr, mode.isPolled, false, none,
+                                                                      none, none, none, none, none);
     QObject::connect(connector.get(), &UnitManagerDBusConnector::unitManagerConfigurationChanged,
                      [&recorder] { recorder.addEvent(Signal::configurationChanged); });
     QObject::connect(connector.get(), &UnitManagerDBusConnector::unitManagerIsInitialized,
                      [&recorder] { recorder.addEvent(Signal::initialized); });
-    Application application = connectorLevelApplication(connector, mode);
+    Application application = connectorLevelOperations(connector, mode);
     application.check = [connector] {
         return connector->isUnitManagerInitialized();
     };
@@ -137,8 +134,9 @@ Application connectorApplication(const Mode& mode, const Settings& settings, Rec
 /// Holds only the connector's state machine; each check is one step of it.
 Application machineApplication(const Mode& mode, const Settings& settings)
 {
-    const auto machine = construct<UnitManagerStateMachineWrapper>(mode);
-    Application application = connectorLevelApplication(machine, mode);
+    const auto machine = std::make_shared<UnitManagerStateMachineWrapper>(nullptr, mode.isPolled, false, none,
+                                                                          none, none, none, none, none);
+    Application application = connectorLevelOperations(machine, mode);
     application.check = [machine] {
         machine->postEvent();
         return machine->getCurrentStateIdentifier() == State::idle;

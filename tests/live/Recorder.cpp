@@ -2,6 +2,8 @@
 
 #include <QtCore/QLoggingCategory>
 
+#include <utility>
+
 namespace {
 
 const char* const machineCategory = "device.statemachine";
@@ -56,9 +58,7 @@ QStringList Recorder::events()
 QStringList Recorder::takeEvents()
 {
     update();
-    QStringList taken;
-    taken.swap(m_events);
-    return taken;
+    return std::exchange(m_events, {});
 }
 
 int Recorder::enteredStates()

@@ -55,7 +55,6 @@ Stage::Stage(const Mode& stageMode, const QString& address) : mode(stageMode), m
 
 void Stage::withoutBus()
 {
-    m_hasBus = false;
     qputenv("DEVICE_BUS", PrivateBus().address().toLocal8Bit());
 }
 
@@ -273,8 +272,7 @@ void Stage::checkUntil(const QString& condition, const QStringList& events, Cond
 
 void Stage::synchronize()
 {
-    if (m_hasBus)
-        m_service.synchronize(DBusConnection::getQDBusConnection());
+    m_service.synchronize(DBusConnection::getQDBusConnection());
 }
 
 QString Stage::nextStep(const QString& operation)

@@ -111,7 +111,6 @@ private:
     QString nextStep(const QString& operation);
     void compareEvents(const QString& step, const QStringList& expected);
 
-    bool m_hasBus = true;
     bool m_isFinished = false;
     int m_steps = 0;
     Recorder m_recorder;
