@@ -149,15 +149,11 @@ Application machineApplication(const Mode& mode, const Settings& settings)
 
 Application Application::create(const Mode& mode, const Settings& settings, Recorder& recorder)
 {
-    switch (mode.level) {
-    case Mode::Wrapper:
+    if (mode.level == Mode::Wrapper)
         return wrapperApplication(mode, settings);
-    case Mode::Connector:
+    if (mode.level == Mode::Connector)
         return connectorApplication(mode, settings, recorder);
-    case Mode::Machine:
-        return machineApplication(mode, settings);
-    }
-    return {};
+    return machineApplication(mode, settings);
 }
 
 QString conversionBy(const QSharedPointer<const UnitManagerDevice>& units)

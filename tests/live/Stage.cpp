@@ -253,7 +253,7 @@ bool Stage::pumpAndCheck()
 
 void Stage::checkCount(const QString& condition, int count, const QStringList& events, int idleCount)
 {
-    const QString step = nextStep(QStringLiteral("%1 checks, %2").arg(count).arg(condition));
+    const QString step = nextStep(QStringLiteral("%1 x check, %2").arg(count).arg(condition));
     int idle = 0;
     for (int i = 0; i < count; ++i)
         idle += pumpAndCheck() ? 1 : 0;

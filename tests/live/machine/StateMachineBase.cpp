@@ -4,7 +4,9 @@
 
 #include "UnitConversion/Factory.h"
 
+#include <QtCore/QDebug>
 #include <QtCore/QLoggingCategory>
+#include <QtCore/QMessageLogger>
 #include <QtCore/QVariant>
 
 namespace {
@@ -50,7 +52,8 @@ QString StateMachineBase::getCurrentStateIdentifier() const
 void StateMachineBase::doLogEntryStateInitialized(QSharedPointer<StateMachineStateBase> state)
 {
     static const QLoggingCategory category("device.statemachine", QtInfoMsg);
-    qCDebug(category) << "State changed to" << QString::fromLatin1(state->metaObject()->className());
+    QMessageLogger(nullptr, 0, nullptr).debug(category)
+        << "State changed to" << QString::fromLatin1(state->metaObject()->className());
 }
 
 void StateMachineBase::doLogEntryStateChanged(QSharedPointer<StateMachineStateBase> /*previous*/,
