@@ -53,11 +53,6 @@ QStringList Expected::unloadableStart(const Mode& mode)
            QStringList{State::update, Signal::configurationChanged, State::error};
 }
 
-QStringList Expected::startUntilWaiting(const Mode& mode)
-{
-    return construction(mode) + QStringList{State::readAsynchronous, State::waitForReply};
-}
-
 QStringList Expected::reload(const Mode& mode)
 {
     return changeDetected(mode) + read(mode) + update;

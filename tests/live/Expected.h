@@ -33,7 +33,7 @@ namespace Expected {
 
 /// The construction and the initialisation of an application.
 QStringList construction(const Mode& mode);
-/// A read of all configured sources, or of all changed ones.
+/// A read of all configured sources, or of all changed ones; an asynchronous one up to the wait for replies.
 QStringList read(const Mode& mode);
 /// New objects are announced, and the library is idle.
 const QStringList update{State::update, Signal::configurationChanged, State::idle, Signal::initialized};
@@ -50,8 +50,6 @@ QStringList restart(const Mode& mode);
 QStringList failedStart(const Mode& mode);
 /// The texts are read but cannot be loaded.
 QStringList unloadableStart(const Mode& mode);
-/// A start up to the wait for replies that are held.
-QStringList startUntilWaiting(const Mode& mode);
 /// An announced change and its read and update.
 QStringList reload(const Mode& mode);
 /// An announced change and a read that fails.

@@ -108,18 +108,9 @@ QList<Scenario> scenarios()
         {Sources::defaultUnits}, inBar(1000), "Pressure", {readDefaultUnits}, {defaultUnitsChanged}};
     const Change ofDependencies{
         {Sources::dependencies}, inHectoPascal(1000), "Range", {readDependencies}, {dependenciesChanged}};
-    return {{"change of the units",
-             [=](Stage& stage) {
-                 reloadOnce(stage, ofUnits);
-             }},
-            {"change of the default units",
-             [=](Stage& stage) {
-                 reloadOnce(stage, ofDefaultUnits);
-             }},
-            {"change of the dependencies",
-             [=](Stage& stage) {
-                 reloadOnce(stage, ofDependencies);
-             }},
+    return {{"change of the units", with(reloadOnce, ofUnits)},
+            {"change of the default units", with(reloadOnce, ofDefaultUnits)},
+            {"change of the dependencies", with(reloadOnce, ofDependencies)},
             {"change of two sources", changeOfTwoSources},
             {"change of three sources", changeOfThreeSources},
             {"one change after the other", oneChangeAfterTheOther},

@@ -108,14 +108,8 @@ QList<Scenario> scenarios()
     const ChangeDuringARead ofDefaultUnits{
         Sources::defaultUnits, inBar(2000), readDefaultUnits, {unitsChanged, defaultUnitsChanged}};
     return {{"conversions while changed units are read", conversionsDuringARead, Modes::asynchronous},
-            {"change during its own read",
-             [=](Stage& stage) {
-                 changeDuringARead(stage, ofUnits);
-             }},
-            {"change of another source during a read",
-             [=](Stage& stage) {
-                 changeDuringARead(stage, ofDefaultUnits);
-             }},
+            {"change during its own read", with(changeDuringARead, ofUnits)},
+            {"change of another source during a read", with(changeDuringARead, ofDefaultUnits)},
             {"change followed by one with another name", changeFollowedByAnotherName},
             {"10,000 changes in a burst", burstOfChanges},
             {"two applications at once", twoApplications}};

@@ -55,7 +55,7 @@ const QStringList updated{Signal::configurationChanged, State::idle, Signal::ini
 void firstTextIsAbsent(Stage& stage, const Answer& answer, int collectingChecks)
 {
     stage.start(unitsOnly, unitsWorld({held(answer), units()}));
-    stage.checkUntilEntered(startUntilWaiting(stage.mode));
+    stage.checkUntilEntered(construction(stage.mode) + read(stage.mode));
     stage.release(Sources::units);
     stage.checkNotIdle({}, stage.mode.isDeferred ? collectingChecks + 1 : collectingChecks);
     stage.checkNotIdle({State::update});
@@ -112,7 +112,7 @@ void repliesOneByOne(Stage& stage, const QList<SourceName>& order)
 {
     stage.start(allSources, fullWorld({held(units(1000))}, {held(dependencies("Pressure"))},
                                       {held(defaultUnits("HectoPascal"))}));
-    stage.checkUntilEntered(startUntilWaiting(stage.mode));
+    stage.checkUntilEntered(construction(stage.mode) + read(stage.mode));
     stage.checkNotIdle({}, 20);
     stage.release(order.at(0));
     stage.checkNotIdle({});
@@ -142,7 +142,7 @@ void errorBeforeAnOutstandingReply(Stage& stage)
 void errorAfterAnOutstandingReply(Stage& stage)
 {
     stage.start(allSources, fullWorld({held(units(1000))}, {dependencies()}, {{Answer::Error}}));
-    stage.checkUntilEntered(startUntilWaiting(stage.mode));
+    stage.checkUntilEntered(construction(stage.mode) + read(stage.mode));
     stage.checkNotIdle({}, 20);
     stage.release(Sources::units);
     stage.checkUntilEntered({State::error});
@@ -162,38 +162,21 @@ QList<Scenario> scenarios()
     const World lastFails = fullWorld({units()}, {dependencies()}, {{Answer::Error}, defaultUnits()});
     const QList<SourceName> order{Sources::units, Sources::dependencies, Sources::defaultUnits};
     const QList<SourceName> reverse{order.at(2), order.at(1), order.at(0)};
-    return {
-        {"error reply",
-         [](Stage& stage) {
-             firstReadFails(stage, {Answer::Error}, unitsUnread);
-         }},
-        {"reply that never comes", missingReply},
-        {"empty text", [=](Stage& stage) { firstReadFails(stage, emptyText, unitsEmpty); }, Modes::blocking},
-        {"empty text", [=](Stage& stage) { firstTextIsAbsent(stage, emptyText, 0); }, Modes::asynchronous},
-        {"text that does not parse",
-         [](Stage& stage) {
-             firstTextIsUnloadable(stage, brokenUnits(), unitsInvalid);
-         }},
-        {"a number as reply",
-         [=](Stage& stage) {
-             firstTextIsUnloadable(stage, number, invalidNumber);
-         }},
-        {"a map as reply", [=](Stage& stage) { firstReadFails(stage, map, unitsEmpty); }, Modes::blocking},
-        // A reply that is not a text costs one more check.
-        {"a map as reply", [=](Stage& stage) { firstTextIsAbsent(stage, map, 1); }, Modes::asynchronous},
-        {"error reply of the first of three",
-         [=](Stage& stage) {
-             oneOfThreeFails(stage, firstFails, unitsUnread);
-         }},
-        {"error reply of the last of three",
-         [=](Stage& stage) {
-             oneOfThreeFails(stage, lastFails, defaultUnitsUnread);
-         }},
-        {"empty text of an optional source", emptyDefaultUnits, Modes::asynchronous},
-        {"text of the dependencies that does not parse", dependenciesThatDoNotParse},
-        {"replies one per step", [=](Stage& stage) { repliesOneByOne(stage, order); }, Modes::asynchronous},
-        {"replies one per step in reverse order", [=](Stage& stage) { repliesOneByOne(stage, reverse); },
-         Modes::asynchronous},
-        {"error reply before an outstanding reply", errorBeforeAnOutstandingReply, Modes::asynchronous},
-        {"error reply after an outstanding reply", errorAfterAnOutstandingReply, Modes::asynchronous}};
+    return {{"error reply", with(firstReadFails, Answer{Answer::Error}, unitsUnread)},
+            {"reply that never comes", missingReply},
+            {"empty text", with(firstReadFails, emptyText, unitsEmpty), Modes::blocking},
+            {"empty text", with(firstTextIsAbsent, emptyText, 0), Modes::asynchronous},
+            {"text that does not parse", with(firstTextIsUnloadable, brokenUnits(), unitsInvalid)},
+            {"a number as reply", with(firstTextIsUnloadable, number, invalidNumber)},
+            {"a map as reply", with(firstReadFails, map, unitsEmpty), Modes::blocking},
+            // A reply that is not a text costs one more check.
+            {"a map as reply", with(firstTextIsAbsent, map, 1), Modes::asynchronous},
+            {"error reply of the first of three", with(oneOfThreeFails, firstFails, unitsUnread)},
+            {"error reply of the last of three", with(oneOfThreeFails, lastFails, defaultUnitsUnread)},
+            {"empty text of an optional source", emptyDefaultUnits, Modes::asynchronous},
+            {"text of the dependencies that does not parse", dependenciesThatDoNotParse},
+            {"replies one per step", with(repliesOneByOne, order), Modes::asynchronous},
+            {"replies one per step in reverse order", with(repliesOneByOne, reverse), Modes::asynchronous},
+            {"error reply before an outstanding reply", errorBeforeAnOutstandingReply, Modes::asynchronous},
+            {"error reply after an outstanding reply", errorAfterAnOutstandingReply, Modes::asynchronous}};
 }

@@ -82,7 +82,7 @@ Reached startingToRead(Stage& stage)
 Reached waiting(Stage& stage)
 {
     stage.start(allSources, heldWorld());
-    stage.checkUntilEntered(startUntilWaiting(stage.mode));
+    stage.checkUntilEntered(construction(stage.mode) + read(stage.mode));
     stage.checkNotIdle({}, 5);
     return {readAll};
 }
@@ -90,7 +90,7 @@ Reached waiting(Stage& stage)
 Reached waitingForLastReply(Stage& stage)
 {
     stage.start(allSources, heldWorld());
-    stage.checkUntilEntered(startUntilWaiting(stage.mode));
+    stage.checkUntilEntered(construction(stage.mode) + read(stage.mode));
     stage.release(Sources::units);
     stage.release(Sources::dependencies);
     stage.checkNotIdle({});
@@ -145,7 +145,7 @@ void releaseAll(Stage& stage)
 
 // The objects that were built remain until others replace them, and an announced change needs no read of its
 // own.
-void resetIn(const Place& place, Stage& stage)
+void resetIn(Stage& stage, const Place& place)
 {
     const Reached reached = place.reach(stage);
     stage.application().reset();
@@ -158,7 +158,7 @@ void resetIn(const Place& place, Stage& stage)
     stage.finish(reached.reads + readAll, reached.messages + reached.lateMessages);
 }
 
-void destructionIn(const Place& place, Stage& stage)
+void destructionIn(Stage& stage, const Place& place)
 {
     const Reached reached = place.reach(stage);
     stage.keepUnits();
@@ -183,10 +183,8 @@ QList<Scenario> scenarios()
                               {"the error state", everyLevel, failed}};
     QList<Scenario> list;
     for (const Place& place : places) {
-        list.append(
-            {"reset in " + place.name, [place](Stage& stage) { resetIn(place, stage); }, place.runsIn});
-        list.append({"destruction in " + place.name, [place](Stage& stage) { destructionIn(place, stage); },
-                     place.runsIn});
+        list.append({"reset in " + place.name, with(resetIn, place), place.runsIn});
+        list.append({"destruction in " + place.name, with(destructionIn, place), place.runsIn});
     }
     return list;
 }

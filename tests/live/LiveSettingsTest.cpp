@@ -82,7 +82,7 @@ void moreSources(Stage& stage)
 void initWithOutstandingReply(Stage& stage)
 {
     stage.start(allSources, changingWorld({held(units(1000)), units(2000)}) << otherDefaultUnitSource);
-    stage.checkUntilEntered(startUntilWaiting(stage.mode));
+    stage.checkUntilEntered(construction(stage.mode) + read(stage.mode));
     stage.checkNotIdle({}, 5);
     stage.application().init(otherDefaultUnitSettings);
     stage.release(Sources::units);

@@ -97,14 +97,8 @@ QList<Scenario> scenarios()
     const SourceName unnamed{Modules::deviceManager, "DependencyConfiguration", ""};
     return {{"all three sources", threeSources},
             {"only the mandatory source", onlyTheMandatorySource},
-            {"no dependencies configured",
-             [](Stage& stage) {
-                 startWithoutDependencies(stage, Sources::none);
-             }},
-            {"an optional source with an empty name",
-             [unnamed](Stage& stage) {
-                 startWithoutDependencies(stage, unnamed);
-             }},
+            {"no dependencies configured", with(startWithoutDependencies, Sources::none)},
+            {"an optional source with an empty name", with(startWithoutDependencies, unnamed)},
             {"no bus", noBus},
             {"bus without service", checkTwiceInVain},
             {"service that appears later", serviceAppearsLater},

@@ -35,6 +35,15 @@ struct Scenario
 
 Q_DECLARE_METATYPE(Scenario)
 
+/// Scenario::run of a function that has more parameters than the stage.
+template <typename Function, typename... Arguments>
+std::function<void(Stage&)> with(Function function, Arguments... arguments)
+{
+    return [=](Stage& stage) {
+        function(stage, arguments...);
+    };
+}
+
 /// The scenarios of a test program, which runs each of them in each of its modes; defined in the file of the
 /// program's name.
 QList<Scenario> scenarios();
