@@ -1,23 +1,24 @@
 // Changes of configurations, announced by the service.
 
-#include "Expected.h"
-#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Stage.h"
 
 using namespace Expected;
 using namespace Fixtures;
 
 namespace {
 
-/// What a change of the changing world leads to.
+/// Announced changes of the changing world, and what they lead to.
+///
+/// The sources are read in a fixed order, regardless of the order of the announcements. Delivered changes are
+/// logged in the order of the announcements, polled ones in the order of polling.
 struct Change
 {
     QList<SourceName> announced;
     QString conversion;
     QString dependents;
     QStringList reads;
-    QStringList messages;
+    QStringList deliveredMessages;
+    QStringList polledMessages;
 };
 
 void reloadOnce(Stage& stage, const Change& change)
@@ -29,30 +30,8 @@ void reloadOnce(Stage& stage, const Change& change)
     stage.expectKept({inHectoPascal(1000)});
     stage.expectDependents(change.dependents);
     stage.checkUntilSettled(remainsIdle);
-    stage.finish(readAll + change.reads, change.messages);
-}
-
-// The sources are read in a fixed order, regardless of the order of the announcements. Delivered changes are
-// logged in the order of the announcements, polled ones in that of polling.
-void changeOfTwoSources(Stage& stage)
-{
-    reloadOnce(stage, {{Sources::defaultUnits, Sources::units},
-                       inBar(2000),
-                       "Pressure",
-                       {readUnits, readDefaultUnits},
-                       stage.mode.isPolled ? QStringList{unitsChanged, defaultUnitsChanged}
-                                           : QStringList{defaultUnitsChanged, unitsChanged}});
-}
-
-void changeOfThreeSources(Stage& stage)
-{
-    reloadOnce(stage,
-               {{Sources::dependencies, Sources::defaultUnits, Sources::units},
-                inBar(2000),
-                "Range",
-                readAll,
-                stage.mode.isPolled ? QStringList{unitsChanged, defaultUnitsChanged, dependenciesChanged}
-                                    : QStringList{dependenciesChanged, defaultUnitsChanged, unitsChanged}});
+    stage.finish(readAll + change.reads,
+                 stage.mode.isPolled ? change.polledMessages : change.deliveredMessages);
 }
 
 void oneChangeAfterTheOther(Stage& stage)
@@ -103,16 +82,29 @@ void changeWithAnExtraArgument(Stage& stage)
 
 QList<Scenario> scenarios()
 {
-    const Change ofUnits{{Sources::units}, inHectoPascal(2000), "Pressure", {readUnits}, {unitsChanged}};
-    const Change ofDefaultUnits{
-        {Sources::defaultUnits}, inBar(1000), "Pressure", {readDefaultUnits}, {defaultUnitsChanged}};
-    const Change ofDependencies{
-        {Sources::dependencies}, inHectoPascal(1000), "Range", {readDependencies}, {dependenciesChanged}};
+    const Change ofUnits{{Sources::units}, inHectoPascal(2000), "Pressure",
+                         {readUnits},      {unitsChanged},      {unitsChanged}};
+    const Change ofDefaultUnits{{Sources::defaultUnits}, inBar(1000),           "Pressure",
+                                {readDefaultUnits},      {defaultUnitsChanged}, {defaultUnitsChanged}};
+    const Change ofDependencies{{Sources::dependencies}, inHectoPascal(1000),   "Range",
+                                {readDependencies},      {dependenciesChanged}, {dependenciesChanged}};
+    const Change ofTwo{{Sources::defaultUnits, Sources::units},
+                       inBar(2000),
+                       "Pressure",
+                       {readUnits, readDefaultUnits},
+                       {defaultUnitsChanged, unitsChanged},
+                       {unitsChanged, defaultUnitsChanged}};
+    const Change ofThree{{Sources::dependencies, Sources::defaultUnits, Sources::units},
+                         inBar(2000),
+                         "Range",
+                         readAll,
+                         {dependenciesChanged, defaultUnitsChanged, unitsChanged},
+                         {unitsChanged, defaultUnitsChanged, dependenciesChanged}};
     return {{"change of the units", with(reloadOnce, ofUnits)},
             {"change of the default units", with(reloadOnce, ofDefaultUnits)},
             {"change of the dependencies", with(reloadOnce, ofDependencies)},
-            {"change of two sources", changeOfTwoSources},
-            {"change of three sources", changeOfThreeSources},
+            {"change of two sources", with(reloadOnce, ofTwo)},
+            {"change of three sources", with(reloadOnce, ofThree)},
             {"one change after the other", oneChangeAfterTheOther},
             {"change with another name", changeWithAnotherName},
             {"change with a wrong argument", changeWithAWrongArgument},

@@ -1,9 +1,6 @@
 // Changes during a read, many changes at once, and changes for two applications.
 
-#include "Expected.h"
-#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Stage.h"
 
 using namespace Expected;
 using namespace Fixtures;

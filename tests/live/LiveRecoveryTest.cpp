@@ -1,9 +1,6 @@
 // Failures while the library is running, and the recovery from them.
 
-#include "Expected.h"
-#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Stage.h"
 
 using namespace Expected;
 using namespace Fixtures;

@@ -1,9 +1,6 @@
 // The possible answers of the service to a read.
 
-#include "Expected.h"
-#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Stage.h"
 #include "WaitLimit.h"
 
 using namespace Expected;

@@ -1,9 +1,6 @@
 // Reset and destruction in each state of the machine.
 
-#include "Expected.h"
-#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Stage.h"
 
 using namespace Expected;
 using namespace Fixtures;

@@ -1,9 +1,6 @@
 // Initialisation with other sources while the library is running.
 
-#include "Expected.h"
-#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Stage.h"
 
 using namespace Expected;
 using namespace Fixtures;

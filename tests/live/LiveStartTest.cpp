@@ -1,9 +1,6 @@
 // From the construction to a usable unit manager, also when parts of the service are missing.
 
-#include "Expected.h"
-#include "Fixtures.h"
 #include "LiveTest.h"
-#include "Stage.h"
 
 using namespace Expected;
 using namespace Fixtures;

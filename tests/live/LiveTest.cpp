@@ -4,7 +4,6 @@
 #include <QtTest/QTest>
 
 #include "PrivateBus.h"
-#include "Stage.h"
 
 /// Runs the whole library on a private bus: each scenario of the program in each of its modes.
 ///

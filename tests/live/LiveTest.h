@@ -6,9 +6,11 @@
 
 #include <functional>
 
+// Everything that scenarios are written with.
+#include "Expected.h"
+#include "Fixtures.h"
 #include "Mode.h"
-
-class Stage;
+#include "Stage.h"
 
 /// The modes that a scenario runs in.
 namespace Modes {
