@@ -34,7 +34,7 @@ def main():
     problems = [f"target {name} of {folder} is configured" for name, folder in sorted(targets.items())
                 if folder.startswith("platform") or name.startswith("DevicePlatform")]
     if targets.get("unitmanager") != "src":
-        problems.append("the library is no target of src/")
+        problems.append("the library is not a target of src/")
 
     section = run(["readelf", "-d", "-W", build / "src" / "libunitmanager.so"])
     if "libDevicePlatformConfigurationTree.so.1" not in re.findall(r"\(NEEDED\).*\[(.*)\]", section):
