@@ -3,7 +3,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QMutexLocker>
 
-#include "DeviceManagerDefinitions.h"
+#include "DeviceBusEnvironment.h"
 #include "Documents.h"
 
 namespace {
@@ -33,12 +33,6 @@ World* makeOnce()
     return world.get();
 }
 
-void useBus(const PrivateBus& bus)
-{
-    qputenv("DEVICE_BUS", bus.address().toLocal8Bit());
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "10000");
-}
-
 QDBusMessage createCall(const QString& path, const QString& method, const QVariantList& arguments)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(
@@ -56,7 +50,7 @@ Shipped* Shipped::use()
     Shipped* const world = makeOnce<Shipped>();
     if (!world->start())
         return nullptr;
-    useBus(world->m_bus);
+    useDeviceBus(world->m_bus.address());
     return world;
 }
 
@@ -72,7 +66,7 @@ Changing* Changing::use()
     Changing* const world = makeOnce<Changing>();
     if (!world->start())
         return nullptr;
-    useBus(world->m_bus);
+    useDeviceBus(world->m_bus.address());
     return world;
 }
 

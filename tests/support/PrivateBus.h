@@ -7,11 +7,8 @@
 #include <memory>
 
 /// A private message bus: a dbus-daemon with its own configuration in a temporary directory, on an address
-/// that remains the same across stop() and start(). Never accesses the user's buses. Needs no event loop.
-///
-///     PrivateBus bus;
-///     QVERIFY(bus.start());
-///     qputenv("DEVICE_BUS", bus.address().toLocal8Bit());
+/// that remains the same across stop() and start(). Never accesses the user's buses. Needs no event loop. See
+/// startDeviceBus() to make it the device's bus.
 class PrivateBus
 {
 public:

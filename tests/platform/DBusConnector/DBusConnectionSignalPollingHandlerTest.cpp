@@ -1,6 +1,6 @@
 #include "DBusConnectionSignalPollingHandler.h"
+#include "DeviceBusEnvironment.h"
 #include "FakeBusService.h"
-#include "PrivateBus.h"
 #include "WaitLimit.h"
 #include "WaitUntil.h"
 
@@ -66,8 +66,7 @@ public:
 void DBusConnectionSignalPollingHandlerTest::init()
 {
     m_bus = std::make_unique<PrivateBus>();
-    QVERIFY(m_bus->start());
-    qputenv("DEVICE_BUS", m_bus->address().toLocal8Bit());
+    QVERIFY(startDeviceBus(*m_bus));
     startService();
 }
 

@@ -1,7 +1,7 @@
 #include "DBusConnectorBase.h"
 #include "DBusConnection.h"
+#include "DeviceBusEnvironment.h"
 #include "FakeBusService.h"
-#include "PrivateBus.h"
 #include "WaitLimit.h"
 #include "WaitUntil.h"
 
@@ -55,13 +55,11 @@ const QString serviceName = QStringLiteral("org.measuringdevice.Module");
 void DBusConnectorBaseTest::init()
 {
     m_bus = std::make_unique<PrivateBus>();
-    QVERIFY(m_bus->start());
-    qputenv("DEVICE_BUS", m_bus->address().toLocal8Bit());
+    QVERIFY(startDeviceBus(*m_bus));
 }
 
 void DBusConnectorBaseTest::cleanup()
 {
-    qunsetenv("DEVICE_BUS_TIMEOUT_MS");
     m_bus.reset();
 }
 
@@ -185,7 +183,7 @@ void DBusConnectorBaseTest::aBusThatHangsIsAskedNoLongerThanTheTimeOut()
 {
     const auto service = startService();
     QVERIFY(Connector::isServiceAvailable("Module"));
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "200");
+    setCallTimeout(200);
     QElapsedTimer timer;
     timer.start();
     m_bus->halt();
