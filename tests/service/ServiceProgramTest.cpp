@@ -149,7 +149,7 @@ void ServiceProgramTest::busStartsIt()
 {
     ServedDirectory served;
     const QString command = QStringLiteral("%1 --directory %2 --bus %3")
-                                .arg(CONFIGURATION_FILE_SERVICE, served.directory(), served.bus().address());
+                                .arg(ServiceProcess::program(), served.directory(), served.bus().address());
     QVERIFY(served.bus().addActivatableService(ConfigurationFileService::name(), command));
     QVERIFY(served.bus().start());
 

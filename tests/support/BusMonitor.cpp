@@ -35,12 +35,6 @@ BusMonitor::BusMonitor(const QString& address)
     m_monitor.setStandardErrorFile(QProcess::nullDevice());
 }
 
-BusMonitor::~BusMonitor()
-{
-    m_monitor.kill();
-    m_monitor.waitForFinished(waitLimit);
-}
-
 bool BusMonitor::start()
 {
     m_monitor.start(QIODevice::ReadOnly);

@@ -1,18 +1,16 @@
 #pragma once
 
-#include <QtCore/QProcess>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtDBus/QDBusConnection>
+
+#include "ChildProcess.h"
 
 /// Receives all messages on a bus.
 class BusMonitor
 {
 public:
     explicit BusMonitor(const QString& address);
-    ~BusMonitor();
-    BusMonitor(const BusMonitor&) = delete;
-    BusMonitor& operator=(const BusMonitor&) = delete;
 
     /// Starts monitoring. @return false if the bus does not permit it within a minute.
     bool start();
@@ -25,7 +23,7 @@ public:
 private:
     bool readUntil(const QByteArray& text);
 
-    QProcess m_monitor;
+    ChildProcess m_monitor;
     QByteArray m_heard;
     int m_marks = 0;
 };

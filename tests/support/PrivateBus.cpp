@@ -4,21 +4,10 @@
 #include <QtCore/QFile>
 
 #include <csignal>
-#include <sys/prctl.h>
 
 #include "WaitLimit.h"
 
 namespace {
-
-/// Ends with the test, even if the test crashes.
-class Daemon : public QProcess
-{
-protected:
-    void setupChildProcess() override
-    {
-        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-    }
-};
 
 bool writeFile(const QString& path, const QString& text)
 {
@@ -56,24 +45,19 @@ QString configuration(const QString& socket, const QString& serviceDirectory, co
 } // namespace
 
 // A short name, because the length of a socket path is limited to about a hundred characters.
-PrivateBus::PrivateBus() : m_directory(QDir::tempPath() + QStringLiteral("/bus-XXXXXX")), m_daemon(new Daemon)
+PrivateBus::PrivateBus() : m_directory(QDir::tempPath() + QStringLiteral("/bus-XXXXXX"))
 {
-    m_daemon->setProgram(QStringLiteral("dbus-daemon"));
-    m_daemon->setArguments({QStringLiteral("--config-file=") + path(QStringLiteral("bus.conf")),
-                            QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
-                            QStringLiteral("--print-address")});
-    m_daemon->setProcessChannelMode(QProcess::SeparateChannels);
-    m_daemon->setStandardErrorFile(QProcess::nullDevice());
-}
-
-PrivateBus::~PrivateBus()
-{
-    stop();
+    m_daemon.setProgram(QStringLiteral("dbus-daemon"));
+    m_daemon.setArguments({QStringLiteral("--config-file=") + path(QStringLiteral("bus.conf")),
+                           QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
+                           QStringLiteral("--print-address")});
+    m_daemon.setProcessChannelMode(QProcess::SeparateChannels);
+    m_daemon.setStandardErrorFile(QProcess::nullDevice());
 }
 
 bool PrivateBus::start()
 {
-    if (m_daemon->state() == QProcess::Running)
+    if (m_daemon.state() == QProcess::Running)
         return true;
 
     const QString services = path(QStringLiteral("services"));
@@ -82,27 +66,27 @@ bool PrivateBus::start()
                    configuration(path(QStringLiteral("socket")), services, m_denied)))
         return false;
 
-    m_daemon->start(QIODevice::ReadOnly);
+    m_daemon.start(QIODevice::ReadOnly);
     // The daemon prints its address once it is listening.
-    return m_daemon->waitForReadyRead(waitLimit);
+    return m_daemon.waitForReadyRead(waitLimit);
 }
 
 void PrivateBus::stop()
 {
-    if (m_daemon->state() == QProcess::NotRunning)
+    if (m_daemon.state() == QProcess::NotRunning)
         return;
-    m_daemon->kill();
-    m_daemon->waitForFinished(waitLimit);
+    m_daemon.kill();
+    m_daemon.waitForFinished(waitLimit);
 }
 
 void PrivateBus::halt()
 {
-    ::kill(static_cast<pid_t>(m_daemon->processId()), SIGSTOP);
+    ::kill(static_cast<pid_t>(m_daemon.processId()), SIGSTOP);
 }
 
 void PrivateBus::resume()
 {
-    ::kill(static_cast<pid_t>(m_daemon->processId()), SIGCONT);
+    ::kill(static_cast<pid_t>(m_daemon.processId()), SIGCONT);
 }
 
 QString PrivateBus::address() const

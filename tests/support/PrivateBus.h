@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QtCore/QProcess>
 #include <QtCore/QString>
 #include <QtCore/QTemporaryDir>
 
-#include <memory>
+#include "ChildProcess.h"
 
 /// A private message bus: a dbus-daemon with its own configuration in a temporary directory, on an address
 /// that remains the same across stop() and start(). Never accesses the user's buses. Needs no event loop. See
@@ -13,9 +12,6 @@ class PrivateBus
 {
 public:
     PrivateBus();
-    ~PrivateBus();
-    PrivateBus(const PrivateBus&) = delete;
-    PrivateBus& operator=(const PrivateBus&) = delete;
 
     /// Starts the daemon, unless it runs, and waits until it listens. @return false if it does not start
     /// within a minute.
@@ -45,5 +41,5 @@ private:
 
     QTemporaryDir m_directory;
     QString m_denied;
-    const std::unique_ptr<QProcess> m_daemon;
+    ChildProcess m_daemon;
 };

@@ -6,10 +6,13 @@
 
 #include "ChildProcess.h"
 
-/// The program under test in a separate process, which ends with the test.
+/// The configuration-file service in a separate process, which ends with this object.
 class ServiceProcess
 {
 public:
+    /// The path of the program.
+    static QString program();
+
     /// Does not start the program. Removes settings of Qt's messages from its environment.
     ServiceProcess();
 

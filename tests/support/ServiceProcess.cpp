@@ -6,6 +6,11 @@
 
 #include "WaitLimit.h"
 
+QString ServiceProcess::program()
+{
+    return QStringLiteral(CONFIGURATION_FILE_SERVICE);
+}
+
 ServiceProcess::ServiceProcess()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -16,7 +21,7 @@ ServiceProcess::ServiceProcess()
 
 bool ServiceProcess::start(const QStringList& arguments)
 {
-    m_process.start(QStringLiteral(CONFIGURATION_FILE_SERVICE), arguments);
+    m_process.start(program(), arguments);
     const QDeadlineTimer deadline(waitLimit);
     while (!output().startsWith(QLatin1String("serving "))) {
         if (!m_process.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
@@ -32,7 +37,7 @@ bool ServiceProcess::serve(const QString& directory, const QString& bus)
 
 int ServiceProcess::run(const QStringList& arguments)
 {
-    m_process.start(QStringLiteral(CONFIGURATION_FILE_SERVICE), arguments);
+    m_process.start(program(), arguments);
     return waitForEnd();
 }
 
