@@ -9,13 +9,13 @@
 #include "Documents.h"
 #include "Themes.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
+#include "WaitLimit.h"
 
 namespace {
 
 using BenchmarkSupport::check;
 using Clock = std::chrono::steady_clock;
 
-const qint64 waitLimit = 10000;
 const int changesOfStorm = 20;
 
 /// Steps until the wrapper is idle with @p unit as default unit of pressure.

@@ -8,13 +8,13 @@
 
 #include "Documents.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
+#include "WaitLimit.h"
 
 namespace {
 
-const int waitLimit = 30000;
 const int pollInterval = 5;
 
-void tellAdoption(UnitManagerWrapper& units)
+void printAdoption(UnitManagerWrapper& units)
 {
     if (!units.checkInitialized() || !units.hasUnitManagerConfigurationChanged() || !units)
         return;
@@ -71,7 +71,7 @@ int runProcess()
 {
     const std::unique_ptr<UnitManagerWrapper> units = makeWrapper(true);
     QTimer loop;
-    QObject::connect(&loop, &QTimer::timeout, [&units] { tellAdoption(*units); });
+    QObject::connect(&loop, &QTimer::timeout, [&units] { printAdoption(*units); });
     loop.start(pollInterval);
     return QCoreApplication::exec();
 }

@@ -10,10 +10,10 @@
 
 #include "ChildProcess.h"
 #include "Documents.h"
+#include "WaitLimit.h"
 
 namespace {
 
-const int processLimit = 120000;
 const double bytesPerKilobyte = 1024.0;
 
 /// Reads a line "VmHWM:   1234 kB" of this process's status. @return bytes, 0 if there is no such line
@@ -89,7 +89,7 @@ bool measure(const QString& loader, int unitCount, Figures& figures)
     ChildProcess process;
     process.start(QCoreApplication::applicationFilePath(),
                   {QStringLiteral("--peak-memory"), loader, QString::number(unitCount)});
-    if (!process.waitForFinished(processLimit) || process.exitStatus() != QProcess::NormalExit ||
+    if (!process.waitForFinished(waitLimit) || process.exitStatus() != QProcess::NormalExit ||
         process.exitCode() != 0)
         return false;
     const QList<QByteArray> numbers = process.readAllStandardOutput().trimmed().split(' ');

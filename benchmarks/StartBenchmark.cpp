@@ -12,13 +12,12 @@
 #include "Documents.h"
 #include "Themes.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
+#include "WaitLimit.h"
 
 namespace {
 
 using BenchmarkSupport::check;
 using BenchmarkSupport::SilentLog;
-
-const qint64 waitLimit = 10000;
 
 /// Steps until the connector is idle. A blocking one needs one step.
 bool stepToIdle(UnitManagerWrapper& units)
