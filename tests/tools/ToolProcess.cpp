@@ -1,12 +1,9 @@
 #include "ToolProcess.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QTextCodec>
 
-namespace {
-
-const int longestRunMilliseconds = 120000;
-
-} // namespace
+#include "WaitLimit.h"
 
 QProcessEnvironment ToolProcess::plainEnvironment()
 {
@@ -43,9 +40,21 @@ ToolRun ToolProcess::runProgram(const QString& program, const QStringList& argum
     process.start(program, arguments);
     process.write(standardInput);
     process.closeWriteChannel();
-    if (!process.waitForFinished(longestRunMilliseconds))
+    if (!process.waitForFinished(waitLimit))
         return {-1, {}, process.errorString().toUtf8()};
     const bool isRegularEnd = process.exitStatus() == QProcess::NormalExit;
     return {isRegularEnd ? process.exitCode() : -1, process.readAllStandardOutput(),
             process.readAllStandardError()};
+}
+
+qint64 ToolProcess::statusNumber(qint64 processId, const QByteArray& key)
+{
+    QFile status(QStringLiteral("/proc/%1/status").arg(processId));
+    if (!status.open(QIODevice::ReadOnly))
+        return -1;
+    for (const QByteArray& line : status.readAll().split('\n')) {
+        if (line.startsWith(key + ':'))
+            return line.mid(key.size() + 1).simplified().split(' ').first().toLongLong();
+    }
+    return -1;
 }

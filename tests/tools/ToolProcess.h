@@ -35,4 +35,7 @@ ToolRun run(const QStringList& arguments, const QByteArray& standardInput = {},
 ToolRun runProgram(const QString& program, const QStringList& arguments, const QByteArray& standardInput = {},
                    const QProcessEnvironment& environment = plainEnvironment());
 
+/// A number in the kernel's status of a process, such as "VmHWM", its peak memory in kB; -1 if unknown.
+qint64 statusNumber(qint64 processId, const QByteArray& key);
+
 } // namespace ToolProcess
