@@ -1,7 +1,7 @@
 #include <QtCore/QDir>
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
@@ -48,40 +48,45 @@ void DocumentWatcherTest::cleanup()
 
 void DocumentWatcherTest::burstIsReportedWhenItHasGoneQuiet()
 {
-    const DocumentWatcher watcher({m_file}, {500ms, 5s});
+    const DocumentWatcher watcher({m_file}, {500ms, 1h});
     QSignalSpy reports(&watcher, &DocumentWatcher::touched);
-    QElapsedTimer sinceLastChange;
+    QTimer shorter;
+    shorter.setSingleShot(true);
     for (int count = 0; count < 20; ++count) {
         QVERIFY(TestFiles::write(m_file, QByteArray::number(count)));
         QCoreApplication::processEvents();
-        sinceLastChange.start();
+        shorter.start(250ms);
     }
     QVERIFY(reports.wait(waitLimit));
     QCOMPARE(reports.size(), 1);
-    // A timer may be five per cent early.
-    QVERIFY2(sinceLastChange.elapsed() >= 450, qPrintable(QString::number(sinceLastChange.elapsed())));
+    QVERIFY2(!shorter.isActive(), "the report came before a timer that is shorter than the quiet time");
 }
 
 void DocumentWatcherTest::endlessBurstIsReported()
 {
     const DocumentWatcher watcher({m_file}, {1h, 500ms});
     const QSignalSpy reports(&watcher, &DocumentWatcher::touched);
-    QElapsedTimer sinceFirstChange;
-    sinceFirstChange.start();
+    QTimer shorter;
+    shorter.setSingleShot(true);
+    shorter.start(250ms);
     QTRY_VERIFY_WITH_TIMEOUT(TestFiles::write(m_file, "text") && !reports.isEmpty(), waitLimit);
-    QVERIFY2(sinceFirstChange.elapsed() >= 450, qPrintable(QString::number(sinceFirstChange.elapsed())));
+    QVERIFY2(!shorter.isActive(), "the report came before a timer that is shorter than the longest delay");
     QTRY_VERIFY_WITH_TIMEOUT(TestFiles::write(m_file, "text") && reports.size() == 2, waitLimit);
 }
 
 void DocumentWatcherTest::changesFurtherUpAreNotReported()
 {
+    const QString foreign = m_directory.filePath("a file of somebody else");
     const DocumentWatcher watcher({m_file}, {10ms, 100ms});
+    const DocumentWatcher laterWatcher({foreign}, {200ms, 1h});
     QSignalSpy reports(&watcher, &DocumentWatcher::touched);
-    QVERIFY(TestFiles::write(m_directory.filePath("a file of somebody else"), "text"));
-    QVERIFY(!reports.wait(500));
+    QSignalSpy laterReports(&laterWatcher, &DocumentWatcher::touched);
+    QVERIFY(TestFiles::write(foreign, "text"));
+    QVERIFY(laterReports.wait(waitLimit));
+    QCOMPARE(reports.size(), 0);
 
     QVERIFY(TestFiles::write(m_file, "text"));
-    QVERIFY(reports.wait());
+    QVERIFY(reports.wait(waitLimit));
 }
 
 void DocumentWatcherTest::exchangeFurtherUpIsReported()
@@ -91,12 +96,12 @@ void DocumentWatcherTest::exchangeFurtherUpIsReported()
     QDir top(m_directory.path());
     QVERIFY(top.rename("upper", "before"));
     QVERIFY(top.mkpath("upper/documents"));
-    QVERIFY(reports.wait());
+    QVERIFY(reports.wait(waitLimit));
 
     QVERIFY(TestFiles::write(m_file, "text"));
-    QVERIFY(reports.wait());
+    QVERIFY(reports.wait(waitLimit));
     QVERIFY(TestFiles::write(m_file, "another text"));
-    QVERIFY(reports.wait());
+    QVERIFY(reports.wait(waitLimit));
     QVERIFY(QDir(top.filePath("before")).removeRecursively());
 }
 
@@ -108,10 +113,10 @@ void DocumentWatcherTest::directoryMadeAnewIsWatched()
     QSignalSpy reports(&watcher, &DocumentWatcher::touched);
     QVERIFY(QDir().rmdir(m_directory.filePath("upper/documents")));
     QVERIFY(QDir().mkdir(m_directory.filePath("upper/documents")));
-    QVERIFY(reports.wait());
+    QVERIFY(reports.wait(waitLimit));
 
     QVERIFY(TestFiles::write(m_file, "text"));
-    QVERIFY(reports.wait());
+    QVERIFY(reports.wait(waitLimit));
 }
 
 void DocumentWatcherTest::missingFileIsWatched()
@@ -120,11 +125,11 @@ void DocumentWatcherTest::missingFileIsWatched()
     const DocumentWatcher watcher({path}, {10ms, 100ms});
     QSignalSpy reports(&watcher, &DocumentWatcher::touched);
     QVERIFY(QDir(m_directory.path()).mkdir("not"));
-    QVERIFY(reports.wait());
+    QVERIFY(reports.wait(waitLimit));
     QVERIFY(QDir(m_directory.path()).mkdir("not/there"));
-    QVERIFY(reports.wait());
+    QVERIFY(reports.wait(waitLimit));
     QVERIFY(TestFiles::write(path, "text"));
-    QVERIFY(reports.wait());
+    QVERIFY(reports.wait(waitLimit));
 }
 
 void DocumentWatcherTest::placeThatCannotBeWatchedIsLoggedOnce()
@@ -143,7 +148,7 @@ void DocumentWatcherTest::placeThatCannotBeWatchedIsLoggedOnce()
 
     // The file itself is still watched.
     QVERIFY(TestFiles::write(m_file, "another text"));
-    QVERIFY(reports.wait());
+    QVERIFY(reports.wait(waitLimit));
     QCOMPARE(log.takeTexts(), QStringList());
 }
 

@@ -4,10 +4,15 @@
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 
+#include "WaitLimit.h"
+
 bool InstalledService::install()
 {
-    return QProcess::execute(CMAKE_PROGRAM, {"--install", SERVICE_BINARY_DIR, "--prefix", m_prefix.path()}) ==
-           0;
+    QProcess cmake;
+    cmake.setProcessChannelMode(QProcess::ForwardedChannels);
+    cmake.start(CMAKE_PROGRAM, {"--install", SERVICE_BINARY_DIR, "--prefix", m_prefix.path()});
+    return cmake.waitForFinished(waitLimit) && cmake.exitStatus() == QProcess::NormalExit &&
+           cmake.exitCode() == 0;
 }
 
 QStringList InstalledService::files() const
