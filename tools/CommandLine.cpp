@@ -15,12 +15,12 @@
 
 CommandLine::CommandLine()
 {
-    verbs.push_back(std::make_unique<TypesVerb>());
-    verbs.push_back(std::make_unique<UnitsVerb>());
-    verbs.push_back(std::make_unique<ConvertVerb>());
-    verbs.push_back(std::make_unique<TableVerb>());
-    verbs.push_back(std::make_unique<LabelVerb>());
-    verbs.push_back(std::make_unique<WatchVerb>());
+    m_verbs.push_back(std::make_unique<TypesVerb>());
+    m_verbs.push_back(std::make_unique<UnitsVerb>());
+    m_verbs.push_back(std::make_unique<ConvertVerb>());
+    m_verbs.push_back(std::make_unique<TableVerb>());
+    m_verbs.push_back(std::make_unique<LabelVerb>());
+    m_verbs.push_back(std::make_unique<WatchVerb>());
 }
 
 int CommandLine::run(const QStringList& words) const
@@ -38,7 +38,7 @@ int CommandLine::run(const QStringList& words) const
         return verb->execute(words.mid(1));
 
     QStringList names;
-    for (const auto& verb : verbs)
+    for (const auto& verb : m_verbs)
         names.append(verb->about().name);
     Console::printError(words.isEmpty() ? "VERB is missing; " + KnownNames::list(names)
                                         : KnownNames::unknown("verb", word, {}, names).reason);
@@ -48,15 +48,15 @@ int CommandLine::run(const QStringList& words) const
 
 Verb* CommandLine::findVerb(const QString& name) const
 {
-    const auto found = std::find_if(verbs.begin(), verbs.end(),
+    const auto found = std::find_if(m_verbs.begin(), m_verbs.end(),
                                     [&name](const auto& verb) { return verb->about().name == name; });
-    return found == verbs.end() ? nullptr : found->get();
+    return found == m_verbs.end() ? nullptr : found->get();
 }
 
 QString CommandLine::helpText() const
 {
     TextTable table;
-    for (const auto& verb : verbs)
+    for (const auto& verb : m_verbs)
         table.addRow({' ' + verb->about().name, verb->about().summary});
     return "Usage: unitmanager VERB [options] ...\n"
            "Converts values between the physical units of a measuring device.\n\n"

@@ -23,5 +23,5 @@ private:
     Verb* findVerb(const QString& name) const;
     QString helpText() const;
 
-    std::vector<std::unique_ptr<Verb>> verbs;
+    std::vector<std::unique_ptr<Verb>> m_verbs;
 };

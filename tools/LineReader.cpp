@@ -2,43 +2,43 @@
 
 #include <limits>
 
-LineReader::LineReader(std::istream& source) : input(source) {}
+LineReader::LineReader(std::istream& source) : m_input(source) {}
 
 bool LineReader::next()
 {
-    input.getline(buffer.data(), static_cast<std::streamsize>(buffer.size()));
-    const bool isEnd = input.eof();
-    if (input.bad() || (input.fail() && isEnd))
+    m_input.getline(m_buffer.data(), static_cast<std::streamsize>(m_buffer.size()));
+    const bool isEnd = m_input.eof();
+    if (m_input.bad() || (m_input.fail() && isEnd))
         return false;
 
-    ++lineNumber;
-    isCut = input.fail();
+    ++m_lineNumber;
+    m_isCut = m_input.fail();
     // gcount() includes the line feed, which is not stored.
-    length = static_cast<int>(input.gcount()) - (isEnd || isCut ? 0 : 1);
-    if (isCut) {
-        input.clear();
-        input.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+    m_length = static_cast<int>(m_input.gcount()) - (isEnd || m_isCut ? 0 : 1);
+    if (m_isCut) {
+        m_input.clear();
+        m_input.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
     }
     return true;
 }
 
 bool LineReader::mayBlock() const
 {
-    return input.rdbuf()->in_avail() <= 0;
+    return m_input.rdbuf()->in_avail() <= 0;
 }
 
 bool LineReader::hasFailed() const
 {
-    return input.bad();
+    return m_input.bad();
 }
 
 QString LineReader::text() const
 {
-    const QString line = QString::fromUtf8(buffer.data(), length).trimmed();
-    return isCut ? line + "..." : line;
+    const QString line = QString::fromUtf8(m_buffer.data(), m_length).trimmed();
+    return m_isCut ? line + "..." : line;
 }
 
 qint64 LineReader::number() const
 {
-    return lineNumber;
+    return m_lineNumber;
 }

@@ -25,9 +25,9 @@ public:
     qint64 number() const;
 
 private:
-    std::istream& input;
-    std::array<char, 4096> buffer{};
-    qint64 lineNumber = 0;
-    int length = 0;
-    bool isCut = false;
+    std::istream& m_input;
+    std::array<char, 4096> m_buffer{};
+    qint64 m_lineNumber = 0;
+    int m_length = 0;
+    bool m_isCut = false;
 };

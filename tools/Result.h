@@ -16,30 +16,30 @@ template <typename T>
 class Result
 {
 public:
-    Result(T given) : value(std::move(given)) {}
-    Result(Failure given) : failure(std::move(given)) {}
+    Result(T given) : m_value(std::move(given)) {}
+    Result(Failure given) : m_failure(std::move(given)) {}
 
     /// Whether there is a value.
     explicit operator bool() const
     {
-        return value.has_value();
+        return m_value.has_value();
     }
     /// The value. Call only if there is one.
     const T& operator*() const
     {
-        return *value;
+        return *m_value;
     }
     const T* operator->() const
     {
-        return &*value;
+        return &*m_value;
     }
     /// The failure; its reason is empty if there is a value.
     const Failure& error() const
     {
-        return failure;
+        return m_failure;
     }
 
 private:
-    std::optional<T> value;
-    Failure failure;
+    std::optional<T> m_value;
+    Failure m_failure;
 };

@@ -4,20 +4,20 @@
 
 void TextTable::addRow(const QStringList& cells)
 {
-    rows.append(cells);
+    m_rows.append(cells);
 }
 
 QStringList TextTable::lines() const
 {
     QVector<int> widths;
-    for (const QStringList& cells : rows) {
+    for (const QStringList& cells : m_rows) {
         widths.resize(cells.size());
         for (int column = 0; column < cells.size(); ++column)
             widths[column] = std::max(widths[column], cells[column].size());
     }
 
     QStringList lines;
-    for (const QStringList& cells : rows) {
+    for (const QStringList& cells : m_rows) {
         QString line;
         for (int column = 0; column < cells.size(); ++column) {
             if (widths[column] > 0)

@@ -15,5 +15,5 @@ public:
     QStringList lines() const;
 
 private:
-    QVector<QStringList> rows;
+    QVector<QStringList> m_rows;
 };

@@ -9,27 +9,27 @@
 
 ValueFormat::ValueFormat(const UnitCatalogue& source, const UnitType& type, const QString& unit,
                          const QCommandLineParser& options)
-    : catalogue(source),
-      label(source.label(type, unit, OutputOptions::language(options))),
-      decimalPlaces(source.decimalPlaces(type, unit)),
-      isJson(OutputOptions::isJson(options)),
-      isRaw(OutputOptions::isRaw(options))
+    : m_catalogue(source),
+      m_label(source.label(type, unit, OutputOptions::language(options))),
+      m_decimalPlaces(source.decimalPlaces(type, unit)),
+      m_isJson(OutputOptions::isJson(options)),
+      m_isRaw(OutputOptions::isRaw(options))
 {
-    jsonStart = OutputOptions::jsonLine({{"type", type.name}, {"unit", unit}, {"label", label}});
-    jsonStart.replace(jsonStart.size() - 1, 1, ",\"value\":");
+    m_jsonStart = OutputOptions::jsonLine({{"type", type.name}, {"unit", unit}, {"label", m_label}});
+    m_jsonStart.replace(m_jsonStart.size() - 1, 1, ",\"value\":");
 }
 
 QString ValueFormat::text(double value) const
 {
-    if (isJson)
-        return jsonStart + (std::isfinite(value) ? NumberText::shortest(value) : "null") + '}';
-    return isRaw ? NumberText::shortest(value) : shown(value);
+    if (m_isJson)
+        return m_jsonStart + (std::isfinite(value) ? NumberText::shortest(value) : "null") + '}';
+    return m_isRaw ? NumberText::shortest(value) : shown(value);
 }
 
 QString ValueFormat::shown(double value) const
 {
-    const QString number = decimalPlaces
-                               ? NumberText::fixed(catalogue.rounded(value, *decimalPlaces), *decimalPlaces)
-                               : NumberText::shortest(value);
-    return label.isEmpty() ? number : number + ' ' + label;
+    const QString number =
+        m_decimalPlaces ? NumberText::fixed(m_catalogue.rounded(value, *m_decimalPlaces), *m_decimalPlaces)
+                        : NumberText::shortest(value);
+    return m_label.isEmpty() ? number : number + ' ' + m_label;
 }

@@ -24,11 +24,11 @@ public:
 private:
     QString shown(double value) const;
 
-    const UnitCatalogue& catalogue;
-    QString label;
-    std::optional<unsigned int> decimalPlaces;
-    bool isJson;
-    bool isRaw;
+    const UnitCatalogue& m_catalogue;
+    QString m_label;
+    std::optional<unsigned int> m_decimalPlaces;
+    bool m_isJson;
+    bool m_isRaw;
     /// The start of a JSON object, up to its last member, which is the value.
-    QString jsonStart;
+    QString m_jsonStart;
 };

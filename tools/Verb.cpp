@@ -57,24 +57,24 @@ QString Verb::versionText()
     return "unitmanager " UNITMANAGER_VERSION;
 }
 
-Verb::Verb(const Description& givenDescription) : description(givenDescription) {}
+Verb::Verb(const Description& description) : m_description(description) {}
 
 Verb::~Verb() = default;
 
 const Verb::Description& Verb::about() const
 {
-    return description;
+    return m_description;
 }
 
 int Verb::execute(const QStringList& words)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(description.summary);
+    parser.setApplicationDescription(m_description.summary);
     parser.addOption({{"h", "help"}, "Show this help."});
     parser.addOption({"version", "Show the program's version."});
     parser.addOption({"verbose", "Also print the library's messages on standard error."});
     addOptions(parser);
-    for (const Argument& argument : description.arguments)
+    for (const Argument& argument : m_description.arguments)
         parser.addPositionalArgument(argument.name, argument.description);
 
     const bool isUnderstood = parser.parse(QStringList("unitmanager") + withShieldedNumbers(words));
@@ -86,10 +86,11 @@ int Verb::execute(const QStringList& words)
         return usageError(asClause(parser.errorText()));
 
     const QStringList arguments = withoutShields(parser.positionalArguments());
-    if (arguments.size() < description.leastArguments)
-        return usageError(description.arguments[arguments.size()].name + " is missing");
-    if (arguments.size() > description.arguments.size())
-        return usageError("too many arguments: " + Console::quoted(arguments[description.arguments.size()]));
+    if (arguments.size() < m_description.leastArguments)
+        return usageError(m_description.arguments[arguments.size()].name + " is missing");
+    if (arguments.size() > m_description.arguments.size())
+        return usageError("too many arguments: " +
+                          Console::quoted(arguments[m_description.arguments.size()]));
     if (parser.isSet("verbose"))
         MessageFilter::setVerbose();
     return run(parser, arguments);
@@ -110,12 +111,12 @@ int Verb::fail(const Failure& failure)
 
 QString Verb::usageLine() const
 {
-    return QString("unitmanager %1 [options] %2").arg(description.name, description.usage).trimmed();
+    return QString("unitmanager %1 [options] %2").arg(m_description.name, m_description.usage).trimmed();
 }
 
 QString Verb::helpText(const QCommandLineParser& parser) const
 {
     // The first line of the generated help shows the program's path and lacks the verb.
     const QString generated = parser.helpText();
-    return "Usage: " + usageLine() + generated.mid(generated.indexOf('\n')) + '\n' + description.details;
+    return "Usage: " + usageLine() + generated.mid(generated.indexOf('\n')) + '\n' + m_description.details;
 }

@@ -49,7 +49,7 @@ public:
     int execute(const QStringList& words);
 
 protected:
-    explicit Verb(const Description& givenDescription);
+    explicit Verb(const Description& description);
 
     /// Declares the verb's own options, in addition to --help, --version and --verbose.
     virtual void addOptions(QCommandLineParser& parser) const = 0;
@@ -68,5 +68,5 @@ private:
     QString usageLine() const;
     QString helpText(const QCommandLineParser& parser) const;
 
-    Description description;
+    Description m_description;
 };

@@ -22,18 +22,18 @@ class Watch
 {
 public:
     Watch()
-        : units("DeviceManager", "DependencyConfiguration", "UnitManager/Dependency", "DeviceManager",
-                "DefaultUnitConfiguration", "UnitManager/DefaultUnit", true, true)
+        : m_units("DeviceManager", "DependencyConfiguration", "UnitManager/Dependency", "DeviceManager",
+                  "DefaultUnitConfiguration", "UnitManager/DefaultUnit", true, true)
     {}
 
     /// Makes one step and prints changes. @return false if the output cannot be written
     bool advance()
     {
-        const bool isReady = units.checkInitialized();
-        if (wasReady != isReady)
+        const bool isReady = m_units.checkInitialized();
+        if (m_wasReady != isReady)
             Console::printLine(isReady ? "ready" : "waiting");
-        wasReady = isReady;
-        if (isReady && units.hasUnitManagerConfigurationChanged())
+        m_wasReady = isReady;
+        if (isReady && m_units.hasUnitManagerConfigurationChanged())
             Console::printLine(adoptionText());
         return Console::flush();
     }
@@ -41,18 +41,18 @@ public:
 private:
     QString adoptionText() const
     {
-        if (!units)
+        if (!m_units)
             return "adopted; no usable units";
-        const QStringList unitTypes = units.getUnitManager()->getListofUnitTypes();
+        const QStringList unitTypes = m_units.getUnitManager()->getListofUnitTypes();
         int unitCount = 0;
         for (const QString& unitType : unitTypes)
-            unitCount += units.getUnitManager()->getListofUnits(unitType).size();
+            unitCount += m_units.getUnitManager()->getListofUnits(unitType).size();
         return QString("adopted; unit types: %1, units: %2").arg(unitTypes.size()).arg(unitCount);
     }
 
-    UnitManagerWrapper units;
+    UnitManagerWrapper m_units;
     /// Empty until the first step.
-    std::optional<bool> wasReady;
+    std::optional<bool> m_wasReady;
 };
 
 bool isBus(const QString& text)

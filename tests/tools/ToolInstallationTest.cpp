@@ -19,8 +19,8 @@ private slots:
     void installedProgramKnowsNoPathOfTheBuild();
 
 private:
-    QScopedPointer<QTemporaryDir> prefix;
-    QString program;
+    QScopedPointer<QTemporaryDir> m_prefix;
+    QString m_program;
 };
 
 namespace {
@@ -35,34 +35,34 @@ bool writeFile(const QString& path, const QByteArray& content)
 
 void ToolInstallationTest::init()
 {
-    prefix.reset(new QTemporaryDir);
-    program = prefix->filePath("bin/unitmanager");
-    QVERIFY(QDir(prefix->path()).mkpath("bin") && QDir(prefix->path()).mkpath("share/unitmanager"));
-    QVERIFY(QFile::copy(ToolProcess::path(), program));
+    m_prefix.reset(new QTemporaryDir);
+    m_program = m_prefix->filePath("bin/unitmanager");
+    QVERIFY(QDir(m_prefix->path()).mkpath("bin") && QDir(m_prefix->path()).mkpath("share/unitmanager"));
+    QVERIFY(QFile::copy(ToolProcess::path(), m_program));
 }
 
 void ToolInstallationTest::takesTheDocumentsBesideItself()
 {
-    QVERIFY(writeFile(prefix->filePath("share/unitmanager/units.json"), "{\"OwnType\": {}}"));
-    QVERIFY(writeFile(prefix->filePath("share/unitmanager/default-units.json"), "{}"));
-    const ToolRun run = ToolProcess::runProgram(program, {"types"});
+    QVERIFY(writeFile(m_prefix->filePath("share/unitmanager/units.json"), "{\"OwnType\": {}}"));
+    QVERIFY(writeFile(m_prefix->filePath("share/unitmanager/default-units.json"), "{}"));
+    const ToolRun run = ToolProcess::runProgram(m_program, {"types"});
     QCOMPARE(run.standardError, QByteArray());
     QCOMPARE(run.standardOutput, QByteArray("OwnType\n"));
 }
 
 void ToolInstallationTest::takesTheDocumentsBesideItselfThroughALink()
 {
-    QVERIFY(writeFile(prefix->filePath("share/unitmanager/units.json"), "{\"OwnType\": {}}"));
-    QVERIFY(writeFile(prefix->filePath("share/unitmanager/default-units.json"), "{}"));
-    const QString link = prefix->filePath("unit-conversion");
-    QVERIFY(QFile::link(program, link));
+    QVERIFY(writeFile(m_prefix->filePath("share/unitmanager/units.json"), "{\"OwnType\": {}}"));
+    QVERIFY(writeFile(m_prefix->filePath("share/unitmanager/default-units.json"), "{}"));
+    const QString link = m_prefix->filePath("unit-conversion");
+    QVERIFY(QFile::link(m_program, link));
     QCOMPARE(ToolProcess::runProgram(link, {"types"}).standardOutput, QByteArray("OwnType\n"));
 }
 
 void ToolInstallationTest::namesTheMissingDocument()
 {
-    const ToolRun run = ToolProcess::runProgram(program, {"types"});
-    const QString document = QDir(prefix->path()).canonicalPath() + "/share/unitmanager/units.json";
+    const ToolRun run = ToolProcess::runProgram(m_program, {"types"});
+    const QString document = QDir(m_prefix->path()).canonicalPath() + "/share/unitmanager/units.json";
     QCOMPARE(run.standardError, "unitmanager: " + document.toUtf8() + ": No such file or directory\n");
     QCOMPARE(run.standardOutput, QByteArray());
     QCOMPARE(run.exitCode, 1);
@@ -70,7 +70,7 @@ void ToolInstallationTest::namesTheMissingDocument()
 
 void ToolInstallationTest::installedProgramKnowsNoPathOfTheBuild()
 {
-    const QString destination = prefix->filePath("installed");
+    const QString destination = m_prefix->filePath("installed");
     // Debug information contains paths of the build; installed programs are stripped.
     const ToolRun install = ToolProcess::runProgram(CMAKE_PROGRAM, {"-DCMAKE_INSTALL_PREFIX=" + destination,
                                                                     "-DCMAKE_INSTALL_DO_STRIP=1", "-P",
