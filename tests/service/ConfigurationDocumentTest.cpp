@@ -4,6 +4,7 @@
 
 #include "ConfigurationDocument.h"
 #include "LogCapture.h"
+#include "Row.h"
 #include "TestFiles.h"
 
 namespace {
@@ -82,11 +83,10 @@ void ConfigurationDocumentTest::lastGoodTextStaysInForce_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("reason");
 
-    QTest::newRow("no JSON") << QByteArray("{") << "line 1, column 1: unterminated object";
-    QTest::newRow("against the rule") << QByteArray("{\"bad\": 1}") << "it is bad";
-    QTest::newRow("too large") << QByteArray("{}").leftJustified(
-                                      static_cast<int>(ConfigurationDocument::maximumSize) + 1)
-                               << "it is larger than 16777216 bytes";
+    row("no JSON", QByteArray("{"), "line 1, column 1: unterminated object");
+    row("against the rule", QByteArray("{\"bad\": 1}"), "it is bad");
+    row("too large", QByteArray("{}").leftJustified(static_cast<int>(ConfigurationDocument::maximumSize) + 1),
+        "it is larger than 16777216 bytes");
 }
 
 void ConfigurationDocumentTest::lastGoodTextStaysInForce()

@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 
 #include "DocumentFile.h"
+#include "Row.h"
 #include "TestFiles.h"
 #include "WithoutPrivileges.h"
 
@@ -65,17 +66,15 @@ void DocumentFileTest::problemIsNamed_data()
     QTest::addColumn<Make>("make");
     QTest::addColumn<QString>("problem");
 
-    QTest::newRow("nothing") << Make([](const QString&) { return true; }) << "No such file or directory";
-    QTest::newRow("directory") << Make([](const QString& path) { return QDir().mkdir(path); })
-                               << "it is not a regular file";
-    QTest::newRow("pipe") << Make([](const QString& path) {
-        return ::mkfifo(QFile::encodeName(path), 0600) == 0;
-    }) << "it is not a regular file";
-    QTest::newRow("link to nothing") << Make([](const QString& path) {
-        return TestFiles::link("nothing", path);
-    }) << "No such file or directory";
-    QTest::newRow("link to itself") << Make([](const QString& path) { return TestFiles::link(path, path); })
-                                    << qt_error_string(ELOOP);
+    row("nothing", Make([](const QString&) { return true; }), "No such file or directory");
+    row("directory", Make([](const QString& path) { return QDir().mkdir(path); }),
+        "it is not a regular file");
+    row("pipe", Make([](const QString& path) { return ::mkfifo(QFile::encodeName(path), 0600) == 0; }),
+        "it is not a regular file");
+    row("link to nothing", Make([](const QString& path) { return TestFiles::link("nothing", path); }),
+        "No such file or directory");
+    row("link to itself", Make([](const QString& path) { return TestFiles::link(path, path); }),
+        qt_error_string(ELOOP));
 }
 
 void DocumentFileTest::problemIsNamed()

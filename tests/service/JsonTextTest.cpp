@@ -1,6 +1,7 @@
 #include <QtTest/QTest>
 
 #include "JsonText.h"
+#include "Row.h"
 
 class JsonTextTest : public QObject
 {
@@ -20,19 +21,16 @@ void JsonTextTest::objectIsRead_data()
     QTest::addColumn<QStringList>("members");
 
     using Members = QStringList;
-    QTest::newRow("empty object") << QByteArray("{}") << "{}" << Members{};
-    QTest::newRow("blanks around it") << QByteArray("\r\n {\"a\": 1}\t\n") << "\r\n {\"a\": 1}\t\n"
-                                      << Members{"a"};
-    QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF{\"a\": 1}") << "{\"a\": 1}" << Members{"a"};
-    QTest::newRow("characters of two, three and four bytes")
-        << QByteArray("{\"\xC2\xB5\": \"\xE2\x82\xAC \xF0\x9F\x93\x81\"}")
-        << QString::fromUtf8("{\"\xC2\xB5\": \"\xE2\x82\xAC \xF0\x9F\x93\x81\"}")
-        << Members{QString(QChar(0xB5))};
-    QTest::newRow("replacement character that is meant")
-        << QByteArray("{\"a\": \"\xEF\xBF\xBD\"}") << QString::fromUtf8("{\"a\": \"\xEF\xBF\xBD\"}")
-        << Members{"a"};
-    QTest::newRow("null character escaped")
-        << QByteArray("{\"a\": \"\\u0000\"}") << "{\"a\": \"\\u0000\"}" << Members{"a"};
+    row("empty object", QByteArray("{}"), "{}", Members{});
+    row("blanks around it", QByteArray("\r\n {\"a\": 1}\t\n"), "\r\n {\"a\": 1}\t\n", Members{"a"});
+    row("byte order mark", QByteArray("\xEF\xBB\xBF{\"a\": 1}"), "{\"a\": 1}", Members{"a"});
+    row("characters of two, three and four bytes",
+        QByteArray("{\"\xC2\xB5\": \"\xE2\x82\xAC \xF0\x9F\x93\x81\"}"),
+        QString::fromUtf8("{\"\xC2\xB5\": \"\xE2\x82\xAC \xF0\x9F\x93\x81\"}"),
+        Members{QString(QChar(0xB5))});
+    row("replacement character that is meant", QByteArray("{\"a\": \"\xEF\xBF\xBD\"}"),
+        QString::fromUtf8("{\"a\": \"\xEF\xBF\xBD\"}"), Members{"a"});
+    row("null character escaped", QByteArray("{\"a\": \"\\u0000\"}"), "{\"a\": \"\\u0000\"}", Members{"a"});
 }
 
 void JsonTextTest::objectIsRead()
@@ -52,36 +50,32 @@ void JsonTextTest::problemIsNamed_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("problem");
 
-    QTest::newRow("no byte") << QByteArray() << "it is empty";
-    QTest::newRow("blanks only") << QByteArray(" \n") << "it is empty";
-    QTest::newRow("byte order mark only") << QByteArray("\xEF\xBB\xBF") << "it is empty";
-    QTest::newRow("list") << QByteArray("[{}]") << "its root is not an object";
-    QTest::newRow("plain text") << QByteArray("units") << "line 1, column 1: illegal value";
-    QTest::newRow("something behind it")
-        << QByteArray("{}\n {}") << "line 2, column 2: garbage at the end of the document";
-    QTest::newRow("colon missing") << QByteArray("{\"a\" 1}") << "line 1, column 6: missing name separator";
-    QTest::newRow("comma missing") << QByteArray("{\n\"a\": 1\n\"b\": 2}")
-                                   << "line 3, column 1: unterminated object";
-    QTest::newRow("number too large") << QByteArray("{\"a\": 1e999}") << "line 1, column 12: illegal number";
-    QTest::newRow("characters of several bytes before it")
-        << QByteArray("{\"\xC2\xB5\xE2\x82\xAC\": x}") << "line 1, column 8: illegal number";
-    QTest::newRow("nested too deeply")
-        << QByteArray("{\"a\":") + QByteArray(2000, '[') << "line 1, column 1029: too deeply nested document";
-    QTest::newRow("line break in a string")
-        << QByteArray("{\"a\": \"b\nc\"}") << "a string in it holds a control character or a broken escape";
-    QTest::newRow("unknown escape") << QByteArray("{\"a\": \"\\q\"}")
-                                    << "a string in it holds a control character or a broken escape";
-    QTest::newRow("byte that is no UTF-8")
-        << QByteArray("{\n\"\xC2\xB5\": \"\xB5\"}") << "line 2, column 7: it is not UTF-8";
-    QTest::newRow("no UTF-8 behind a byte order mark")
-        << QByteArray("\xEF\xBB\xBF\xFF") << "line 1, column 1: it is not UTF-8";
-    QTest::newRow("no UTF-8 behind a replacement character")
-        << QByteArray("{\"\xEF\xBF\xBD\": \"\xFF\"}") << "line 1, column 8: it is not UTF-8";
-    QTest::newRow("cut off within a character")
-        << QByteArray("{\"a\": \"\xE2\x82") << "line 1, column 8: it is not UTF-8";
-    QTest::newRow("null byte") << QByteArray("{}\0", 3)
-                               << "line 1, column 3: garbage at the end of the document";
-    QTest::newRow("UTF-16") << QByteArray("\xFF\xFE{\0}\0", 6) << "line 1, column 1: it is not UTF-8";
+    row("no byte", QByteArray(), "it is empty");
+    row("blanks only", QByteArray(" \n"), "it is empty");
+    row("byte order mark only", QByteArray("\xEF\xBB\xBF"), "it is empty");
+    row("list", QByteArray("[{}]"), "its root is not an object");
+    row("plain text", QByteArray("units"), "line 1, column 1: illegal value");
+    row("something behind it", QByteArray("{}\n {}"), "line 2, column 2: garbage at the end of the document");
+    row("colon missing", QByteArray("{\"a\" 1}"), "line 1, column 6: missing name separator");
+    row("comma missing", QByteArray("{\n\"a\": 1\n\"b\": 2}"), "line 3, column 1: unterminated object");
+    row("number too large", QByteArray("{\"a\": 1e999}"), "line 1, column 12: illegal number");
+    row("characters of several bytes before it", QByteArray("{\"\xC2\xB5\xE2\x82\xAC\": x}"),
+        "line 1, column 8: illegal number");
+    row("nested too deeply", QByteArray("{\"a\":") + QByteArray(2000, '['),
+        "line 1, column 1029: too deeply nested document");
+    row("line break in a string", QByteArray("{\"a\": \"b\nc\"}"),
+        "a string in it holds a control character or a broken escape");
+    row("unknown escape", QByteArray("{\"a\": \"\\q\"}"),
+        "a string in it holds a control character or a broken escape");
+    row("byte that is no UTF-8", QByteArray("{\n\"\xC2\xB5\": \"\xB5\"}"),
+        "line 2, column 7: it is not UTF-8");
+    row("no UTF-8 behind a byte order mark", QByteArray("\xEF\xBB\xBF\xFF"),
+        "line 1, column 1: it is not UTF-8");
+    row("no UTF-8 behind a replacement character", QByteArray("{\"\xEF\xBF\xBD\": \"\xFF\"}"),
+        "line 1, column 8: it is not UTF-8");
+    row("cut off within a character", QByteArray("{\"a\": \"\xE2\x82"), "line 1, column 8: it is not UTF-8");
+    row("null byte", QByteArray("{}\0", 3), "line 1, column 3: garbage at the end of the document");
+    row("UTF-16", QByteArray("\xFF\xFE{\0}\0", 6), "line 1, column 1: it is not UTF-8");
 }
 
 void JsonTextTest::problemIsNamed()

@@ -4,6 +4,7 @@
 #include <QtTest/QTest>
 
 #include "PathTrail.h"
+#include "Row.h"
 #include "TestFiles.h"
 
 namespace {
@@ -66,22 +67,20 @@ void PathTrailTest::trailLeadsToTheFile_data()
     QTest::addColumn<QStringList>("trail");
 
     using Trail = QStringList;
-    QTest::newRow("file") << "/a/b/file" << Trail{"/a", "/a/b", "/a/b/file"};
-    QTest::newRow("directory") << "/a/b" << Trail{"/a", "/a/b"};
-    QTest::newRow("slashes and points") << "//a/.//b/" << Trail{"/a", "/a/b"};
-    QTest::newRow("upwards") << "/a/b/../../c" << Trail{"/a", "/a/b", "/c"};
-    QTest::newRow("missing file") << "/a/b/missing" << Trail{"/a", "/a/b"};
-    QTest::newRow("missing directory") << "/a/missing/file" << Trail{"/a"};
-    QTest::newRow("file as directory") << "/a/b/file/x" << Trail{"/a", "/a/b", "/a/b/file"};
-    QTest::newRow("link") << "/a/down" << Trail{"/a", "/a/b", "/a/b/file"};
-    QTest::newRow("link to a link") << "/c/across" << Trail{"/c", "/a", "/a/b", "/a/b/file"};
-    QTest::newRow("link to an absolute path")
-        << "/c/absolute/b/file" << Trail{"/c", "/a", "/a/b", "/a/b/file"};
-    QTest::newRow("upwards behind a link") << "/c/absolute/b/.." << Trail{"/c", "/a", "/a/b"};
-    QTest::newRow("link to its own directory")
-        << "/c/here/here/across" << Trail{"/c", "/a", "/a/b", "/a/b/file"};
-    QTest::newRow("link to nothing") << "/c/broken" << Trail{"/c"};
-    QTest::newRow("link to itself") << "/c/circle" << Trail{"/c"};
+    row("file", "/a/b/file", Trail{"/a", "/a/b", "/a/b/file"});
+    row("directory", "/a/b", Trail{"/a", "/a/b"});
+    row("slashes and points", "//a/.//b/", Trail{"/a", "/a/b"});
+    row("upwards", "/a/b/../../c", Trail{"/a", "/a/b", "/c"});
+    row("missing file", "/a/b/missing", Trail{"/a", "/a/b"});
+    row("missing directory", "/a/missing/file", Trail{"/a"});
+    row("file as directory", "/a/b/file/x", Trail{"/a", "/a/b", "/a/b/file"});
+    row("link", "/a/down", Trail{"/a", "/a/b", "/a/b/file"});
+    row("link to a link", "/c/across", Trail{"/c", "/a", "/a/b", "/a/b/file"});
+    row("link to an absolute path", "/c/absolute/b/file", Trail{"/c", "/a", "/a/b", "/a/b/file"});
+    row("upwards behind a link", "/c/absolute/b/..", Trail{"/c", "/a", "/a/b"});
+    row("link to its own directory", "/c/here/here/across", Trail{"/c", "/a", "/a/b", "/a/b/file"});
+    row("link to nothing", "/c/broken", Trail{"/c"});
+    row("link to itself", "/c/circle", Trail{"/c"});
 }
 
 void PathTrailTest::trailLeadsToTheFile()

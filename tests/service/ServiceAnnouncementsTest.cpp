@@ -5,6 +5,7 @@
 #include <csignal>
 #include <functional>
 
+#include "Row.h"
 #include "ServedDirectory.h"
 #include "TestFiles.h"
 #include "WaitLimit.h"
@@ -169,22 +170,21 @@ void ServiceAnnouncementsTest::sameTextIsNotAnnounced_data()
 {
     QTest::addColumn<Action>("action");
 
-    QTest::newRow("touched") << Action([](const ServedDirectory& served, const QByteArray&) {
-        QFile file(served.path("units.json"));
-        return file.open(QIODevice::Append) &&
-               file.setFileTime(QDateTime::currentDateTime(), QFileDevice::FileModificationTime);
-    });
-    QTest::newRow("written in place") << Action(overwriteInPlace);
-    QTest::newRow("replaced by another file") << Action(replace);
-    QTest::newRow("removed and written") << Action(removeAndWrite);
-    QTest::newRow("directory exchanged") << Action(exchangeDirectory);
-    QTest::newRow("with a byte order mark")
-        << Action([](const ServedDirectory& served, const QByteArray& text) {
-               return replace(served, "\xEF\xBB\xBF" + text);
-           });
-    QTest::newRow("file beside it") << Action([](const ServedDirectory& served, const QByteArray& text) {
-        return TestFiles::write(served.path("units.json~"), text + ' ');
-    });
+    row("touched", Action([](const ServedDirectory& served, const QByteArray&) {
+            QFile file(served.path("units.json"));
+            return file.open(QIODevice::Append) &&
+                   file.setFileTime(QDateTime::currentDateTime(), QFileDevice::FileModificationTime);
+        }));
+    row("written in place", Action(overwriteInPlace));
+    row("replaced by another file", Action(replace));
+    row("removed and written", Action(removeAndWrite));
+    row("directory exchanged", Action(exchangeDirectory));
+    row("with a byte order mark", Action([](const ServedDirectory& served, const QByteArray& text) {
+            return replace(served, "\xEF\xBB\xBF" + text);
+        }));
+    row("file beside it", Action([](const ServedDirectory& served, const QByteArray& text) {
+            return TestFiles::write(served.path("units.json~"), text + ' ');
+        }));
 }
 
 void ServiceAnnouncementsTest::sameTextIsNotAnnounced()

@@ -3,6 +3,7 @@
 
 #include "ConfigurationFileService.h"
 #include "DeviceManagerDefinitions.h"
+#include "Row.h"
 #include "ServedDirectory.h"
 #include "TestFiles.h"
 
@@ -36,10 +37,10 @@ void ServiceAnswersTest::eachDocumentIsServed_data()
     QTest::addColumn<QString>("object");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("units") << DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration()
-                           << QString(TestFiles::units("first"));
-    QTest::newRow("default units") << "DefaultUnitConfiguration" << QString(TestFiles::defaultUnits("first"));
-    QTest::newRow("dependencies") << "DependencyConfiguration" << QString(TestFiles::dependencies("first"));
+    row("units", DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration(),
+        QString(TestFiles::units("first")));
+    row("default units", "DefaultUnitConfiguration", QString(TestFiles::defaultUnits("first")));
+    row("dependencies", "DependencyConfiguration", QString(TestFiles::dependencies("first")));
 }
 
 void ServiceAnswersTest::eachDocumentIsServed()
@@ -63,24 +64,24 @@ void ServiceAnswersTest::nothingElseIsServed_data()
     const QString getDependency = "getConfigurationDependency";
     using Arguments = QStringList;
 
-    QTest::newRow("name nobody knows") << units << get << Arguments{"UnitManager/Unit", "", ""};
-    QTest::newRow("no name") << units << get << Arguments{"", "", ""};
-    QTest::newRow("other case") << units << get << Arguments{"unitmanager/unittype", "", ""};
-    QTest::newRow("slash at the end") << units << get << Arguments{"UnitManager/UnitType/", "", ""};
-    QTest::newRow("one unit type") << units << get << Arguments{"UnitManager/UnitType/Pressure", "", ""};
-    QTest::newRow("another object's name") << units << get << Arguments{"UnitManager/DefaultUnit", "", ""};
-    QTest::newRow("units as dependencies") << units << getDependency << Arguments{"UnitManager/UnitType", ""};
-    QTest::newRow("default units as dependencies")
-        << defaultUnits << getDependency << Arguments{"UnitManager/DefaultUnit", ""};
-    QTest::newRow("dependencies as plain configuration")
-        << dependencies << get << Arguments{"UnitManager/Dependency", "", ""};
-    QTest::newRow("a document's file") << units << get << Arguments{"units.json", "", ""};
-    QTest::newRow("a document's path") << units << get << Arguments{m_served.path("units.json"), "", ""};
-    QTest::newRow("path upwards") << units << get << Arguments{"../../etc/passwd", "", ""};
-    QTest::newRow("path upwards behind the name")
-        << units << get << Arguments{"UnitManager/UnitType/../../../../../etc/passwd", "", ""};
-    QTest::newRow("absolute path") << dependencies << getDependency << Arguments{"/etc/passwd", ""};
-    QTest::newRow("a very long name") << units << get << Arguments{QString(1000000, 'x'), "", ""};
+    row("name nobody knows", units, get, Arguments{"UnitManager/Unit", "", ""});
+    row("no name", units, get, Arguments{"", "", ""});
+    row("other case", units, get, Arguments{"unitmanager/unittype", "", ""});
+    row("slash at the end", units, get, Arguments{"UnitManager/UnitType/", "", ""});
+    row("one unit type", units, get, Arguments{"UnitManager/UnitType/Pressure", "", ""});
+    row("another object's name", units, get, Arguments{"UnitManager/DefaultUnit", "", ""});
+    row("units as dependencies", units, getDependency, Arguments{"UnitManager/UnitType", ""});
+    row("default units as dependencies", defaultUnits, getDependency,
+        Arguments{"UnitManager/DefaultUnit", ""});
+    row("dependencies as plain configuration", dependencies, get,
+        Arguments{"UnitManager/Dependency", "", ""});
+    row("a document's file", units, get, Arguments{"units.json", "", ""});
+    row("a document's path", units, get, Arguments{m_served.path("units.json"), "", ""});
+    row("path upwards", units, get, Arguments{"../../etc/passwd", "", ""});
+    row("path upwards behind the name", units, get,
+        Arguments{"UnitManager/UnitType/../../../../../etc/passwd", "", ""});
+    row("absolute path", dependencies, getDependency, Arguments{"/etc/passwd", ""});
+    row("a very long name", units, get, Arguments{QString(1000000, 'x'), "", ""});
 }
 
 void ServiceAnswersTest::nothingElseIsServed()

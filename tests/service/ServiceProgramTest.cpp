@@ -5,6 +5,7 @@
 #include <csignal>
 
 #include "ConfigurationFileService.h"
+#include "Row.h"
 #include "ServedDirectory.h"
 #include "TestFiles.h"
 #include "WaitLimit.h"
@@ -39,15 +40,13 @@ void ServiceProgramTest::wrongUsageIsRejected_data()
     QTest::addColumn<QString>("reason");
 
     using Arguments = QStringList;
-    QTest::newRow("nothing") << Arguments{} << "No directory given.";
-    QTest::newRow("no directory") << Arguments{"--bus", "session"} << "No directory given.";
-    QTest::newRow("empty directory") << Arguments{"--directory", ""} << "No directory given.";
-    QTest::newRow("directory without value")
-        << Arguments{"--directory"} << "Missing value after '--directory'.";
-    QTest::newRow("empty bus") << Arguments{"--directory", "x", "--bus", ""} << "No bus given.";
-    QTest::newRow("unknown option") << Arguments{"--directory", "x", "--port", "1"}
-                                    << "Unknown option 'port'.";
-    QTest::newRow("plain argument") << Arguments{"--directory", "x", "y"} << "Unexpected argument 'y'.";
+    row("nothing", Arguments{}, "No directory given.");
+    row("no directory", Arguments{"--bus", "session"}, "No directory given.");
+    row("empty directory", Arguments{"--directory", ""}, "No directory given.");
+    row("directory without value", Arguments{"--directory"}, "Missing value after '--directory'.");
+    row("empty bus", Arguments{"--directory", "x", "--bus", ""}, "No bus given.");
+    row("unknown option", Arguments{"--directory", "x", "--port", "1"}, "Unknown option 'port'.");
+    row("plain argument", Arguments{"--directory", "x", "y"}, "Unexpected argument 'y'.");
 }
 
 void ServiceProgramTest::wrongUsageIsRejected()
@@ -84,12 +83,9 @@ void ServiceProgramTest::busIsChosen_data()
     QTest::addColumn<QString>("variable");
     QTest::addColumn<QString>("shown");
 
-    QTest::newRow("default") << QStringList{} << "DBUS_SESSION_BUS_ADDRESS"
-                             << "session";
-    QTest::newRow("session") << QStringList{"--bus", "session"} << "DBUS_SESSION_BUS_ADDRESS"
-                             << "session";
-    QTest::newRow("system") << QStringList{"--bus", "system"} << "DBUS_SYSTEM_BUS_ADDRESS"
-                            << "system";
+    row("default", QStringList{}, "DBUS_SESSION_BUS_ADDRESS", "session");
+    row("session", QStringList{"--bus", "session"}, "DBUS_SESSION_BUS_ADDRESS", "session");
+    row("system", QStringList{"--bus", "system"}, "DBUS_SYSTEM_BUS_ADDRESS", "system");
 }
 
 void ServiceProgramTest::busIsChosen()

@@ -3,6 +3,7 @@
 #include <QtTest/QTest>
 
 #include "ConfigurationDocument.h"
+#include "Row.h"
 #include "ServedDirectory.h"
 #include "TestFiles.h"
 #include "WaitLimit.h"
@@ -35,17 +36,16 @@ void ServiceRefusalsTest::badTextIsRefused_data()
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("reason");
 
-    QTest::newRow("half written") << QByteArray("{\n  \"Pressure\": {\n    \"Bar\": {")
-                                  << "line 3, column 12: unterminated object";
-    QTest::newRow("comma too many") << QByteArray("{\n  \"Pressure\": {},\n}")
-                                    << "line 3, column 1: object is missing after a comma";
-    QTest::newRow("invalid UTF-8") << QByteArray("{\n  \"Pressure\": \"\xFF\"}")
-                                   << "line 2, column 16: it is not UTF-8";
-    QTest::newRow("too large") << QByteArray(static_cast<int>(ConfigurationDocument::maximumSize) + 1, ' ')
-                               << "it is larger than 16777216 bytes";
-    QTest::newRow("empty") << QByteArray() << "it is empty";
-    QTest::newRow("list") << QByteArray("[]") << "its root is not an object";
-    QTest::newRow("no unit type") << QByteArray("{}") << "it contains no unit type";
+    row("half written", QByteArray("{\n  \"Pressure\": {\n    \"Bar\": {"),
+        "line 3, column 12: unterminated object");
+    row("comma too many", QByteArray("{\n  \"Pressure\": {},\n}"),
+        "line 3, column 1: object is missing after a comma");
+    row("invalid UTF-8", QByteArray("{\n  \"Pressure\": \"\xFF\"}"), "line 2, column 16: it is not UTF-8");
+    row("too large", QByteArray(static_cast<int>(ConfigurationDocument::maximumSize) + 1, ' '),
+        "it is larger than 16777216 bytes");
+    row("empty", QByteArray(), "it is empty");
+    row("list", QByteArray("[]"), "its root is not an object");
+    row("no unit type", QByteArray("{}"), "it contains no unit type");
 }
 
 void ServiceRefusalsTest::badTextIsRefused()

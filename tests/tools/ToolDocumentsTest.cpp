@@ -3,6 +3,7 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
+#include "Row.h"
 #include "ToolProcess.h"
 
 /// The tool's documents: which ones it accepts, and how it reports faults in them.
@@ -42,11 +43,11 @@ public:
     }
     QString path(const QString& name) const
     {
-        return folder.filePath(name);
+        return m_folder.filePath(name);
     }
 
 private:
-    QTemporaryDir folder;
+    QTemporaryDir m_folder;
 };
 
 } // namespace
@@ -56,33 +57,26 @@ void ToolDocumentsTest::placesTheFault_data()
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QByteArray>("place");
     QTest::addColumn<QByteArray>("reason");
-    QTest::newRow("missing comma") << QByteArray("{\n  \"A\": {},\n  \"B\": {}\n  \"C\": {}\n}\n")
-                                   << QByteArray("4:3") << QByteArray("unterminated object");
-    QTest::newRow("missing colon") << QByteArray("{\"A\" {}}") << QByteArray("1:6")
-                                   << QByteArray("missing name separator");
-    QTest::newRow("name without quotes")
-        << QByteArray("{\n\tA: 1}") << QByteArray("2:2") << QByteArray("unterminated object");
-    QTest::newRow("word that is none") << QByteArray("{\"A\":\n  true,\n  \"B\": nothing}")
-                                       << QByteArray("3:9") << QByteArray("illegal value");
-    QTest::newRow("number that is none")
-        << QByteArray("{\"A\": 'x'}") << QByteArray("1:7") << QByteArray("illegal number");
-    QTest::newRow("text behind the end")
-        << QByteArray("{}\n\n}") << QByteArray("3:1") << QByteArray("garbage at the end of the document");
-    QTest::newRow("end too early") << QByteArray("{\"A\": {\n") << QByteArray("1:8")
-                                   << QByteArray("unterminated object");
-    QTest::newRow("column in characters, not bytes")
-        << QByteArray("{\"\xC3\xA4\xE2\x82\x82\": 1 2}") << QByteArray("1:10")
-        << QByteArray("unterminated object");
-    QTest::newRow("byte order mark does not count")
-        << QByteArray("\xEF\xBB\xBF{\"A\" 1}") << QByteArray("1:6") << QByteArray("missing name separator");
-    QTest::newRow("lines that end in carriage return and line feed")
-        << QByteArray("{\r\n\"A\": 1\r\n\"B\": 2}") << QByteArray("3:1") << QByteArray("unterminated object");
-    QTest::newRow("Latin-1 letter") << QByteArray("{\n  \"A\": \"\xE4\"}") << QByteArray("2:9")
-                                    << QByteArray("not UTF-8");
-    QTest::newRow("letter cut in the middle")
-        << QByteArray("{\"A\": \"\xC3") << QByteArray("1:8") << QByteArray("not UTF-8");
-    QTest::newRow("no JSON at all") << QByteArray("Pressure = bar\n") << QByteArray("1:1")
-                                    << QByteArray("illegal value");
+    row("missing comma", QByteArray("{\n  \"A\": {},\n  \"B\": {}\n  \"C\": {}\n}\n"), QByteArray("4:3"),
+        QByteArray("unterminated object"));
+    row("missing colon", QByteArray("{\"A\" {}}"), QByteArray("1:6"), QByteArray("missing name separator"));
+    row("name without quotes", QByteArray("{\n\tA: 1}"), QByteArray("2:2"),
+        QByteArray("unterminated object"));
+    row("word that is none", QByteArray("{\"A\":\n  true,\n  \"B\": nothing}"), QByteArray("3:9"),
+        QByteArray("illegal value"));
+    row("number that is none", QByteArray("{\"A\": 'x'}"), QByteArray("1:7"), QByteArray("illegal number"));
+    row("text behind the end", QByteArray("{}\n\n}"), QByteArray("3:1"),
+        QByteArray("garbage at the end of the document"));
+    row("end too early", QByteArray("{\"A\": {\n"), QByteArray("1:8"), QByteArray("unterminated object"));
+    row("column in characters, not bytes", QByteArray("{\"\xC3\xA4\xE2\x82\x82\": 1 2}"), QByteArray("1:10"),
+        QByteArray("unterminated object"));
+    row("byte order mark does not count", QByteArray("\xEF\xBB\xBF{\"A\" 1}"), QByteArray("1:6"),
+        QByteArray("missing name separator"));
+    row("lines that end in carriage return and line feed", QByteArray("{\r\n\"A\": 1\r\n\"B\": 2}"),
+        QByteArray("3:1"), QByteArray("unterminated object"));
+    row("Latin-1 letter", QByteArray("{\n  \"A\": \"\xE4\"}"), QByteArray("2:9"), QByteArray("not UTF-8"));
+    row("letter cut in the middle", QByteArray("{\"A\": \"\xC3"), QByteArray("1:8"), QByteArray("not UTF-8"));
+    row("no JSON at all", QByteArray("Pressure = bar\n"), QByteArray("1:1"), QByteArray("illegal value"));
 }
 
 void ToolDocumentsTest::placesTheFault()
@@ -155,16 +149,14 @@ void ToolDocumentsTest::takesTheDocument_data()
     QTest::addColumn<QByteArray>("types");
     const QByteArray withDefault = "{\"baseUnit\":\"Meter\",\"defaultUnit\":\"Meter\",\"type\":\"Length\"}\n";
     const QByteArray withoutDefault = "{\"baseUnit\":\"Meter\",\"defaultUnit\":null,\"type\":\"Length\"}\n";
-    QTest::newRow("plain") << lengthDocument << lengthDefault << withDefault;
-    QTest::newRow("byte order mark") << "\xEF\xBB\xBF" + lengthDocument << "\xEF\xBB\xBF" + lengthDefault
-                                     << withDefault;
-    QTest::newRow("carriage returns")
-        << QByteArray(lengthDocument).replace('\n', "\r\n") << lengthDefault + "\r\n"
-        << withDefault;
-    QTest::newRow("empty default units") << lengthDocument << QByteArray() << withoutDefault;
-    QTest::newRow("default units without content") << lengthDocument << QByteArray("{}\n") << withoutDefault;
-    QTest::newRow("no label") << QByteArray(lengthDocument).replace(", \"UnitLabel\": \"m\"", "")
-                              << lengthDefault << withDefault;
+    row("plain", lengthDocument, lengthDefault, withDefault);
+    row("byte order mark", "\xEF\xBB\xBF" + lengthDocument, "\xEF\xBB\xBF" + lengthDefault, withDefault);
+    row("carriage returns", QByteArray(lengthDocument).replace('\n', "\r\n"), lengthDefault + "\r\n",
+        withDefault);
+    row("empty default units", lengthDocument, QByteArray(), withoutDefault);
+    row("default units without content", lengthDocument, QByteArray("{}\n"), withoutDefault);
+    row("no label", QByteArray(lengthDocument).replace(", \"UnitLabel\": \"m\"", ""), lengthDefault,
+        withDefault);
 }
 
 void ToolDocumentsTest::takesTheDocument()

@@ -1,5 +1,6 @@
 #include <QtTest/QTest>
 
+#include "Row.h"
 #include "ToolProcess.h"
 
 /// Help and version of the program and of every verb: on standard output, exit code 0.
@@ -26,21 +27,17 @@ void addVerbs()
     QTest::addColumn<QStringList>("content");
     const QStringList common{"--help", "--version", "--verbose", "--units <FILE>", "--default-units <FILE>",
                              "--json", "Example"};
-    QTest::newRow("types") << "types" << QByteArray("[options]") << common;
-    QTest::newRow("units") << "units" << QByteArray("[options] TYPE")
-                           << common + QStringList{"--language", "  TYPE  "};
-    QTest::newRow("convert") << "convert" << QByteArray("[options] VALUE TYPE FROM [TO]")
-                             << common + QStringList{"--raw",      "--language",  "  VALUE  ", "  TYPE  ",
-                                                     "  FROM  ",   "  TO  ",      "nan",       "inf",
-                                                     "fixed unit", "Blank lines", "#"};
-    QTest::newRow("table") << "table" << QByteArray("[options] VALUE TYPE FROM")
-                           << common +
-                                  QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  "};
-    QTest::newRow("label") << "label" << QByteArray("[options] TYPE [UNIT]")
-                           << common + QStringList{"--language", "  TYPE  ", "  UNIT  "};
-    QTest::newRow("watch") << "watch" << QByteArray("[options]")
-                           << QStringList{"--help",     "--version", "--verbose", "--bus <BUS>",
-                                          "DEVICE_BUS", "SIGTERM",   "Example"};
+    row("types", "types", QByteArray("[options]"), common);
+    row("units", "units", QByteArray("[options] TYPE"), common + QStringList{"--language", "  TYPE  "});
+    row("convert", "convert", QByteArray("[options] VALUE TYPE FROM [TO]"),
+        common + QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  ", "  TO  ", "nan",
+                             "inf", "fixed unit", "Blank lines", "#"});
+    row("table", "table", QByteArray("[options] VALUE TYPE FROM"),
+        common + QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  "});
+    row("label", "label", QByteArray("[options] TYPE [UNIT]"),
+        common + QStringList{"--language", "  TYPE  ", "  UNIT  "});
+    row("watch", "watch", QByteArray("[options]"),
+        QStringList{"--help", "--version", "--verbose", "--bus <BUS>", "DEVICE_BUS", "SIGTERM", "Example"});
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include <QtCore/QProcessEnvironment>
 #include <QtTest/QTest>
 
+#include "Row.h"
 #include "ToolProcess.h"
 #include "WaitLimit.h"
 
@@ -55,35 +56,29 @@ void ToolStreamTest::convertsLineByLine_data()
     QTest::addColumn<QByteArray>("standardInput");
     QTest::addColumn<QByteArray>("standardOutput");
     QTest::addColumn<QByteArray>("standardError");
-    QTest::newRow("nothing") << QByteArray() << QByteArray() << QByteArray();
-    QTest::newRow("values") << QByteArray("1000\n-5\n1e3\n")
-                            << QByteArray("1.000 bar\n-0.005 bar\n1.000 bar\n") << QByteArray();
-    QTest::newRow("last line without end")
-        << QByteArray("1000\n2000") << QByteArray("1.000 bar\n2.000 bar\n") << QByteArray();
-    QTest::newRow("carriage returns")
-        << QByteArray("1000\r\n2000\r\n") << QByteArray("1.000 bar\n2.000 bar\n") << QByteArray();
-    QTest::newRow("blank lines and comments pass")
-        << QByteArray("# hPa\n\n  \n1000\n\r\n #2\n") << QByteArray("1.000 bar\n") << QByteArray();
-    QTest::newRow("blanks around a value")
-        << QByteArray("  1000\t\n") << QByteArray("1.000 bar\n") << QByteArray();
-    QTest::newRow("bad lines do not stop the good ones")
-        << QByteArray("1000\nfive\n\n2,5\n3000\n") << QByteArray("1.000 bar\n3.000 bar\n")
-        << notANumber(2, "five") + notANumber(4, "2,5");
-    QTest::newRow("comment behind a value")
-        << QByteArray("1000 # hPa\n") << QByteArray() << notANumber(1, "1000 # hPa");
-    QTest::newRow("null byte") << QByteArray("1000\0zero\n2000\n", 15) << QByteArray("2.000 bar\n")
-                               << notANumber(1, "1000?zero");
-    QTest::newRow("not UTF-8") << QByteArray("1000\xFF\n") << QByteArray()
-                               << notANumber(1, "1000\xEF\xBF\xBD");
-    QTest::newRow("line of the longest size") << QByteArray(4091, ' ') + "1000\n2000\n"
-                                              << QByteArray("1.000 bar\n2.000 bar\n") << QByteArray();
-    QTest::newRow("line too long") << QByteArray(4092, ' ') + "1000\n2000\n"
-                                   << QByteArray("2.000 bar\n") << notANumber(1, "100...");
-    QTest::newRow("line far too long")
-        << QByteArray(100000, '1') + "\n2000\n"
-        << QByteArray("2.000 bar\n") << notANumber(1, QByteArray(60, '1') + "...");
-    QTest::newRow("line too long without end")
-        << QByteArray(5000, ' ') + "1" << QByteArray() << notANumber(1, "...");
+    row("nothing", QByteArray(), QByteArray(), QByteArray());
+    row("values", QByteArray("1000\n-5\n1e3\n"), QByteArray("1.000 bar\n-0.005 bar\n1.000 bar\n"),
+        QByteArray());
+    row("last line without end", QByteArray("1000\n2000"), QByteArray("1.000 bar\n2.000 bar\n"),
+        QByteArray());
+    row("carriage returns", QByteArray("1000\r\n2000\r\n"), QByteArray("1.000 bar\n2.000 bar\n"),
+        QByteArray());
+    row("blank lines and comments pass", QByteArray("# hPa\n\n  \n1000\n\r\n #2\n"),
+        QByteArray("1.000 bar\n"), QByteArray());
+    row("blanks around a value", QByteArray("  1000\t\n"), QByteArray("1.000 bar\n"), QByteArray());
+    row("bad lines do not stop the good ones", QByteArray("1000\nfive\n\n2,5\n3000\n"),
+        QByteArray("1.000 bar\n3.000 bar\n"), notANumber(2, "five") + notANumber(4, "2,5"));
+    row("comment behind a value", QByteArray("1000 # hPa\n"), QByteArray(), notANumber(1, "1000 # hPa"));
+    row("null byte", QByteArray("1000\0zero\n2000\n", 15), QByteArray("2.000 bar\n"),
+        notANumber(1, "1000?zero"));
+    row("not UTF-8", QByteArray("1000\xFF\n"), QByteArray(), notANumber(1, "1000\xEF\xBF\xBD"));
+    row("line of the longest size", QByteArray(4091, ' ') + "1000\n2000\n",
+        QByteArray("1.000 bar\n2.000 bar\n"), QByteArray());
+    row("line too long", QByteArray(4092, ' ') + "1000\n2000\n", QByteArray("2.000 bar\n"),
+        notANumber(1, "100..."));
+    row("line far too long", QByteArray(100000, '1') + "\n2000\n", QByteArray("2.000 bar\n"),
+        notANumber(1, QByteArray(60, '1') + "..."));
+    row("line too long without end", QByteArray(5000, ' ') + "1", QByteArray(), notANumber(1, "..."));
 }
 
 void ToolStreamTest::convertsLineByLine()

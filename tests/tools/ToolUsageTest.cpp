@@ -1,5 +1,6 @@
 #include <QtTest/QTest>
 
+#include "Row.h"
 #include "ToolProcess.h"
 
 /// The tool's response to invalid requests: nothing on standard output, the exact message, and exit code 1
@@ -26,46 +27,41 @@ void ToolUsageTest::namesWhatIsKnown_data()
     const QByteArray types = "known: Empty, Größe, Misled, NoUnit, Pressure, Temperature, Unlabelled";
     const QByteArray units = "known: Bar, HectoPascal, MilliBar";
 
-    QTest::newRow("unit, near miss") << QStringList{"convert", "1", "Pressure", "Baar"}
-                                     << "unknown unit 'Baar' of Pressure; " + units + "; did you mean Bar?";
-    QTest::newRow("unit, other case")
-        << QStringList{"convert", "1", "Pressure", "HECTOPASCAL"}
-        << "unknown unit 'HECTOPASCAL' of Pressure; " + units + "; did you mean HectoPascal?";
-    QTest::newRow("unit, nothing near") << QStringList{"convert", "1", "Pressure", "Furlong"}
-                                        << "unknown unit 'Furlong' of Pressure; " + units;
-    QTest::newRow("unit, too short to be a near miss")
-        << QStringList{"convert", "1", "Pressure", "B"} << "unknown unit 'B' of Pressure; " + units;
-    QTest::newRow("target unit") << QStringList{"convert", "1", "Pressure", "Bar", "Celsius"}
-                                 << "unknown unit 'Celsius' of Pressure; " + units;
-    QTest::newRow("unit of a table") << QStringList{"table", "1", "Pressure", "Celsius"}
-                                     << "unknown unit 'Celsius' of Pressure; " + units;
-    QTest::newRow("unit of a label") << QStringList{"label", "Pressure", "Celsius"}
-                                     << "unknown unit 'Celsius' of Pressure; " + units;
-    QTest::newRow("unit of the unit-less type") << QStringList{"convert", "1", "NoUnit", "Bar"}
-                                                << QByteArray("unknown unit 'Bar' of NoUnit; known: NoUnit");
-    QTest::newRow("unit of a type without any") << QStringList{"convert", "1", "Empty", "Bar"}
-                                                << QByteArray("unknown unit 'Bar' of Empty; known: none");
-    QTest::newRow("other unit than the fixed one")
-        << QStringList{"convert", "1", "Pressure/Bar", "HectoPascal"}
-        << QByteArray("unknown unit 'HectoPascal' of Pressure/Bar; known: Bar");
-    QTest::newRow("fixed unit") << QStringList{"label", "Pressure/Ba"}
-                                << "unknown unit 'Ba' of Pressure; " + units + "; did you mean Bar?";
-    QTest::newRow("unit with control characters") << QStringList{"convert", "1", "Pressure", "x\n\x1b[31m"}
-                                                  << "unknown unit 'x??[31m' of Pressure; " + units;
-    QTest::newRow("unit type, near miss")
-        << QStringList{"units", "Presure"}
-        << "unknown unit type 'Presure'; " + types + "; did you mean Pressure?";
-    QTest::newRow("unit type, empty") << QStringList{"units", ""} << "unknown unit type ''; " + types;
-    QTest::newRow("unit type with a foreign prefix")
-        << QStringList{"units", "Else/Where/Pressure"} << "unknown unit type 'Else/Where/Pressure'; " + types;
-    QTest::newRow("no default unit")
-        << QStringList{"convert", "1", "Unlabelled", "Plain"}
-        << QByteArray("Unlabelled has no default unit; known: Fine, Huge, Plain, Table, TooFine");
-    QTest::newRow("no default unit for a label")
-        << QStringList{"label", "Empty"} << QByteArray("Empty has no default unit; known: none");
-    QTest::newRow("default unit that is none")
-        << QStringList{"convert", "1", "Misled", "Here"}
-        << QByteArray("unknown default unit 'Elsewhere' of Misled; known: Here");
+    row("unit, near miss", QStringList{"convert", "1", "Pressure", "Baar"},
+        "unknown unit 'Baar' of Pressure; " + units + "; did you mean Bar?");
+    row("unit, other case", QStringList{"convert", "1", "Pressure", "HECTOPASCAL"},
+        "unknown unit 'HECTOPASCAL' of Pressure; " + units + "; did you mean HectoPascal?");
+    row("unit, nothing near", QStringList{"convert", "1", "Pressure", "Furlong"},
+        "unknown unit 'Furlong' of Pressure; " + units);
+    row("unit, too short to be a near miss", QStringList{"convert", "1", "Pressure", "B"},
+        "unknown unit 'B' of Pressure; " + units);
+    row("target unit", QStringList{"convert", "1", "Pressure", "Bar", "Celsius"},
+        "unknown unit 'Celsius' of Pressure; " + units);
+    row("unit of a table", QStringList{"table", "1", "Pressure", "Celsius"},
+        "unknown unit 'Celsius' of Pressure; " + units);
+    row("unit of a label", QStringList{"label", "Pressure", "Celsius"},
+        "unknown unit 'Celsius' of Pressure; " + units);
+    row("unit of the unit-less type", QStringList{"convert", "1", "NoUnit", "Bar"},
+        QByteArray("unknown unit 'Bar' of NoUnit; known: NoUnit"));
+    row("unit of a type without any", QStringList{"convert", "1", "Empty", "Bar"},
+        QByteArray("unknown unit 'Bar' of Empty; known: none"));
+    row("other unit than the fixed one", QStringList{"convert", "1", "Pressure/Bar", "HectoPascal"},
+        QByteArray("unknown unit 'HectoPascal' of Pressure/Bar; known: Bar"));
+    row("fixed unit", QStringList{"label", "Pressure/Ba"},
+        "unknown unit 'Ba' of Pressure; " + units + "; did you mean Bar?");
+    row("unit with control characters", QStringList{"convert", "1", "Pressure", "x\n\x1b[31m"},
+        "unknown unit 'x??[31m' of Pressure; " + units);
+    row("unit type, near miss", QStringList{"units", "Presure"},
+        "unknown unit type 'Presure'; " + types + "; did you mean Pressure?");
+    row("unit type, empty", QStringList{"units", ""}, "unknown unit type ''; " + types);
+    row("unit type with a foreign prefix", QStringList{"units", "Else/Where/Pressure"},
+        "unknown unit type 'Else/Where/Pressure'; " + types);
+    row("no default unit", QStringList{"convert", "1", "Unlabelled", "Plain"},
+        QByteArray("Unlabelled has no default unit; known: Fine, Huge, Plain, Table, TooFine"));
+    row("no default unit for a label", QStringList{"label", "Empty"},
+        QByteArray("Empty has no default unit; known: none"));
+    row("default unit that is none", QStringList{"convert", "1", "Misled", "Here"},
+        QByteArray("unknown default unit 'Elsewhere' of Misled; known: Here"));
 }
 
 void ToolUsageTest::namesWhatIsKnown()
@@ -87,39 +83,31 @@ void ToolUsageTest::hintsAtTheRightUsage_data()
     const QByteArray table = "table [options] VALUE TYPE FROM";
     const QByteArray rule = " is not a decimal number such as -1234.5 or 1e-3, within the range of a double";
 
-    QTest::newRow("types takes nothing")
-        << QStringList{"types", "Pressure"} << QByteArray("too many arguments: 'Pressure'")
-        << QByteArray("types [options]");
-    QTest::newRow("units without type")
-        << QStringList{"units"} << QByteArray("TYPE is missing") << QByteArray("units [options] TYPE");
-    QTest::newRow("label without type")
-        << QStringList{"label"} << QByteArray("TYPE is missing") << QByteArray("label [options] TYPE [UNIT]");
-    QTest::newRow("convert without anything")
-        << QStringList{"convert"} << QByteArray("VALUE is missing") << convert;
-    QTest::newRow("convert without type")
-        << QStringList{"convert", "1"} << QByteArray("TYPE is missing") << convert;
-    QTest::newRow("convert without unit")
-        << QStringList{"convert", "1", "Pressure"} << QByteArray("FROM is missing") << convert;
-    QTest::newRow("convert with too much") << QStringList{"convert", "1", "Pressure", "Bar", "Bar", "Bar"}
-                                           << QByteArray("too many arguments: 'Bar'") << convert;
-    QTest::newRow("convert with garbage")
-        << QStringList{"convert", "five", "Pressure", "Bar"} << "'five'" + rule << convert;
-    QTest::newRow("convert with a negative number and garbage")
-        << QStringList{"convert", "-5x", "Pressure", "Bar"} << "'-5x'" + rule << convert;
-    QTest::newRow("table without unit")
-        << QStringList{"table", "1", "Pressure"} << QByteArray("FROM is missing") << table;
-    QTest::newRow("table of standard input")
-        << QStringList{"table", "-", "Pressure", "Bar"} << "'-'" + rule << table;
-    QTest::newRow("raw and JSON") << QStringList{"convert", "1", "Pressure", "Bar", "--raw", "--json"}
-                                  << QByteArray("--raw and --json cannot be combined") << convert;
-    QTest::newRow("unknown option") << QStringList{"convert", "1", "Pressure", "Bar", "--colour"}
-                                    << QByteArray("unknown option 'colour'") << convert;
-    QTest::newRow("option of another verb")
-        << QStringList{"units", "Pressure", "--raw"} << QByteArray("unknown option 'raw'")
-        << QByteArray("units [options] TYPE");
-    QTest::newRow("option without its value")
-        << QStringList{"label", "Pressure", "--language"} << QByteArray("missing value after '--language'")
-        << QByteArray("label [options] TYPE [UNIT]");
+    row("types takes nothing", QStringList{"types", "Pressure"}, QByteArray("too many arguments: 'Pressure'"),
+        QByteArray("types [options]"));
+    row("units without type", QStringList{"units"}, QByteArray("TYPE is missing"),
+        QByteArray("units [options] TYPE"));
+    row("label without type", QStringList{"label"}, QByteArray("TYPE is missing"),
+        QByteArray("label [options] TYPE [UNIT]"));
+    row("convert without anything", QStringList{"convert"}, QByteArray("VALUE is missing"), convert);
+    row("convert without type", QStringList{"convert", "1"}, QByteArray("TYPE is missing"), convert);
+    row("convert without unit", QStringList{"convert", "1", "Pressure"}, QByteArray("FROM is missing"),
+        convert);
+    row("convert with too much", QStringList{"convert", "1", "Pressure", "Bar", "Bar", "Bar"},
+        QByteArray("too many arguments: 'Bar'"), convert);
+    row("convert with garbage", QStringList{"convert", "five", "Pressure", "Bar"}, "'five'" + rule, convert);
+    row("convert with a negative number and garbage", QStringList{"convert", "-5x", "Pressure", "Bar"},
+        "'-5x'" + rule, convert);
+    row("table without unit", QStringList{"table", "1", "Pressure"}, QByteArray("FROM is missing"), table);
+    row("table of standard input", QStringList{"table", "-", "Pressure", "Bar"}, "'-'" + rule, table);
+    row("raw and JSON", QStringList{"convert", "1", "Pressure", "Bar", "--raw", "--json"},
+        QByteArray("--raw and --json cannot be combined"), convert);
+    row("unknown option", QStringList{"convert", "1", "Pressure", "Bar", "--colour"},
+        QByteArray("unknown option 'colour'"), convert);
+    row("option of another verb", QStringList{"units", "Pressure", "--raw"},
+        QByteArray("unknown option 'raw'"), QByteArray("units [options] TYPE"));
+    row("option without its value", QStringList{"label", "Pressure", "--language"},
+        QByteArray("missing value after '--language'"), QByteArray("label [options] TYPE [UNIT]"));
 }
 
 void ToolUsageTest::hintsAtTheRightUsage()
@@ -139,11 +127,9 @@ void ToolUsageTest::needsAVerb_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("message");
     const QByteArray known = "; known: convert, label, table, types, units, watch";
-    QTest::newRow("nothing") << QStringList{} << "VERB is missing" + known;
-    QTest::newRow("unknown verb") << QStringList{"invert"}
-                                  << "unknown verb 'invert'" + known + "; did you mean convert?";
-    QTest::newRow("option before the verb")
-        << QStringList{"--json", "types"} << "unknown verb '--json'" + known;
+    row("nothing", QStringList{}, "VERB is missing" + known);
+    row("unknown verb", QStringList{"invert"}, "unknown verb 'invert'" + known + "; did you mean convert?");
+    row("option before the verb", QStringList{"--json", "types"}, "unknown verb '--json'" + known);
 }
 
 void ToolUsageTest::needsAVerb()

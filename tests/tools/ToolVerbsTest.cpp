@@ -3,6 +3,7 @@
 #include <QtCore/QProcessEnvironment>
 #include <QtTest/QTest>
 
+#include "Row.h"
 #include "ToolProcess.h"
 
 /// The output of every verb for valid requests: exact text, nothing on standard error, exit code 0.
@@ -169,13 +170,12 @@ void ToolVerbsTest::printsValidJson_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("lineCount");
-    QTest::newRow("types") << QStringList{"types"} << 7;
-    QTest::newRow("units") << QStringList{"units", "Unlabelled"} << 5;
-    QTest::newRow("convert") << QStringList{"convert", "1e200", "Temperature", "Celsius"} << 1;
-    QTest::newRow("convert beyond all bounds")
-        << QStringList{"convert", "1e200", "Unlabelled", "Plain", "Huge"} << 1;
-    QTest::newRow("table with nan") << QStringList{"table", "nan", "Pressure", "Bar"} << 3;
-    QTest::newRow("label") << QStringList{"label", "Größe"} << 1;
+    row("types", QStringList{"types"}, 7);
+    row("units", QStringList{"units", "Unlabelled"}, 5);
+    row("convert", QStringList{"convert", "1e200", "Temperature", "Celsius"}, 1);
+    row("convert beyond all bounds", QStringList{"convert", "1e200", "Unlabelled", "Plain", "Huge"}, 1);
+    row("table with nan", QStringList{"table", "nan", "Pressure", "Bar"}, 3);
+    row("label", QStringList{"label", "Größe"}, 1);
 }
 
 void ToolVerbsTest::printsValidJson()

@@ -5,6 +5,7 @@
 
 #include "Array2dDataTypeWrapper.h"
 #include "NodeText.h"
+#include "Row.h"
 
 using Indices = QVector<unsigned int>;
 
@@ -54,35 +55,22 @@ void Array2dDataTypeWrapperTest::listIsSeenAsRowsAndColumns_data()
     QTest::addColumn<QString>("rows");
     QTest::addColumn<QString>("columns");
 
-    QTest::newRow("empty list") << "[]" << Indices{0, 0} << ""
-                                << "";
-    QTest::newRow("one column") << "[[0], [100]]" << Indices{2, 1} << "[0] [100]"
-                                << "[0, 100]";
-    QTest::newRow("one column without rows of its own") << "[0, 100]" << Indices{2, 1} << "[0] [100]"
-                                                        << "[0, 100]";
-    QTest::newRow("one column, both forms") << "[0, [100]]" << Indices{2, 1} << "[0] [100]"
-                                            << "[0, 100]";
-    QTest::newRow("one cell") << "[[7]]" << Indices{1, 1} << "[7]"
-                              << "[7]";
-    QTest::newRow("one row") << "[[1, 2, 3]]" << Indices{1, 3} << "[1, 2, 3]"
-                             << "[1] [2] [3]";
-    QTest::newRow("two columns") << "[[0, 10], [1, 20]]" << Indices{2, 2} << "[0, 10] [1, 20]"
-                                 << "[0, 1] [10, 20]";
-    QTest::newRow("short row") << "[[1], [2, 3]]" << Indices{2, 2} << "[1, invalid] [2, 3]"
-                               << "[1, 2] [invalid, 3]";
-    QTest::newRow("single value beside a longer row")
-        << "[[2, 3], 1]" << Indices{2, 2} << "[2, 3] [1, invalid]"
-        << "[2, 1] [3, invalid]";
-    QTest::newRow("empty row") << "[[], [1]]" << Indices{2, 1} << "[invalid] [1]"
-                               << "[invalid, 1]";
-    QTest::newRow("only empty rows") << "[[], []]" << Indices{2, 0} << "[] []"
-                                     << "";
-    QTest::newRow("null as a row") << "[null]" << Indices{1, 1} << "[invalid]"
-                                   << "[invalid]";
-    QTest::newRow("text and map as rows") << R"(["ab", {"a": 1}])" << Indices{2, 1} << R"(["ab"] [<a:1>])"
-                                          << R"(["ab", <a:1>])";
-    QTest::newRow("third dimension as a cell") << "[[[1, 2]]]" << Indices{1, 1} << "[[1, 2]]"
-                                               << "[[1, 2]]";
+    row("empty list", "[]", Indices{0, 0}, "", "");
+    row("one column", "[[0], [100]]", Indices{2, 1}, "[0] [100]", "[0, 100]");
+    row("one column without rows of its own", "[0, 100]", Indices{2, 1}, "[0] [100]", "[0, 100]");
+    row("one column, both forms", "[0, [100]]", Indices{2, 1}, "[0] [100]", "[0, 100]");
+    row("one cell", "[[7]]", Indices{1, 1}, "[7]", "[7]");
+    row("one row", "[[1, 2, 3]]", Indices{1, 3}, "[1, 2, 3]", "[1] [2] [3]");
+    row("two columns", "[[0, 10], [1, 20]]", Indices{2, 2}, "[0, 10] [1, 20]", "[0, 1] [10, 20]");
+    row("short row", "[[1], [2, 3]]", Indices{2, 2}, "[1, invalid] [2, 3]", "[1, 2] [invalid, 3]");
+    row("single value beside a longer row", "[[2, 3], 1]", Indices{2, 2}, "[2, 3] [1, invalid]",
+        "[2, 1] [3, invalid]");
+    row("empty row", "[[], [1]]", Indices{2, 1}, "[invalid] [1]", "[invalid, 1]");
+    row("only empty rows", "[[], []]", Indices{2, 0}, "[] []", "");
+    row("null as a row", "[null]", Indices{1, 1}, "[invalid]", "[invalid]");
+    row("text and map as rows", R"(["ab", {"a": 1}])", Indices{2, 1}, R"(["ab"] [<a:1>])",
+        R"(["ab", <a:1>])");
+    row("third dimension as a cell", "[[[1, 2]]]", Indices{1, 1}, "[[1, 2]]", "[[1, 2]]");
 }
 
 void Array2dDataTypeWrapperTest::listIsSeenAsRowsAndColumns()
@@ -178,32 +166,19 @@ void Array2dDataTypeWrapperTest::rowIsReplaced_data()
     QTest::addColumn<bool>("isWritten");
     QTest::addColumn<QString>("after");
 
-    QTest::newRow("row in the middle") << "[[1, 2], [3, 4]]"
-                                       << "[5, 6]" << 1U << true << "[[1, 2], [5, 6]]";
-    QTest::newRow("equal row") << "[[1, 2], [3, 4]]"
-                               << "[3, 4]" << 1U << true << "[[1, 2], [3, 4]]";
-    QTest::newRow("short row becomes whole") << "[[1], [3, 4]]"
-                                             << "[5, 6]" << 0U << true << "[[5, 6], [3, 4]]";
-    QTest::newRow("single value becomes whole") << "[1, [3, 4]]"
-                                                << "[5, 6]" << 0U << true << "[[5, 6], [3, 4]]";
-    QTest::newRow("one column keeps its form") << "[1, 2]"
-                                               << "[5]" << 0U << true << "[5, 2]";
-    QTest::newRow("one column of rows keeps its form") << "[[1], [2]]"
-                                                       << "[5]" << 0U << true << "[[5], [2]]";
-    QTest::newRow("list of no cells") << "[[], []]"
-                                      << "[]" << 0U << true << "[[], []]";
-    QTest::newRow("too few values") << "[[1, 2]]"
-                                    << "[5]" << 0U << false << "[[1, 2]]";
-    QTest::newRow("too many values") << "[[1, 2]]"
-                                     << "[5, 6, 7]" << 0U << false << "[[1, 2]]";
-    QTest::newRow("no values") << "[[1, 2]]"
-                               << "[]" << 0U << false << "[[1, 2]]";
-    QTest::newRow("row behind the last") << "[[1, 2]]"
-                                         << "[5, 6]" << 1U << false << "[[1, 2]]";
-    QTest::newRow("highest row") << "[[1, 2]]"
-                                 << "[5, 6]" << highest << false << "[[1, 2]]";
-    QTest::newRow("empty table") << "[]"
-                                 << "[]" << 0U << false << "[]";
+    row("row in the middle", "[[1, 2], [3, 4]]", "[5, 6]", 1U, true, "[[1, 2], [5, 6]]");
+    row("equal row", "[[1, 2], [3, 4]]", "[3, 4]", 1U, true, "[[1, 2], [3, 4]]");
+    row("short row becomes whole", "[[1], [3, 4]]", "[5, 6]", 0U, true, "[[5, 6], [3, 4]]");
+    row("single value becomes whole", "[1, [3, 4]]", "[5, 6]", 0U, true, "[[5, 6], [3, 4]]");
+    row("one column keeps its form", "[1, 2]", "[5]", 0U, true, "[5, 2]");
+    row("one column of rows keeps its form", "[[1], [2]]", "[5]", 0U, true, "[[5], [2]]");
+    row("list of no cells", "[[], []]", "[]", 0U, true, "[[], []]");
+    row("too few values", "[[1, 2]]", "[5]", 0U, false, "[[1, 2]]");
+    row("too many values", "[[1, 2]]", "[5, 6, 7]", 0U, false, "[[1, 2]]");
+    row("no values", "[[1, 2]]", "[]", 0U, false, "[[1, 2]]");
+    row("row behind the last", "[[1, 2]]", "[5, 6]", 1U, false, "[[1, 2]]");
+    row("highest row", "[[1, 2]]", "[5, 6]", highest, false, "[[1, 2]]");
+    row("empty table", "[]", "[]", 0U, false, "[]");
 }
 
 void Array2dDataTypeWrapperTest::rowIsReplaced()
@@ -228,24 +203,21 @@ void Array2dDataTypeWrapperTest::partOfARowIsReplaced_data()
     QTest::addColumn<QString>("after");
 
     const QString before = QStringLiteral("[[1, 2, 3]]");
-    QTest::newRow("cell in the middle") << before << "[7]" << 0U << 1U << 1U << true << "[[1, 7, 3]]";
-    QTest::newRow("last cells") << before << "[7, 8]" << 0U << 1U << 2U << true << "[[1, 7, 8]]";
-    QTest::newRow("all cells") << before << "[7, 8, 9]" << 0U << 0U << 3U << true << "[[7, 8, 9]]";
-    QTest::newRow("more values than cells") << before << "[7, 8]" << 0U << 0U << 1U << true << "[[7, 2, 3]]";
-    QTest::newRow("no cell") << before << "[7]" << 0U << 1U << 0U << true << before;
-    QTest::newRow("no cell behind the last") << before << "[]" << 0U << 3U << 0U << true << before;
-    QTest::newRow("no cell of a plain list") << "[1, 2]"
-                                             << "[]" << 0U << 0U << 0U << true << "[1, 2]";
-    QTest::newRow("cell of a plain list") << "[1, 2]"
-                                          << "[7]" << 1U << 0U << 1U << true << "[1, 7]";
-    QTest::newRow("cell that the short row has not") << "[[1], [2, 3]]"
-                                                     << "[7]" << 0U << 1U << 1U << true << "[[1, 7], [2, 3]]";
-    QTest::newRow("too few values") << before << "[7]" << 0U << 0U << 2U << false << before;
-    QTest::newRow("one cell behind the last") << before << "[7]" << 0U << 3U << 1U << false << before;
-    QTest::newRow("one cell too many") << before << "[7, 8]" << 0U << 2U << 2U << false << before;
-    QTest::newRow("row behind the last") << before << "[7]" << 1U << 0U << 1U << false << before;
-    QTest::newRow("end overflows to 0") << before << "[7]" << 0U << highest << 1U << false << before;
-    QTest::newRow("end overflows to 2") << before << "[7, 8, 9]" << 0U << 3U << highest << false << before;
+    row("cell in the middle", before, "[7]", 0U, 1U, 1U, true, "[[1, 7, 3]]");
+    row("last cells", before, "[7, 8]", 0U, 1U, 2U, true, "[[1, 7, 8]]");
+    row("all cells", before, "[7, 8, 9]", 0U, 0U, 3U, true, "[[7, 8, 9]]");
+    row("more values than cells", before, "[7, 8]", 0U, 0U, 1U, true, "[[7, 2, 3]]");
+    row("no cell", before, "[7]", 0U, 1U, 0U, true, before);
+    row("no cell behind the last", before, "[]", 0U, 3U, 0U, true, before);
+    row("no cell of a plain list", "[1, 2]", "[]", 0U, 0U, 0U, true, "[1, 2]");
+    row("cell of a plain list", "[1, 2]", "[7]", 1U, 0U, 1U, true, "[1, 7]");
+    row("cell that the short row has not", "[[1], [2, 3]]", "[7]", 0U, 1U, 1U, true, "[[1, 7], [2, 3]]");
+    row("too few values", before, "[7]", 0U, 0U, 2U, false, before);
+    row("one cell behind the last", before, "[7]", 0U, 3U, 1U, false, before);
+    row("one cell too many", before, "[7, 8]", 0U, 2U, 2U, false, before);
+    row("row behind the last", before, "[7]", 1U, 0U, 1U, false, before);
+    row("end overflows to 0", before, "[7]", 0U, highest, 1U, false, before);
+    row("end overflows to 2", before, "[7, 8, 9]", 0U, 3U, highest, false, before);
 }
 
 void Array2dDataTypeWrapperTest::partOfARowIsReplaced()

@@ -4,6 +4,7 @@
 #include <type_traits>
 
 #include "ArrayDataTypeWrapper.h"
+#include "Row.h"
 
 using Indices = QVector<unsigned int>;
 
@@ -114,15 +115,14 @@ void ArrayDataTypeWrapperTest::partIsReplaced_data()
     QTest::addColumn<QVariantList>("after");
 
     const QVariantList before = {1, 2, 3};
-    QTest::newRow("middle") << QVariantList{7} << 1U << 1U << true << QVariantList{1, 7, 3};
-    QTest::newRow("end") << QVariantList{7, 8} << 1U << 2U << true << QVariantList{1, 7, 8};
-    QTest::newRow("more values than places")
-        << QVariantList{7, 8} << 0U << 1U << true << QVariantList{7, 2, 3};
-    QTest::newRow("none") << QVariantList() << 3U << 0U << true << before;
-    QTest::newRow("too few values") << QVariantList{7} << 0U << 2U << false << before;
-    QTest::newRow("one behind the last") << QVariantList{7} << 3U << 1U << false << before;
-    QTest::newRow("end overflows to 0") << QVariantList{7} << highest << 1U << false << before;
-    QTest::newRow("end overflows to 2") << before << 3U << highest << false << before;
+    row("middle", QVariantList{7}, 1U, 1U, true, QVariantList{1, 7, 3});
+    row("end", QVariantList{7, 8}, 1U, 2U, true, QVariantList{1, 7, 8});
+    row("more values than places", QVariantList{7, 8}, 0U, 1U, true, QVariantList{7, 2, 3});
+    row("none", QVariantList(), 3U, 0U, true, before);
+    row("too few values", QVariantList{7}, 0U, 2U, false, before);
+    row("one behind the last", QVariantList{7}, 3U, 1U, false, before);
+    row("end overflows to 0", QVariantList{7}, highest, 1U, false, before);
+    row("end overflows to 2", before, 3U, highest, false, before);
 }
 
 void ArrayDataTypeWrapperTest::partIsReplaced()

@@ -6,6 +6,7 @@
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataTools.h"
 #include "NodeText.h"
+#include "Row.h"
 #include "VirtualSlot.h"
 
 namespace {
@@ -116,16 +117,15 @@ void ConfigurationAndProcessDataBaseTest::numberTypeNeedsTypeAndNumber_data()
 
     const QVariant number(Definitions::getKeyDataTypeNumber());
     const QVariant marker = ConfigurationAndProcessDataTools::getNoInputValueIndicator();
-    QTest::newRow("double") << number << QVariant(1.5) << true << false;
-    QTest::newRow("int") << number << QVariant(1) << true << false;
-    QTest::newRow("marker") << number << marker << true << true;
-    QTest::newRow("marker as float") << number << QVariant(marker.toFloat()) << true << true;
-    QTest::newRow("number type without value") << number << QVariant() << false << false;
-    QTest::newRow("number type with a text") << number << QVariant("1") << false << false;
-    QTest::newRow("number in a node of another type")
-        << QVariant("Selection") << QVariant(1.5) << false << false;
-    QTest::newRow("marker in a node of another type") << QVariant("Selection") << marker << false << false;
-    QTest::newRow("number in a node without type") << QVariant() << QVariant(1.5) << false << false;
+    row("double", number, QVariant(1.5), true, false);
+    row("int", number, QVariant(1), true, false);
+    row("marker", number, marker, true, true);
+    row("marker as float", number, QVariant(marker.toFloat()), true, true);
+    row("number type without value", number, QVariant(), false, false);
+    row("number type with a text", number, QVariant("1"), false, false);
+    row("number in a node of another type", QVariant("Selection"), QVariant(1.5), false, false);
+    row("marker in a node of another type", QVariant("Selection"), marker, false, false);
+    row("number in a node without type", QVariant(), QVariant(1.5), false, false);
 }
 
 void ConfigurationAndProcessDataBaseTest::numberTypeNeedsTypeAndNumber()

@@ -1,6 +1,7 @@
 #include <QtTest/QTest>
 
 #include "ConfigurationAndProcessDataDefinitions.h"
+#include "Row.h"
 
 using Definitions = ConfigurationAndProcessDataDefinitions;
 using Getter = const QString& (*)();
@@ -21,22 +22,20 @@ void ConfigurationAndProcessDataDefinitionsTest::getterNamesItsKey_data()
     QTest::addColumn<Getter>("getter");
     QTest::addColumn<QString>("key");
 
-    QTest::newRow("value") << Getter(Definitions::getKeyDataPropertyValue) << "@value";
-    QTest::newRow("unit type") << Getter(Definitions::getKeyDataPropertyUnitType) << "@unitType";
-    QTest::newRow("type") << Getter(Definitions::getKeyDataPropertyType) << "@type";
-    QTest::newRow("display position")
-        << Getter(Definitions::getKeyDataPropertyDisplayPosition) << "@displayPosition";
-    QTest::newRow("measurement-range attributes")
-        << Getter(Definitions::getKeyDataPropertyMeasurementRangeAttributes) << "@measurementRangeAttributes";
-    QTest::newRow("read-only") << Getter(Definitions::getKeyDataPropertyReadOnly) << "@readOnly";
-    QTest::newRow("tree node") << Getter(Definitions::getKeyDataTypeTreeNode) << "TreeNode";
-    QTest::newRow("selection") << Getter(Definitions::getKeyDataTypeSelection) << "Selection";
-    QTest::newRow("number") << Getter(Definitions::getKeyDataTypeNumber) << "Number";
-    QTest::newRow("text") << Getter(Definitions::getKeyDataTypeText) << "Text";
-    QTest::newRow("boolean") << Getter(Definitions::getKeyDataTypeBoolean) << "Boolean";
-    QTest::newRow("array") << Getter(Definitions::getKeyDataTypeArray) << "Array";
-    QTest::newRow("translateable text")
-        << Getter(Definitions::getKeyDataTypeTranslateableText) << "TranslateableText";
+    row("value", Getter(Definitions::getKeyDataPropertyValue), "@value");
+    row("unit type", Getter(Definitions::getKeyDataPropertyUnitType), "@unitType");
+    row("type", Getter(Definitions::getKeyDataPropertyType), "@type");
+    row("display position", Getter(Definitions::getKeyDataPropertyDisplayPosition), "@displayPosition");
+    row("measurement-range attributes", Getter(Definitions::getKeyDataPropertyMeasurementRangeAttributes),
+        "@measurementRangeAttributes");
+    row("read-only", Getter(Definitions::getKeyDataPropertyReadOnly), "@readOnly");
+    row("tree node", Getter(Definitions::getKeyDataTypeTreeNode), "TreeNode");
+    row("selection", Getter(Definitions::getKeyDataTypeSelection), "Selection");
+    row("number", Getter(Definitions::getKeyDataTypeNumber), "Number");
+    row("text", Getter(Definitions::getKeyDataTypeText), "Text");
+    row("boolean", Getter(Definitions::getKeyDataTypeBoolean), "Boolean");
+    row("array", Getter(Definitions::getKeyDataTypeArray), "Array");
+    row("translateable text", Getter(Definitions::getKeyDataTypeTranslateableText), "TranslateableText");
 }
 
 void ConfigurationAndProcessDataDefinitionsTest::getterNamesItsKey()

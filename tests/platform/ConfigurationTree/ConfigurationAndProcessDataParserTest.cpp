@@ -4,6 +4,7 @@
 #include "ExactText.h"
 #include "LogCapture.h"
 #include "NodeText.h"
+#include "Row.h"
 
 class ConfigurationAndProcessDataParserTest : public QObject
 {
@@ -27,86 +28,62 @@ void ConfigurationAndProcessDataParserTest::documentBecomesATree_data()
     QTest::addColumn<QString>("json");
     QTest::addColumn<QString>("tree");
 
-    QTest::newRow("empty object") << "{}"
-                                  << R"({@type="TreeNode"})";
-    QTest::newRow("blanks around everything") << " \t\r\n{ \"a\" : [ 1 , 2 ] } \n"
-                                              << R"({@type="TreeNode", a={@type="Array", @value=[1, 2]}})";
-    QTest::newRow("byte order mark") << QString(QChar(0xfeff)) + "{}"
-                                     << R"({@type="TreeNode"})";
-    QTest::newRow("number") << R"({"a": 5})"
-                            << R"({@type="TreeNode", a={@type="Number", @value=5}})";
-    QTest::newRow("text") << R"({"a": "x"})"
-                          << R"({@type="TreeNode", a={@type="Text", @value="x"}})";
-    QTest::newRow("empty text") << R"({"a": ""})"
-                                << R"({@type="TreeNode", a={@type="Text", @value=""}})";
-    QTest::newRow("boolean") << R"({"a": true, "b": false})"
-                             << R"({@type="TreeNode", a={@type="Boolean", @value=true}, )"
-                                R"(b={@type="Boolean", @value=false}})";
-    QTest::newRow("null child") << R"({"a": null})"
-                                << R"({@type="TreeNode", a=null})";
-    QTest::newRow("array of everything")
-        << R"({"a": [1, "x ] y", true, null, [], {"k": [2]}, [[3], [4]]]})"
-        << R"({@type="TreeNode", a={@type="Array", )"
-           R"(@value=[1, "x ] y", true, invalid, [], <k:[2]>, [[3], [4]]]}})";
-    QTest::newRow("empty array") << R"({"a": []})"
-                                 << R"({@type="TreeNode", a={@type="Array", @value=[]}})";
-    QTest::newRow("array of texts beyond ASCII")
-        << QString(R"({"a": ["%1", "\u00b0"]})").arg(QChar(0xb5))
-        << QString(R"({@type="TreeNode", a={@type="Array", @value=["%1", "%2"]}})")
-               .arg(QChar(0xb5), QChar(0xb0));
-    QTest::newRow("value object")
-        << R"({"a": {"@value": {"en": "x", "de": "y"}}})"
-        << R"({@type="TreeNode", a={@type="TranslateableText", @value=<de:"y", en:"x">}})";
-    QTest::newRow("value array") << R"({"a": {"@value": [1]}})"
-                                 << R"({@type="TreeNode", a={@type="Array", @value=[1]}})";
-    QTest::newRow("node with value and children") << R"({"@value": 1, "a": {}})"
-                                                  << R"({@type="Number", @value=1, a={@type="TreeNode"}})";
-    QTest::newRow("selection") << R"({"a": {"@type": "Selection", "@value": "x"}})"
-                               << R"({@type="TreeNode", a={@type="Selection", @value="x"}})";
-    QTest::newRow("type behind the value") << R"({"a": {"@value": "x", "@type": "Selection"}})"
-                                           << R"({@type="TreeNode", a={@type="Selection", @value="x"}})";
-    QTest::newRow("type of an unknown name") << R"({"@type": "Colour", "@value": "x"})"
-                                             << R"({@type="Colour", @value="x"})";
-    QTest::newRow("type that is no text") << R"({"@type": 5, "@value": "x"})"
-                                          << R"({@type="Text", @value="x"})";
-    QTest::newRow("type that is empty") << R"({"@type": "", "@value": "x"})"
-                                        << R"({@type="Text", @value="x"})";
-    QTest::newRow("marker") << R"({"@type": "Number", "@value": null})"
-                            << R"({@type="Number", @value=marker})";
-    QTest::newRow("marker, type behind it") << R"({"@value": null, "@type": "Number"})"
-                                            << R"({@type="Number", @value=marker})";
-    QTest::newRow("number type without value") << R"({"@type": "Number"})"
-                                               << R"({@type="Number"})";
-    QTest::newRow("null value without type") << R"({"@value": null})"
-                                             << R"({@type="TreeNode"})";
-    QTest::newRow("null value in a text") << R"({"@type": "Text", "@value": null})"
-                                          << R"({@type="Text"})";
-    QTest::newRow("null property") << R"({"@unitType": null})"
-                                   << R"({@type="TreeNode"})";
-    QTest::newRow("properties")
-        << R"({"@unitType": "P", "@displayPosition": 0, "@note": [1], "@measurementRangeAttributes": {"0": {}}})"
-        << R"({@type="TreeNode", @unitType="P", @displayPosition=0, @measurementRangeAttributes=<0:<>>, @note=[1]})";
-    QTest::newRow("children of empty and odd names")
-        << R"({"": 1, " @value": 2})"
-        << R"({@type="TreeNode", ={@type="Number", @value=1},  @value={@type="Number", @value=2}})";
-    QTest::newRow("at sign alone is a property") << R"({"@": 1})"
-                                                 << R"({@type="TreeNode"})";
-    QTest::newRow("child twice: the later counts") << R"({"a": {"b": 1}, "a": 2})"
-                                                   << R"({@type="TreeNode", a={@type="Number", @value=2}})";
-    QTest::newRow("child twice, the later null") << R"({"a": 1, "a": null})"
-                                                 << R"({@type="TreeNode", a=null})";
-    QTest::newRow("property twice") << R"({"@note": 1, "@note": "x"})"
-                                    << R"({@type="TreeNode", @note="x"})";
-    QTest::newRow("property twice, the later null") << R"({"@note": 1, "@note": null})"
-                                                    << R"({@type="TreeNode"})";
-    QTest::newRow("value twice") << R"({"@value": [1], "@value": 2})"
-                                 << R"({@type="Number", @value=2})";
-    QTest::newRow("value twice, the later null") << R"({"@type": "Number", "@value": 2, "@value": null})"
-                                                 << R"({@type="Number", @value=marker})";
-    QTest::newRow("value twice, the earlier null") << R"({"@type": "Number", "@value": null, "@value": 2})"
-                                                   << R"({@type="Number", @value=2})";
-    QTest::newRow("language twice") << R"({"@value": {"en": "x", "en": "y"}})"
-                                    << R"({@type="TranslateableText", @value=<en:"y">})";
+    row("empty object", "{}", R"({@type="TreeNode"})");
+    row("blanks around everything", " \t\r\n{ \"a\" : [ 1 , 2 ] } \n",
+        R"({@type="TreeNode", a={@type="Array", @value=[1, 2]}})");
+    row("byte order mark", QString(QChar(0xfeff)) + "{}", R"({@type="TreeNode"})");
+    row("number", R"({"a": 5})", R"({@type="TreeNode", a={@type="Number", @value=5}})");
+    row("text", R"({"a": "x"})", R"({@type="TreeNode", a={@type="Text", @value="x"}})");
+    row("empty text", R"({"a": ""})", R"({@type="TreeNode", a={@type="Text", @value=""}})");
+    row("boolean", R"({"a": true, "b": false})",
+        R"({@type="TreeNode", a={@type="Boolean", @value=true}, )"
+        R"(b={@type="Boolean", @value=false}})");
+    row("null child", R"({"a": null})", R"({@type="TreeNode", a=null})");
+    row("array of everything", R"({"a": [1, "x ] y", true, null, [], {"k": [2]}, [[3], [4]]]})",
+        R"({@type="TreeNode", a={@type="Array", )"
+        R"(@value=[1, "x ] y", true, invalid, [], <k:[2]>, [[3], [4]]]}})");
+    row("empty array", R"({"a": []})", R"({@type="TreeNode", a={@type="Array", @value=[]}})");
+    row("array of texts beyond ASCII", QString(R"({"a": ["%1", "\u00b0"]})").arg(QChar(0xb5)),
+        QString(R"({@type="TreeNode", a={@type="Array", @value=["%1", "%2"]}})")
+            .arg(QChar(0xb5), QChar(0xb0)));
+    row("value object", R"({"a": {"@value": {"en": "x", "de": "y"}}})",
+        R"({@type="TreeNode", a={@type="TranslateableText", @value=<de:"y", en:"x">}})");
+    row("value array", R"({"a": {"@value": [1]}})", R"({@type="TreeNode", a={@type="Array", @value=[1]}})");
+    row("node with value and children", R"({"@value": 1, "a": {}})",
+        R"({@type="Number", @value=1, a={@type="TreeNode"}})");
+    row("selection", R"({"a": {"@type": "Selection", "@value": "x"}})",
+        R"({@type="TreeNode", a={@type="Selection", @value="x"}})");
+    row("type behind the value", R"({"a": {"@value": "x", "@type": "Selection"}})",
+        R"({@type="TreeNode", a={@type="Selection", @value="x"}})");
+    row("type of an unknown name", R"({"@type": "Colour", "@value": "x"})",
+        R"({@type="Colour", @value="x"})");
+    row("type that is no text", R"({"@type": 5, "@value": "x"})", R"({@type="Text", @value="x"})");
+    row("type that is empty", R"({"@type": "", "@value": "x"})", R"({@type="Text", @value="x"})");
+    row("marker", R"({"@type": "Number", "@value": null})", R"({@type="Number", @value=marker})");
+    row("marker, type behind it", R"({"@value": null, "@type": "Number"})",
+        R"({@type="Number", @value=marker})");
+    row("number type without value", R"({"@type": "Number"})", R"({@type="Number"})");
+    row("null value without type", R"({"@value": null})", R"({@type="TreeNode"})");
+    row("null value in a text", R"({"@type": "Text", "@value": null})", R"({@type="Text"})");
+    row("null property", R"({"@unitType": null})", R"({@type="TreeNode"})");
+    row("properties",
+        R"({"@unitType": "P", "@displayPosition": 0, "@note": [1], "@measurementRangeAttributes": {"0": {}}})",
+        R"({@type="TreeNode", @unitType="P", @displayPosition=0, @measurementRangeAttributes=<0:<>>, @note=[1]})");
+    row("children of empty and odd names", R"({"": 1, " @value": 2})",
+        R"({@type="TreeNode", ={@type="Number", @value=1},  @value={@type="Number", @value=2}})");
+    row("at sign alone is a property", R"({"@": 1})", R"({@type="TreeNode"})");
+    row("child twice: the later counts", R"({"a": {"b": 1}, "a": 2})",
+        R"({@type="TreeNode", a={@type="Number", @value=2}})");
+    row("child twice, the later null", R"({"a": 1, "a": null})", R"({@type="TreeNode", a=null})");
+    row("property twice", R"({"@note": 1, "@note": "x"})", R"({@type="TreeNode", @note="x"})");
+    row("property twice, the later null", R"({"@note": 1, "@note": null})", R"({@type="TreeNode"})");
+    row("value twice", R"({"@value": [1], "@value": 2})", R"({@type="Number", @value=2})");
+    row("value twice, the later null", R"({"@type": "Number", "@value": 2, "@value": null})",
+        R"({@type="Number", @value=marker})");
+    row("value twice, the earlier null", R"({"@type": "Number", "@value": null, "@value": 2})",
+        R"({@type="Number", @value=2})");
+    row("language twice", R"({"@value": {"en": "x", "en": "y"}})",
+        R"({@type="TranslateableText", @value=<en:"y">})");
 }
 
 void ConfigurationAndProcessDataParserTest::documentBecomesATree()
@@ -123,23 +100,18 @@ void ConfigurationAndProcessDataParserTest::stringIsUnescaped_data()
     QTest::addColumn<QString>("json");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("quotes and slashes") << R"("\"\\\/")"
-                                        << "\"\\/";
-    QTest::newRow("control characters") << R"("\b\f\n\r\t")"
-                                        << "\b\f\n\r\t";
-    QTest::newRow("code points") << R"("\u00b0C \u00B5m")"
-                                 << QString::fromUtf8("\xc2\xb0"
-                                                      "C \xc2\xb5m");
-    QTest::newRow("pair of escapes") << R"("\ud83c\udf21")" << QString::fromUtf8("\xf0\x9f\x8c\xa1");
-    QTest::newRow("null character") << R"("a\u0000b")" << QString::fromUtf8("a\0b", 3);
-    QTest::newRow("escape at the end") << R"("a\\")"
-                                       << "a\\";
-    QTest::newRow("escaped backslash before u") << R"("\\u0041")"
-                                                << "\\u0041";
-    QTest::newRow("unescaped text beyond the basic plane")
-        << QString::fromUtf8("\"\xf0\x9f\x8c\xa1\"") << QString::fromUtf8("\xf0\x9f\x8c\xa1");
-    QTest::newRow("longer than what is shared")
-        << QString("\"%1\"").arg(QString(500, 'x')) << QString(500, 'x');
+    row("quotes and slashes", R"("\"\\\/")", "\"\\/");
+    row("control characters", R"("\b\f\n\r\t")", "\b\f\n\r\t");
+    row("code points", R"("\u00b0C \u00B5m")",
+        QString::fromUtf8("\xc2\xb0"
+                          "C \xc2\xb5m"));
+    row("pair of escapes", R"("\ud83c\udf21")", QString::fromUtf8("\xf0\x9f\x8c\xa1"));
+    row("null character", R"("a\u0000b")", QString::fromUtf8("a\0b", 3));
+    row("escape at the end", R"("a\\")", "a\\");
+    row("escaped backslash before u", R"("\\u0041")", "\\u0041");
+    row("unescaped text beyond the basic plane", QString::fromUtf8("\"\xf0\x9f\x8c\xa1\""),
+        QString::fromUtf8("\xf0\x9f\x8c\xa1"));
+    row("longer than what is shared", QString("\"%1\"").arg(QString(500, 'x')), QString(500, 'x'));
 }
 
 void ConfigurationAndProcessDataParserTest::stringIsUnescaped()
@@ -166,23 +138,23 @@ void ConfigurationAndProcessDataParserTest::numberIsTheNearestDouble_data()
     QTest::addColumn<QString>("json");
     QTest::addColumn<double>("number");
 
-    QTest::newRow("zero") << "0" << 0.0;
-    QTest::newRow("negative zero") << "-0" << -0.0;
-    QTest::newRow("negative") << "-12.5" << -12.5;
-    QTest::newRow("exponent") << "1e3" << 1000.0;
-    QTest::newRow("large exponent sign") << "1.5E+3" << 1500.0;
-    QTest::newRow("negative exponent") << "25e-1" << 2.5;
-    QTest::newRow("seventeen digits") << "0.10000000000000001" << 0.1;
-    QTest::newRow("more digits than a double holds")
-        << "3.14159265358979323846264338327950288419716939937510582097" << 3.141592653589793;
-    QTest::newRow("above 2^53, to the even one") << "9007199254740993" << 9007199254740992.0;
-    QTest::newRow("larger than 64 bits") << "18446744073709551616" << 18446744073709551616.0;
-    QTest::newRow("largest") << "1.7976931348623157e308" << 1.7976931348623157e308;
-    QTest::newRow("smallest normal") << "2.2250738585072014e-308" << 2.2250738585072014e-308;
-    QTest::newRow("smallest") << "5e-324" << 5e-324;
-    QTest::newRow("smaller than smallest") << "1e-400" << 0.0;
-    QTest::newRow("beyond 64 bits") << "18446744073709551616" << 18446744073709551616.0;
-    QTest::newRow("beyond 53 bits") << "9007199254740993" << 9007199254740992.0;
+    row("zero", "0", 0.0);
+    row("negative zero", "-0", -0.0);
+    row("negative", "-12.5", -12.5);
+    row("exponent", "1e3", 1000.0);
+    row("large exponent sign", "1.5E+3", 1500.0);
+    row("negative exponent", "25e-1", 2.5);
+    row("seventeen digits", "0.10000000000000001", 0.1);
+    row("more digits than a double holds", "3.14159265358979323846264338327950288419716939937510582097",
+        3.141592653589793);
+    row("above 2^53, to the even one", "9007199254740993", 9007199254740992.0);
+    row("larger than 64 bits", "18446744073709551616", 18446744073709551616.0);
+    row("largest", "1.7976931348623157e308", 1.7976931348623157e308);
+    row("smallest normal", "2.2250738585072014e-308", 2.2250738585072014e-308);
+    row("smallest", "5e-324", 5e-324);
+    row("smaller than smallest", "1e-400", 0.0);
+    row("beyond 64 bits", "18446744073709551616", 18446744073709551616.0);
+    row("beyond 53 bits", "9007199254740993", 9007199254740992.0);
 }
 
 void ConfigurationAndProcessDataParserTest::numberIsTheNearestDouble()

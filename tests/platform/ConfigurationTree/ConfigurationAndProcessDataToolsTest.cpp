@@ -4,6 +4,7 @@
 
 #include "ConfigurationAndProcessDataTools.h"
 #include "NodeText.h"
+#include "Row.h"
 
 using Tools = ConfigurationAndProcessDataTools;
 
@@ -29,20 +30,13 @@ void ConfigurationAndProcessDataToolsTest::configValueIsThatOfTheChild_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("value");
 
-    QTest::newRow("number") << "number"
-                            << "3";
-    QTest::newRow("array") << "array"
-                           << "[[0], [1.5]]";
-    QTest::newRow("value property") << "label"
-                                    << "<en:\"bar\">";
-    QTest::newRow("tree node") << "tree"
-                               << "invalid";
-    QTest::newRow("null child") << "null"
-                                << "invalid";
-    QTest::newRow("no such child") << "Number"
-                                   << "invalid";
-    QTest::newRow("property of the node itself") << "@note"
-                                                 << "invalid";
+    row("number", "number", "3");
+    row("array", "array", "[[0], [1.5]]");
+    row("value property", "label", "<en:\"bar\">");
+    row("tree node", "tree", "invalid");
+    row("null child", "null", "invalid");
+    row("no such child", "Number", "invalid");
+    row("property of the node itself", "@note", "invalid");
 }
 
 void ConfigurationAndProcessDataToolsTest::configValueIsThatOfTheChild()

@@ -9,6 +9,7 @@
 #include "ConfigurationDataAndProcessDescriptionAccess.h"
 #include "LogCapture.h"
 #include "MessageText.h"
+#include "Row.h"
 
 namespace {
 
@@ -100,20 +101,19 @@ void ConfigurationDataAndProcessDescriptionAccessTest::textIsThatOfTheFile_data(
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("document") << QByteArray("{\"a\": 1}\n") << "{\"a\": 1}\n";
-    QTest::newRow("empty file") << QByteArray() << "";
-    QTest::newRow("byte order mark alone") << byteOrderMark << "";
-    QTest::newRow("byte order mark at the start") << byteOrderMark + "{}"
-                                                  << "{}";
-    QTest::newRow("byte order mark inside")
-        << "{" + byteOrderMark + "}" << QString("{%1}").arg(QChar(0xfeff));
-    QTest::newRow("line ends of another system") << QByteArray("{\r\n}") << "{\r\n}";
-    QTest::newRow("two bytes") << QByteArray("\xc2\xb0"
-                                             "C")
-                               << QString("%1C").arg(QChar(0xb0));
-    QTest::newRow("four bytes") << QByteArray("\xf0\x9f\x8c\xa1") << QString::fromUcs4(U"\U0001f321");
-    QTest::newRow("replacement character itself") << QByteArray("\xef\xbf\xbd") << QString(QChar(0xfffd));
-    QTest::newRow("null characters") << QByteArray("a\0b", 3) << QString("a%1b").arg(QChar(0));
+    row("document", QByteArray("{\"a\": 1}\n"), "{\"a\": 1}\n");
+    row("empty file", QByteArray(), "");
+    row("byte order mark alone", byteOrderMark, "");
+    row("byte order mark at the start", byteOrderMark + "{}", "{}");
+    row("byte order mark inside", "{" + byteOrderMark + "}", QString("{%1}").arg(QChar(0xfeff)));
+    row("line ends of another system", QByteArray("{\r\n}"), "{\r\n}");
+    row("two bytes",
+        QByteArray("\xc2\xb0"
+                   "C"),
+        QString("%1C").arg(QChar(0xb0)));
+    row("four bytes", QByteArray("\xf0\x9f\x8c\xa1"), QString::fromUcs4(U"\U0001f321"));
+    row("replacement character itself", QByteArray("\xef\xbf\xbd"), QString(QChar(0xfffd)));
+    row("null characters", QByteArray("a\0b", 3), QString("a%1b").arg(QChar(0)));
 }
 
 void ConfigurationDataAndProcessDescriptionAccessTest::textIsThatOfTheFile()
@@ -130,19 +130,19 @@ void ConfigurationDataAndProcessDescriptionAccessTest::invalidUtf8IsReported_dat
 {
     QTest::addColumn<QByteArray>("bytes");
 
-    QTest::newRow("latin-1") << QByteArray("{\"a\": \"\xb0"
-                                           "C\"}");
-    QTest::newRow("sequence cut off by the end") << QByteArray("{}\xc2");
-    QTest::newRow("three of four bytes") << QByteArray("\xf0\x9f\x8c");
-    QTest::newRow("sequence cut off by a letter") << QByteArray("\xe2\x82"
-                                                                "C");
-    QTest::newRow("continuation byte alone") << QByteArray("\x80");
-    QTest::newRow("overlong form") << QByteArray("\xc0\xaf");
-    QTest::newRow("half of a surrogate pair") << QByteArray("\xed\xa0\xbc");
-    QTest::newRow("surrogate pair") << QByteArray("\xed\xa0\xbc\xed\xbc\xa1");
-    QTest::newRow("beyond the last code point") << QByteArray("\xf4\x90\x80\x80");
-    QTest::newRow("UTF-16") << QByteArray("\xff\xfe{\0}\0", 6);
-    QTest::newRow("last byte of many") << QByteArray(100000, 'x') + "\xff";
+    row("latin-1", QByteArray("{\"a\": \"\xb0"
+                              "C\"}"));
+    row("sequence cut off by the end", QByteArray("{}\xc2"));
+    row("three of four bytes", QByteArray("\xf0\x9f\x8c"));
+    row("sequence cut off by a letter", QByteArray("\xe2\x82"
+                                                   "C"));
+    row("continuation byte alone", QByteArray("\x80"));
+    row("overlong form", QByteArray("\xc0\xaf"));
+    row("half of a surrogate pair", QByteArray("\xed\xa0\xbc"));
+    row("surrogate pair", QByteArray("\xed\xa0\xbc\xed\xbc\xa1"));
+    row("beyond the last code point", QByteArray("\xf4\x90\x80\x80"));
+    row("UTF-16", QByteArray("\xff\xfe{\0}\0", 6));
+    row("last byte of many", QByteArray(100000, 'x') + "\xff");
 }
 
 void ConfigurationDataAndProcessDescriptionAccessTest::invalidUtf8IsReported()

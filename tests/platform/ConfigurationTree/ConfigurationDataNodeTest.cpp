@@ -4,6 +4,7 @@
 
 #include "ConfigurationAndProcessDataTools.h"
 #include "NodeText.h"
+#include "Row.h"
 
 namespace {
 
@@ -159,15 +160,14 @@ void ConfigurationDataNodeTest::changeIsAWriteOfAPropertyThatIsThere_data()
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("after");
 
-    QTest::newRow("other value") << numberNode << "@value" << QVariant(4) << 0 << "4";
-    QTest::newRow("equal value") << numberNode << "@value" << QVariant(3) << 1 << "3";
-    QTest::newRow("value of another kind") << numberNode << "@value" << QVariant("4") << 2 << "3";
-    QTest::newRow("no such property") << numberNode << "@note" << QVariant(4) << 2 << "invalid";
-    QTest::newRow("no value") << treeNode << "@value" << QVariant(4) << 2 << "invalid";
-    QTest::newRow("number type without value") << R"({"@type": "Number"})"
-                                               << "@value" << QVariant(4) << 2 << "invalid";
-    QTest::newRow("derived type, equal") << numberNode << "@type" << QVariant("Number") << 1 << "\"Number\"";
-    QTest::newRow("read-only") << readOnlyNode << "@value" << QVariant(4) << 2 << "3";
+    row("other value", numberNode, "@value", QVariant(4), 0, "4");
+    row("equal value", numberNode, "@value", QVariant(3), 1, "3");
+    row("value of another kind", numberNode, "@value", QVariant("4"), 2, "3");
+    row("no such property", numberNode, "@note", QVariant(4), 2, "invalid");
+    row("no value", treeNode, "@value", QVariant(4), 2, "invalid");
+    row("number type without value", R"({"@type": "Number"})", "@value", QVariant(4), 2, "invalid");
+    row("derived type, equal", numberNode, "@type", QVariant("Number"), 1, "\"Number\"");
+    row("read-only", readOnlyNode, "@value", QVariant(4), 2, "3");
 }
 
 void ConfigurationDataNodeTest::changeIsAWriteOfAPropertyThatIsThere()

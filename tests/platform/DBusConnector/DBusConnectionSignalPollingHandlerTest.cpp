@@ -1,6 +1,7 @@
 #include "DBusConnectionSignalPollingHandler.h"
 #include "DeviceBusEnvironment.h"
 #include "FakeBusService.h"
+#include "Row.h"
 #include "WaitLimit.h"
 #include "WaitUntil.h"
 
@@ -210,13 +211,9 @@ void DBusConnectionSignalPollingHandlerTest::otherSignalsAreNotRecorded_data()
     QTest::addColumn<QString>("service");
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("signalName");
-    QTest::newRow("of another service") << "org.measuringdevice.Others"
-                                        << "/Object" << changed;
-    QTest::newRow("of another object") << "org.measuringdevice.Files"
-                                       << "/Object/Child" << changed;
-    QTest::newRow("of another name") << "org.measuringdevice.Files"
-                                     << "/Object"
-                                     << "started";
+    row("of another service", "org.measuringdevice.Others", "/Object", changed);
+    row("of another object", "org.measuringdevice.Files", "/Object/Child", changed);
+    row("of another name", "org.measuringdevice.Files", "/Object", "started");
 }
 
 void DBusConnectionSignalPollingHandlerTest::otherSignalsAreNotRecorded()

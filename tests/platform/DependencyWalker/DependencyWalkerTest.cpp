@@ -1,6 +1,7 @@
 #include "DependencyWalker.h"
 #include "ConfigurationAndProcessDataParser.h"
 #include "LogCapture.h"
+#include "Row.h"
 
 #include <QtTest/QTest>
 
@@ -140,19 +141,16 @@ void DependencyWalkerTest::anInvalidDocumentLeavesNothing_data()
     const QString noObject = QStringLiteral("the document is not an object");
     const QString noArray = QStringLiteral("a key's value is not an array");
     const QString noString = QStringLiteral("a dependent key is not a string");
-    QTest::newRow("no text") << ""
-                             << "illegal value";
-    QTest::newRow("no JSON") << "a: b"
-                             << "illegal value";
-    QTest::newRow("cut off") << R"({"a": ["b"])"
-                             << "unterminated object";
-    QTest::newRow("an array") << R"(["a", "b"])" << noObject;
-    QTest::newRow("a text instead of a list") << R"({"a": "b"})" << noArray;
-    QTest::newRow("an object instead of a list") << R"({"a": {"b": []}})" << noArray;
-    QTest::newRow("null instead of a list") << R"({"a": null})" << noArray;
-    QTest::newRow("a number instead of a key") << R"({"a": ["b", 1]})" << noString;
-    QTest::newRow("null instead of a key") << R"({"a": [null]})" << noString;
-    QTest::newRow("one good key and one bad") << R"({"a": ["b"], "b": 1})" << noArray;
+    row("no text", "", "illegal value");
+    row("no JSON", "a: b", "illegal value");
+    row("cut off", R"({"a": ["b"])", "unterminated object");
+    row("an array", R"(["a", "b"])", noObject);
+    row("a text instead of a list", R"({"a": "b"})", noArray);
+    row("an object instead of a list", R"({"a": {"b": []}})", noArray);
+    row("null instead of a list", R"({"a": null})", noArray);
+    row("a number instead of a key", R"({"a": ["b", 1]})", noString);
+    row("null instead of a key", R"({"a": [null]})", noString);
+    row("one good key and one bad", R"({"a": ["b"], "b": 1})", noArray);
 }
 
 void DependencyWalkerTest::anInvalidDocumentLeavesNothing()

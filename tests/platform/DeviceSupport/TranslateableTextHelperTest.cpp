@@ -1,6 +1,7 @@
 #include <QtCore/QPointer>
 #include <QtTest/QTest>
 
+#include "Row.h"
 #include "TranslateableTextHelper.h"
 
 namespace {
@@ -40,45 +41,26 @@ void TranslateableTextHelperTest::textFallsBackToAnotherLanguage_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("the language itself") << QVariant(threeLanguages) << "de"
-                                         << "Grad";
-    QTest::newRow("the country itself") << QVariant(threeLanguages) << "de_AT"
-                                        << "Grad (AT)";
-    QTest::newRow("another country of the language") << QVariant(threeLanguages) << "de_CH"
-                                                     << "Grad";
-    QTest::newRow("another country, written with a hyphen") << QVariant(threeLanguages) << "de-CH"
-                                                            << "Grad";
-    QTest::newRow("two sections more than there are") << QVariant(threeLanguages) << "de_Latn_CH"
-                                                      << "Grad";
-    QTest::newRow("last fallback language") << QVariant(threeLanguages) << "fr"
-                                            << "degree";
-    QTest::newRow("no language wanted") << QVariant(threeLanguages) << ""
-                                        << "degree";
-    QTest::newRow("a language is no prefix of another") << QVariant(threeLanguages) << "d"
-                                                        << "degree";
-    QTest::newRow("exact spelling") << QVariant(threeLanguages) << "DE"
-                                    << "degree";
-    QTest::newRow("only separators") << QVariant(threeLanguages) << "_-_"
-                                     << "degree";
-    QTest::newRow("no last fallback: alphabetically first")
-        << QVariant(texts({{"fr", "degr\u00e9"}, {"de", "Grad"}})) << "it"
-        << "Grad";
-    QTest::newRow("an empty text is a text") << QVariant(texts({{"de", ""}, {"en", "x"}})) << "de"
-                                             << "";
-    QTest::newRow("map without languages") << QVariant(QVariantMap()) << "de"
-                                           << "";
-    QTest::newRow("plain string for every language") << QVariant(QStringLiteral("%")) << "de"
-                                                     << "%";
-    QTest::newRow("plain string, no language wanted") << QVariant(QStringLiteral("%")) << ""
-                                                      << "%";
-    QTest::newRow("invalid object") << QVariant() << "en"
-                                    << "";
-    QTest::newRow("number") << QVariant(5) << "en"
-                            << "";
-    QTest::newRow("list") << QVariant(QVariantList{"x"}) << "en"
-                          << "";
-    QTest::newRow("text that is a number") << QVariant(QVariantMap{{"en", 5}}) << "en"
-                                           << "5";
+    row("the language itself", QVariant(threeLanguages), "de", "Grad");
+    row("the country itself", QVariant(threeLanguages), "de_AT", "Grad (AT)");
+    row("another country of the language", QVariant(threeLanguages), "de_CH", "Grad");
+    row("another country, written with a hyphen", QVariant(threeLanguages), "de-CH", "Grad");
+    row("two sections more than there are", QVariant(threeLanguages), "de_Latn_CH", "Grad");
+    row("last fallback language", QVariant(threeLanguages), "fr", "degree");
+    row("no language wanted", QVariant(threeLanguages), "", "degree");
+    row("a language is no prefix of another", QVariant(threeLanguages), "d", "degree");
+    row("exact spelling", QVariant(threeLanguages), "DE", "degree");
+    row("only separators", QVariant(threeLanguages), "_-_", "degree");
+    row("no last fallback: alphabetically first", QVariant(texts({{"fr", "degr\u00e9"}, {"de", "Grad"}})),
+        "it", "Grad");
+    row("an empty text is a text", QVariant(texts({{"de", ""}, {"en", "x"}})), "de", "");
+    row("map without languages", QVariant(QVariantMap()), "de", "");
+    row("plain string for every language", QVariant(QStringLiteral("%")), "de", "%");
+    row("plain string, no language wanted", QVariant(QStringLiteral("%")), "", "%");
+    row("invalid object", QVariant(), "en", "");
+    row("number", QVariant(5), "en", "");
+    row("list", QVariant(QVariantList{"x"}), "en", "");
+    row("text that is a number", QVariant(QVariantMap{{"en", 5}}), "en", "5");
 }
 
 void TranslateableTextHelperTest::textFallsBackToAnotherLanguage()

@@ -1,4 +1,5 @@
 #include "ProcessMeasurementAttributes.h"
+#include "Row.h"
 
 #include <QtTest/QTest>
 
@@ -55,15 +56,12 @@ void ProcessMeasurementAttributesTest::aUnitIsSet_data()
     const QVariantMap empty;
     const QVariantMap bar{{"unit", "Bar"}};
     const QVariantMap pascal{{"unit", "Pascal"}};
-    QTest::newRow("of the first range")
-        << QVariant(QVariantList{pascal, pascal}) << 0 << QVariantList{bar, pascal};
-    QTest::newRow("of the last range")
-        << QVariant(QVariantList{pascal, pascal}) << 1 << QVariantList{pascal, bar};
-    QTest::newRow("beyond the end") << QVariant(QVariantList{pascal}) << 3
-                                    << QVariantList{pascal, empty, empty, bar};
-    QTest::newRow("of no attributes") << QVariant() << 0 << QVariantList{bar};
-    QTest::newRow("of attributes of another type") << QVariant("text") << 0 << QVariantList{bar};
-    QTest::newRow("of a range that is no map") << QVariant(QVariantList{7}) << 0 << QVariantList{bar};
+    row("of the first range", QVariant(QVariantList{pascal, pascal}), 0, QVariantList{bar, pascal});
+    row("of the last range", QVariant(QVariantList{pascal, pascal}), 1, QVariantList{pascal, bar});
+    row("beyond the end", QVariant(QVariantList{pascal}), 3, QVariantList{pascal, empty, empty, bar});
+    row("of no attributes", QVariant(), 0, QVariantList{bar});
+    row("of attributes of another type", QVariant("text"), 0, QVariantList{bar});
+    row("of a range that is no map", QVariant(QVariantList{7}), 0, QVariantList{bar});
 }
 
 void ProcessMeasurementAttributesTest::aUnitIsSet()

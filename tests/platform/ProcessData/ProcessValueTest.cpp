@@ -1,4 +1,5 @@
 #include "ProcessValue.h"
+#include "Row.h"
 
 #include <QtTest/QTest>
 
@@ -84,18 +85,16 @@ void ProcessValueTest::equalityComparesEverything_data()
     ProcessValue elsewhere = completeValue();
     elsewhere.setSource("sensor 2");
 
-    QTest::newRow("the same") << completeValue() << completeValue() << true;
-    QTest::newRow("no value at all") << ProcessValue() << ProcessValue() << true;
-    QTest::newRow("another number") << number << ProcessValue(1.25, good) << false;
-    QTest::newRow("another type of number") << ProcessValue(1, good) << ProcessValue(1.0, good) << false;
-    QTest::newRow("a text of the number") << number << ProcessValue("1.5", good) << false;
-    QTest::newRow("a NaN and a NaN") << ProcessValue(std::nan(""), good) << ProcessValue(std::nan(""), good)
-                                     << true;
-    QTest::newRow("a NaN and a number") << ProcessValue(std::nan(""), good) << number << false;
-    QTest::newRow("another error type")
-        << number << ProcessValue(1.5, ProcessDataDefinitions::ErrorTypeSensor) << false;
-    QTest::newRow("another time") << completeValue() << later << false;
-    QTest::newRow("another source") << completeValue() << elsewhere << false;
+    row("the same", completeValue(), completeValue(), true);
+    row("no value at all", ProcessValue(), ProcessValue(), true);
+    row("another number", number, ProcessValue(1.25, good), false);
+    row("another type of number", ProcessValue(1, good), ProcessValue(1.0, good), false);
+    row("a text of the number", number, ProcessValue("1.5", good), false);
+    row("a NaN and a NaN", ProcessValue(std::nan(""), good), ProcessValue(std::nan(""), good), true);
+    row("a NaN and a number", ProcessValue(std::nan(""), good), number, false);
+    row("another error type", number, ProcessValue(1.5, ProcessDataDefinitions::ErrorTypeSensor), false);
+    row("another time", completeValue(), later, false);
+    row("another source", completeValue(), elsewhere, false);
 }
 
 void ProcessValueTest::equalityComparesEverything()
