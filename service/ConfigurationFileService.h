@@ -31,7 +31,7 @@ public:
     /// @return an error message; empty on success.
     QString start(QDBusConnection connection);
 
-signals:
+Q_SIGNALS:
     /// Emitted when the connection given to start() is lost. It is not restored.
     void busLost();
 

@@ -23,7 +23,7 @@ bool ConfigurationObject::update()
 
 void ConfigurationObject::announce()
 {
-    emit configurationChanged(m_document.name());
+    Q_EMIT configurationChanged(m_document.name());
 }
 
 QString ConfigurationObject::getConfiguration(const QString& name, const QString& /*module*/,

@@ -33,7 +33,7 @@ public:
     /// Called from the bus. @return the text of the dependency document @p name.
     QString getConfigurationDependency(const QString& name, const QString& module) const;
 
-signals:
+Q_SIGNALS:
     /// The active text of the document @p name has changed; the new text is already served.
     void configurationChanged(const QString& name);
 

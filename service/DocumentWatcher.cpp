@@ -87,5 +87,5 @@ void DocumentWatcher::postpone()
 void DocumentWatcher::report()
 {
     watch();
-    emit touched();
+    Q_EMIT touched();
 }

@@ -39,7 +39,7 @@ public:
     DocumentWatcher(const QStringList& files, Debounce debounce, QObject* parent = nullptr);
     ~DocumentWatcher() override;
 
-signals:
+Q_SIGNALS:
     /// The files, or their paths, were touched. Their content may be unchanged.
     void touched();
 

@@ -34,5 +34,5 @@ void TerminationSignal::receive()
 {
     signalfd_siginfo information = {};
     if (::read(m_descriptor, &information, sizeof(information)) == sizeof(information))
-        emit received();
+        Q_EMIT received();
 }

@@ -15,7 +15,7 @@ public:
     TerminationSignal();
     ~TerminationSignal() override;
 
-signals:
+Q_SIGNALS:
     /// The process was asked to terminate.
     void received();
 

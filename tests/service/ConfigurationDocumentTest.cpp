@@ -21,7 +21,7 @@ class ConfigurationDocumentTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void nothingIsReadAtFirst();
     void goodTextComesIntoForce();

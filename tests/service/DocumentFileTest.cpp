@@ -19,7 +19,7 @@ class DocumentFileTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void contentIsRead_data();
     void contentIsRead();

@@ -11,7 +11,7 @@ class DocumentRulesTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void units_data();
     void units();
     void defaultUnits_data();

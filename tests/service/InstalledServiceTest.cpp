@@ -20,7 +20,7 @@ class InstalledServiceTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void filesAreInstalled();
     void nothingIsLeftToFillIn();

@@ -7,7 +7,7 @@ class JsonTextTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void objectIsRead_data();
     void objectIsRead();
     void problemIsNamed_data();

@@ -24,7 +24,7 @@ class PathTrailTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void trailBeginsAtTheRoot();
     void trailLeadsToTheFile_data();

@@ -85,7 +85,7 @@ class ServiceAnnouncementsTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void changeIsAnnouncedOnce_data();
     void changeIsAnnouncedOnce();
     void eachDocumentIsAnnouncedByItsObject();

@@ -12,7 +12,7 @@ class ServiceAnswersTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void eachDocumentIsServed_data();
     void eachDocumentIsServed();

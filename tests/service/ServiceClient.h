@@ -27,7 +27,7 @@ public:
     /// The announcements received so far, oldest first: the object's name, a blank, and the announced name.
     QStringList announcements() const;
 
-private slots:
+private Q_SLOTS:
     void hear(const QString& name, const QDBusMessage& message);
 
 private:

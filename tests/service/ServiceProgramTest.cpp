@@ -15,7 +15,7 @@ class ServiceProgramTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void wrongUsageIsRejected_data();
     void wrongUsageIsRejected();
     void helpNamesTheOptions();

@@ -21,7 +21,7 @@ class ServiceRefusalsTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void badTextIsRefused_data();
     void badTextIsRefused();
     void largestDocumentIsServed();

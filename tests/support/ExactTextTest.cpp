@@ -11,7 +11,7 @@ class ExactTextTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void neighboursDiffer_data();
     void neighboursDiffer();
     void signsOfZeroDiffer();

@@ -11,7 +11,7 @@ class ToolDocumentsTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void placesTheFault_data();
     void placesTheFault();
     void namesAFileThatIsNoDocument_data();

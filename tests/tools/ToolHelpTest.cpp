@@ -8,7 +8,7 @@ class ToolHelpTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void everyVerbHasHelp_data();
     void everyVerbHasHelp();
     void everyVerbHasTheVersion_data();

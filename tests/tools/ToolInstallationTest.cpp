@@ -11,7 +11,7 @@ class ToolInstallationTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void takesTheDocumentsBesideItself();
     void takesTheDocumentsBesideItselfThroughALink();

@@ -10,7 +10,7 @@ class ToolLocaleTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void keepsTheDecimalPoint_data();
     void keepsTheDecimalPoint();

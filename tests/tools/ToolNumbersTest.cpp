@@ -15,7 +15,7 @@ class ToolNumbersTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void readsNumbers_data();
     void readsNumbers();
     void refusesOtherText_data();

@@ -11,7 +11,7 @@ class ToolStreamTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void convertsLineByLine_data();
     void convertsLineByLine();
     void answersBeforeTheInputEnds();

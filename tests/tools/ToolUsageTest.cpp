@@ -9,7 +9,7 @@ class ToolUsageTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void namesWhatIsKnown_data();
     void namesWhatIsKnown();
     void hintsAtTheRightUsage_data();

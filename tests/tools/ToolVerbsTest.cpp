@@ -11,7 +11,7 @@ class ToolVerbsTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void printsFromTestDocuments_data();
     void printsFromTestDocuments();
     void printsFromShippedDocuments_data();

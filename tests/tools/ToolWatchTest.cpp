@@ -129,7 +129,7 @@ class ToolWatchTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void followsTheService_data();
     void followsTheService();
     void waitsForTheService_data();

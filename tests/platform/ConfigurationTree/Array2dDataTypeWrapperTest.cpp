@@ -31,7 +31,7 @@ class Array2dDataTypeWrapperTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void listIsSeenAsRowsAndColumns_data();
     void listIsSeenAsRowsAndColumns();
     void columnUnitTypesStandOnePerColumn_data();

@@ -21,7 +21,7 @@ class ArrayDataTypeWrapperTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void listIsSeenAsOneDimension();
     void emptyListIsSeenAsOneDimension();
     void unitTypeIsTheFirstEntry();

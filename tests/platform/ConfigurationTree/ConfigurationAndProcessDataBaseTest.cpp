@@ -58,7 +58,7 @@ class ConfigurationAndProcessDataBaseTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void virtualOperationsStandInTheirFixedOrder();
     void foreignNodeHasNoChildren();
     void parsedNodeListsItsChildren();

@@ -12,7 +12,7 @@ class ConfigurationAndProcessDataDefinitionsTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void getterNamesItsKey_data();
     void getterNamesItsKey();
 };

@@ -38,7 +38,7 @@ class ConfigurationAndProcessDataParserRobustnessTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void textThatIsNoDocumentGivesNull_data();
     void textThatIsNoDocumentGivesNull();
     void everyTruncatedDocumentGivesNull();

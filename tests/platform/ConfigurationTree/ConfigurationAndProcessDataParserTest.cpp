@@ -10,7 +10,7 @@ class ConfigurationAndProcessDataParserTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void documentBecomesATree_data();
     void documentBecomesATree();
     void stringIsUnescaped_data();

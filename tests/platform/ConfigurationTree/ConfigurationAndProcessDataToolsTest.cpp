@@ -12,7 +12,7 @@ class ConfigurationAndProcessDataToolsTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void configValueIsThatOfTheChild_data();
     void configValueIsThatOfTheChild();
     void configValueOfNoNodeIsInvalid();

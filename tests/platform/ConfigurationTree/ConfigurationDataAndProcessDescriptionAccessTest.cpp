@@ -43,7 +43,7 @@ class ConfigurationDataAndProcessDescriptionAccessTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void textIsThatOfTheFile_data();
     void textIsThatOfTheFile();

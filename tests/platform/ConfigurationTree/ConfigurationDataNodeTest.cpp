@@ -26,7 +26,7 @@ class ConfigurationDataNodeTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void writeGivesAStatus_data();
     void writeGivesAStatus();
     void changeIsAWriteOfAPropertyThatIsThere_data();

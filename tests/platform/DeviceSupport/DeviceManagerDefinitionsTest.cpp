@@ -6,7 +6,7 @@ class DeviceManagerDefinitionsTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void namesAreThoseOfTheModule();
     void everyCallGivesTheSameObject();
 };

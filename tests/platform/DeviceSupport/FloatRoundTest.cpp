@@ -27,7 +27,7 @@ class FloatRoundTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void valueIsRoundedHalfAwayFromZero_data();
     void valueIsRoundedHalfAwayFromZero();
     void valueComesBackUnchanged_data();

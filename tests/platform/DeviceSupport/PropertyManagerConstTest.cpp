@@ -6,7 +6,7 @@ class PropertyManagerConstTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void namesAreThoseOfTheDevice();
     void everyCallGivesTheSameObject();
 };

@@ -22,7 +22,7 @@ class TranslateableTextHelperTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void textFallsBackToAnotherLanguage_data();
     void textFallsBackToAnotherLanguage();
     void constructorNamesTheLanguageOfTheTextWithoutArgument();

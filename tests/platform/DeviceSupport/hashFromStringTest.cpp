@@ -6,7 +6,7 @@ class HashFromStringTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void hashIsFnv1aOfTheUtf8Text_data();
     void hashIsFnv1aOfTheUtf8Text();
 };
