@@ -1,12 +1,12 @@
 #pragma once
 
-#include "ConfigurationTreeExport.h"
-
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 #include <QtCore/QVector>
+
+#include "ConfigurationTreeExport.h"
 
 /// A nested list used as a table of rows and columns.
 ///

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "ConfigurationTreeExport.h"
-
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 #include <QtCore/QVector>
+
+#include "ConfigurationTreeExport.h"
 
 /// A list used as a one-dimensional array of values of one unit type.
 ///

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "ConfigurationAndProcessDataBase.h"
-
 #include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QVector>
+
+#include "ConfigurationAndProcessDataBase.h"
 
 /// The children of a node by key.
 ///

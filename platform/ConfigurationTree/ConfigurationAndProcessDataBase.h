@@ -1,11 +1,11 @@
 #pragma once
 
-#include "ConfigurationTreeExport.h"
-
 #include <QtCore/QHash>
 #include <QtCore/QSharedPointer>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
+
+#include "ConfigurationTreeExport.h"
 
 class ConfigurationAndProcessDataBase;
 

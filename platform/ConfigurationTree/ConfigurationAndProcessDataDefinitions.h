@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ConfigurationTreeExport.h"
-
 #include <QtCore/QString>
+
+#include "ConfigurationTreeExport.h"
 
 /// The property keys and the names of the data types of configuration-tree nodes. Every getter returns the
 /// same object on each call.

@@ -1,8 +1,8 @@
 #include "ConfigurationAndProcessDataParser.h"
 
-#include "NodeBuilder.h"
-
 #include <nlohmann/json.hpp>
+
+#include "NodeBuilder.h"
 
 namespace {
 

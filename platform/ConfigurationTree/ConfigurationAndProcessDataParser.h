@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QtCore/QString>
+
 #include "ConfigurationAndProcessDataBase.h"
 #include "ConfigurationTreeExport.h"
-
-#include <QtCore/QString>
 
 /// Creates a tree of nodes from the JSON text of a configuration document.
 ///

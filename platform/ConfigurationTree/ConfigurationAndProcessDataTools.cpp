@@ -1,10 +1,10 @@
 #include "ConfigurationAndProcessDataTools.h"
 
-#include "ConfigurationAndProcessDataDefinitions.h"
-#include "WriteStatus.h"
-
 #include <cmath>
 #include <limits>
+
+#include "ConfigurationAndProcessDataDefinitions.h"
+#include "WriteStatus.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "ConfigurationAndProcessDataBase.h"
-#include "ConfigurationTreeExport.h"
-
 #include <QtCore/QString>
 #include <QtCore/QVariant>
+
+#include "ConfigurationAndProcessDataBase.h"
+#include "ConfigurationTreeExport.h"
 
 /// Helper functions for the values of configuration-tree nodes. Nothing is logged.
 class CONFIGURATIONTREE_EXPORT ConfigurationAndProcessDataTools

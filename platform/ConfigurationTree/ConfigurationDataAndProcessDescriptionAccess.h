@@ -1,9 +1,9 @@
 #pragma once
 
-#include "ConfigurationTreeExport.h"
-
 #include <QtCore/QFileInfo>
 #include <QtCore/QString>
+
+#include "ConfigurationTreeExport.h"
 
 /// Reads configuration documents from files.
 class CONFIGURATIONTREE_EXPORT ConfigurationDataAndProcessDescriptionAccess

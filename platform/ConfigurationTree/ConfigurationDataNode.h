@@ -1,14 +1,14 @@
 #pragma once
 
-#include "ChildTable.h"
-#include "ConfigurationAndProcessDataBase.h"
-#include "PropertyList.h"
-
 #include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
 #include <memory>
+
+#include "ChildTable.h"
+#include "ConfigurationAndProcessDataBase.h"
+#include "PropertyList.h"
 
 /// The node class that the parser creates.
 ///

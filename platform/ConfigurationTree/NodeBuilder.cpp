@@ -1,11 +1,11 @@
 #include "NodeBuilder.h"
 
-#include "ConfigurationAndProcessDataDefinitions.h"
-#include "ConfigurationAndProcessDataTools.h"
-
 #include <QtCore/QHash>
 
 #include <utility>
+
+#include "ConfigurationAndProcessDataDefinitions.h"
+#include "ConfigurationAndProcessDataTools.h"
 
 namespace {
 

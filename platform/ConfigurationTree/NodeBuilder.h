@@ -1,7 +1,5 @@
 #pragma once
 
-#include "ConfigurationDataNode.h"
-
 #include <QtCore/QSharedPointer>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
@@ -11,6 +9,8 @@
 #include <cstdint>
 #include <string>
 #include <vector>
+
+#include "ConfigurationDataNode.h"
 
 /// Creates nodes directly from the events of a JSON parser. An intermediate document would take several times
 /// the memory of the nodes.

@@ -1,10 +1,10 @@
 #include "NodeValue.h"
 
-#include "ConfigurationAndProcessDataDefinitions.h"
-#include "ConfigurationAndProcessDataTools.h"
-
 #include <algorithm>
 #include <cmath>
+
+#include "ConfigurationAndProcessDataDefinitions.h"
+#include "ConfigurationAndProcessDataTools.h"
 
 namespace {
 

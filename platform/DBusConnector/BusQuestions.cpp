@@ -1,10 +1,10 @@
 #include "BusQuestions.h"
 
-#include "DBusConnection.h"
-
 #include <QtCore/QMutexLocker>
 
 #include <limits>
+
+#include "DBusConnection.h"
 
 namespace {
 

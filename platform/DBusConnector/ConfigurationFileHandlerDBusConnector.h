@@ -1,10 +1,10 @@
 #pragma once
 
-#include "DBusConnectorBase.h"
-#include "DBusConnectorExport.h"
-
 #include <QtCore/QSharedPointer>
 #include <QtCore/QString>
+
+#include "DBusConnectorBase.h"
+#include "DBusConnectorExport.h"
 
 /// Client of the device's configuration-file service: reads configuration texts by name, blocking or not. For
 /// names, modules and the time-out see DBusConnectorBase.

@@ -1,9 +1,9 @@
 #include "DBusConnection.h"
 
+#include <QtCore/QtGlobal>
+
 #include "DeviceBus.h"
 #include "PropertyManagerConst.h"
-
-#include <QtCore/QtGlobal>
 
 namespace {
 

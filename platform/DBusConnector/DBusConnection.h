@@ -1,9 +1,9 @@
 #pragma once
 
-#include "DBusConnectorExport.h"
-
 #include <QtCore/QString>
 #include <QtDBus/QDBusConnection>
+
+#include "DBusConnectorExport.h"
 
 /// The process's connection to the device's bus, and the addresses of the device's modules on it.
 ///

@@ -1,10 +1,10 @@
 #include "DBusConnectionSignalPollingHandler.h"
 
-#include "DBusConnection.h"
-
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtDBus/QDBusMessage>
+
+#include "DBusConnection.h"
 
 DBusConnectionSignalPollingHandler::DBusConnectionSignalPollingHandler(const QString& service,
                                                                        const QString& object,

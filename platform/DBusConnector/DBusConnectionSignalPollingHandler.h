@@ -1,11 +1,11 @@
 #pragma once
 
-#include "DBusConnectorExport.h"
-
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 #include <QtDBus/QDBusConnection>
+
+#include "DBusConnectorExport.h"
 
 class QDBusMessage;
 

@@ -1,9 +1,9 @@
 #include "DBusConnectorBase.h"
 
+#include <QtDBus/QDBusMessage>
+
 #include "DBusConnection.h"
 #include "ServiceOwner.h"
-
-#include <QtDBus/QDBusMessage>
 
 bool DBusConnectorBase::isServiceAvailable(const QString& service)
 {

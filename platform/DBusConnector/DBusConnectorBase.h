@@ -1,14 +1,14 @@
 #pragma once
 
-#include "DBusConnectorExport.h"
-#include "DBusPendingReply.h"
-#include "DBusReply.h"
-
 #include <QtCore/QObject>
 #include <QtCore/QSharedPointer>
 #include <QtCore/QString>
 #include <QtCore/QVariantList>
 #include <QtDBus/QDBusConnection>
+
+#include "DBusConnectorExport.h"
+#include "DBusPendingReply.h"
+#include "DBusReply.h"
 
 class QDBusMessage;
 class ServiceOwner;

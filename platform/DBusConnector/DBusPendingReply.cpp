@@ -1,8 +1,8 @@
 #include "DBusPendingReply.h"
 
-#include "DBusReply.h"
-
 #include <QtDBus/QDBusMessage>
+
+#include "DBusReply.h"
 
 DBusPendingReply::DBusPendingReply(const QDBusPendingCall& call) : m_call(call) {}
 

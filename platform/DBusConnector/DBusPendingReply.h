@@ -1,10 +1,10 @@
 #pragma once
 
-#include "DBusConnectorExport.h"
-#include "ErrorContainer.h"
-
 #include <QtCore/QVariant>
 #include <QtDBus/QDBusPendingCall>
+
+#include "DBusConnectorExport.h"
+#include "ErrorContainer.h"
 
 /// The result of a non-blocking call, to be polled until it is available. Needs no event loop: a thread of
 /// the bus connection receives replies and handles time-outs.

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QtCore/QVariant>
+
 #include "DBusConnectorExport.h"
 #include "ErrorContainer.h"
-
-#include <QtCore/QVariant>
 
 class QDBusMessage;
 

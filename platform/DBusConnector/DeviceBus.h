@@ -1,12 +1,12 @@
 #pragma once
 
-#include "BusQuestions.h"
-
 #include <QtCore/QMutex>
 #include <QtCore/QString>
 #include <QtCore/QVariantList>
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
+
+#include "BusQuestions.h"
 
 /// One bus named by DEVICE_BUS: the process's connection to it, and requests to the bus daemon itself. Two
 /// buses share nothing. Thread-safe.

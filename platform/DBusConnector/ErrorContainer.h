@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DBusConnectorExport.h"
-
 #include <QtCore/QString>
+
+#include "DBusConnectorExport.h"
 
 /// The error of a call on the bus: its D-Bus name ("org.freedesktop.DBus.Error.NoReply") and a text for the
 /// log. A default-constructed object holds no error. A plain value.

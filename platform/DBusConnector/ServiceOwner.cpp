@@ -1,14 +1,14 @@
 #include "ServiceOwner.h"
 
-#include "DBusConnection.h"
-#include "DBusReply.h"
-#include "DeviceBus.h"
-
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtCore/QHash>
 #include <QtCore/QWeakPointer>
 #include <QtDBus/QDBusServiceWatcher>
+
+#include "DBusConnection.h"
+#include "DBusReply.h"
+#include "DeviceBus.h"
 
 namespace {
 

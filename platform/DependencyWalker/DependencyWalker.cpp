@@ -1,7 +1,5 @@
 #include "DependencyWalker.h"
 
-#include "ConfigurationAndProcessDataDefinitions.h"
-
 #include <QtCore/QDebug>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -12,6 +10,8 @@
 #include <QtCore/QStack>
 
 #include <algorithm>
+
+#include "ConfigurationAndProcessDataDefinitions.h"
 
 namespace {
 

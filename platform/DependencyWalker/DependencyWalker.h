@@ -1,15 +1,15 @@
 #pragma once
 
-#include "ConfigurationAndProcessDataBase.h"
-#include "DependencyWalkerExport.h"
-#include "UnitManipulatorBase.h"
-
 #include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QSharedPointer>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
+
+#include "ConfigurationAndProcessDataBase.h"
+#include "DependencyWalkerExport.h"
+#include "UnitManipulatorBase.h"
 
 /// Finds the values that depend on a value. The document maps a key to the keys that depend on it:
 ///

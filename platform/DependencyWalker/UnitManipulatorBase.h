@@ -1,10 +1,10 @@
 #pragma once
 
-#include "ConfigurationAndProcessDataBase.h"
-#include "DependencyWalkerExport.h"
-
 #include <QtCore/QSharedPointer>
 #include <QtCore/QString>
+
+#include "ConfigurationAndProcessDataBase.h"
+#include "DependencyWalkerExport.h"
 
 /// The operation that a DependencyWalker applies to each node that it reaches.
 class DEPENDENCYWALKER_EXPORT UnitManipulatorBase

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DeviceSupportExport.h"
-
 #include <QtCore/QString>
+
+#include "DeviceSupportExport.h"
 
 /// Names of the device-manager module. Every getter returns the same object on each call.
 class DEVICESUPPORT_EXPORT DeviceManagerDefinitions

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DeviceSupportExport.h"
-
 #include <QtCore/QString>
+
+#include "DeviceSupportExport.h"
 
 /// Names that all libraries of the device share. Every getter returns the same object on each call.
 class DEVICESUPPORT_EXPORT PropertyManagerConst

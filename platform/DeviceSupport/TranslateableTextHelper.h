@@ -1,10 +1,10 @@
 #pragma once
 
-#include "DeviceSupportExport.h"
-
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
+
+#include "DeviceSupportExport.h"
 
 /// A text in several languages.
 ///

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DeviceSupportExport.h"
-
 #include <QtCore/QVariant>
+
+#include "DeviceSupportExport.h"
 
 /// @return the 32-bit FNV-1a hash of the UTF-8 form of @p text; the same number on every machine and in every
 /// run. A variant that cannot be converted to a string counts as an empty text.

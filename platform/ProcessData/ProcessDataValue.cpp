@@ -1,10 +1,10 @@
 #include "ProcessDataValue.h"
 
+#include <mutex>
+
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataTools.h"
 #include "WriteStatus.h"
-
-#include <mutex>
 
 namespace {
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "ConfigurationAndProcessDataBase.h"
-#include "ProcessDataExport.h"
-#include "ProcessValue.h"
-#include "PropertyList.h"
-
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
 #include <mutex>
+
+#include "ConfigurationAndProcessDataBase.h"
+#include "ProcessDataExport.h"
+#include "ProcessValue.h"
+#include "PropertyList.h"
 
 /// A live measured value that is also a node of the configuration tree: a number node without children. Its
 /// value property is the value of the current ProcessValue, and its unit type is a property.

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "ProcessDataExport.h"
-
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 #include <QtCore/QVariantList>
+
+#include "ProcessDataExport.h"
 
 /// Reads and edits the measurement-range attributes of a node:
 ///

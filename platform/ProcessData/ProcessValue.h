@@ -1,11 +1,11 @@
 #pragma once
 
-#include "ProcessDataDefinitions.h"
-#include "ProcessDataExport.h"
-
 #include <QtCore/QDateTime>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
+
+#include "ProcessDataDefinitions.h"
+#include "ProcessDataExport.h"
 
 /// A measured value at one moment: the value, its error and its source. A plain value.
 class PROCESSDATA_EXPORT ProcessValue

@@ -1,10 +1,10 @@
 #include "StateMachineBase.h"
 
-#include "UnitConversion/Factory.h"
-
 #include <QtCore/QDebug>
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QMessageLogger>
+
+#include "UnitConversion/Factory.h"
 
 namespace {
 

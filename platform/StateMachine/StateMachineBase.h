@@ -1,12 +1,12 @@
 #pragma once
 
-#include "StateMachineEvent.h"
-#include "StateMachineExport.h"
-#include "StateMachineStateBase.h"
-
 #include <QtCore/QObject>
 #include <QtCore/QSharedPointer>
 #include <QtCore/QString>
+
+#include "StateMachineEvent.h"
+#include "StateMachineExport.h"
+#include "StateMachineStateBase.h"
 
 /// A state machine that never runs by itself: each postEvent() is one step of the current state.
 ///

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "StateMachineExport.h"
-
 #include <QtCore/QString>
 #include <QtCore/QVariant>
+
+#include "StateMachineExport.h"
 
 /// An event that a state machine delivers to its current state: a name and data of any type. A plain value.
 class STATEMACHINE_EXPORT StateMachineEvent

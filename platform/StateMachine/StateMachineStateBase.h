@@ -1,10 +1,10 @@
 #pragma once
 
+#include <QtCore/QObject>
+
 #include "StateMachineEvent.h"
 #include "StateMachineExport.h"
 #include "UnitConversion/Factory.h"
-
-#include <QtCore/QObject>
 
 /// One state of a StateMachineBase. The class name of a state is its identifier, so every state class
 /// contains Q_OBJECT and is not in a namespace. States are created through

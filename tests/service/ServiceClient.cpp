@@ -1,10 +1,10 @@
 #include "ServiceClient.h"
 
-#include "ConfigurationFileHandlerProxy.h"
-#include "WaitLimit.h"
-
 #include <QtCore/QUuid>
 #include <QtDBus/QDBusConnection>
+
+#include "ConfigurationFileHandlerProxy.h"
+#include "WaitLimit.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "AdaptedService.h"
 
+#include <QtDBus/QDBusConnection>
+
 #include "ConfigurationFileHandlerObject.h"
 #include "configurationfilehandleradaptor.h"
-
-#include <QtDBus/QDBusConnection>
 
 AdaptedService::AdaptedService(const QString& address, const QString& serviceName, const QString& path)
     : m_address(address), m_serviceName(serviceName), m_path(path)

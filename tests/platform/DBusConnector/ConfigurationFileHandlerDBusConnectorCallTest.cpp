@@ -1,12 +1,12 @@
+#include <QtDBus/QDBusArgument>
+#include <QtTest/QTest>
+
 #include "AdaptedService.h"
 #include "ConfigurationFileHandlerDBusConnector.h"
 #include "DeviceBusEnvironment.h"
 #include "FilesBus.h"
 #include "Row.h"
 #include "WaitUntil.h"
-
-#include <QtDBus/QDBusArgument>
-#include <QtTest/QTest>
 
 Q_DECLARE_METATYPE(FakeBusService::Answer)
 

@@ -1,12 +1,12 @@
+#include <QtDBus/QDBusConnection>
+#include <QtTest/QTest>
+
 #include "BusMonitor.h"
 #include "ConfigurationFileHandlerDBusConnector.h"
 #include "DBusConnection.h"
 #include "DeviceBusEnvironment.h"
 #include "FilesBus.h"
 #include "WaitUntil.h"
-
-#include <QtDBus/QDBusConnection>
-#include <QtTest/QTest>
 
 /// Attempts to create a connector on a bus that accepts requests but does not answer them.
 class ConfigurationFileHandlerDBusConnectorFrozenBusTest : public QObject

@@ -1,13 +1,13 @@
+#include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusMessage>
+#include <QtTest/QTest>
+
 #include "BusMonitor.h"
 #include "ConfigurationFileHandlerDBusConnector.h"
 #include "DBusConnection.h"
 #include "DeviceBusEnvironment.h"
 #include "FilesBus.h"
 #include "WaitUntil.h"
-
-#include <QtDBus/QDBusConnection>
-#include <QtDBus/QDBusMessage>
-#include <QtTest/QTest>
 
 /// When a connector is created, and the bus traffic of an attempt.
 class ConfigurationFileHandlerDBusConnectorOpeningTest : public QObject

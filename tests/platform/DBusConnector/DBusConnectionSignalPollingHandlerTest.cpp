@@ -1,15 +1,16 @@
 #include "DBusConnectionSignalPollingHandler.h"
-#include "DeviceBusEnvironment.h"
-#include "FakeBusService.h"
-#include "Row.h"
-#include "WaitLimit.h"
-#include "WaitUntil.h"
 
 #include <QtDBus/QDBusArgument>
 #include <QtTest/QTest>
 
 #include <memory>
 #include <thread>
+
+#include "DeviceBusEnvironment.h"
+#include "FakeBusService.h"
+#include "Row.h"
+#include "WaitLimit.h"
+#include "WaitUntil.h"
 
 class DBusConnectionSignalPollingHandlerTest : public QObject
 {

@@ -1,6 +1,4 @@
 #include "DBusConnection.h"
-#include "DeviceBusEnvironment.h"
-#include "WaitUntil.h"
 
 #include <QtCore/QProcess>
 #include <QtDBus/QDBusConnection>
@@ -11,6 +9,9 @@
 #include <atomic>
 #include <thread>
 #include <vector>
+
+#include "DeviceBusEnvironment.h"
+#include "WaitUntil.h"
 
 class DBusConnectionTest : public QObject
 {

@@ -1,9 +1,4 @@
 #include "DBusConnectorBase.h"
-#include "DBusConnection.h"
-#include "DeviceBusEnvironment.h"
-#include "FakeBusService.h"
-#include "WaitLimit.h"
-#include "WaitUntil.h"
 
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusPendingCall>
@@ -11,6 +6,12 @@
 
 #include <memory>
 #include <thread>
+
+#include "DBusConnection.h"
+#include "DeviceBusEnvironment.h"
+#include "FakeBusService.h"
+#include "WaitLimit.h"
+#include "WaitUntil.h"
 
 // A connector to any interface.
 class Connector : public DBusConnectorBase

@@ -1,11 +1,12 @@
 #include "DependencyWalker.h"
-#include "ConfigurationAndProcessDataParser.h"
-#include "LogCapture.h"
-#include "Row.h"
 
 #include <QtTest/QTest>
 
 #include <type_traits>
+
+#include "ConfigurationAndProcessDataParser.h"
+#include "LogCapture.h"
+#include "Row.h"
 
 static_assert(std::is_abstract_v<UnitManipulatorBase>);
 static_assert(std::has_virtual_destructor_v<UnitManipulatorBase>);

@@ -1,11 +1,12 @@
 #include "ProcessDataValue.h"
-#include "ConfigurationAndProcessDataDefinitions.h"
-#include "ConfigurationAndProcessDataTools.h"
 
 #include <QtTest/QTest>
 
 #include <mutex>
 #include <thread>
+
+#include "ConfigurationAndProcessDataDefinitions.h"
+#include "ConfigurationAndProcessDataTools.h"
 
 using Definitions = ConfigurationAndProcessDataDefinitions;
 

@@ -1,7 +1,8 @@
 #include "ProcessMeasurementAttributes.h"
-#include "Row.h"
 
 #include <QtTest/QTest>
+
+#include "Row.h"
 
 class ProcessMeasurementAttributesTest : public QObject
 {

@@ -1,10 +1,11 @@
 #include "ProcessValue.h"
-#include "Row.h"
 
 #include <QtTest/QTest>
 
 #include <cmath>
 #include <type_traits>
+
+#include "Row.h"
 
 static_assert(std::has_virtual_destructor_v<ProcessValue>);
 

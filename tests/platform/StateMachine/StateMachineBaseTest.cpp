@@ -1,9 +1,10 @@
 #include "StateMachineBase.h"
-#include "LogCapture.h"
-#include "UnitConversion/Factory.h"
 
 #include <QtCore/QLoggingCategory>
 #include <QtTest/QTest>
+
+#include "LogCapture.h"
+#include "UnitConversion/Factory.h"
 
 using StateFactory = VESKFactories::Factory<StateMachineStateBase, QObject*>;
 using StatePointer = QSharedPointer<StateMachineStateBase>;
