@@ -59,7 +59,7 @@ void addLoops(std::size_t count)
     addLoop("hot loop/run", count, [=](const double* in, double* out) {
         manager.fromBaseUnitArray(in, out, count, unitType, unit);
     });
-    addLoop("hot loop/conversion taken once", count, [=](const double* in, double* out) {
+    addLoop("hot loop/conversion found once", count, [=](const double* in, double* out) {
         ValueConversionWrapper conversion;
         manager.getConversion(unitType, unit, conversion);
         for (std::size_t index = 0; index < count; ++index)

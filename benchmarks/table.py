@@ -110,7 +110,7 @@ def hot_loop_rows():
               [Against("polynomial with hardware `fma`", Value("baseline/polynomial with hardware fma"), 1.6)],
               [Against("UDUNITS converter", Value("competitor/UDUNITS converter"))])
     for count in (10, 1000, 1000000):
-        for title, name in (("an array", "run"), ("the conversion found once", "conversion taken once"),
+        for title, name in (("an array", "run"), ("the conversion found once", "conversion found once"),
                             ("single conversions", "single conversions")):
             is_array = name == "run"
             yield Row(f"{count:,} numbers, {title}", Value(f"hot loop/{name}/{count}"),

@@ -26,8 +26,8 @@ public:
     /// The name that the service owns on the bus.
     static QString name();
 
-    /// Registers the documents on the bus and requests the service's name. Does not wait if the name is
-    /// taken.
+    /// Registers the documents on the bus and requests the service's name. Does not wait if the name has
+    /// another owner.
     /// @return an error message; empty on success.
     QString start(QDBusConnection connection);
 

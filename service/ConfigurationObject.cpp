@@ -46,9 +46,10 @@ QString ConfigurationObject::answer(Method method, const QString& name) const
         return {};
     }
     if (!m_document.text()) {
-        sendErrorReply(errorName("NoConfiguration"),
-                       QStringLiteral("There was no valid document for '%1' yet; the service's log says why.")
-                           .arg(name));
+        sendErrorReply(
+            errorName("NoConfiguration"),
+            QStringLiteral("No valid document for '%1' has been loaded yet; see the service's log.")
+                .arg(name));
         return {};
     }
     return *m_document.text();

@@ -14,7 +14,7 @@ const char* const languageName = "language";
 
 void OutputOptions::addJson(QCommandLineParser& parser, const QString& content)
 {
-    parser.addOption({jsonName, "Print a JSON object a line: " + content + '.'});
+    parser.addOption({jsonName, "Print one JSON object per line: " + content + '.'});
 }
 
 void OutputOptions::addRaw(QCommandLineParser& parser)

@@ -8,7 +8,7 @@
 
 namespace {
 
-QString behindLastSlash(const QString& text)
+QString afterLastSlash(const QString& text)
 {
     return text.mid(text.lastIndexOf('/') + 1);
 }
@@ -57,7 +57,7 @@ QVector<UnitType> UnitCatalogue::unitTypes() const
 {
     QVector<UnitType> types;
     for (const QString& id : getListofUnitTypes()) {
-        UnitType type{behindLastSlash(id), id, {}};
+        UnitType type{afterLastSlash(id), id, {}};
         const QStringList noChoice{UnitManagerDefinitions::getUnitTypeNoUnit()};
         if (units(type) == noChoice)
             type.fixedUnit = noChoice.first();
@@ -78,7 +78,7 @@ Result<UnitType> UnitCatalogue::unitType(const QString& name) const
     const UnitType* type = findType(types, typeName);
     if (type == nullptr)
         return KnownNames::unknown("unit type", name, {}, namesOf(types));
-    const QString unitName = behindLastSlash(name);
+    const QString unitName = afterLastSlash(name);
     if (!units(*type).contains(unitName))
         return KnownNames::unknown("unit", unitName, " of " + type->name, units(*type));
     return UnitType{type->name + '/' + unitName, type->id, unitName};
@@ -125,7 +125,7 @@ QString UnitCatalogue::baseUnit(const UnitType& type) const
 {
     if (type.id == UnitManagerDefinitions::getUnitTypeUrlNoUnit())
         return UnitManagerDefinitions::getUnitTypeNoUnit();
-    return behindLastSlash(getBaseUnit(type.id));
+    return afterLastSlash(getBaseUnit(type.id));
 }
 
 QString UnitCatalogue::defaultUnit(const UnitType& type) const

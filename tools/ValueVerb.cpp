@@ -36,7 +36,7 @@ int ValueVerb::valueError(const QString& text) const
 QString ValueVerb::valueRules()
 {
     return "VALUE has a decimal point in every locale and may have a sign and an exponent.\n"
-           "nan means no value and is never converted; inf and -inf are taken as they\n"
-           "are. An empty unit name means the default unit. Values of a fixed unit, such as\n"
+           "nan means no value and is never converted; inf and -inf are valid values. An\n"
+           "empty unit name means the default unit. Values of a fixed unit, such as\n"
            "Pressure/Bar, and of NoUnit are never converted; FROM may then be left out.\n\n";
 }

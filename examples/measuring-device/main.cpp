@@ -9,7 +9,7 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("A device application in small: shows process values in the units of the "
+        QStringLiteral("A minimal device application: shows process values in the units of the "
                        "running configuration service, and follows its changes."));
     parser.addHelpOption();
     const QCommandLineOption language(QStringLiteral("language"), QStringLiteral("Language of the labels."),

@@ -47,7 +47,7 @@ private Q_SLOTS:
     void nobodyElseMayOwnTheName();
     void everybodyMayRead();
     void everybodyMayListen();
-    void everybodyMayAskWhatIsThere();
+    void everybodyMayIntrospect();
     void nobodyMayDoMore();
 
 private:
@@ -162,7 +162,7 @@ void BusPolicyTest::everybodyMayListen()
     QCOMPARE(m_client->text(object), QString(TestFiles::units("next")));
 }
 
-void BusPolicyTest::everybodyMayAskWhatIsThere()
+void BusPolicyTest::everybodyMayIntrospect()
 {
     QVERIFY(startService());
     QVERIFY(changeRules(policy(anotherUser())));

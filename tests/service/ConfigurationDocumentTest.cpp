@@ -24,11 +24,11 @@ class ConfigurationDocumentTest : public QObject
 private Q_SLOTS:
     void init();
     void nothingIsReadAtFirst();
-    void goodTextComesIntoForce();
+    void goodTextBecomesActive();
     void sameTextChangesNothing();
-    void lastGoodTextStaysInForce_data();
-    void lastGoodTextStaysInForce();
-    void withoutGoodTextThereIsNone();
+    void lastGoodTextStaysActive_data();
+    void lastGoodTextStaysActive();
+    void withoutGoodTextThereIsNoText();
     void emptyFileIsRefusedAtOnce();
     void refusalIsLoggedOnce();
     void returnOfTheGoodTextIsLogged();
@@ -56,7 +56,7 @@ void ConfigurationDocumentTest::nothingIsReadAtFirst()
     QCOMPARE(m_log->takeTexts(), QStringList());
 }
 
-void ConfigurationDocumentTest::goodTextComesIntoForce()
+void ConfigurationDocumentTest::goodTextBecomesActive()
 {
     QVERIFY(m_document->update());
     QCOMPARE(m_document->text(), QString("{\"a\": 1}"));
@@ -78,18 +78,18 @@ void ConfigurationDocumentTest::sameTextChangesNothing()
     QCOMPARE(m_log->takeTexts(), QStringList());
 }
 
-void ConfigurationDocumentTest::lastGoodTextStaysInForce_data()
+void ConfigurationDocumentTest::lastGoodTextStaysActive_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("reason");
 
     row("no JSON", QByteArray("{"), "line 1, column 1: unterminated object");
-    row("against the rule", QByteArray("{\"bad\": 1}"), "it is bad");
+    row("violating the rule", QByteArray("{\"bad\": 1}"), "it is bad");
     row("too large", QByteArray("{}").leftJustified(static_cast<int>(ConfigurationDocument::maximumSize) + 1),
         "it is larger than 16777216 bytes");
 }
 
-void ConfigurationDocumentTest::lastGoodTextStaysInForce()
+void ConfigurationDocumentTest::lastGoodTextStaysActive()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, reason);
@@ -106,7 +106,7 @@ void ConfigurationDocumentTest::lastGoodTextStaysInForce()
              "Name: cannot use " + m_path + ": " + reason + "; keeping the last valid document");
 }
 
-void ConfigurationDocumentTest::withoutGoodTextThereIsNone()
+void ConfigurationDocumentTest::withoutGoodTextThereIsNoText()
 {
     QVERIFY(QFile::remove(m_path));
     QVERIFY(!m_document->update());

@@ -25,7 +25,7 @@ private Q_SLOTS:
     void endlessBurstIsReported();
     void changesFurtherUpAreNotReported();
     void exchangeFurtherUpIsReported();
-    void directoryMadeAnewIsWatched();
+    void recreatedDirectoryIsWatched();
     void missingFileIsWatched();
     void placeThatCannotBeWatchedIsLoggedOnce();
 
@@ -76,7 +76,7 @@ void DocumentWatcherTest::endlessBurstIsReported()
 
 void DocumentWatcherTest::changesFurtherUpAreNotReported()
 {
-    const QString foreign = m_directory.filePath("a file of somebody else");
+    const QString foreign = m_directory.filePath("an unrelated file");
     const DocumentWatcher watcher({m_file}, {10ms, 100ms});
     const DocumentWatcher laterWatcher({foreign}, {200ms, 1h});
     QSignalSpy reports(&watcher, &DocumentWatcher::touched);
@@ -106,7 +106,7 @@ void DocumentWatcherTest::exchangeFurtherUpIsReported()
 }
 
 // The new directory may get the inode number of the old one.
-void DocumentWatcherTest::directoryMadeAnewIsWatched()
+void DocumentWatcherTest::recreatedDirectoryIsWatched()
 {
     QVERIFY(QFile::remove(m_file));
     const DocumentWatcher watcher({m_file}, {10ms, 100ms});

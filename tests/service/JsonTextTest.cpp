@@ -55,7 +55,7 @@ void JsonTextTest::problemIsNamed_data()
     row("byte order mark only", QByteArray("\xEF\xBB\xBF"), "it is empty");
     row("list", QByteArray("[{}]"), "its root is not an object");
     row("plain text", QByteArray("units"), "line 1, column 1: illegal value");
-    row("something behind it", QByteArray("{}\n {}"), "line 2, column 2: garbage at the end of the document");
+    row("text after it", QByteArray("{}\n {}"), "line 2, column 2: garbage at the end of the document");
     row("colon missing", QByteArray("{\"a\" 1}"), "line 1, column 6: missing name separator");
     row("comma missing", QByteArray("{\n\"a\": 1\n\"b\": 2}"), "line 3, column 1: unterminated object");
     row("number too large", QByteArray("{\"a\": 1e999}"), "line 1, column 12: illegal number");
@@ -67,11 +67,11 @@ void JsonTextTest::problemIsNamed_data()
         "a string in it holds a control character or a broken escape");
     row("unknown escape", QByteArray("{\"a\": \"\\q\"}"),
         "a string in it holds a control character or a broken escape");
-    row("byte that is no UTF-8", QByteArray("{\n\"\xC2\xB5\": \"\xB5\"}"),
+    row("byte that is not UTF-8", QByteArray("{\n\"\xC2\xB5\": \"\xB5\"}"),
         "line 2, column 7: it is not UTF-8");
-    row("no UTF-8 behind a byte order mark", QByteArray("\xEF\xBB\xBF\xFF"),
+    row("invalid UTF-8 after a byte order mark", QByteArray("\xEF\xBB\xBF\xFF"),
         "line 1, column 1: it is not UTF-8");
-    row("no UTF-8 behind a replacement character", QByteArray("{\"\xEF\xBF\xBD\": \"\xFF\"}"),
+    row("invalid UTF-8 after a replacement character", QByteArray("{\"\xEF\xBF\xBD\": \"\xFF\"}"),
         "line 1, column 8: it is not UTF-8");
     row("cut off within a character", QByteArray("{\"a\": \"\xE2\x82"), "line 1, column 8: it is not UTF-8");
     row("null byte", QByteArray("{}\0", 3), "line 1, column 3: garbage at the end of the document");

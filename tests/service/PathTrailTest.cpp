@@ -77,7 +77,7 @@ void PathTrailTest::trailLeadsToTheFile_data()
     row("link", "/a/down", Trail{"/a", "/a/b", "/a/b/file"});
     row("link to a link", "/c/across", Trail{"/c", "/a", "/a/b", "/a/b/file"});
     row("link to an absolute path", "/c/absolute/b/file", Trail{"/c", "/a", "/a/b", "/a/b/file"});
-    row("upwards behind a link", "/c/absolute/b/..", Trail{"/c", "/a", "/a/b"});
+    row("upwards after a link", "/c/absolute/b/..", Trail{"/c", "/a", "/a/b"});
     row("link to its own directory", "/c/here/here/across", Trail{"/c", "/a", "/a/b", "/a/b/file"});
     row("link to nothing", "/c/broken", Trail{"/c"});
     row("link to itself", "/c/circle", Trail{"/c"});

@@ -63,7 +63,7 @@ bool exchangeDirectory(const ServedDirectory& served, const QByteArray& text)
            QDir().rename(path + ".next", path);
 }
 
-bool makeDirectoryAnew(const ServedDirectory& served, const QByteArray& text)
+bool recreateDirectory(const ServedDirectory& served, const QByteArray& text)
 {
     const QString path = served.directory();
     return fillDirectory(served, path + ".next", text) && QDir(path).removeRecursively() &&
@@ -106,7 +106,7 @@ void ServiceAnnouncementsTest::changeIsAnnouncedOnce_data()
     QTest::newRow("removed and written") << Action(removeAndWrite);
     QTest::newRow("replaced by a link") << Action(linkToAnotherFile);
     QTest::newRow("directory exchanged") << Action(exchangeDirectory);
-    QTest::newRow("directory removed and made anew") << Action(makeDirectoryAnew);
+    QTest::newRow("directory removed and recreated") << Action(recreateDirectory);
     QTest::newRow("directory replaced by a link") << Action(linkToAnotherDirectory);
 }
 

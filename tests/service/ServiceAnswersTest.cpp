@@ -18,7 +18,7 @@ private Q_SLOTS:
     void eachDocumentIsServed();
     void nothingElseIsServed_data();
     void nothingElseIsServed();
-    void whoAsksMakesNoDifference();
+    void callerMakesNoDifference();
     void objectsDescribeTheInterface();
     void startIsNotAnnounced();
     void shippedDocumentsAreServed();
@@ -64,7 +64,7 @@ void ServiceAnswersTest::nothingElseIsServed_data()
     const QString getDependency = "getConfigurationDependency";
     using Arguments = QStringList;
 
-    row("name nobody knows", units, get, Arguments{"UnitManager/Unit", "", ""});
+    row("unknown name", units, get, Arguments{"UnitManager/Unit", "", ""});
     row("no name", units, get, Arguments{"", "", ""});
     row("other case", units, get, Arguments{"unitmanager/unittype", "", ""});
     row("slash at the end", units, get, Arguments{"UnitManager/UnitType/", "", ""});
@@ -78,7 +78,7 @@ void ServiceAnswersTest::nothingElseIsServed_data()
     row("a document's file", units, get, Arguments{"units.json", "", ""});
     row("a document's path", units, get, Arguments{m_served.path("units.json"), "", ""});
     row("path upwards", units, get, Arguments{"../../etc/passwd", "", ""});
-    row("path upwards behind the name", units, get,
+    row("path upwards after the name", units, get,
         Arguments{"UnitManager/UnitType/../../../../../etc/passwd", "", ""});
     row("absolute path", dependencies, getDependency, Arguments{"/etc/passwd", ""});
     row("a very long name", units, get, Arguments{QString(1000000, 'x'), "", ""});
@@ -97,7 +97,7 @@ void ServiceAnswersTest::nothingElseIsServed()
              "This method of this object serves no configuration '" + arguments[0].left(60) + "'.");
 }
 
-void ServiceAnswersTest::whoAsksMakesNoDifference()
+void ServiceAnswersTest::callerMakesNoDifference()
 {
     const QDBusMessage reply =
         m_served.client().call("UnitManagerConfiguration", "getConfiguration",

@@ -28,7 +28,7 @@ private Q_SLOTS:
     void signalEndsIt_data();
     void signalEndsIt();
     void nameIsFreeAfterItsEnd();
-    void takenNameEndsIt();
+    void usedNameEndsIt();
     void unreachableBusEndsIt_data();
     void unreachableBusEndsIt();
     void lostBusEndsIt();
@@ -184,7 +184,7 @@ void ServiceProgramTest::nameIsFreeAfterItsEnd()
     QCOMPARE(served.client().text("UnitManagerConfiguration"), QString(TestFiles::units("first")));
 }
 
-void ServiceProgramTest::takenNameEndsIt()
+void ServiceProgramTest::usedNameEndsIt()
 {
     ServedDirectory served;
     QVERIFY(served.start());
@@ -202,10 +202,10 @@ void ServiceProgramTest::unreachableBusEndsIt_data()
 {
     QTest::addColumn<QString>("bus");
 
-    QTest::newRow("nobody listens") << "unix:path=/nowhere/socket";
-    QTest::newRow("no address") << "anything";
-    QTest::newRow("session bus that is not there") << "session";
-    QTest::newRow("system bus that is not there") << "system";
+    QTest::newRow("no listener") << "unix:path=/nowhere/socket";
+    QTest::newRow("not an address") << "anything";
+    QTest::newRow("missing session bus") << "session";
+    QTest::newRow("missing system bus") << "system";
 }
 
 void ServiceProgramTest::unreachableBusEndsIt()

@@ -25,7 +25,7 @@ private Q_SLOTS:
     void badTextIsRefused_data();
     void badTextIsRefused();
     void largestDocumentIsServed();
-    void removedDocumentStaysInForce();
+    void removedDocumentStaysActive();
     void eachRefusalIsLoggedOnce();
     void documentMayComeLater_data();
     void documentMayComeLater();
@@ -38,7 +38,7 @@ void ServiceRefusalsTest::badTextIsRefused_data()
 
     row("half written", QByteArray("{\n  \"Pressure\": {\n    \"Bar\": {"),
         "line 3, column 12: unterminated object");
-    row("comma too many", QByteArray("{\n  \"Pressure\": {},\n}"),
+    row("superfluous comma", QByteArray("{\n  \"Pressure\": {},\n}"),
         "line 3, column 1: object is missing after a comma");
     row("invalid UTF-8", QByteArray("{\n  \"Pressure\": \"\xFF\"}"), "line 2, column 16: it is not UTF-8");
     row("too large", QByteArray(static_cast<int>(ConfigurationDocument::maximumSize) + 1, ' '),
@@ -82,7 +82,7 @@ void ServiceRefusalsTest::largestDocumentIsServed()
     QCOMPARE(served.client().text(object), QString(text));
 }
 
-void ServiceRefusalsTest::removedDocumentStaysInForce()
+void ServiceRefusalsTest::removedDocumentStaysActive()
 {
     ServedDirectory served;
     QVERIFY(served.start());

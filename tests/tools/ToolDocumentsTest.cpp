@@ -14,12 +14,12 @@ class ToolDocumentsTest : public QObject
 private Q_SLOTS:
     void placesTheFault_data();
     void placesTheFault();
-    void namesAFileThatIsNoDocument_data();
-    void namesAFileThatIsNoDocument();
-    void namesDefaultUnitsThatAreNone_data();
-    void namesDefaultUnitsThatAreNone();
-    void takesTheDocument_data();
-    void takesTheDocument();
+    void namesAFileThatIsNotADocument_data();
+    void namesAFileThatIsNotADocument();
+    void namesUnusableDefaultUnits_data();
+    void namesUnusableDefaultUnits();
+    void loadsTheDocument_data();
+    void loadsTheDocument();
     void replacesOneDocumentAlone();
     void readsFromAPipe();
 };
@@ -62,10 +62,10 @@ void ToolDocumentsTest::placesTheFault_data()
     row("missing colon", QByteArray("{\"A\" {}}"), QByteArray("1:6"), QByteArray("missing name separator"));
     row("name without quotes", QByteArray("{\n\tA: 1}"), QByteArray("2:2"),
         QByteArray("unterminated object"));
-    row("word that is none", QByteArray("{\"A\":\n  true,\n  \"B\": nothing}"), QByteArray("3:9"),
+    row("unknown word", QByteArray("{\"A\":\n  true,\n  \"B\": nothing}"), QByteArray("3:9"),
         QByteArray("illegal value"));
-    row("number that is none", QByteArray("{\"A\": 'x'}"), QByteArray("1:7"), QByteArray("illegal number"));
-    row("text behind the end", QByteArray("{}\n\n}"), QByteArray("3:1"),
+    row("invalid number", QByteArray("{\"A\": 'x'}"), QByteArray("1:7"), QByteArray("illegal number"));
+    row("text after the end", QByteArray("{}\n\n}"), QByteArray("3:1"),
         QByteArray("garbage at the end of the document"));
     row("end too early", QByteArray("{\"A\": {\n"), QByteArray("1:8"), QByteArray("unterminated object"));
     row("column in characters, not bytes", QByteArray("{\"\xC3\xA4\xE2\x82\x82\": 1 2}"), QByteArray("1:10"),
@@ -76,7 +76,7 @@ void ToolDocumentsTest::placesTheFault_data()
         QByteArray("3:1"), QByteArray("unterminated object"));
     row("Latin-1 letter", QByteArray("{\n  \"A\": \"\xE4\"}"), QByteArray("2:9"), QByteArray("not UTF-8"));
     row("letter cut in the middle", QByteArray("{\"A\": \"\xC3"), QByteArray("1:8"), QByteArray("not UTF-8"));
-    row("no JSON at all", QByteArray("Pressure = bar\n"), QByteArray("1:1"), QByteArray("illegal value"));
+    row("not JSON at all", QByteArray("Pressure = bar\n"), QByteArray("1:1"), QByteArray("illegal value"));
 }
 
 void ToolDocumentsTest::placesTheFault()
@@ -94,7 +94,7 @@ void ToolDocumentsTest::placesTheFault()
     }
 }
 
-void ToolDocumentsTest::namesAFileThatIsNoDocument_data()
+void ToolDocumentsTest::namesAFileThatIsNotADocument_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QByteArray>("reason");
@@ -105,7 +105,7 @@ void ToolDocumentsTest::namesAFileThatIsNoDocument_data()
     QTest::newRow("array") << QByteArray("[1]") << QByteArray("is not a JSON object");
 }
 
-void ToolDocumentsTest::namesAFileThatIsNoDocument()
+void ToolDocumentsTest::namesAFileThatIsNotADocument()
 {
     QFETCH(QByteArray, content);
     QFETCH(QByteArray, reason);
@@ -125,13 +125,13 @@ void ToolDocumentsTest::namesAFileThatIsNoDocument()
     QCOMPARE(missingRun.exitCode, 1);
 }
 
-void ToolDocumentsTest::namesDefaultUnitsThatAreNone_data()
+void ToolDocumentsTest::namesUnusableDefaultUnits_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("wrong kind of node") << QByteArray(R"({"Length": {"@value": "Meter"}})");
 }
 
-void ToolDocumentsTest::namesDefaultUnitsThatAreNone()
+void ToolDocumentsTest::namesUnusableDefaultUnits()
 {
     QFETCH(QByteArray, content);
     const Folder folder;
@@ -142,7 +142,7 @@ void ToolDocumentsTest::namesDefaultUnitsThatAreNone()
     QCOMPARE(run.exitCode, 1);
 }
 
-void ToolDocumentsTest::takesTheDocument_data()
+void ToolDocumentsTest::loadsTheDocument_data()
 {
     QTest::addColumn<QByteArray>("units");
     QTest::addColumn<QByteArray>("defaultUnits");
@@ -159,7 +159,7 @@ void ToolDocumentsTest::takesTheDocument_data()
         withDefault);
 }
 
-void ToolDocumentsTest::takesTheDocument()
+void ToolDocumentsTest::loadsTheDocument()
 {
     QFETCH(QByteArray, units);
     QFETCH(QByteArray, defaultUnits);

@@ -13,8 +13,8 @@ class ToolInstallationTest : public QObject
 
 private Q_SLOTS:
     void init();
-    void takesTheDocumentsBesideItself();
-    void takesTheDocumentsBesideItselfThroughALink();
+    void findsTheDocumentsBesideItself();
+    void findsTheDocumentsBesideItselfThroughALink();
     void namesTheMissingDocument();
     void installedProgramKnowsNoPathOfTheBuild();
 
@@ -41,7 +41,7 @@ void ToolInstallationTest::init()
     QVERIFY(QFile::copy(ToolProcess::path(), m_program));
 }
 
-void ToolInstallationTest::takesTheDocumentsBesideItself()
+void ToolInstallationTest::findsTheDocumentsBesideItself()
 {
     QVERIFY(writeFile(m_prefix->filePath("share/unitmanager/units.json"), "{\"OwnType\": {}}"));
     QVERIFY(writeFile(m_prefix->filePath("share/unitmanager/default-units.json"), "{}"));
@@ -50,7 +50,7 @@ void ToolInstallationTest::takesTheDocumentsBesideItself()
     QCOMPARE(run.standardOutput, QByteArray("OwnType\n"));
 }
 
-void ToolInstallationTest::takesTheDocumentsBesideItselfThroughALink()
+void ToolInstallationTest::findsTheDocumentsBesideItselfThroughALink()
 {
     QVERIFY(writeFile(m_prefix->filePath("share/unitmanager/units.json"), "{\"OwnType\": {}}"));
     QVERIFY(writeFile(m_prefix->filePath("share/unitmanager/default-units.json"), "{}"));

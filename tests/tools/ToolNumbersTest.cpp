@@ -78,7 +78,7 @@ void ToolNumbersTest::readsNumbers_data()
     QTest::newRow("negative without leading zero") << "-.5" << QByteArray("-0.5");
     QTest::newRow("positive sign") << "+5" << QByteArray("5");
     QTest::newRow("no digit before the point") << ".5" << QByteArray("0.5");
-    QTest::newRow("no digit behind the point") << "5." << QByteArray("5");
+    QTest::newRow("no digit after the point") << "5." << QByteArray("5");
     QTest::newRow("exponent") << "1.5e3" << QByteArray("1500");
     QTest::newRow("negative exponent") << "-1.5e-3" << QByteArray("-0.0015");
     QTest::newRow("capital exponent") << "1E5" << QByteArray("100000");

@@ -63,12 +63,12 @@ void ToolStreamTest::convertsLineByLine_data()
         QByteArray());
     row("carriage returns", QByteArray("1000\r\n2000\r\n"), QByteArray("1.000 bar\n2.000 bar\n"),
         QByteArray());
-    row("blank lines and comments pass", QByteArray("# hPa\n\n  \n1000\n\r\n #2\n"),
+    row("blank lines and comments are skipped", QByteArray("# hPa\n\n  \n1000\n\r\n #2\n"),
         QByteArray("1.000 bar\n"), QByteArray());
     row("blanks around a value", QByteArray("  1000\t\n"), QByteArray("1.000 bar\n"), QByteArray());
     row("bad lines do not stop the good ones", QByteArray("1000\nfive\n\n2,5\n3000\n"),
         QByteArray("1.000 bar\n3.000 bar\n"), notANumber(2, "five") + notANumber(4, "2,5"));
-    row("comment behind a value", QByteArray("1000 # hPa\n"), QByteArray(), notANumber(1, "1000 # hPa"));
+    row("comment after a value", QByteArray("1000 # hPa\n"), QByteArray(), notANumber(1, "1000 # hPa"));
     row("null byte", QByteArray("1000\0zero\n2000\n", 15), QByteArray("2.000 bar\n"),
         notANumber(1, "1000?zero"));
     row("not UTF-8", QByteArray("1000\xFF\n"), QByteArray(), notANumber(1, "1000\xEF\xBF\xBD"));

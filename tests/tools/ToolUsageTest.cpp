@@ -31,7 +31,7 @@ void ToolUsageTest::namesWhatIsKnown_data()
         "unknown unit 'Baar' of Pressure; " + units + "; did you mean Bar?");
     row("unit, other case", QStringList{"convert", "1", "Pressure", "HECTOPASCAL"},
         "unknown unit 'HECTOPASCAL' of Pressure; " + units + "; did you mean HectoPascal?");
-    row("unit, nothing near", QStringList{"convert", "1", "Pressure", "Furlong"},
+    row("unit, no near miss", QStringList{"convert", "1", "Pressure", "Furlong"},
         "unknown unit 'Furlong' of Pressure; " + units);
     row("unit, too short to be a near miss", QStringList{"convert", "1", "Pressure", "B"},
         "unknown unit 'B' of Pressure; " + units);
@@ -45,7 +45,7 @@ void ToolUsageTest::namesWhatIsKnown_data()
         QByteArray("unknown unit 'Bar' of NoUnit; known: NoUnit"));
     row("unit of a type without any", QStringList{"convert", "1", "Empty", "Bar"},
         QByteArray("unknown unit 'Bar' of Empty; known: none"));
-    row("other unit than the fixed one", QStringList{"convert", "1", "Pressure/Bar", "HectoPascal"},
+    row("unit other than the fixed one", QStringList{"convert", "1", "Pressure/Bar", "HectoPascal"},
         QByteArray("unknown unit 'HectoPascal' of Pressure/Bar; known: Bar"));
     row("fixed unit", QStringList{"label", "Pressure/Ba"},
         "unknown unit 'Ba' of Pressure; " + units + "; did you mean Bar?");
@@ -60,7 +60,7 @@ void ToolUsageTest::namesWhatIsKnown_data()
         QByteArray("Unlabelled has no default unit; known: Fine, Huge, Plain, Table, TooFine"));
     row("no default unit for a label", QStringList{"label", "Empty"},
         QByteArray("Empty has no default unit; known: none"));
-    row("default unit that is none", QStringList{"convert", "1", "Misled", "Here"},
+    row("default unit that does not exist", QStringList{"convert", "1", "Misled", "Here"},
         QByteArray("unknown default unit 'Elsewhere' of Misled; known: Here"));
 }
 
@@ -83,17 +83,17 @@ void ToolUsageTest::hintsAtTheRightUsage_data()
     const QByteArray table = "table [options] VALUE TYPE FROM";
     const QByteArray rule = " is not a decimal number such as -1234.5 or 1e-3, within the range of a double";
 
-    row("types takes nothing", QStringList{"types", "Pressure"}, QByteArray("too many arguments: 'Pressure'"),
-        QByteArray("types [options]"));
+    row("types with an argument", QStringList{"types", "Pressure"},
+        QByteArray("too many arguments: 'Pressure'"), QByteArray("types [options]"));
     row("units without type", QStringList{"units"}, QByteArray("TYPE is missing"),
         QByteArray("units [options] TYPE"));
     row("label without type", QStringList{"label"}, QByteArray("TYPE is missing"),
         QByteArray("label [options] TYPE [UNIT]"));
-    row("convert without anything", QStringList{"convert"}, QByteArray("VALUE is missing"), convert);
+    row("convert without arguments", QStringList{"convert"}, QByteArray("VALUE is missing"), convert);
     row("convert without type", QStringList{"convert", "1"}, QByteArray("TYPE is missing"), convert);
     row("convert without unit", QStringList{"convert", "1", "Pressure"}, QByteArray("FROM is missing"),
         convert);
-    row("convert with too much", QStringList{"convert", "1", "Pressure", "Bar", "Bar", "Bar"},
+    row("convert with too many arguments", QStringList{"convert", "1", "Pressure", "Bar", "Bar", "Bar"},
         QByteArray("too many arguments: 'Bar'"), convert);
     row("convert with garbage", QStringList{"convert", "five", "Pressure", "Bar"}, "'five'" + rule, convert);
     row("convert with a negative number and garbage", QStringList{"convert", "-5x", "Pressure", "Bar"},

@@ -18,9 +18,9 @@ private Q_SLOTS:
     void printsFromShippedDocuments();
     void printsValidJson_data();
     void printsValidJson();
-    void printsTheSameWhateverTheHashSeed_data();
-    void printsTheSameWhateverTheHashSeed();
-    void takesNonAsciiNamesInTheCLocale();
+    void printsTheSameForEveryHashSeed_data();
+    void printsTheSameForEveryHashSeed();
+    void acceptsNonAsciiNamesInTheCLocale();
 };
 
 namespace {
@@ -173,7 +173,7 @@ void ToolVerbsTest::printsValidJson_data()
     row("types", QStringList{"types"}, 7);
     row("units", QStringList{"units", "Unlabelled"}, 5);
     row("convert", QStringList{"convert", "1e200", "Temperature", "Celsius"}, 1);
-    row("convert beyond all bounds", QStringList{"convert", "1e200", "Unlabelled", "Plain", "Huge"}, 1);
+    row("convert out of range", QStringList{"convert", "1e200", "Unlabelled", "Plain", "Huge"}, 1);
     row("table with nan", QStringList{"table", "nan", "Pressure", "Bar"}, 3);
     row("label", QStringList{"label", "Größe"}, 1);
 }
@@ -193,7 +193,7 @@ void ToolVerbsTest::printsValidJson()
     }
 }
 
-void ToolVerbsTest::printsTheSameWhateverTheHashSeed_data()
+void ToolVerbsTest::printsTheSameForEveryHashSeed_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("types") << QStringList{"types"};
@@ -202,7 +202,7 @@ void ToolVerbsTest::printsTheSameWhateverTheHashSeed_data()
     QTest::newRow("known names") << QStringList{"units", "Nothing"};
 }
 
-void ToolVerbsTest::printsTheSameWhateverTheHashSeed()
+void ToolVerbsTest::printsTheSameForEveryHashSeed()
 {
     QFETCH(QStringList, arguments);
     QProcessEnvironment environment = ToolProcess::plainEnvironment();
@@ -218,7 +218,7 @@ void ToolVerbsTest::printsTheSameWhateverTheHashSeed()
     }
 }
 
-void ToolVerbsTest::takesNonAsciiNamesInTheCLocale()
+void ToolVerbsTest::acceptsNonAsciiNamesInTheCLocale()
 {
     QProcessEnvironment environment = ToolProcess::plainEnvironment();
     environment.insert("LC_ALL", "C");

@@ -34,8 +34,8 @@ class Array2dDataTypeWrapperTest : public QObject
 private Q_SLOTS:
     void listIsSeenAsRowsAndColumns_data();
     void listIsSeenAsRowsAndColumns();
-    void columnUnitTypesStandOnePerColumn_data();
-    void columnUnitTypesStandOnePerColumn();
+    void eachColumnHasItsUnitType_data();
+    void eachColumnHasItsUnitType();
     void partOfARowIsRead_data();
     void partOfARowIsRead();
     void whatIsOutsideIsEmpty();
@@ -43,7 +43,7 @@ private Q_SLOTS:
     void rowIsReplaced();
     void partOfARowIsReplaced_data();
     void partOfARowIsReplaced();
-    void resetTurnsToOtherData();
+    void resetSelectsOtherData();
     void copyIsIndependent();
     void dimensionsCanBeOverridden();
 };
@@ -93,7 +93,7 @@ void Array2dDataTypeWrapperTest::listIsSeenAsRowsAndColumns()
     QCOMPARE(valueText(array.getData()), valueText(list(json)));
 }
 
-void Array2dDataTypeWrapperTest::columnUnitTypesStandOnePerColumn_data()
+void Array2dDataTypeWrapperTest::eachColumnHasItsUnitType_data()
 {
     QTest::addColumn<QVariantList>("given");
     QTest::addColumn<QStringList>("unitTypes");
@@ -106,7 +106,7 @@ void Array2dDataTypeWrapperTest::columnUnitTypesStandOnePerColumn_data()
     QTest::newRow("invalid variant for none") << QVariantList{QVariant(), "Q"} << QStringList{"", "Q"};
 }
 
-void Array2dDataTypeWrapperTest::columnUnitTypesStandOnePerColumn()
+void Array2dDataTypeWrapperTest::eachColumnHasItsUnitType()
 {
     QFETCH(QVariantList, given);
     const Array2dDataTypeWrapper array(list(threeByTwo), given);
@@ -125,10 +125,10 @@ void Array2dDataTypeWrapperTest::partOfARowIsRead_data()
     QTest::newRow("first cell") << 1U << 0U << 1U << "[2]";
     QTest::newRow("last cell") << 2U << 1U << 1U << "[\"z\"]";
     QTest::newRow("no cell") << 1U << 0U << 0U << "[]";
-    QTest::newRow("no cell behind the last") << 1U << 2U << 0U << "[]";
+    QTest::newRow("no cell after the last") << 1U << 2U << 0U << "[]";
     QTest::newRow("one cell too many") << 1U << 0U << 3U << "[]";
-    QTest::newRow("one cell behind the last") << 1U << 2U << 1U << "[]";
-    QTest::newRow("row behind the last") << 3U << 0U << 1U << "[]";
+    QTest::newRow("one cell after the last") << 1U << 2U << 1U << "[]";
+    QTest::newRow("row after the last") << 3U << 0U << 1U << "[]";
     QTest::newRow("highest row") << highest << 0U << 1U << "[]";
     QTest::newRow("end overflows to 0") << 1U << highest << 1U << "[]";
     QTest::newRow("end overflows to 1") << 1U << 2U << highest << "[]";
@@ -176,7 +176,7 @@ void Array2dDataTypeWrapperTest::rowIsReplaced_data()
     row("too few values", "[[1, 2]]", "[5]", 0U, false, "[[1, 2]]");
     row("too many values", "[[1, 2]]", "[5, 6, 7]", 0U, false, "[[1, 2]]");
     row("no values", "[[1, 2]]", "[]", 0U, false, "[[1, 2]]");
-    row("row behind the last", "[[1, 2]]", "[5, 6]", 1U, false, "[[1, 2]]");
+    row("row after the last", "[[1, 2]]", "[5, 6]", 1U, false, "[[1, 2]]");
     row("highest row", "[[1, 2]]", "[5, 6]", highest, false, "[[1, 2]]");
     row("empty table", "[]", "[]", 0U, false, "[]");
 }
@@ -208,14 +208,14 @@ void Array2dDataTypeWrapperTest::partOfARowIsReplaced_data()
     row("all cells", before, "[7, 8, 9]", 0U, 0U, 3U, true, "[[7, 8, 9]]");
     row("more values than cells", before, "[7, 8]", 0U, 0U, 1U, true, "[[7, 2, 3]]");
     row("no cell", before, "[7]", 0U, 1U, 0U, true, before);
-    row("no cell behind the last", before, "[]", 0U, 3U, 0U, true, before);
+    row("no cell after the last", before, "[]", 0U, 3U, 0U, true, before);
     row("no cell of a plain list", "[1, 2]", "[]", 0U, 0U, 0U, true, "[1, 2]");
     row("cell of a plain list", "[1, 2]", "[7]", 1U, 0U, 1U, true, "[1, 7]");
-    row("cell that the short row has not", "[[1], [2, 3]]", "[7]", 0U, 1U, 1U, true, "[[1, 7], [2, 3]]");
+    row("cell that the short row lacks", "[[1], [2, 3]]", "[7]", 0U, 1U, 1U, true, "[[1, 7], [2, 3]]");
     row("too few values", before, "[7]", 0U, 0U, 2U, false, before);
-    row("one cell behind the last", before, "[7]", 0U, 3U, 1U, false, before);
+    row("one cell after the last", before, "[7]", 0U, 3U, 1U, false, before);
     row("one cell too many", before, "[7, 8]", 0U, 2U, 2U, false, before);
-    row("row behind the last", before, "[7]", 1U, 0U, 1U, false, before);
+    row("row after the last", before, "[7]", 1U, 0U, 1U, false, before);
     row("end overflows to 0", before, "[7]", 0U, highest, 1U, false, before);
     row("end overflows to 2", before, "[7, 8, 9]", 0U, 3U, highest, false, before);
 }
@@ -233,7 +233,7 @@ void Array2dDataTypeWrapperTest::partOfARowIsReplaced()
     QTEST(valueText(array.getData()), "after");
 }
 
-void Array2dDataTypeWrapperTest::resetTurnsToOtherData()
+void Array2dDataTypeWrapperTest::resetSelectsOtherData()
 {
     Array2dDataTypeWrapper array(list(threeByTwo), {"P", "Q"});
 

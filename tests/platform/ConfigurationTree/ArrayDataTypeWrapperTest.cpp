@@ -31,7 +31,7 @@ private Q_SLOTS:
     void allValuesAreReplaced();
     void partIsReplaced_data();
     void partIsReplaced();
-    void resetTurnsToOtherData();
+    void resetSelectsOtherData();
 };
 
 void ArrayDataTypeWrapperTest::listIsSeenAsOneDimension()
@@ -70,8 +70,8 @@ void ArrayDataTypeWrapperTest::partIsRead_data()
     QTest::newRow("middle") << 1U << 1U << QVariantList{2};
     QTest::newRow("end") << 1U << 2U << QVariantList{2, 3};
     QTest::newRow("none") << 1U << 0U << QVariantList();
-    QTest::newRow("none behind the last") << 3U << 0U << QVariantList();
-    QTest::newRow("one behind the last") << 3U << 1U << QVariantList();
+    QTest::newRow("none after the last") << 3U << 0U << QVariantList();
+    QTest::newRow("one after the last") << 3U << 1U << QVariantList();
     QTest::newRow("one too many") << 1U << 3U << QVariantList();
     QTest::newRow("end overflows to 0") << highest << 1U << QVariantList();
     QTest::newRow("end overflows to 1") << 2U << highest << QVariantList();
@@ -120,7 +120,7 @@ void ArrayDataTypeWrapperTest::partIsReplaced_data()
     row("more values than places", QVariantList{7, 8}, 0U, 1U, true, QVariantList{7, 2, 3});
     row("none", QVariantList(), 3U, 0U, true, before);
     row("too few values", QVariantList{7}, 0U, 2U, false, before);
-    row("one behind the last", QVariantList{7}, 3U, 1U, false, before);
+    row("one after the last", QVariantList{7}, 3U, 1U, false, before);
     row("end overflows to 0", QVariantList{7}, highest, 1U, false, before);
     row("end overflows to 2", before, 3U, highest, false, before);
 }
@@ -136,7 +136,7 @@ void ArrayDataTypeWrapperTest::partIsReplaced()
     QTEST(array.getValues(), "after");
 }
 
-void ArrayDataTypeWrapperTest::resetTurnsToOtherData()
+void ArrayDataTypeWrapperTest::resetSelectsOtherData()
 {
     ArrayDataTypeWrapper array({1, 2}, {"P"});
 

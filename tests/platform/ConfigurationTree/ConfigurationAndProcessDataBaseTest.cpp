@@ -59,7 +59,7 @@ class ConfigurationAndProcessDataBaseTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void virtualOperationsStandInTheirFixedOrder();
+    void virtualOperationsHaveAFixedOrder();
     void foreignNodeHasNoChildren();
     void parsedNodeListsItsChildren();
     void childMapIsOneObject();
@@ -67,7 +67,7 @@ private Q_SLOTS:
     void numberTypeNeedsTypeAndNumber();
 };
 
-void ConfigurationAndProcessDataBaseTest::virtualOperationsStandInTheirFixedOrder()
+void ConfigurationAndProcessDataBaseTest::virtualOperationsHaveAFixedOrder()
 {
     // The destructor occupies the first two.
     QCOMPARE(virtualSlot(&Base::getChild), std::size_t(2));

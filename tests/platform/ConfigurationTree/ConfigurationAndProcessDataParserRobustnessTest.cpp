@@ -39,8 +39,8 @@ class ConfigurationAndProcessDataParserRobustnessTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void textThatIsNoDocumentGivesNull_data();
-    void textThatIsNoDocumentGivesNull();
+    void textThatIsNotADocumentGivesNull_data();
+    void textThatIsNotADocumentGivesNull();
     void everyTruncatedDocumentGivesNull();
     void nestingIsLimited_data();
     void nestingIsLimited();
@@ -52,7 +52,7 @@ private Q_SLOTS:
     void largeNoiseGivesNull();
 };
 
-void ConfigurationAndProcessDataParserRobustnessTest::textThatIsNoDocumentGivesNull_data()
+void ConfigurationAndProcessDataParserRobustnessTest::textThatIsNotADocumentGivesNull_data()
 {
     QTest::addColumn<QString>("json");
 
@@ -72,8 +72,8 @@ void ConfigurationAndProcessDataParserRobustnessTest::textThatIsNoDocumentGivesN
     QTest::newRow("root is true") << "true";
     QTest::newRow("two roots") << "{}{}";
     QTest::newRow("closed twice") << "{}}";
-    QTest::newRow("words behind the root") << "{} x";
-    QTest::newRow("null character behind the root") << QString("{}") + QChar(0);
+    QTest::newRow("words after the root") << "{} x";
+    QTest::newRow("null character after the root") << QString("{}") + QChar(0);
     QTest::newRow("null character in the root") << QString("{") + QChar(0) + "}";
     QTest::newRow("not closed") << "{";
     QTest::newRow("closed by the wrong bracket") << "{]";
@@ -85,10 +85,10 @@ void ConfigurationAndProcessDataParserRobustnessTest::textThatIsNoDocumentGivesN
     QTest::newRow("name in single quotes") << "{'a': 1}";
     QTest::newRow("name that is a number") << "{1: 1}";
     QTest::newRow("equals sign for colon") << R"({"a" = 1})";
-    QTest::newRow("comma behind the last member") << R"({"a": 1,})";
+    QTest::newRow("comma after the last member") << R"({"a": 1,})";
     QTest::newRow("comma before the first member") << R"({,"a": 1})";
     QTest::newRow("comma missing") << R"({"a": 1 "b": 2})";
-    QTest::newRow("comma behind the last element") << R"({"a": [1,]})";
+    QTest::newRow("comma after the last element") << R"({"a": [1,]})";
     QTest::newRow("comma alone in an array") << R"({"a": [,]})";
     QTest::newRow("comment") << "{/* */}";
     QTest::newRow("True in capitals") << R"({"a": True})";
@@ -114,7 +114,7 @@ void ConfigurationAndProcessDataParserRobustnessTest::textThatIsNoDocumentGivesN
     QTest::newRow("escaped low surrogate alone") << R"({"a": "\udc00"})";
     QTest::newRow("escaped high surrogate before a letter") << R"({"a": "\ud800b"})";
     QTest::newRow("surrogate alone") << QStringLiteral("{\"a\": \"") + QChar(0xd800) + QStringLiteral("\"}");
-    QTest::newRow("NUL behind the object") << QStringLiteral("{}") + QChar(0) + QStringLiteral("x");
+    QTest::newRow("NUL after the object") << QStringLiteral("{}") + QChar(0) + QStringLiteral("x");
     QTest::newRow("number beyond double in an array") << R"({"a": [[1e309]]})";
     QTest::newRow("number with a gigantic exponent") << R"({"a": 1e99999999999999999999})";
     QTest::newRow("text not closed") << R"({"a": "x})";
@@ -135,7 +135,7 @@ void ConfigurationAndProcessDataParserRobustnessTest::textThatIsNoDocumentGivesN
     QTest::newRow("half of a pair outside of texts") << QString("{}%1").arg(QChar(0xd83c));
 }
 
-void ConfigurationAndProcessDataParserRobustnessTest::textThatIsNoDocumentGivesNull()
+void ConfigurationAndProcessDataParserRobustnessTest::textThatIsNotADocumentGivesNull()
 {
     QFETCH(QString, json);
     LogCapture log;

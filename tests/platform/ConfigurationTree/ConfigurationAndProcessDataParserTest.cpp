@@ -53,14 +53,14 @@ void ConfigurationAndProcessDataParserTest::documentBecomesATree_data()
         R"({@type="Number", @value=1, a={@type="TreeNode"}})");
     row("selection", R"({"a": {"@type": "Selection", "@value": "x"}})",
         R"({@type="TreeNode", a={@type="Selection", @value="x"}})");
-    row("type behind the value", R"({"a": {"@value": "x", "@type": "Selection"}})",
+    row("type after the value", R"({"a": {"@value": "x", "@type": "Selection"}})",
         R"({@type="TreeNode", a={@type="Selection", @value="x"}})");
     row("type of an unknown name", R"({"@type": "Colour", "@value": "x"})",
         R"({@type="Colour", @value="x"})");
-    row("type that is no text", R"({"@type": 5, "@value": "x"})", R"({@type="Text", @value="x"})");
+    row("type that is not a text", R"({"@type": 5, "@value": "x"})", R"({@type="Text", @value="x"})");
     row("type that is empty", R"({"@type": "", "@value": "x"})", R"({@type="Text", @value="x"})");
     row("marker", R"({"@type": "Number", "@value": null})", R"({@type="Number", @value=marker})");
-    row("marker, type behind it", R"({"@value": null, "@type": "Number"})",
+    row("marker, type after it", R"({"@value": null, "@type": "Number"})",
         R"({@type="Number", @value=marker})");
     row("number type without value", R"({"@type": "Number"})", R"({@type="Number"})");
     row("null value without type", R"({"@value": null})", R"({@type="TreeNode"})");

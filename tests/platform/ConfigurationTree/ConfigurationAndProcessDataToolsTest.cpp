@@ -15,10 +15,10 @@ class ConfigurationAndProcessDataToolsTest : public QObject
 private Q_SLOTS:
     void configValueIsThatOfTheChild_data();
     void configValueIsThatOfTheChild();
-    void configValueOfNoNodeIsInvalid();
+    void configValueWithoutNodeIsInvalid();
     void configValueIsWrittenToTheChild_data();
     void configValueIsWrittenToTheChild();
-    void configValueIsNotWrittenToNoNode();
+    void configValueIsNotWrittenWithoutNode();
     void numbersAreTheIntegerAndFloatingTypes_data();
     void numbersAreTheIntegerAndFloatingTypes();
     void markerIsAnyNanOfAFloatingType_data();
@@ -49,7 +49,7 @@ void ConfigurationAndProcessDataToolsTest::configValueIsThatOfTheChild()
     QTEST(valueText(Tools::extractConfigValue(key, node)), "value");
 }
 
-void ConfigurationAndProcessDataToolsTest::configValueOfNoNodeIsInvalid()
+void ConfigurationAndProcessDataToolsTest::configValueWithoutNodeIsInvalid()
 {
     QCOMPARE(Tools::extractConfigValue(QStringLiteral("a"), {}), QVariant());
 }
@@ -81,7 +81,7 @@ void ConfigurationAndProcessDataToolsTest::configValueIsWrittenToTheChild()
     QTEST(valueText(Tools::extractConfigValue(key, node)), "valueAfter");
 }
 
-void ConfigurationAndProcessDataToolsTest::configValueIsNotWrittenToNoNode()
+void ConfigurationAndProcessDataToolsTest::configValueIsNotWrittenWithoutNode()
 {
     QCOMPARE(Tools::setConfigValueWithStatus(QStringLiteral("a"), {}, 1), 2);
 }

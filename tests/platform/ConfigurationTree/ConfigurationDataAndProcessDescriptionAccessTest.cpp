@@ -52,7 +52,7 @@ private Q_SLOTS:
     void missingFileIsReported_data();
     void missingFileIsReported();
     void emptyPathIsReported();
-    void whatIsNoRegularFileIsReported();
+    void irregularFileIsReported();
     void fileWithoutPermissionIsReported();
     void failingReadIsReported();
     void largestFileIsRead();
@@ -172,7 +172,7 @@ void ConfigurationDataAndProcessDescriptionAccessTest::emptyPathIsReported()
     expectWarning(QString(), QStringLiteral("it has no name"));
 }
 
-void ConfigurationDataAndProcessDescriptionAccessTest::whatIsNoRegularFileIsReported()
+void ConfigurationDataAndProcessDescriptionAccessTest::irregularFileIsReported()
 {
     const QString pipe = m_directory->filePath(QStringLiteral("pipe"));
     QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);

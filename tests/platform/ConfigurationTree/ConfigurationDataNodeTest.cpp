@@ -124,7 +124,7 @@ void ConfigurationDataNodeTest::writeGivesAStatus_data()
     row("derived type", textNode, "@type", "Text", 1, "\"Text\"");
     row("type that does not take the value", textNode, "@type", "Number", 2, "\"Text\"");
     row("type that does not take the array", arrayNode, "@type", "Number", 2, "\"Array\"");
-    row("type that is no text", textNode, "@type", 5, 2, "\"Text\"");
+    row("type that is not a text", textNode, "@type", 5, 2, "\"Text\"");
     row("type that is empty", textNode, "@type", "", 2, "\"Text\"");
     row("read-only: other value", readOnlyNode, "@value", 4, 2, "3");
     row("read-only: equal value", readOnlyNode, "@value", 3, 2, "3");

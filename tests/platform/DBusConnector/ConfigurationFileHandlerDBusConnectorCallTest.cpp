@@ -17,9 +17,9 @@ class ConfigurationFileHandlerDBusConnectorCallTest : public QObject
 
 private Q_SLOTS:
     void theCallsAgreeWithTheDescriptionOfTheInterface();
-    void theFirstArgumentIsHandedOver_data();
-    void theFirstArgumentIsHandedOver();
-    void aDictionaryIsHandedOver();
+    void theFirstArgumentIsReturned_data();
+    void theFirstArgumentIsReturned();
+    void aDictionaryIsReturned();
     void aFailedCallIsAnError_data();
     void aFailedCallIsAnError();
     void aServiceThatHasGoneIsAnError();
@@ -77,7 +77,7 @@ void ConfigurationFileHandlerDBusConnectorCallTest::theCallsAgreeWithTheDescript
     QCOMPARE(values, expected);
 }
 
-void ConfigurationFileHandlerDBusConnectorCallTest::theFirstArgumentIsHandedOver_data()
+void ConfigurationFileHandlerDBusConnectorCallTest::theFirstArgumentIsReturned_data()
 {
     QTest::addColumn<FakeBusService::Answer>("answer");
     QTest::addColumn<QVariant>("value");
@@ -95,7 +95,7 @@ void ConfigurationFileHandlerDBusConnectorCallTest::theFirstArgumentIsHandedOver
     row("nothing", FakeBusService::withoutValue(), QVariant());
 }
 
-void ConfigurationFileHandlerDBusConnectorCallTest::theFirstArgumentIsHandedOver()
+void ConfigurationFileHandlerDBusConnectorCallTest::theFirstArgumentIsReturned()
 {
     QFETCH(const FakeBusService::Answer, answer);
     QFETCH(const QVariant, value);
@@ -117,7 +117,7 @@ void ConfigurationFileHandlerDBusConnectorCallTest::theFirstArgumentIsHandedOver
     QCOMPARE(pending->getReply(), value);
 }
 
-void ConfigurationFileHandlerDBusConnectorCallTest::aDictionaryIsHandedOver()
+void ConfigurationFileHandlerDBusConnectorCallTest::aDictionaryIsReturned()
 {
     const QVariantMap map{{"number", 1}, {"text", "a"}};
     FilesBus bus;
@@ -134,7 +134,7 @@ void ConfigurationFileHandlerDBusConnectorCallTest::aFailedCallIsAnError_data()
     QTest::addColumn<int>("timeout");
     QTest::addColumn<QString>("error");
     row("an error reply", FakeBusService::withError("org.example.Error"), waitLimit, "org.example.Error");
-    row("a reply that never comes", FakeBusService::never(), 200, noReply);
+    row("a missing reply", FakeBusService::never(), 200, noReply);
 }
 
 void ConfigurationFileHandlerDBusConnectorCallTest::aFailedCallIsAnError()

@@ -3,8 +3,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
-/// The object behind the adaptor generated from the interface description. It returns the arguments of the
-/// request.
+/// The object that the generated adaptor serves. It returns the arguments of the request.
 class ConfigurationFileHandlerObject : public QObject
 {
     Q_OBJECT

@@ -25,16 +25,16 @@ private Q_SLOTS:
     void aSignalIsRecordedWithARunningEventLoop();
     void theSignatureMayBeGivenByItsNumber();
     void theLastOfABurstIsRecorded();
-    void aSignalThatWasNotTakenInIsNotResetAway();
+    void aSignalThatWasNotReadSurvivesAReset();
     void theParameterIsTheFirstArgument_data();
     void theParameterIsTheFirstArgument();
-    void aDictionaryIsHandedOver();
+    void aDictionaryIsReturned();
     void otherSignalsAreNotRecorded_data();
     void otherSignalsAreNotRecorded();
     void onlyItsOwnCallsAreDelivered();
-    void aNewOwnerOfTheNameIsHeardToo();
-    void aBusThatCameBackIsHeardAgain();
-    void aBusThatComesLateIsHeard();
+    void signalsOfANewOwnerAreRecorded();
+    void signalsOfABusThatCameBackAreRecorded();
+    void signalsOfABusThatStartsLateAreRecorded();
 
 private:
     void startService();
@@ -57,7 +57,7 @@ public:
     {}
 
     // Polls until the last signal had this parameter.
-    bool hasHeard(const QVariant& parameter)
+    bool hasReceived(const QVariant& parameter)
     {
         return waitUntil([&] { return isSignalOccured() && getSignalParameter() == parameter; });
     }
@@ -103,7 +103,7 @@ void DBusConnectionSignalPollingHandlerTest::aSignalIsRecordedUntilItIsReset()
 {
     Handler handler;
     QVERIFY(send("units"));
-    QVERIFY(handler.hasHeard("units"));
+    QVERIFY(handler.hasReceived("units"));
     QVERIFY(handler.isSignalOccured());
     QCOMPARE(handler.getSignalParameter(), QVariant("units"));
 
@@ -111,7 +111,7 @@ void DBusConnectionSignalPollingHandlerTest::aSignalIsRecordedUntilItIsReset()
     QVERIFY(!handler.isSignalOccured());
     QVERIFY(!handler.getSignalParameter().isValid());
     QVERIFY(send("units"));
-    QVERIFY(handler.hasHeard("units"));
+    QVERIFY(handler.hasReceived("units"));
 }
 
 void DBusConnectionSignalPollingHandlerTest::aSignalIsRecordedInAThreadWithoutEventLoop()
@@ -119,7 +119,7 @@ void DBusConnectionSignalPollingHandlerTest::aSignalIsRecordedInAThreadWithoutEv
     bool heard = false;
     std::thread thread([this, &heard] {
         Handler handler;
-        heard = send("units") && handler.hasHeard("units");
+        heard = send("units") && handler.hasReceived("units");
     });
     thread.join();
     QVERIFY(heard);
@@ -151,23 +151,23 @@ void DBusConnectionSignalPollingHandlerTest::theLastOfABurstIsRecorded()
         QVERIFY(send(number));
 
     // No signal is left after the last one was read.
-    QVERIFY(handler.hasHeard(count));
+    QVERIFY(handler.hasReceived(count));
     handler.resetLastSignal();
     QVERIFY(!handler.isSignalOccured());
 }
 
-void DBusConnectionSignalPollingHandlerTest::aSignalThatWasNotTakenInIsNotResetAway()
+void DBusConnectionSignalPollingHandlerTest::aSignalThatWasNotReadSurvivesAReset()
 {
     Handler handler;
     Handler other("Other");
     QVERIFY(send("first"));
-    QVERIFY(handler.hasHeard("first"));
+    QVERIFY(handler.hasReceived("first"));
 
     // Signals arrive in order: once the other object's signal is here, the second one is waiting in its
     // handler.
     QVERIFY(send("second"));
     QVERIFY(m_service->sendSignal("/Other", changed, {"later"}));
-    QVERIFY(other.hasHeard("later"));
+    QVERIFY(other.hasReceived("later"));
     QCOMPARE(handler.getSignalParameter(), QVariant("first"));
     handler.resetLastSignal();
     QVERIFY(handler.isSignalOccured());
@@ -197,7 +197,7 @@ void DBusConnectionSignalPollingHandlerTest::theParameterIsTheFirstArgument()
     QCOMPARE(handler.getSignalParameter(), parameter);
 }
 
-void DBusConnectionSignalPollingHandlerTest::aDictionaryIsHandedOver()
+void DBusConnectionSignalPollingHandlerTest::aDictionaryIsReturned()
 {
     const QVariantMap map{{"number", 1}};
     Handler handler;
@@ -242,28 +242,28 @@ void DBusConnectionSignalPollingHandlerTest::onlyItsOwnCallsAreDelivered()
     QMetaObject::invokeMethod(
         &bystander, [&delivered] { delivered = true; }, Qt::QueuedConnection);
     QVERIFY(send("units"));
-    QVERIFY(handler.hasHeard("units"));
+    QVERIFY(handler.hasReceived("units"));
     QVERIFY(!delivered);
     QCoreApplication::sendPostedEvents(&bystander);
     QVERIFY(delivered);
 }
 
-void DBusConnectionSignalPollingHandlerTest::aNewOwnerOfTheNameIsHeardToo()
+void DBusConnectionSignalPollingHandlerTest::signalsOfANewOwnerAreRecorded()
 {
     Handler handler;
     QVERIFY(send("first"));
-    QVERIFY(handler.hasHeard("first"));
+    QVERIFY(handler.hasReceived("first"));
     m_service.reset();
     startService();
     QVERIFY(send("second"));
-    QVERIFY(handler.hasHeard("second"));
+    QVERIFY(handler.hasReceived("second"));
 }
 
-void DBusConnectionSignalPollingHandlerTest::aBusThatCameBackIsHeardAgain()
+void DBusConnectionSignalPollingHandlerTest::signalsOfABusThatCameBackAreRecorded()
 {
     Handler handler;
     QVERIFY(send("first"));
-    QVERIFY(handler.hasHeard("first"));
+    QVERIFY(handler.hasReceived("first"));
     handler.resetLastSignal();
     m_service.reset();
     m_bus->stop();
@@ -276,7 +276,7 @@ void DBusConnectionSignalPollingHandlerTest::aBusThatCameBackIsHeardAgain()
     QCOMPARE(handler.getSignalParameter(), QVariant("second"));
 }
 
-void DBusConnectionSignalPollingHandlerTest::aBusThatComesLateIsHeard()
+void DBusConnectionSignalPollingHandlerTest::signalsOfABusThatStartsLateAreRecorded()
 {
     m_service.reset();
     m_bus->stop();

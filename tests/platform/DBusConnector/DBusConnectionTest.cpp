@@ -176,7 +176,7 @@ void DBusConnectionTest::aBusThatIsNotThereGivesAConnectionThatIsNotConnected_da
 {
     QTest::addColumn<QString>("deviceBus");
     QTest::newRow("no socket") << QStringLiteral("unix:path=/nonexistent/bus");
-    QTest::newRow("no address") << QStringLiteral("somewhere");
+    QTest::newRow("not an address") << QStringLiteral("somewhere");
 }
 
 void DBusConnectionTest::aBusThatIsNotThereGivesAConnectionThatIsNotConnected()

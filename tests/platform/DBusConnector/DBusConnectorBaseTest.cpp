@@ -40,7 +40,7 @@ private Q_SLOTS:
     void onlyItsOwnEventsAreDelivered();
     void aConnectorStaysInvalidWhenItsBusIsLost();
     void aCallNamesTheObjectTheInterfaceAndTheMethod();
-    void aBusThatHangsIsAskedNoLongerThanTheTimeOut();
+    void aQuestionToAFrozenBusEndsWithItsTimeOut();
 
 private:
     std::unique_ptr<FakeBusService> startService();
@@ -191,7 +191,7 @@ void DBusConnectorBaseTest::aCallNamesTheObjectTheInterfaceAndTheMethod()
     }
 }
 
-void DBusConnectorBaseTest::aBusThatHangsIsAskedNoLongerThanTheTimeOut()
+void DBusConnectorBaseTest::aQuestionToAFrozenBusEndsWithItsTimeOut()
 {
     const auto service = startService();
     QVERIFY(Connector::isServiceAvailable("Module"));

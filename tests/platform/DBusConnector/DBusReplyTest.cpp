@@ -11,10 +11,10 @@ private Q_SLOTS:
     void aDefaultReplyIsAnError();
     void theFirstArgumentIsTheValue_data();
     void theFirstArgumentIsTheValue();
-    void aReplyWithoutArgumentsIsNoError();
+    void aReplyWithoutArgumentsIsNotAnError();
     void anErrorMessageIsAnError();
-    void whatIsNoReplyIsAnError_data();
-    void whatIsNoReplyIsAnError();
+    void messageOtherThanAReplyIsAnError_data();
+    void messageOtherThanAReplyIsAnError();
 };
 
 namespace {
@@ -57,7 +57,7 @@ void DBusReplyTest::theFirstArgumentIsTheValue()
     QCOMPARE(reply.getValue(), value);
 }
 
-void DBusReplyTest::aReplyWithoutArgumentsIsNoError()
+void DBusReplyTest::aReplyWithoutArgumentsIsNotAnError()
 {
     const DBusReply reply(call().createReply());
     QVERIFY(!reply.isError());
@@ -73,7 +73,7 @@ void DBusReplyTest::anErrorMessageIsAnError()
     QCOMPARE(reply.getError().getMessage(), QStringLiteral("as asked"));
 }
 
-void DBusReplyTest::whatIsNoReplyIsAnError_data()
+void DBusReplyTest::messageOtherThanAReplyIsAnError_data()
 {
     QTest::addColumn<QDBusMessage>("message");
     QTest::newRow("no message") << QDBusMessage();
@@ -81,7 +81,7 @@ void DBusReplyTest::whatIsNoReplyIsAnError_data()
     QTest::newRow("a signal") << QDBusMessage::createSignal("/object", "org.example", "changed");
 }
 
-void DBusReplyTest::whatIsNoReplyIsAnError()
+void DBusReplyTest::messageOtherThanAReplyIsAnError()
 {
     QFETCH(const QDBusMessage, message);
     const DBusReply reply(message);

@@ -219,7 +219,7 @@ void DependencyWalkerTest::whatTheManipulatorDidDecidesTheResult_data()
     QTest::newRow("none handled") << all << false << 4 << false;
     QTest::newRow("a node is missing") << R"({"b": 1, "c": 2, "d": 3})" << true << 3 << false;
     QTest::newRow("a node is null") << R"({"b": null, "c": 2, "d": 3, "e": 4})" << true << 3 << false;
-    QTest::newRow("no node is there") << "{}" << true << 0 << false;
+    QTest::newRow("all nodes are missing") << "{}" << true << 0 << false;
 }
 
 void DependencyWalkerTest::whatTheManipulatorDidDecidesTheResult()

@@ -90,7 +90,7 @@ void FloatRoundTest::valueComesBackUnchanged_data()
     QTest::newRow("lowest number") << std::numeric_limits<double>::lowest() << 17U;
     QTest::newRow("2^52, every number is whole") << 4503599627370496.0 << 0U;
     QTest::newRow("2^52 + 1 would lose its last digit in the product") << 4503599627370497.0 << 1U;
-    QTest::newRow("no digit behind the second place") << 45035996273704.97 << 2U;
+    QTest::newRow("no digit after the second place") << 45035996273704.97 << 2U;
     QTest::newRow("eighteen places") << 0.123456789 << 18U;
     QTest::newRow("the largest number of places") << 0.5 << std::numeric_limits<unsigned int>::max();
 }

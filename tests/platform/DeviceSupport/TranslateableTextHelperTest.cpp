@@ -31,7 +31,7 @@ private Q_SLOTS:
     void setTextAddsOrReplacesOneLanguage();
     void setTextKeepsAPlainStringAsTheLastFallback();
     void emptyTextInTheLastFallbackLanguageIsAnObject();
-    void objectTakesOverTheOneBefore();
+    void objectReplacesTheOneBefore();
     void parentOwnsTheHelper();
 };
 
@@ -45,10 +45,10 @@ void TranslateableTextHelperTest::textFallsBackToAnotherLanguage_data()
     row("the country itself", QVariant(threeLanguages), "de_AT", "Grad (AT)");
     row("another country of the language", QVariant(threeLanguages), "de_CH", "Grad");
     row("another country, written with a hyphen", QVariant(threeLanguages), "de-CH", "Grad");
-    row("two sections more than there are", QVariant(threeLanguages), "de_Latn_CH", "Grad");
+    row("two sections more than exist", QVariant(threeLanguages), "de_Latn_CH", "Grad");
     row("last fallback language", QVariant(threeLanguages), "fr", "degree");
     row("no language wanted", QVariant(threeLanguages), "", "degree");
-    row("a language is no prefix of another", QVariant(threeLanguages), "d", "degree");
+    row("a language is not a prefix of another", QVariant(threeLanguages), "d", "degree");
     row("exact spelling", QVariant(threeLanguages), "DE", "degree");
     row("only separators", QVariant(threeLanguages), "_-_", "degree");
     row("no last fallback: alphabetically first", QVariant(texts({{"fr", "degr\u00e9"}, {"de", "Grad"}})),
@@ -137,7 +137,7 @@ void TranslateableTextHelperTest::emptyTextInTheLastFallbackLanguageIsAnObject()
     QCOMPARE(helper.getTranslateableTextObject(), QVariant(texts({{"en", ""}})));
 }
 
-void TranslateableTextHelperTest::objectTakesOverTheOneBefore()
+void TranslateableTextHelperTest::objectReplacesTheOneBefore()
 {
     TranslateableTextHelper helper(QStringLiteral("en"));
     helper.setTranslateableTextObject(threeLanguages);

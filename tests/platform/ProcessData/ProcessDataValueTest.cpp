@@ -18,7 +18,7 @@ private Q_SLOTS:
     void aNewOneHasNoValue();
     void aStoredValueIsReadBackWhole_data();
     void aStoredValueIsReadBackWhole();
-    void storingTellsWhetherTheValueDiffers();
+    void storingReturnsWhetherTheValueDiffers();
     void theLastGoodNumberIsKept();
     void itIsANumberNodeWithAUnitType();
     void itIsANodeWithoutUnitType();
@@ -77,7 +77,7 @@ void ProcessDataValueTest::aStoredValueIsReadBackWhole()
     QVERIFY(read == stored);
 }
 
-void ProcessDataValueTest::storingTellsWhetherTheValueDiffers()
+void ProcessDataValueTest::storingReturnsWhetherTheValueDiffers()
 {
     ProcessDataValue node(pressure);
     QVERIFY(node.setValue(good(1.5)));

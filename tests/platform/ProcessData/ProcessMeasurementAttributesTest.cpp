@@ -15,8 +15,8 @@ private Q_SLOTS:
     void aUnitIsSet();
     void aUnitTextIsSet();
     void otherMembersStay();
-    void anIndexThatCannotBeIsIgnored_data();
-    void anIndexThatCannotBeIsIgnored();
+    void anImpossibleIndexIsIgnored_data();
+    void anImpossibleIndexIsIgnored();
     void theLastPossibleRangeIsCreated();
     void theOriginalIsNotTouched();
 };
@@ -62,7 +62,7 @@ void ProcessMeasurementAttributesTest::aUnitIsSet_data()
     row("beyond the end", QVariant(QVariantList{pascal}), 3, QVariantList{pascal, empty, empty, bar});
     row("of no attributes", QVariant(), 0, QVariantList{bar});
     row("of attributes of another type", QVariant("text"), 0, QVariantList{bar});
-    row("of a range that is no map", QVariant(QVariantList{7}), 0, QVariantList{bar});
+    row("of a range that is not a map", QVariant(QVariantList{7}), 0, QVariantList{bar});
 }
 
 void ProcessMeasurementAttributesTest::aUnitIsSet()
@@ -99,7 +99,7 @@ void ProcessMeasurementAttributesTest::otherMembersStay()
     QCOMPARE(view.getMeasurementAttributeObject(), QVariant(QVariantList{expected}));
 }
 
-void ProcessMeasurementAttributesTest::anIndexThatCannotBeIsIgnored_data()
+void ProcessMeasurementAttributesTest::anImpossibleIndexIsIgnored_data()
 {
     QTest::addColumn<int>("index");
     QTest::newRow("a negative one") << -1;
@@ -108,7 +108,7 @@ void ProcessMeasurementAttributesTest::anIndexThatCannotBeIsIgnored_data()
     QTest::newRow("the largest") << std::numeric_limits<int>::max();
 }
 
-void ProcessMeasurementAttributesTest::anIndexThatCannotBeIsIgnored()
+void ProcessMeasurementAttributesTest::anImpossibleIndexIsIgnored()
 {
     QFETCH(const int, index);
     ProcessMeasurementAttributes view{QVariantList{1}};

@@ -28,7 +28,7 @@ class StateMachineStateBaseTest : public QObject
 
 private Q_SLOTS:
     void theParentOwnsTheState();
-    void enteringIsNoStep();
+    void enteringIsNotAStep();
 };
 
 void StateMachineStateBaseTest::theParentOwnsTheState()
@@ -43,7 +43,7 @@ void StateMachineStateBaseTest::theParentOwnsTheState()
     QCOMPARE(StateThatCounts(nullptr).parent(), nullptr);
 }
 
-void StateMachineStateBaseTest::enteringIsNoStep()
+void StateMachineStateBaseTest::enteringIsNotAStep()
 {
     StateThatCounts counting(nullptr);
     StateMachineStateBase& state = counting;
