@@ -9,10 +9,16 @@
 namespace {
 
 const QString serviceName = QStringLiteral("org.measuringdevice.DeviceManager");
-const QString unitsPath = QStringLiteral("/UnitManagerConfiguration");
-const QString defaultUnitsPath = QStringLiteral("/DefaultUnitConfiguration");
-const QString dependenciesPath = QStringLiteral("/DependencyConfiguration");
-const QString defaultUnitsName = QStringLiteral("UnitManager/DefaultUnit");
+
+/// A configuration source: an object of the service, and the document's name for it.
+struct Source
+{
+    const char* path;
+    const char* name;
+};
+constexpr Source unitsSource{"/UnitManagerConfiguration", "UnitManager/UnitType"};
+constexpr Source defaultUnitsSource{"/DefaultUnitConfiguration", "UnitManager/DefaultUnit"};
+constexpr Source dependenciesSource{"/DependencyConfiguration", "UnitManager/Dependency"};
 
 /// The only instance of its type; destroyed before the application object.
 template <typename World>
@@ -33,12 +39,15 @@ World* makeOnce()
     return world.get();
 }
 
-QDBusMessage createCall(const QString& path, const QString& method, const QVariantList& arguments)
+QDBusMessage createCall(const Source& source, const char* method)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        serviceName, path, QStringLiteral("org.measuringdevice.ConfigurationFileHandler"), method);
-    call.setArguments(arguments);
-    return call;
+    return QDBusMessage::createMethodCall(
+        serviceName, source.path, QStringLiteral("org.measuringdevice.ConfigurationFileHandler"), method);
+}
+
+QDBusMessage createConfigurationCall(const Source& source)
+{
+    return createCall(source, "getConfiguration") << source.name << QString() << QString();
 }
 
 } // namespace
@@ -82,9 +91,9 @@ bool Changing::start()
 
 QDBusMessage Changing::answer(const QDBusMessage& call)
 {
-    if (call.path() == unitsPath)
+    if (call.path() == unitsSource.path)
         return call.createReply(Documents::shippedUnits());
-    if (call.path() == dependenciesPath)
+    if (call.path() == dependenciesSource.path)
         return call.createReply(Documents::shippedDependencies());
     const QMutexLocker locker(&m_mutex);
     return call.createReply(
@@ -97,25 +106,24 @@ void Changing::change(const QString& unit)
         const QMutexLocker locker(&m_mutex);
         m_unit = unit;
     }
-    m_service->sendSignal(defaultUnitsPath, QStringLiteral("configurationChanged"), {defaultUnitsName});
+    m_service->sendSignal(defaultUnitsSource.path, QStringLiteral("configurationChanged"),
+                          {defaultUnitsSource.name});
 }
 
 QDBusMessage callForUnits()
 {
-    return createCall(unitsPath, QStringLiteral("getConfiguration"),
-                      {QStringLiteral("UnitManager/UnitType"), QString(), QString()});
+    return createConfigurationCall(unitsSource);
 }
 
 QDBusMessage callForDefaultUnits()
 {
-    return createCall(defaultUnitsPath, QStringLiteral("getConfiguration"),
-                      {defaultUnitsName, QString(), QString()});
+    return createConfigurationCall(defaultUnitsSource);
 }
 
 QDBusMessage callForDependencies()
 {
-    return createCall(dependenciesPath, QStringLiteral("getConfigurationDependency"),
-                      {QStringLiteral("UnitManager/Dependency"), QString()});
+    return createCall(dependenciesSource, "getConfigurationDependency")
+           << dependenciesSource.name << QString();
 }
 
 } // namespace BusWorld
