@@ -91,8 +91,8 @@ void DocumentFileTest::problemIsNamed()
 void DocumentFileTest::forbiddenFileIsAProblem()
 {
     QVERIFY(TestFiles::write(m_path, "text"));
-    QVERIFY(QFile::setPermissions(m_path, QFileDevice::Permissions()));
-    QVERIFY(QFile::setPermissions(m_directory.path(), QFileDevice::Permissions(0x7055)));
+    QVERIFY(TestFiles::setMode(m_path, 0));
+    QVERIFY(TestFiles::setMode(m_directory.path(), 0755));
 
     const WithoutPrivileges ordinary;
     QVERIFY(ordinary.isEffective());

@@ -43,7 +43,7 @@ void DocumentWatcherTest::init()
 
 void DocumentWatcherTest::cleanup()
 {
-    QVERIFY(QFile::setPermissions(m_directory.filePath("upper/documents"), QFileDevice::Permissions(0x7055)));
+    QVERIFY(TestFiles::setMode(m_directory.filePath("upper/documents"), 0755));
 }
 
 void DocumentWatcherTest::burstIsReportedWhenItHasGoneQuiet()
@@ -135,9 +135,9 @@ void DocumentWatcherTest::missingFileIsWatched()
 void DocumentWatcherTest::placeThatCannotBeWatchedIsLoggedOnce()
 {
     const QString closed = m_directory.filePath("upper/documents");
-    QVERIFY(QFile::setPermissions(m_directory.path(), QFileDevice::Permissions(0x7055)));
-    QVERIFY(QFile::setPermissions(closed, QFileDevice::Permissions(0x3011)));
-    QVERIFY(QFile::setPermissions(m_file, QFileDevice::Permissions(0x6066)));
+    QVERIFY(TestFiles::setMode(m_directory.path(), 0755));
+    QVERIFY(TestFiles::setMode(closed, 0311));
+    QVERIFY(TestFiles::setMode(m_file, 0666));
     LogCapture log;
     const WithoutPrivileges ordinary;
     QVERIFY(ordinary.isEffective());

@@ -4,6 +4,7 @@
 #include <QtCore/QSaveFile>
 
 #include <cstdio>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -33,6 +34,11 @@ bool TestFiles::link(const QString& target, const QString& path)
     const QByteArray temporary = QFile::encodeName(path + ".new");
     return ::symlink(QFile::encodeName(target), temporary) == 0 &&
            std::rename(temporary, QFile::encodeName(path)) == 0;
+}
+
+bool TestFiles::setMode(const QString& path, unsigned int mode)
+{
+    return ::chmod(QFile::encodeName(path), mode) == 0;
 }
 
 QByteArray TestFiles::units(const QString& label)

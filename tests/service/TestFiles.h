@@ -15,6 +15,9 @@ bool replace(const QString& path, const QByteArray& bytes);
 /// Creates or changes a symbolic link atomically. @return whether that succeeded.
 bool link(const QString& target, const QString& path);
 
+/// Sets the permissions of a file or directory, such as 0755. @return whether that succeeded.
+bool setMode(const QString& path, unsigned int mode);
+
 /// A valid unit document; documents with different labels differ.
 QByteArray units(const QString& label);
 
