@@ -15,7 +15,6 @@
 
 namespace {
 
-const QString object = "UnitManagerConfiguration";
 const QString denied = "org.freedesktop.DBus.Error.AccessDenied";
 
 /// The user who runs this test, as named in a policy.
@@ -117,19 +116,20 @@ void BusPolicyTest::withoutPolicyNobodyMayRead()
 {
     QVERIFY(startService());
     QVERIFY(changeRules("<busconfig/>"));
-    QCOMPARE(m_client->text(object), "error: " + denied);
+    QCOMPARE(m_client->text(ServiceObject::units), "error: " + denied);
 }
 
 void BusPolicyTest::serviceUserMayOwnTheName()
 {
     QVERIFY2(startService(), qPrintable(m_service->log()));
-    QCOMPARE(m_client->text(object), QString(TestFiles::units("first")));
+    QCOMPARE(m_client->text(ServiceObject::units), QString(TestFiles::units("first")));
 }
 
 void BusPolicyTest::nobodyElseMayOwnTheName()
 {
     QVERIFY(changeRules(policy(anotherUser())));
-    const QVariantList request{ConfigurationFileService::name(), QVariant::fromValue(0U)};
+    const unsigned int noFlags = 0;
+    const QVariantList request{ConfigurationFileService::name(), noFlags};
     QCOMPARE(callBus("RequestName", request).errorName(), denied);
 
     QVERIFY(!startService());
@@ -147,9 +147,9 @@ void BusPolicyTest::everybodyMayRead()
 {
     QVERIFY(startService());
     QVERIFY(changeRules(policy(anotherUser())));
-    QCOMPARE(m_client->text(object), QString(TestFiles::units("first")));
-    QCOMPARE(m_client->text("DefaultUnitConfiguration"), QString(TestFiles::defaultUnits("first")));
-    QCOMPARE(m_client->text("DependencyConfiguration"), QString(TestFiles::dependencies("first")));
+    QCOMPARE(m_client->text(ServiceObject::units), QString(TestFiles::units("first")));
+    QCOMPARE(m_client->text(ServiceObject::defaultUnits), QString(TestFiles::defaultUnits("first")));
+    QCOMPARE(m_client->text(ServiceObject::dependencies), QString(TestFiles::dependencies("first")));
 }
 
 void BusPolicyTest::everybodyMayListen()
@@ -157,9 +157,8 @@ void BusPolicyTest::everybodyMayListen()
     QVERIFY(startService());
     QVERIFY(changeRules(policy(anotherUser())));
     QVERIFY(TestFiles::replace(m_directory.filePath("units.json"), TestFiles::units("next")));
-    QTRY_COMPARE_WITH_TIMEOUT(m_client->announcements(),
-                              QStringList{"UnitManagerConfiguration UnitManager/UnitType"}, waitLimit);
-    QCOMPARE(m_client->text(object), QString(TestFiles::units("next")));
+    QTRY_COMPARE_WITH_TIMEOUT(m_client->announcements(), QStringList{ServiceAnnouncement::units}, waitLimit);
+    QCOMPARE(m_client->text(ServiceObject::units), QString(TestFiles::units("next")));
 }
 
 void BusPolicyTest::everybodyMayIntrospect()
@@ -179,7 +178,7 @@ void BusPolicyTest::nobodyMayDoMore()
 {
     QVERIFY(startService());
     QVERIFY(changeRules(policy(anotherUser())));
-    const QDBusMessage reply = m_client->call(ConfigurationFileService::name(), '/' + object,
+    const QDBusMessage reply = m_client->call(ConfigurationFileService::name(), '/' + ServiceObject::units,
                                               "org.freedesktop.DBus.Properties", "GetAll", {""});
     QCOMPARE(reply.errorName(), denied);
 }

@@ -35,15 +35,15 @@ QString ServedDirectory::directory() const
 
 QStringList ServedDirectory::settledAnnouncements()
 {
-    const QString marker = "DependencyConfiguration UnitManager/Dependency";
+    const QString marker = ServiceAnnouncement::dependencies;
     const QByteArray text = TestFiles::dependencies(QString::number(m_known) + " announcements known");
     if (!TestFiles::replace(path("dependencies.json"), text))
         return {"the dependencies could not be replaced"};
-    const bool isHeard = QTest::qWaitFor(
+    const bool isReceived = QTest::qWaitFor(
         [this, &marker] { return m_client->announcements().mid(m_known).contains(marker); }, waitLimit);
     QStringList news = m_client->announcements().mid(m_known);
     m_known += news.size();
-    if (!isHeard)
+    if (!isReceived)
         news.append("the dependencies were not announced");
     news.removeOne(marker);
     return news;

@@ -15,9 +15,6 @@ Q_DECLARE_METATYPE(Action)
 
 namespace {
 
-const QString object = "UnitManagerConfiguration";
-const QString announcement = "UnitManagerConfiguration UnitManager/UnitType";
-
 bool removeAndWrite(const ServedDirectory& served, const QByteArray& text)
 {
     return QFile::remove(served.path("units.json")) && TestFiles::write(served.path("units.json"), text);
@@ -118,14 +115,14 @@ void ServiceAnnouncementsTest::changeIsAnnouncedOnce()
 
     const QByteArray next = TestFiles::units("next");
     QVERIFY(change(served, next));
-    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(next), waitLimit);
-    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units), QString(next), waitLimit);
+    QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
 
     // The file is still watched, regardless of how it was changed.
     const QByteArray last = TestFiles::units("last");
     QVERIFY(overwriteInPlace(served, last));
-    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(last), waitLimit);
-    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units), QString(last), waitLimit);
+    QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
 }
 
 void ServiceAnnouncementsTest::eachDocumentIsAnnouncedByItsObject()
@@ -134,14 +131,14 @@ void ServiceAnnouncementsTest::eachDocumentIsAnnouncedByItsObject()
     QVERIFY(served.start());
 
     QVERIFY(TestFiles::replace(served.path("default-units.json"), TestFiles::defaultUnits("next")));
-    QCOMPARE(served.settledAnnouncements(), QStringList{"DefaultUnitConfiguration UnitManager/DefaultUnit"});
-    QCOMPARE(served.client().text("DefaultUnitConfiguration"), QString(TestFiles::defaultUnits("next")));
+    QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::defaultUnits});
+    QCOMPARE(served.client().text(ServiceObject::defaultUnits), QString(TestFiles::defaultUnits("next")));
 
     QVERIFY(TestFiles::replace(served.path("dependencies.json"), TestFiles::dependencies("next")));
-    QTRY_COMPARE_WITH_TIMEOUT(served.client().text("DependencyConfiguration"),
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::dependencies),
                               QString(TestFiles::dependencies("next")), waitLimit);
-    QTRY_COMPARE_WITH_TIMEOUT(served.client().announcements().last(),
-                              "DependencyConfiguration UnitManager/Dependency", waitLimit);
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().announcements().last(), ServiceAnnouncement::dependencies,
+                              waitLimit);
 }
 
 // The documents are reached through a symbolic link that is switched from one version to the next.
@@ -153,17 +150,18 @@ void ServiceAnnouncementsTest::swappedVersionsAreAnnounced()
     QVERIFY(TestFiles::link("..1", served.path("..data")));
     QVERIFY(TestFiles::link("..data/units.json", served.path("units.json")));
     QVERIFY(served.start());
-    QCOMPARE(served.client().text(object), QString(TestFiles::units("one")));
+    QCOMPARE(served.client().text(ServiceObject::units), QString(TestFiles::units("one")));
 
     QVERIFY(TestFiles::link("..2", served.path("..data")));
-    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(TestFiles::units("two")), waitLimit);
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units), QString(TestFiles::units("two")),
+                              waitLimit);
     QVERIFY(QDir(served.path("..1")).removeRecursively());
-    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+    QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
 
     QVERIFY(TestFiles::write(served.path("..2/units.json"), TestFiles::units("two, corrected")));
-    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(TestFiles::units("two, corrected")),
-                              waitLimit);
-    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units),
+                              QString(TestFiles::units("two, corrected")), waitLimit);
+    QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
 }
 
 void ServiceAnnouncementsTest::sameTextIsNotAnnounced_data()
@@ -196,7 +194,7 @@ void ServiceAnnouncementsTest::sameTextIsNotAnnounced()
     const QByteArray text = TestFiles::units("first");
     QVERIFY(action(served, text));
     QCOMPARE(served.settledAnnouncements(), QStringList());
-    QCOMPARE(served.client().text(object), QString(text));
+    QCOMPARE(served.client().text(ServiceObject::units), QString(text));
 }
 
 void ServiceAnnouncementsTest::burstIsAnnouncedOnce()
@@ -210,8 +208,9 @@ void ServiceAnnouncementsTest::burstIsAnnouncedOnce()
         QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units(QString::number(count))));
     QVERIFY(served.service().send(SIGCONT));
 
-    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(TestFiles::units("50")), waitLimit);
-    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units), QString(TestFiles::units("50")),
+                              waitLimit);
+    QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
 }
 
 void ServiceAnnouncementsTest::everyFurtherChangeIsAnnounced()
@@ -221,8 +220,8 @@ void ServiceAnnouncementsTest::everyFurtherChangeIsAnnounced()
 
     for (const char* label : {"second", "third", "first"}) {
         QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units(label)));
-        QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
-        QCOMPARE(served.client().text(object), QString(TestFiles::units(label)));
+        QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
+        QCOMPARE(served.client().text(ServiceObject::units), QString(TestFiles::units(label)));
     }
 }
 

@@ -39,8 +39,8 @@ void ServiceAnswersTest::eachDocumentIsServed_data()
 
     row("units", DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration(),
         QString(TestFiles::units("first")));
-    row("default units", "DefaultUnitConfiguration", QString(TestFiles::defaultUnits("first")));
-    row("dependencies", "DependencyConfiguration", QString(TestFiles::dependencies("first")));
+    row("default units", ServiceObject::defaultUnits, QString(TestFiles::defaultUnits("first")));
+    row("dependencies", ServiceObject::dependencies, QString(TestFiles::dependencies("first")));
 }
 
 void ServiceAnswersTest::eachDocumentIsServed()
@@ -57,9 +57,7 @@ void ServiceAnswersTest::nothingElseIsServed_data()
     QTest::addColumn<QString>("method");
     QTest::addColumn<QStringList>("arguments");
 
-    const QString units = "UnitManagerConfiguration";
-    const QString defaultUnits = "DefaultUnitConfiguration";
-    const QString dependencies = "DependencyConfiguration";
+    using namespace ServiceObject;
     const QString get = "getConfiguration";
     const QString getDependency = "getConfigurationDependency";
     using Arguments = QStringList;
@@ -100,7 +98,7 @@ void ServiceAnswersTest::nothingElseIsServed()
 void ServiceAnswersTest::callerMakesNoDifference()
 {
     const QDBusMessage reply =
-        m_served.client().call("UnitManagerConfiguration", "getConfiguration",
+        m_served.client().call(ServiceObject::units, "getConfiguration",
                                {"UnitManager/UnitType", "../../etc", m_served.path("default-units.json")});
     QCOMPARE(reply.arguments(), QVariantList{QString(TestFiles::units("first"))});
 }
@@ -132,7 +130,7 @@ void ServiceAnswersTest::shippedDocumentsAreServed()
     QVERIFY(served.start());
     QCOMPARE(served.service().log().count(": loaded "), 3);
     QCOMPARE(served.service().log().count('\n'), 3);
-    QVERIFY(served.client().text("UnitManagerConfiguration").contains("\"HectoPascal\""));
+    QVERIFY(served.client().text(ServiceObject::units).contains("\"HectoPascal\""));
 }
 
 QTEST_GUILESS_MAIN(ServiceAnswersTest)

@@ -25,7 +25,7 @@ ServiceClient::ServiceClient(const QString& address) : m_connectionName(QUuid::c
 {
     QDBusConnection connection = QDBusConnection::connectToBus(address, m_connectionName);
     connection.connect(service, QString(), interfaceName, "configurationChanged", this,
-                       SLOT(hear(QString, QDBusMessage)));
+                       SLOT(receive(QString, QDBusMessage)));
 }
 
 ServiceClient::~ServiceClient()
@@ -52,9 +52,9 @@ QString ServiceClient::text(const QString& object) const
     ConfigurationFileHandlerProxy proxy(service, '/' + object, QDBusConnection(m_connectionName));
     proxy.setTimeout(waitLimit);
     QDBusPendingReply<QString> reply;
-    if (object == "UnitManagerConfiguration")
+    if (object == ServiceObject::units)
         reply = proxy.getConfiguration("UnitManager/UnitType", "Test", "");
-    else if (object == "DefaultUnitConfiguration")
+    else if (object == ServiceObject::defaultUnits)
         reply = proxy.getConfiguration("UnitManager/DefaultUnit", "Test", "");
     else
         reply = proxy.getConfigurationDependency("UnitManager/Dependency", "Test");
@@ -67,7 +67,7 @@ QStringList ServiceClient::announcements() const
     return m_announcements;
 }
 
-void ServiceClient::hear(const QString& name, const QDBusMessage& message)
+void ServiceClient::receive(const QString& name, const QDBusMessage& message)
 {
     m_announcements.append(message.path().mid(1) + ' ' + name);
 }

@@ -5,6 +5,20 @@
 #include <QtCore/QStringList>
 #include <QtDBus/QDBusMessage>
 
+/// The names of the service's objects.
+namespace ServiceObject {
+inline const QString units = QStringLiteral("UnitManagerConfiguration");
+inline const QString defaultUnits = QStringLiteral("DefaultUnitConfiguration");
+inline const QString dependencies = QStringLiteral("DependencyConfiguration");
+} // namespace ServiceObject
+
+/// The announcements of the service, as returned by ServiceClient::announcements().
+namespace ServiceAnnouncement {
+inline const QString units = ServiceObject::units + QStringLiteral(" UnitManager/UnitType");
+inline const QString defaultUnits = ServiceObject::defaultUnits + QStringLiteral(" UnitManager/DefaultUnit");
+inline const QString dependencies = ServiceObject::dependencies + QStringLiteral(" UnitManager/Dependency");
+} // namespace ServiceAnnouncement
+
 /// An application on the bus: calls the service, and receives its announcements while the event loop runs.
 class ServiceClient : public QObject
 {
@@ -28,7 +42,7 @@ public:
     QStringList announcements() const;
 
 private Q_SLOTS:
-    void hear(const QString& name, const QDBusMessage& message);
+    void receive(const QString& name, const QDBusMessage& message);
 
 private:
     QString m_connectionName;

@@ -10,8 +10,6 @@
 
 namespace {
 
-const QString object = "UnitManagerConfiguration";
-const QString announcement = "UnitManagerConfiguration UnitManager/UnitType";
 const QString noDocument = "error: org.measuringdevice.ConfigurationFileHandler.Error.NoConfiguration";
 
 } // namespace
@@ -57,7 +55,7 @@ void ServiceRefusalsTest::badTextIsRefused()
 
     QVERIFY(TestFiles::replace(served.path("units.json"), text));
     QCOMPARE(served.settledAnnouncements(), QStringList());
-    QCOMPARE(served.client().text(object), QString(TestFiles::units("first")));
+    QCOMPARE(served.client().text(ServiceObject::units), QString(TestFiles::units("first")));
     const QString message = "configuration-file-service: warning: UnitManager/UnitType: cannot use " +
                             served.path("units.json") + ": " + reason + "; keeping the last valid document\n";
     QTRY_VERIFY2_WITH_TIMEOUT(served.service().log().contains(message), qPrintable(served.service().log()),
@@ -66,8 +64,8 @@ void ServiceRefusalsTest::badTextIsRefused()
     QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units("first")));
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units("next")));
-    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
-    QCOMPARE(served.client().text(object), QString(TestFiles::units("next")));
+    QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
+    QCOMPARE(served.client().text(ServiceObject::units), QString(TestFiles::units("next")));
 }
 
 void ServiceRefusalsTest::largestDocumentIsServed()
@@ -78,8 +76,8 @@ void ServiceRefusalsTest::largestDocumentIsServed()
     const QByteArray text =
         TestFiles::units("next").leftJustified(static_cast<int>(ConfigurationDocument::maximumSize));
     QVERIFY(TestFiles::replace(served.path("units.json"), text));
-    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
-    QCOMPARE(served.client().text(object), QString(text));
+    QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
+    QCOMPARE(served.client().text(ServiceObject::units), QString(text));
 }
 
 void ServiceRefusalsTest::removedDocumentStaysActive()
@@ -90,7 +88,7 @@ void ServiceRefusalsTest::removedDocumentStaysActive()
     QVERIFY(QFile::remove(served.path("units.json")));
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QCOMPARE(served.settledAnnouncements(), QStringList());
-    QCOMPARE(served.client().text(object), QString(TestFiles::units("first")));
+    QCOMPARE(served.client().text(ServiceObject::units), QString(TestFiles::units("first")));
     const QString message = "units.json: No such file or directory; keeping the last valid document\n";
     QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count(message), 1, waitLimit);
 
@@ -138,13 +136,14 @@ void ServiceRefusalsTest::documentMayComeLater()
     if (!broken.isEmpty())
         QVERIFY(TestFiles::write(served.path("units.json"), broken.toUtf8()));
     QVERIFY(served.start());
-    QCOMPARE(served.client().text(object), noDocument);
+    QCOMPARE(served.client().text(ServiceObject::units), noDocument);
     QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count("; no document to serve\n"), 3, waitLimit);
 
     QVERIFY(QDir().mkpath(served.directory()));
     QVERIFY(TestFiles::write(served.path("units.json"), TestFiles::units("first")));
-    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(object), QString(TestFiles::units("first")), waitLimit);
-    QCOMPARE(served.settledAnnouncements(), QStringList{announcement});
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units), QString(TestFiles::units("first")),
+                              waitLimit);
+    QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
 }
 
 QTEST_GUILESS_MAIN(ServiceRefusalsTest)
