@@ -55,40 +55,35 @@ private:
 void ToolDocumentsTest::placesTheFault_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QByteArray>("place");
-    QTest::addColumn<QByteArray>("reason");
-    row("missing comma", QByteArray("{\n  \"A\": {},\n  \"B\": {}\n  \"C\": {}\n}\n"), QByteArray("4:3"),
-        QByteArray("unterminated object"));
-    row("missing colon", QByteArray("{\"A\" {}}"), QByteArray("1:6"), QByteArray("missing name separator"));
-    row("name without quotes", QByteArray("{\n\tA: 1}"), QByteArray("2:2"),
-        QByteArray("unterminated object"));
-    row("unknown word", QByteArray("{\"A\":\n  true,\n  \"B\": nothing}"), QByteArray("3:9"),
-        QByteArray("illegal value"));
-    row("invalid number", QByteArray("{\"A\": 'x'}"), QByteArray("1:7"), QByteArray("illegal number"));
-    row("text after the end", QByteArray("{}\n\n}"), QByteArray("3:1"),
-        QByteArray("garbage at the end of the document"));
-    row("end too early", QByteArray("{\"A\": {\n"), QByteArray("1:8"), QByteArray("unterminated object"));
-    row("column in characters, not bytes", QByteArray("{\"\xC3\xA4\xE2\x82\x82\": 1 2}"), QByteArray("1:10"),
-        QByteArray("unterminated object"));
-    row("byte order mark does not count", QByteArray("\xEF\xBB\xBF{\"A\" 1}"), QByteArray("1:6"),
-        QByteArray("missing name separator"));
-    row("lines that end in carriage return and line feed", QByteArray("{\r\n\"A\": 1\r\n\"B\": 2}"),
-        QByteArray("3:1"), QByteArray("unterminated object"));
-    row("Latin-1 letter", QByteArray("{\n  \"A\": \"\xE4\"}"), QByteArray("2:9"), QByteArray("not UTF-8"));
-    row("letter cut in the middle", QByteArray("{\"A\": \"\xC3"), QByteArray("1:8"), QByteArray("not UTF-8"));
-    row("not JSON at all", QByteArray("Pressure = bar\n"), QByteArray("1:1"), QByteArray("illegal value"));
+    QTest::addColumn<QByteArray>("problem");
+    const auto addRow = [](const char* name, const char* content, const char* problem) {
+        row(name, QByteArray(content), QByteArray(problem));
+    };
+    addRow("missing comma", "{\n  \"A\": {},\n  \"B\": {}\n  \"C\": {}\n}\n", "4:3: unterminated object");
+    addRow("missing colon", "{\"A\" {}}", "1:6: missing name separator");
+    addRow("name without quotes", "{\n\tA: 1}", "2:2: unterminated object");
+    addRow("unknown word", "{\"A\":\n  true,\n  \"B\": nothing}", "3:9: illegal value");
+    addRow("invalid number", "{\"A\": 'x'}", "1:7: illegal number");
+    addRow("text after the end", "{}\n\n}", "3:1: garbage at the end of the document");
+    addRow("end too early", "{\"A\": {\n", "1:8: unterminated object");
+    addRow("column in characters, not bytes", "{\"\xC3\xA4\xE2\x82\x82\": 1 2}", "1:10: unterminated object");
+    addRow("byte order mark does not count", "\xEF\xBB\xBF{\"A\" 1}", "1:6: missing name separator");
+    addRow("lines that end in carriage return and line feed", "{\r\n\"A\": 1\r\n\"B\": 2}",
+           "3:1: unterminated object");
+    addRow("Latin-1 letter", "{\n  \"A\": \"\xE4\"}", "2:9: not UTF-8");
+    addRow("letter cut in the middle", "{\"A\": \"\xC3", "1:8: not UTF-8");
+    addRow("not JSON at all", "Pressure = bar\n", "1:1: illegal value");
 }
 
 void ToolDocumentsTest::placesTheFault()
 {
     QFETCH(QByteArray, content);
-    QFETCH(QByteArray, place);
-    QFETCH(QByteArray, reason);
+    QFETCH(QByteArray, problem);
     const Folder folder;
     const QString path = folder.file("faulty.json", content);
     for (const char* option : {"--units", "--default-units"}) {
         const ToolRun run = ToolProcess::run({"types", option, path});
-        QCOMPARE(run.standardError, "unitmanager: " + path.toUtf8() + ':' + place + ": " + reason + '\n');
+        QCOMPARE(run.standardError, "unitmanager: " + path.toUtf8() + ':' + problem + '\n');
         QCOMPARE(run.standardOutput, QByteArray());
         QCOMPARE(run.exitCode, 1);
     }
