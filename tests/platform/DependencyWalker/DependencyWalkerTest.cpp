@@ -32,6 +32,9 @@ private Q_SLOTS:
     void withoutNodesNothingIsManipulated();
     void aVeryLongChainIsWalked();
     void aVeryWideGraphIsWalked();
+
+private:
+    static void visitNumbers(const QString& graphOfNumbers, int count);
 };
 
 namespace {
@@ -261,19 +264,24 @@ void DependencyWalkerTest::withoutNodesNothingIsManipulated()
     QCOMPARE(manipulator->notes, QStringList());
 }
 
+/// Walks from the key "0" to the keys from 1 to @p count.
+void DependencyWalkerTest::visitNumbers(const QString& graphOfNumbers, int count)
+{
+    DependencyWalker walker;
+    QVERIFY(walker.initDependencyGraphByJsonString(graphOfNumbers));
+    const QStringList visited = walk(walker, "0");
+    QCOMPARE(visited.size(), count);
+    QCOMPARE(visited.first(), QStringLiteral("1"));
+    QCOMPARE(visited.last(), QString::number(count));
+}
+
 void DependencyWalkerTest::aVeryLongChainIsWalked()
 {
     constexpr int length = 100000;
     QStringList members;
     for (int number = 0; number < length; ++number)
         members.append(QStringLiteral("\"%1\":[\"%2\"]").arg(number).arg(number + 1));
-    DependencyWalker walker;
-    QVERIFY(walker.initDependencyGraphByJsonString('{' + members.join(',') + '}'));
-
-    const QStringList visited = walk(walker, "0");
-    QCOMPARE(visited.size(), length);
-    QCOMPARE(visited.first(), QStringLiteral("1"));
-    QCOMPARE(visited.last(), QString::number(length));
+    visitNumbers('{' + members.join(',') + '}', length);
 }
 
 void DependencyWalkerTest::aVeryWideGraphIsWalked()
@@ -282,13 +290,7 @@ void DependencyWalkerTest::aVeryWideGraphIsWalked()
     QStringList keys;
     for (int number = 1; number <= width; ++number)
         keys.append(QStringLiteral("\"%1\"").arg(number));
-    DependencyWalker walker;
-    QVERIFY(walker.initDependencyGraphByJsonString("{\"0\":[" + keys.join(',') + "]}"));
-
-    const QStringList visited = walk(walker, "0");
-    QCOMPARE(visited.size(), width);
-    QCOMPARE(visited.first(), QStringLiteral("1"));
-    QCOMPARE(visited.last(), QString::number(width));
+    visitNumbers("{\"0\":[" + keys.join(',') + "]}", width);
 }
 
 QTEST_GUILESS_MAIN(DependencyWalkerTest)
