@@ -18,19 +18,19 @@ show_failing() {
     [ "$status" -ne 0 ]
 }
 
-echo "Units from documents: what there is"
+echo "Units from documents: list types and units"
 show types
 show units Pressure
 
 echo
-echo "Convert: into the default unit, into a given one, exactly, into all of them"
+echo "Convert: to the default unit, to a given unit, without rounding, to all units"
 show convert 1.01325 Pressure Bar
 show convert 72 AbsoluteTemperature DegreeFahrenheit DegreeCelsius
 show convert 14.5 Pressure PoundForcePerSquareInch HectoPascal --raw
 show table 1 Pressure StandardAtmosphere
 
 echo
-echo "Labels in three languages, also of a fixed unit"
+echo "Labels in three languages, and of a fixed unit"
 for language in en de fr; do
     show label RelativeHumidity RelHumidity --language "$language"
 done
@@ -42,7 +42,7 @@ printf '$ printf "0\\n20.5\\n100\\n" | unitmanager convert - AbsoluteTemperature
 printf '0\n20.5\n100\n' | "$unitmanager" convert - AbsoluteTemperature DegreeCelsius Kelvin
 
 echo
-echo "What goes wrong says so"
+echo "Errors are explained"
 show_failing convert 1 Pressure Baar
 show_failing convert 1 Presure Bar
 show_failing convert one Pressure Bar

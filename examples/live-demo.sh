@@ -62,12 +62,12 @@ show_until device 5 "->"
 show_until "unitmanager watch" 6 "adopted"
 
 echo
-echo "Edit units.json badly: the service refuses it, the application goes on"
+echo "Break units.json: the service refuses it, the application continues"
 change units.json 's/"DegreeCelsius": {/"DegreeCelsius": /'
 show_until service 4 "cannot use"
 
 echo
-echo "Edit units.json well: temperatures with two decimals"
+echo "Correct units.json: temperatures with two decimals"
 change units.json '/"DegreeCelsius"/,/}/ s/"DecimalPlaces": 1/"DecimalPlaces": 2/'
 show_until service 4 "loaded"
 show_until device 5 "->"
