@@ -69,7 +69,7 @@ private Q_SLOTS:
 
 void ConfigurationAndProcessDataBaseTest::virtualOperationsHaveAFixedOrder()
 {
-    // The destructor occupies the first two.
+    // Compiled applications call these by their index in the table; the destructor occupies the first two.
     QCOMPARE(virtualSlot(&Base::getChild), std::size_t(2));
     QCOMPARE(virtualSlot(&Base::getProperty), std::size_t(3));
     QCOMPARE(virtualSlot(&Base::hasProperty), std::size_t(4));

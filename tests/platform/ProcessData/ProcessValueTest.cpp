@@ -47,6 +47,7 @@ void ProcessValueTest::aDefaultValueIsNotAvailable()
 
 void ProcessValueTest::theErrorTypesHaveFixedNumbers()
 {
+    // Compiled applications contain the numbers.
     QCOMPARE(static_cast<int>(ProcessDataDefinitions::ErrorTypeNone), 0);
     QCOMPARE(static_cast<int>(ProcessDataDefinitions::ErrorTypeNotAvailable), 3);
 }
