@@ -8,7 +8,7 @@
 
 namespace {
 
-QStringList callsOf(const QString& sender, const QString& heard)
+QStringList callsOf(const QString& sender, const QString& received)
 {
     static const QRegularExpression call(
         QStringLiteral("^method call .* sender=(\\S+) -> destination=(\\S+) .* member=(\\S+)\\n"
@@ -16,7 +16,7 @@ QStringList callsOf(const QString& sender, const QString& heard)
         QRegularExpression::MultilineOption);
 
     QStringList calls;
-    for (auto found = call.globalMatch(heard); found.hasNext();) {
+    for (auto found = call.globalMatch(received); found.hasNext();) {
         const QRegularExpressionMatch match = found.next();
         if (match.captured(1) != sender)
             continue;
@@ -50,18 +50,18 @@ QStringList BusMonitor::takeCalls(const QDBusConnection& caller)
     if (!readUntil("member=" + mark.toLatin1() + '\n'))
         return {QString()};
 
-    const QString heard = QString::fromUtf8(m_heard);
-    m_heard.clear();
-    return callsOf(caller.baseService(), heard);
+    const QString received = QString::fromUtf8(m_received);
+    m_received.clear();
+    return callsOf(caller.baseService(), received);
 }
 
 bool BusMonitor::readUntil(const QByteArray& text)
 {
     const QDeadlineTimer deadline(waitLimit);
-    while (!m_heard.contains(text)) {
+    while (!m_received.contains(text)) {
         if (!m_monitor.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
             return false;
-        m_heard += m_monitor.readAllStandardOutput();
+        m_received += m_monitor.readAllStandardOutput();
     }
     return true;
 }

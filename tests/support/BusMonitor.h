@@ -24,6 +24,6 @@ private:
     bool readUntil(const QByteArray& text);
 
     ChildProcess m_monitor;
-    QByteArray m_heard;
+    QByteArray m_received;
     int m_marks = 0;
 };

@@ -3,13 +3,14 @@
 #include <QtDBus/QDBusConnection>
 
 #include "ConfigurationFileHandlerObject.h"
+#include "WaitLimit.h"
 #include "configurationfilehandleradaptor.h"
 
 AdaptedService::AdaptedService(const QString& address, const QString& serviceName, const QString& path)
     : m_address(address), m_serviceName(serviceName), m_path(path)
 {
     start();
-    m_started.acquire();
+    m_started.tryAcquire(1, waitLimit);
 }
 
 AdaptedService::~AdaptedService()

@@ -116,13 +116,13 @@ void DBusConnectionSignalPollingHandlerTest::aSignalIsRecordedUntilItIsReset()
 
 void DBusConnectionSignalPollingHandlerTest::aSignalIsRecordedInAThreadWithoutEventLoop()
 {
-    bool heard = false;
-    std::thread thread([this, &heard] {
+    bool received = false;
+    std::thread thread([this, &received] {
         Handler handler;
-        heard = send("units") && handler.hasReceived("units");
+        received = send("units") && handler.hasReceived("units");
     });
     thread.join();
-    QVERIFY(heard);
+    QVERIFY(received);
 }
 
 void DBusConnectionSignalPollingHandlerTest::aSignalIsRecordedWithARunningEventLoop()
