@@ -1,8 +1,9 @@
+#include "ConfigurationDocument.h"
+
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
-#include "ConfigurationDocument.h"
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestFiles.h"

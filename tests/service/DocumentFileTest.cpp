@@ -1,3 +1,5 @@
+#include "DocumentFile.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
@@ -6,7 +8,6 @@
 #include <cerrno>
 #include <sys/stat.h>
 
-#include "DocumentFile.h"
 #include "Row.h"
 #include "TestFiles.h"
 #include "WithoutPrivileges.h"

@@ -1,3 +1,5 @@
+#include "DocumentWatcher.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
@@ -5,7 +7,6 @@
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
-#include "DocumentWatcher.h"
 #include "LogCapture.h"
 #include "TestFiles.h"
 #include "WaitLimit.h"

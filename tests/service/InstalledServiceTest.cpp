@@ -1,8 +1,9 @@
+#include "InstalledService.h"
+
 #include <QtTest/QTest>
 
 #include "CommandLine.h"
 #include "ConfigurationFileService.h"
-#include "InstalledService.h"
 
 namespace {
 

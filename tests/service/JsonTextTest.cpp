@@ -1,6 +1,7 @@
+#include "JsonText.h"
+
 #include <QtTest/QTest>
 
-#include "JsonText.h"
 #include "Row.h"
 
 class JsonTextTest : public QObject

@@ -1,9 +1,10 @@
+#include "PathTrail.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
-#include "PathTrail.h"
 #include "Row.h"
 #include "TestFiles.h"
 

@@ -1,9 +1,10 @@
+#include "ExactText.h"
+
 #include <QtTest/QTest>
 
 #include <cmath>
 #include <limits>
 
-#include "ExactText.h"
 #include "TestProgram.h"
 
 /// A comparison that ignores differences would hide faults in all tests that use it.

@@ -1,9 +1,10 @@
+#include "Array2dDataTypeWrapper.h"
+
 #include <QtTest/QTest>
 
 #include <limits>
 #include <type_traits>
 
-#include "Array2dDataTypeWrapper.h"
 #include "NodeText.h"
 #include "Row.h"
 

@@ -1,9 +1,10 @@
+#include "ArrayDataTypeWrapper.h"
+
 #include <QtTest/QTest>
 
 #include <limits>
 #include <type_traits>
 
-#include "ArrayDataTypeWrapper.h"
 #include "Row.h"
 
 using Indices = QVector<unsigned int>;

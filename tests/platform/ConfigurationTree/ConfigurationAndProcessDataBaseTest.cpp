@@ -1,8 +1,9 @@
+#include "ConfigurationAndProcessDataBase.h"
+
 #include <QtTest/QTest>
 
 #include <type_traits>
 
-#include "ConfigurationAndProcessDataBase.h"
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataTools.h"
 #include "NodeText.h"

@@ -1,6 +1,7 @@
+#include "ConfigurationAndProcessDataDefinitions.h"
+
 #include <QtTest/QTest>
 
-#include "ConfigurationAndProcessDataDefinitions.h"
 #include "Row.h"
 
 using Definitions = ConfigurationAndProcessDataDefinitions;

@@ -1,6 +1,7 @@
+#include "ConfigurationAndProcessDataParser.h"
+
 #include <QtTest/QTest>
 
-#include "ConfigurationAndProcessDataParser.h"
 #include "ExactText.h"
 #include "LogCapture.h"
 #include "NodeText.h"

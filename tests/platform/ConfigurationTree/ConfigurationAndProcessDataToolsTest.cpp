@@ -1,8 +1,9 @@
+#include "ConfigurationAndProcessDataTools.h"
+
 #include <QtTest/QTest>
 
 #include <limits>
 
-#include "ConfigurationAndProcessDataTools.h"
 #include "NodeText.h"
 #include "Row.h"
 

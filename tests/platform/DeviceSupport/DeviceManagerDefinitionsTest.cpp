@@ -1,6 +1,6 @@
-#include <QtTest/QTest>
-
 #include "DeviceManagerDefinitions.h"
+
+#include <QtTest/QTest>
 
 class DeviceManagerDefinitionsTest : public QObject
 {

@@ -1,3 +1,5 @@
+#include "FloatRound.h"
+
 #include <QtTest/QTest>
 
 #include <cmath>
@@ -5,7 +7,6 @@
 #include <random>
 
 #include "ExactText.h"
-#include "FloatRound.h"
 
 namespace {
 

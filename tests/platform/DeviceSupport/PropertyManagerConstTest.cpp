@@ -1,6 +1,6 @@
-#include <QtTest/QTest>
-
 #include "PropertyManagerConst.h"
+
+#include <QtTest/QTest>
 
 class PropertyManagerConstTest : public QObject
 {

@@ -1,8 +1,9 @@
+#include "TranslateableTextHelper.h"
+
 #include <QtCore/QPointer>
 #include <QtTest/QTest>
 
 #include "Row.h"
-#include "TranslateableTextHelper.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include <QtTest/QTest>
-
 #include "hashFromString.h"
+
+#include <QtTest/QTest>
 
 class HashFromStringTest : public QObject
 {
