@@ -8,6 +8,7 @@
 #include "ConfigurationFileService.h"
 #include "InstalledService.h"
 #include "ServiceClient.h"
+#include "ServiceDocuments.h"
 #include "ServiceProcess.h"
 #include "SystemBus.h"
 #include "TestFiles.h"
@@ -94,9 +95,11 @@ void BusPolicyTest::initTestCase()
 
 void BusPolicyTest::init()
 {
-    QVERIFY(TestFiles::write(m_directory.filePath("units.json"), TestFiles::units("first")));
-    QVERIFY(TestFiles::write(m_directory.filePath("default-units.json"), TestFiles::defaultUnits("first")));
-    QVERIFY(TestFiles::write(m_directory.filePath("dependencies.json"), TestFiles::dependencies("first")));
+    QVERIFY(TestFiles::write(m_directory.filePath("units.json"), ServiceDocuments::units("first")));
+    QVERIFY(TestFiles::write(m_directory.filePath("default-units.json"),
+                             ServiceDocuments::defaultUnits("first")));
+    QVERIFY(
+        TestFiles::write(m_directory.filePath("dependencies.json"), ServiceDocuments::dependencies("first")));
     m_bus = std::make_unique<SystemBus>();
     QVERIFY(m_bus->setRules(policy(thisUser())));
     QVERIFY(m_bus->start());
@@ -122,7 +125,7 @@ void BusPolicyTest::withoutPolicyNobodyMayRead()
 void BusPolicyTest::serviceUserMayOwnTheName()
 {
     QVERIFY2(startService(), qPrintable(m_service->log()));
-    QCOMPARE(m_client->text(ServiceObject::units), QString(TestFiles::units("first")));
+    QCOMPARE(m_client->text(ServiceObject::units), QString(ServiceDocuments::units("first")));
 }
 
 void BusPolicyTest::nobodyElseMayOwnTheName()
@@ -147,18 +150,18 @@ void BusPolicyTest::everybodyMayRead()
 {
     QVERIFY(startService());
     QVERIFY(changeRules(policy(anotherUser())));
-    QCOMPARE(m_client->text(ServiceObject::units), QString(TestFiles::units("first")));
-    QCOMPARE(m_client->text(ServiceObject::defaultUnits), QString(TestFiles::defaultUnits("first")));
-    QCOMPARE(m_client->text(ServiceObject::dependencies), QString(TestFiles::dependencies("first")));
+    QCOMPARE(m_client->text(ServiceObject::units), QString(ServiceDocuments::units("first")));
+    QCOMPARE(m_client->text(ServiceObject::defaultUnits), QString(ServiceDocuments::defaultUnits("first")));
+    QCOMPARE(m_client->text(ServiceObject::dependencies), QString(ServiceDocuments::dependencies("first")));
 }
 
 void BusPolicyTest::everybodyMayListen()
 {
     QVERIFY(startService());
     QVERIFY(changeRules(policy(anotherUser())));
-    QVERIFY(TestFiles::replace(m_directory.filePath("units.json"), TestFiles::units("next")));
+    QVERIFY(TestFiles::replace(m_directory.filePath("units.json"), ServiceDocuments::units("next")));
     QTRY_COMPARE_WITH_TIMEOUT(m_client->announcements(), QStringList{ServiceAnnouncement::units}, waitLimit);
-    QCOMPARE(m_client->text(ServiceObject::units), QString(TestFiles::units("next")));
+    QCOMPARE(m_client->text(ServiceObject::units), QString(ServiceDocuments::units("next")));
 }
 
 void BusPolicyTest::everybodyMayIntrospect()

@@ -1,9 +1,10 @@
+#include "DocumentRules.h"
+
 #include <QtTest/QTest>
 
 #include "DependencyWalker.h"
-#include "DocumentRules.h"
 #include "LogCapture.h"
-#include "TestFiles.h"
+#include "ServiceDocuments.h"
 #include "UnitManager.h"
 
 /// The accepted documents are those that the libraries of the applications can load.
@@ -43,7 +44,7 @@ JsonText parsed(const QByteArray& bytes)
 void DocumentRulesTest::units_data()
 {
     addDocuments({
-        {"good", {TestFiles::units("bar"), ""}},
+        {"good", {ServiceDocuments::units("bar"), ""}},
         {"no unit type", {"{}", "it contains no unit type"}},
         {"properties only", {R"({"@displayPosition": 0})", "it contains no unit type"}},
         {"unit type without units", {R"({"Pressure": {}})", "it contains no unit label"}},
@@ -65,7 +66,7 @@ void DocumentRulesTest::units()
 void DocumentRulesTest::defaultUnits_data()
 {
     addDocuments({
-        {"good", {TestFiles::defaultUnits("Bar"), ""}},
+        {"good", {ServiceDocuments::defaultUnits("Bar"), ""}},
         {"whole identifier",
          {R"({"Pressure": {"@type": "Selection", "@value": "UnitManager/UnitType/Pressure/Bar"}})", ""}},
         {"further properties",
@@ -105,7 +106,7 @@ void DocumentRulesTest::defaultUnits()
 void DocumentRulesTest::dependencies_data()
 {
     addDocuments({
-        {"good", {TestFiles::dependencies("Pressure"), ""}},
+        {"good", {ServiceDocuments::dependencies("Pressure"), ""}},
         {"no entry", {"{}", ""}},
         {"entry without dependents", {R"({"PressureUnit": []})", ""}},
         {"circle", {R"({"A": ["B"], "B": ["A"]})", ""}},

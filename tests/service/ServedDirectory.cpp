@@ -3,15 +3,16 @@
 #include <QtCore/QDir>
 #include <QtTest/QTest>
 
+#include "ServiceDocuments.h"
 #include "TestFiles.h"
 #include "WaitLimit.h"
 
 ServedDirectory::ServedDirectory()
 {
     QDir().mkpath(directory());
-    TestFiles::write(path("units.json"), TestFiles::units("first"));
-    TestFiles::write(path("default-units.json"), TestFiles::defaultUnits("first"));
-    TestFiles::write(path("dependencies.json"), TestFiles::dependencies("first"));
+    TestFiles::write(path("units.json"), ServiceDocuments::units("first"));
+    TestFiles::write(path("default-units.json"), ServiceDocuments::defaultUnits("first"));
+    TestFiles::write(path("dependencies.json"), ServiceDocuments::dependencies("first"));
 }
 
 bool ServedDirectory::start()
@@ -36,7 +37,7 @@ QString ServedDirectory::directory() const
 QStringList ServedDirectory::settledAnnouncements()
 {
     const QString marker = ServiceAnnouncement::dependencies;
-    const QByteArray text = TestFiles::dependencies(QString::number(m_known) + " announcements known");
+    const QByteArray text = ServiceDocuments::dependencies(QString::number(m_known) + " announcements known");
     if (!TestFiles::replace(path("dependencies.json"), text))
         return {"the dependencies could not be replaced"};
     const bool isReceived = QTest::qWaitFor(

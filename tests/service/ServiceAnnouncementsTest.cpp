@@ -7,6 +7,7 @@
 
 #include "Row.h"
 #include "ServedDirectory.h"
+#include "ServiceDocuments.h"
 #include "TestFiles.h"
 #include "WaitLimit.h"
 
@@ -113,13 +114,13 @@ void ServiceAnnouncementsTest::changeIsAnnouncedOnce()
     ServedDirectory served;
     QVERIFY(served.start());
 
-    const QByteArray next = TestFiles::units("next");
+    const QByteArray next = ServiceDocuments::units("next");
     QVERIFY(change(served, next));
     QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units), QString(next), waitLimit);
     QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
 
     // The file is still watched, regardless of how it was changed.
-    const QByteArray last = TestFiles::units("last");
+    const QByteArray last = ServiceDocuments::units("last");
     QVERIFY(overwriteInPlace(served, last));
     QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units), QString(last), waitLimit);
     QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
@@ -130,13 +131,14 @@ void ServiceAnnouncementsTest::eachDocumentIsAnnouncedByItsObject()
     ServedDirectory served;
     QVERIFY(served.start());
 
-    QVERIFY(TestFiles::replace(served.path("default-units.json"), TestFiles::defaultUnits("next")));
+    QVERIFY(TestFiles::replace(served.path("default-units.json"), ServiceDocuments::defaultUnits("next")));
     QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::defaultUnits});
-    QCOMPARE(served.client().text(ServiceObject::defaultUnits), QString(TestFiles::defaultUnits("next")));
+    QCOMPARE(served.client().text(ServiceObject::defaultUnits),
+             QString(ServiceDocuments::defaultUnits("next")));
 
-    QVERIFY(TestFiles::replace(served.path("dependencies.json"), TestFiles::dependencies("next")));
+    QVERIFY(TestFiles::replace(served.path("dependencies.json"), ServiceDocuments::dependencies("next")));
     QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::dependencies),
-                              QString(TestFiles::dependencies("next")), waitLimit);
+                              QString(ServiceDocuments::dependencies("next")), waitLimit);
     QTRY_COMPARE_WITH_TIMEOUT(served.client().announcements().last(), ServiceAnnouncement::dependencies,
                               waitLimit);
 }
@@ -145,22 +147,22 @@ void ServiceAnnouncementsTest::eachDocumentIsAnnouncedByItsObject()
 void ServiceAnnouncementsTest::swappedVersionsAreAnnounced()
 {
     ServedDirectory served;
-    QVERIFY(fillDirectory(served, served.path("..1"), TestFiles::units("one")));
-    QVERIFY(fillDirectory(served, served.path("..2"), TestFiles::units("two")));
+    QVERIFY(fillDirectory(served, served.path("..1"), ServiceDocuments::units("one")));
+    QVERIFY(fillDirectory(served, served.path("..2"), ServiceDocuments::units("two")));
     QVERIFY(TestFiles::link("..1", served.path("..data")));
     QVERIFY(TestFiles::link("..data/units.json", served.path("units.json")));
     QVERIFY(served.start());
-    QCOMPARE(served.client().text(ServiceObject::units), QString(TestFiles::units("one")));
+    QCOMPARE(served.client().text(ServiceObject::units), QString(ServiceDocuments::units("one")));
 
     QVERIFY(TestFiles::link("..2", served.path("..data")));
-    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units), QString(TestFiles::units("two")),
-                              waitLimit);
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units),
+                              QString(ServiceDocuments::units("two")), waitLimit);
     QVERIFY(QDir(served.path("..1")).removeRecursively());
     QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
 
-    QVERIFY(TestFiles::write(served.path("..2/units.json"), TestFiles::units("two, corrected")));
+    QVERIFY(TestFiles::write(served.path("..2/units.json"), ServiceDocuments::units("two, corrected")));
     QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units),
-                              QString(TestFiles::units("two, corrected")), waitLimit);
+                              QString(ServiceDocuments::units("two, corrected")), waitLimit);
     QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
 }
 
@@ -191,7 +193,7 @@ void ServiceAnnouncementsTest::sameTextIsNotAnnounced()
     ServedDirectory served;
     QVERIFY(served.start());
 
-    const QByteArray text = TestFiles::units("first");
+    const QByteArray text = ServiceDocuments::units("first");
     QVERIFY(action(served, text));
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QCOMPARE(served.client().text(ServiceObject::units), QString(text));
@@ -205,11 +207,12 @@ void ServiceAnnouncementsTest::burstIsAnnouncedOnce()
     // Stop the service, so that it receives the whole burst at once even if the machine is busy.
     QVERIFY(served.service().send(SIGSTOP));
     for (int count = 1; count <= 50; ++count)
-        QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units(QString::number(count))));
+        QVERIFY(
+            TestFiles::replace(served.path("units.json"), ServiceDocuments::units(QString::number(count))));
     QVERIFY(served.service().send(SIGCONT));
 
-    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units), QString(TestFiles::units("50")),
-                              waitLimit);
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units),
+                              QString(ServiceDocuments::units("50")), waitLimit);
     QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
 }
 
@@ -219,9 +222,9 @@ void ServiceAnnouncementsTest::everyFurtherChangeIsAnnounced()
     QVERIFY(served.start());
 
     for (const char* label : {"second", "third", "first"}) {
-        QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units(label)));
+        QVERIFY(TestFiles::replace(served.path("units.json"), ServiceDocuments::units(label)));
         QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
-        QCOMPARE(served.client().text(ServiceObject::units), QString(TestFiles::units(label)));
+        QCOMPARE(served.client().text(ServiceObject::units), QString(ServiceDocuments::units(label)));
     }
 }
 

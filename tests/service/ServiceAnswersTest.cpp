@@ -5,7 +5,7 @@
 #include "DeviceManagerDefinitions.h"
 #include "Row.h"
 #include "ServedDirectory.h"
-#include "TestFiles.h"
+#include "ServiceDocuments.h"
 
 /// The program's answers on the bus; it must not answer anything else.
 class ServiceAnswersTest : public QObject
@@ -38,9 +38,9 @@ void ServiceAnswersTest::eachDocumentIsServed_data()
     QTest::addColumn<QString>("text");
 
     row("units", DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration(),
-        QString(TestFiles::units("first")));
-    row("default units", ServiceObject::defaultUnits, QString(TestFiles::defaultUnits("first")));
-    row("dependencies", ServiceObject::dependencies, QString(TestFiles::dependencies("first")));
+        QString(ServiceDocuments::units("first")));
+    row("default units", ServiceObject::defaultUnits, QString(ServiceDocuments::defaultUnits("first")));
+    row("dependencies", ServiceObject::dependencies, QString(ServiceDocuments::dependencies("first")));
 }
 
 void ServiceAnswersTest::eachDocumentIsServed()
@@ -100,7 +100,7 @@ void ServiceAnswersTest::callerMakesNoDifference()
     const QDBusMessage reply =
         m_served.client().call(ServiceObject::units, "getConfiguration",
                                {"UnitManager/UnitType", "../../etc", m_served.path("default-units.json")});
-    QCOMPARE(reply.arguments(), QVariantList{QString(TestFiles::units("first"))});
+    QCOMPARE(reply.arguments(), QVariantList{QString(ServiceDocuments::units("first"))});
 }
 
 void ServiceAnswersTest::objectsDescribeTheInterface()

@@ -7,6 +7,7 @@
 #include "ConfigurationFileService.h"
 #include "Row.h"
 #include "ServedDirectory.h"
+#include "ServiceDocuments.h"
 #include "TestFiles.h"
 #include "WaitLimit.h"
 
@@ -104,7 +105,7 @@ void ServiceProgramTest::busIsChosen()
     QCOMPARE(service.output(),
              "serving " + served.directory() + " as org.measuringdevice.DeviceManager on " + shown + '\n');
     const ServiceClient client(served.bus().address());
-    QCOMPARE(client.text(ServiceObject::units), QString(TestFiles::units("first")));
+    QCOMPARE(client.text(ServiceObject::units), QString(ServiceDocuments::units("first")));
 }
 
 void ServiceProgramTest::directoryMayHaveAnyName()
@@ -119,9 +120,9 @@ void ServiceProgramTest::directoryMayHaveAnyName()
     QVERIFY(service.serve(directory, served.bus().address()));
     QVERIFY2(service.output().startsWith("serving " + directory + " as "), qPrintable(service.output()));
     const ServiceClient client(served.bus().address());
-    QCOMPARE(client.text(ServiceObject::units), QString(TestFiles::units("first")));
-    QVERIFY(TestFiles::replace(directory + "/units.json", TestFiles::units("next")));
-    QTRY_COMPARE_WITH_TIMEOUT(client.text(ServiceObject::units), QString(TestFiles::units("next")),
+    QCOMPARE(client.text(ServiceObject::units), QString(ServiceDocuments::units("first")));
+    QVERIFY(TestFiles::replace(directory + "/units.json", ServiceDocuments::units("next")));
+    QTRY_COMPARE_WITH_TIMEOUT(client.text(ServiceObject::units), QString(ServiceDocuments::units("next")),
                               waitLimit);
 }
 
@@ -135,9 +136,9 @@ void ServiceProgramTest::directoryMayBeRelative()
     QVERIFY(QDir::isRelativePath(directory));
     QVERIFY(service.serve(directory, served.bus().address()));
     const ServiceClient client(served.bus().address());
-    QCOMPARE(client.text(ServiceObject::units), QString(TestFiles::units("first")));
-    QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units("next")));
-    QTRY_COMPARE_WITH_TIMEOUT(client.text(ServiceObject::units), QString(TestFiles::units("next")),
+    QCOMPARE(client.text(ServiceObject::units), QString(ServiceDocuments::units("first")));
+    QVERIFY(TestFiles::replace(served.path("units.json"), ServiceDocuments::units("next")));
+    QTRY_COMPARE_WITH_TIMEOUT(client.text(ServiceObject::units), QString(ServiceDocuments::units("next")),
                               waitLimit);
 }
 
@@ -150,7 +151,7 @@ void ServiceProgramTest::busStartsIt()
     QVERIFY(served.bus().start());
 
     const ServiceClient client(served.bus().address());
-    QCOMPARE(client.text(ServiceObject::units), QString(TestFiles::units("first")));
+    QCOMPARE(client.text(ServiceObject::units), QString(ServiceDocuments::units("first")));
 }
 
 void ServiceProgramTest::signalEndsIt_data()
@@ -181,7 +182,7 @@ void ServiceProgramTest::nameIsFreeAfterItsEnd()
 
     ServiceProcess next;
     QVERIFY(next.serve(served.directory(), served.bus().address()));
-    QCOMPARE(served.client().text(ServiceObject::units), QString(TestFiles::units("first")));
+    QCOMPARE(served.client().text(ServiceObject::units), QString(ServiceDocuments::units("first")));
 }
 
 void ServiceProgramTest::usedNameEndsIt()
@@ -195,7 +196,7 @@ void ServiceProgramTest::usedNameEndsIt()
                                    "org.measuringdevice.DeviceManager: another program has it\n"),
              qPrintable(second.log()));
     QCOMPARE(second.output(), QString());
-    QCOMPARE(served.client().text(ServiceObject::units), QString(TestFiles::units("first")));
+    QCOMPARE(served.client().text(ServiceObject::units), QString(ServiceDocuments::units("first")));
 }
 
 void ServiceProgramTest::unreachableBusEndsIt_data()

@@ -5,6 +5,7 @@
 #include "ConfigurationDocument.h"
 #include "Row.h"
 #include "ServedDirectory.h"
+#include "ServiceDocuments.h"
 #include "TestFiles.h"
 #include "WaitLimit.h"
 
@@ -55,17 +56,17 @@ void ServiceRefusalsTest::badTextIsRefused()
 
     QVERIFY(TestFiles::replace(served.path("units.json"), text));
     QCOMPARE(served.settledAnnouncements(), QStringList());
-    QCOMPARE(served.client().text(ServiceObject::units), QString(TestFiles::units("first")));
+    QCOMPARE(served.client().text(ServiceObject::units), QString(ServiceDocuments::units("first")));
     const QString message = "configuration-file-service: warning: UnitManager/UnitType: cannot use " +
                             served.path("units.json") + ": " + reason + "; keeping the last valid document\n";
     QTRY_VERIFY2_WITH_TIMEOUT(served.service().log().contains(message), qPrintable(served.service().log()),
                               waitLimit);
 
-    QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units("first")));
+    QVERIFY(TestFiles::replace(served.path("units.json"), ServiceDocuments::units("first")));
     QCOMPARE(served.settledAnnouncements(), QStringList());
-    QVERIFY(TestFiles::replace(served.path("units.json"), TestFiles::units("next")));
+    QVERIFY(TestFiles::replace(served.path("units.json"), ServiceDocuments::units("next")));
     QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
-    QCOMPARE(served.client().text(ServiceObject::units), QString(TestFiles::units("next")));
+    QCOMPARE(served.client().text(ServiceObject::units), QString(ServiceDocuments::units("next")));
 }
 
 void ServiceRefusalsTest::largestDocumentIsServed()
@@ -74,7 +75,7 @@ void ServiceRefusalsTest::largestDocumentIsServed()
     QVERIFY(served.start());
 
     const QByteArray text =
-        TestFiles::units("next").leftJustified(static_cast<int>(ConfigurationDocument::maximumSize));
+        ServiceDocuments::units("next").leftJustified(static_cast<int>(ConfigurationDocument::maximumSize));
     QVERIFY(TestFiles::replace(served.path("units.json"), text));
     QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
     QCOMPARE(served.client().text(ServiceObject::units), QString(text));
@@ -88,11 +89,11 @@ void ServiceRefusalsTest::removedDocumentStaysActive()
     QVERIFY(QFile::remove(served.path("units.json")));
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QCOMPARE(served.settledAnnouncements(), QStringList());
-    QCOMPARE(served.client().text(ServiceObject::units), QString(TestFiles::units("first")));
+    QCOMPARE(served.client().text(ServiceObject::units), QString(ServiceDocuments::units("first")));
     const QString message = "units.json: No such file or directory; keeping the last valid document\n";
     QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count(message), 1, waitLimit);
 
-    QVERIFY(TestFiles::write(served.path("units.json"), TestFiles::units("first")));
+    QVERIFY(TestFiles::write(served.path("units.json"), ServiceDocuments::units("first")));
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QVERIFY(QFile::remove(served.path("units.json")));
     QCOMPARE(served.settledAnnouncements(), QStringList());
@@ -140,9 +141,9 @@ void ServiceRefusalsTest::documentMayComeLater()
     QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count("; no document to serve\n"), 3, waitLimit);
 
     QVERIFY(QDir().mkpath(served.directory()));
-    QVERIFY(TestFiles::write(served.path("units.json"), TestFiles::units("first")));
-    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units), QString(TestFiles::units("first")),
-                              waitLimit);
+    QVERIFY(TestFiles::write(served.path("units.json"), ServiceDocuments::units("first")));
+    QTRY_COMPARE_WITH_TIMEOUT(served.client().text(ServiceObject::units),
+                              QString(ServiceDocuments::units("first")), waitLimit);
     QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
 }
 

@@ -1,20 +1,13 @@
 #include "PrivateBus.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 
 #include <csignal>
 
+#include "TestFiles.h"
 #include "WaitLimit.h"
 
 namespace {
-
-bool writeFile(const QString& path, const QString& text)
-{
-    QFile file(path);
-    const QByteArray bytes = text.toUtf8();
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
 
 // The limits of the usual session bus; the daemon's built-in limits are meant for the system bus.
 QString configuration(const QString& socket, const QString& serviceDirectory, const QString& denied)
@@ -62,8 +55,8 @@ bool PrivateBus::start()
 
     const QString services = path(QStringLiteral("services"));
     if (!QDir().mkpath(services) ||
-        !writeFile(path(QStringLiteral("bus.conf")),
-                   configuration(path(QStringLiteral("socket")), services, m_denied)))
+        !TestFiles::write(path(QStringLiteral("bus.conf")),
+                          configuration(path(QStringLiteral("socket")), services, m_denied).toUtf8()))
         return false;
 
     m_daemon.start(QIODevice::ReadOnly);
@@ -103,8 +96,9 @@ bool PrivateBus::addActivatableService(const QString& serviceName, const QString
 {
     const QString services = path(QStringLiteral("services"));
     return QDir().mkpath(services) &&
-           writeFile(services + QLatin1Char('/') + serviceName + QStringLiteral(".service"),
-                     QStringLiteral("[D-BUS Service]\nName=%1\nExec=%2\n").arg(serviceName, command));
+           TestFiles::write(
+               services + QLatin1Char('/') + serviceName + QStringLiteral(".service"),
+               QStringLiteral("[D-BUS Service]\nName=%1\nExec=%2\n").arg(serviceName, command).toUtf8());
 }
 
 void PrivateBus::deny(const QString& member)

@@ -1,9 +1,9 @@
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
 #include "Row.h"
+#include "TestFiles.h"
 #include "ToolProcess.h"
 
 /// The tool's documents: which ones it accepts, and how it reports faults in them.
@@ -36,10 +36,7 @@ class Folder
 public:
     QString file(const QString& name, const QByteArray& content) const
     {
-        QFile file(path(name));
-        const bool isWritten =
-            file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
-        return isWritten ? file.fileName() : QString();
+        return TestFiles::write(path(name), content) ? path(name) : QString();
     }
     QString path(const QString& name) const
     {

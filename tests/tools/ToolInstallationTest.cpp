@@ -3,6 +3,7 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
+#include "TestFiles.h"
 #include "ToolProcess.h"
 
 /// Where the program looks for the shipped documents, and that an installed one contains no path of the
@@ -23,16 +24,6 @@ private:
     QString m_program;
 };
 
-namespace {
-
-bool writeFile(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
-}
-
-} // namespace
-
 void ToolInstallationTest::init()
 {
     m_prefix.reset(new QTemporaryDir);
@@ -43,8 +34,8 @@ void ToolInstallationTest::init()
 
 void ToolInstallationTest::findsTheDocumentsBesideItself()
 {
-    QVERIFY(writeFile(m_prefix->filePath("share/unitmanager/units.json"), "{\"OwnType\": {}}"));
-    QVERIFY(writeFile(m_prefix->filePath("share/unitmanager/default-units.json"), "{}"));
+    QVERIFY(TestFiles::write(m_prefix->filePath("share/unitmanager/units.json"), "{\"OwnType\": {}}"));
+    QVERIFY(TestFiles::write(m_prefix->filePath("share/unitmanager/default-units.json"), "{}"));
     const ToolRun run = ToolProcess::runProgram(m_program, {"types"});
     QCOMPARE(run.standardError, QByteArray());
     QCOMPARE(run.standardOutput, QByteArray("OwnType\n"));
@@ -52,8 +43,8 @@ void ToolInstallationTest::findsTheDocumentsBesideItself()
 
 void ToolInstallationTest::findsTheDocumentsBesideItselfThroughALink()
 {
-    QVERIFY(writeFile(m_prefix->filePath("share/unitmanager/units.json"), "{\"OwnType\": {}}"));
-    QVERIFY(writeFile(m_prefix->filePath("share/unitmanager/default-units.json"), "{}"));
+    QVERIFY(TestFiles::write(m_prefix->filePath("share/unitmanager/units.json"), "{\"OwnType\": {}}"));
+    QVERIFY(TestFiles::write(m_prefix->filePath("share/unitmanager/default-units.json"), "{}"));
     const QString link = m_prefix->filePath("unit-conversion");
     QVERIFY(QFile::link(m_program, link));
     QCOMPARE(ToolProcess::runProgram(link, {"types"}).standardOutput, QByteArray("OwnType\n"));

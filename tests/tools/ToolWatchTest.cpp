@@ -9,6 +9,7 @@
 #include "ChildProcess.h"
 #include "PrivateBus.h"
 #include "ServedDirectory.h"
+#include "ServiceDocuments.h"
 #include "TestFiles.h"
 #include "ToolProcess.h"
 #include "WaitLimit.h"
@@ -22,7 +23,7 @@ const QByteArray threeUnits = R"({
     "Voltage": { "Volt": { "@displayPosition": 0, "UnitLabel": "V",
                            "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]] } }
 })";
-/// The tool's output for a served TestFiles::units().
+/// The tool's output for a served ServiceDocuments::units().
 const QByteArray oneUnit = "ready\nadopted; unit types: 1, units: 1\n";
 
 /// A running tool, which ends with this object.
@@ -172,10 +173,10 @@ void ToolWatchTest::followsTheService()
     QVERIFY(watcher.start());
     QVERIFY(watcher.prints("waiting\n" + oneUnit));
 
-    QVERIFY(TestFiles::replace(served.path("default-units.json"), TestFiles::defaultUnits("second")));
+    QVERIFY(TestFiles::replace(served.path("default-units.json"), ServiceDocuments::defaultUnits("second")));
     QVERIFY(watcher.prints("waiting\n" + oneUnit));
 
-    QVERIFY(TestFiles::replace(served.path("dependencies.json"), TestFiles::dependencies("second")));
+    QVERIFY(TestFiles::replace(served.path("dependencies.json"), ServiceDocuments::dependencies("second")));
     QVERIFY(watcher.prints("waiting\n" + oneUnit));
 
     QVERIFY(TestFiles::replace(served.path("units.json"), threeUnits));
@@ -218,7 +219,7 @@ void ToolWatchTest::outlivesTheService()
     QCOMPARE(served.service().waitForEnd(), -1);
     ServiceProcess successor;
     QVERIFY(successor.serve(served.directory(), served.bus().address()));
-    QVERIFY(TestFiles::replace(served.path("default-units.json"), TestFiles::defaultUnits("second")));
+    QVERIFY(TestFiles::replace(served.path("default-units.json"), ServiceDocuments::defaultUnits("second")));
     QVERIFY(watcher.prints("waiting\n" + oneUnit));
 
     QVERIFY(successor.send(SIGTERM));

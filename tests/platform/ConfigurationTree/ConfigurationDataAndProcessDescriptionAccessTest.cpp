@@ -1,3 +1,5 @@
+#include "ConfigurationDataAndProcessDescriptionAccess.h"
+
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
@@ -6,10 +8,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "ConfigurationDataAndProcessDescriptionAccess.h"
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "Row.h"
+#include "TestFiles.h"
 
 namespace {
 
@@ -75,10 +77,10 @@ void ConfigurationDataAndProcessDescriptionAccessTest::init()
 
 QString ConfigurationDataAndProcessDescriptionAccessTest::writeFile(const QByteArray& bytes)
 {
-    QFile file(m_directory->filePath(QStringLiteral("units.json")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+    const QString path = m_directory->filePath(QStringLiteral("units.json"));
+    if (!TestFiles::write(path, bytes))
         qFatal("The test file cannot be written");
-    return file.fileName();
+    return path;
 }
 
 void ConfigurationDataAndProcessDescriptionAccessTest::expectWarning(const QString& path,

@@ -40,22 +40,3 @@ bool TestFiles::setMode(const QString& path, unsigned int mode)
 {
     return ::chmod(QFile::encodeName(path), mode) == 0;
 }
-
-QByteArray TestFiles::units(const QString& label)
-{
-    return QStringLiteral(
-               R"({"Pressure": {"Bar": {"@displayPosition": 0, "DecimalPlaces": 3, "Polynomial": [[0], [1]],
-  "InversePolynomial": [[0], [1]], "UnitLabel": {"@value": {"en": "%1"}}}}})")
-        .arg(label)
-        .toUtf8();
-}
-
-QByteArray TestFiles::defaultUnits(const QString& unit)
-{
-    return QStringLiteral(R"({"Pressure": {"@type": "Selection", "@value": "%1"}})").arg(unit).toUtf8();
-}
-
-QByteArray TestFiles::dependencies(const QString& dependent)
-{
-    return QStringLiteral(R"({"PressureUnit": ["%1"]})").arg(dependent).toUtf8();
-}

@@ -3,7 +3,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
-/// Files of the tests, written in the same ways as by editors, and documents as their content.
+/// Files of the tests, written in the same ways as by editors.
 namespace TestFiles {
 
 /// Overwrites the file in place, so that it is incomplete for a moment. @return whether it was written.
@@ -17,14 +17,5 @@ bool link(const QString& target, const QString& path);
 
 /// Sets the permissions of a file or directory, such as 0755. @return whether that succeeded.
 bool setMode(const QString& path, unsigned int mode);
-
-/// A valid unit document; documents with different labels differ.
-QByteArray units(const QString& label);
-
-/// A valid default-unit document.
-QByteArray defaultUnits(const QString& unit);
-
-/// A valid dependency document.
-QByteArray dependencies(const QString& dependent);
 
 } // namespace TestFiles
