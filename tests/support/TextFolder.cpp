@@ -1,16 +1,16 @@
 #include "TextFolder.h"
 
-#include <QtCore/QFile>
+#include <QtCore/QtGlobal>
+
+#include "TestFiles.h"
 
 QString TextFolder::write(const QString& name, const QString& text) const
 {
     if (text.isNull())
         return path(name);
-    QFile file(path(name));
-    const QByteArray bytes = text.toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
-        qFatal("cannot write %s", qPrintable(file.fileName()));
-    return file.fileName();
+    if (!TestFiles::write(path(name), text.toUtf8()))
+        qFatal("cannot write %s", qPrintable(path(name)));
+    return path(name);
 }
 
 QString TextFolder::path(const QString& name) const
