@@ -12,6 +12,7 @@
 #include "ServiceProcess.h"
 #include "SystemBus.h"
 #include "TestFiles.h"
+#include "TestProgram.h"
 #include "WaitLimit.h"
 
 namespace {
@@ -186,5 +187,5 @@ void BusPolicyTest::nobodyMayDoMore()
     QCOMPARE(reply.errorName(), denied);
 }
 
-QTEST_GUILESS_MAIN(BusPolicyTest)
+static const TestClass<BusPolicyTest> testClass;
 #include "BusPolicyTest.moc"

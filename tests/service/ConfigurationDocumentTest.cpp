@@ -7,6 +7,7 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestFiles.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -149,5 +150,5 @@ void ConfigurationDocumentTest::returnOfTheGoodTextIsLogged()
     QCOMPARE(m_log->takeTexts(), QStringList{"Name: unchanged in " + m_path});
 }
 
-QTEST_GUILESS_MAIN(ConfigurationDocumentTest)
+static const TestClass<ConfigurationDocumentTest> testClass;
 #include "ConfigurationDocumentTest.moc"

@@ -10,6 +10,7 @@
 
 #include "Row.h"
 #include "TestFiles.h"
+#include "TestProgram.h"
 #include "WithoutPrivileges.h"
 
 /// Creates something at a path. @return whether it exists.
@@ -110,5 +111,5 @@ void DocumentFileTest::contentsCompare()
     QVERIFY(!(content == (DocumentFile::Content{"other", "problem"})));
 }
 
-QTEST_GUILESS_MAIN(DocumentFileTest)
+static const TestClass<DocumentFileTest> testClass;
 #include "DocumentFileTest.moc"

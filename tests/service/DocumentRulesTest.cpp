@@ -5,6 +5,7 @@
 #include "DependencyWalker.h"
 #include "LogCapture.h"
 #include "ServiceDocuments.h"
+#include "TestProgram.h"
 #include "UnitManager.h"
 
 /// The accepted documents are those that the libraries of the applications can load.
@@ -128,5 +129,5 @@ void DocumentRulesTest::dependencies()
     QCOMPARE(DependencyWalker().initDependencyGraphByJsonString(bytes), problem.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(DocumentRulesTest)
+static const TestClass<DocumentRulesTest> testClass;
 #include "DocumentRulesTest.moc"

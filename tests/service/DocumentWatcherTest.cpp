@@ -9,6 +9,7 @@
 
 #include "LogCapture.h"
 #include "TestFiles.h"
+#include "TestProgram.h"
 #include "WaitLimit.h"
 #include "WithoutPrivileges.h"
 
@@ -153,5 +154,5 @@ void DocumentWatcherTest::placeThatCannotBeWatchedIsLoggedOnce()
     QCOMPARE(log.takeTexts(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(DocumentWatcherTest)
+static const TestClass<DocumentWatcherTest> testClass;
 #include "DocumentWatcherTest.moc"

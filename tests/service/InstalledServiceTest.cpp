@@ -4,6 +4,7 @@
 
 #include "CommandLine.h"
 #include "ConfigurationFileService.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -107,5 +108,5 @@ void InstalledServiceTest::unitRestartsAndConfinesTheService()
     QCOMPARE(m_installed.values(unit, QTest::currentDataTag()), QStringList{value});
 }
 
-QTEST_GUILESS_MAIN(InstalledServiceTest)
+static const TestClass<InstalledServiceTest> testClass;
 #include "InstalledServiceTest.moc"

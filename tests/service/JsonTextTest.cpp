@@ -3,6 +3,7 @@
 #include <QtTest/QTest>
 
 #include "Row.h"
+#include "TestProgram.h"
 
 class JsonTextTest : public QObject
 {
@@ -89,5 +90,5 @@ void JsonTextTest::problemIsNamed()
     QCOMPARE(json.text, QString());
 }
 
-QTEST_GUILESS_MAIN(JsonTextTest)
+static const TestClass<JsonTextTest> testClass;
 #include "JsonTextTest.moc"

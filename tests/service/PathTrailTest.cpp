@@ -7,6 +7,7 @@
 
 #include "Row.h"
 #include "TestFiles.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -127,5 +128,5 @@ void PathTrailTest::anotherFileIsADifference()
     QVERIFY(PathTrail::of(directory) != before.mid(0, before.size() - 1));
 }
 
-QTEST_GUILESS_MAIN(PathTrailTest)
+static const TestClass<PathTrailTest> testClass;
 #include "PathTrailTest.moc"

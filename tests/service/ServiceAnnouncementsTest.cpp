@@ -9,6 +9,7 @@
 #include "ServedDirectory.h"
 #include "ServiceDocuments.h"
 #include "TestFiles.h"
+#include "TestProgram.h"
 #include "WaitLimit.h"
 
 using Action = std::function<bool(const ServedDirectory& served, const QByteArray& text)>;
@@ -228,5 +229,5 @@ void ServiceAnnouncementsTest::everyFurtherChangeIsAnnounced()
     }
 }
 
-QTEST_GUILESS_MAIN(ServiceAnnouncementsTest)
+static const TestClass<ServiceAnnouncementsTest> testClass;
 #include "ServiceAnnouncementsTest.moc"

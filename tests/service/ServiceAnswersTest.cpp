@@ -6,6 +6,7 @@
 #include "Row.h"
 #include "ServedDirectory.h"
 #include "ServiceDocuments.h"
+#include "TestProgram.h"
 
 /// The program's answers on the bus; it must not answer anything else.
 class ServiceAnswersTest : public QObject
@@ -133,5 +134,5 @@ void ServiceAnswersTest::shippedDocumentsAreServed()
     QVERIFY(served.client().text(ServiceObject::units).contains("\"HectoPascal\""));
 }
 
-QTEST_GUILESS_MAIN(ServiceAnswersTest)
+static const TestClass<ServiceAnswersTest> testClass;
 #include "ServiceAnswersTest.moc"

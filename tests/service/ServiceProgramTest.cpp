@@ -9,6 +9,7 @@
 #include "ServedDirectory.h"
 #include "ServiceDocuments.h"
 #include "TestFiles.h"
+#include "TestProgram.h"
 #include "WaitLimit.h"
 
 /// How the program starts and ends.
@@ -237,5 +238,5 @@ void ServiceProgramTest::lostBusEndsIt()
              qPrintable(served.service().log()));
 }
 
-QTEST_GUILESS_MAIN(ServiceProgramTest)
+static const TestClass<ServiceProgramTest> testClass;
 #include "ServiceProgramTest.moc"

@@ -7,6 +7,7 @@
 #include "ServedDirectory.h"
 #include "ServiceDocuments.h"
 #include "TestFiles.h"
+#include "TestProgram.h"
 #include "WaitLimit.h"
 
 namespace {
@@ -147,5 +148,5 @@ void ServiceRefusalsTest::documentMayComeLater()
     QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
 }
 
-QTEST_GUILESS_MAIN(ServiceRefusalsTest)
+static const TestClass<ServiceRefusalsTest> testClass;
 #include "ServiceRefusalsTest.moc"

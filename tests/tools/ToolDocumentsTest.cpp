@@ -4,6 +4,7 @@
 
 #include "Row.h"
 #include "TestFiles.h"
+#include "TestProgram.h"
 #include "ToolProcess.h"
 
 /// The tool's documents: which ones it accepts, and how it reports faults in them.
@@ -186,5 +187,5 @@ void ToolDocumentsTest::readsFromAPipe()
     QCOMPARE(run.standardOutput, QByteArray("Length\n"));
 }
 
-QTEST_GUILESS_MAIN(ToolDocumentsTest)
+static const TestClass<ToolDocumentsTest> testClass;
 #include "ToolDocumentsTest.moc"

@@ -1,6 +1,7 @@
 #include <QtTest/QTest>
 
 #include "Row.h"
+#include "TestProgram.h"
 #include "ToolProcess.h"
 
 /// Help and version of the program and of every verb: on standard output, exit code 0.
@@ -105,5 +106,5 @@ void ToolHelpTest::programHasTheVersion()
     QCOMPARE(run.standardOutput, QByteArray("unitmanager " UNITMANAGER_VERSION "\n"));
 }
 
-QTEST_GUILESS_MAIN(ToolHelpTest)
+static const TestClass<ToolHelpTest> testClass;
 #include "ToolHelpTest.moc"

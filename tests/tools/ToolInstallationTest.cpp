@@ -4,6 +4,7 @@
 #include <QtTest/QTest>
 
 #include "TestFiles.h"
+#include "TestProgram.h"
 #include "ToolProcess.h"
 
 /// Where the program looks for the shipped documents, and that an installed one contains no path of the
@@ -75,5 +76,5 @@ void ToolInstallationTest::installedProgramKnowsNoPathOfTheBuild()
     QVERIFY(!bytes.contains(UNITMANAGER_SOURCE_DIR "/config"));
 }
 
-QTEST_GUILESS_MAIN(ToolInstallationTest)
+static const TestClass<ToolInstallationTest> testClass;
 #include "ToolInstallationTest.moc"

@@ -3,6 +3,7 @@
 #include <QtTest/QTest>
 
 #include "Row.h"
+#include "TestProgram.h"
 #include "ToolProcess.h"
 
 /// A locale with a decimal comma changes neither input nor output.
@@ -71,5 +72,5 @@ void ToolLocaleTest::refusesTheDecimalComma()
     QCOMPARE(run.exitCode, 1);
 }
 
-QTEST_GUILESS_MAIN(ToolLocaleTest)
+static const TestClass<ToolLocaleTest> testClass;
 #include "ToolLocaleTest.moc"

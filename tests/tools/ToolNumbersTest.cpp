@@ -8,6 +8,7 @@
 #include <limits>
 #include <random>
 
+#include "TestProgram.h"
 #include "ToolProcess.h"
 
 /// Reading and writing of numbers.
@@ -192,5 +193,5 @@ void ToolNumbersTest::jsonValueReadsBackTheSameDouble()
     }
 }
 
-QTEST_GUILESS_MAIN(ToolNumbersTest)
+static const TestClass<ToolNumbersTest> testClass;
 #include "ToolNumbersTest.moc"

@@ -3,6 +3,7 @@
 #include <QtTest/QTest>
 
 #include "Row.h"
+#include "TestProgram.h"
 #include "ToolProcess.h"
 #include "WaitLimit.h"
 
@@ -165,5 +166,5 @@ void ToolStreamTest::reportsAFullDisk()
     QCOMPARE(run.exitCode, 1);
 }
 
-QTEST_GUILESS_MAIN(ToolStreamTest)
+static const TestClass<ToolStreamTest> testClass;
 #include "ToolStreamTest.moc"

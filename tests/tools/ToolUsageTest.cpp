@@ -1,6 +1,7 @@
 #include <QtTest/QTest>
 
 #include "Row.h"
+#include "TestProgram.h"
 #include "ToolProcess.h"
 
 /// The tool's response to invalid requests: nothing on standard output, the exact message, and exit code 1
@@ -164,5 +165,5 @@ void ToolUsageTest::reportsAFullDisk()
     QCOMPARE(run.exitCode, 1);
 }
 
-QTEST_GUILESS_MAIN(ToolUsageTest)
+static const TestClass<ToolUsageTest> testClass;
 #include "ToolUsageTest.moc"

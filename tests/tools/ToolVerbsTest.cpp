@@ -4,6 +4,7 @@
 #include <QtTest/QTest>
 
 #include "Row.h"
+#include "TestProgram.h"
 #include "ToolProcess.h"
 
 /// The output of every verb for valid requests: exact text, nothing on standard error, exit code 0.
@@ -229,5 +230,5 @@ void ToolVerbsTest::acceptsNonAsciiNamesInTheCLocale()
     QCOMPARE(run.exitCode, 0);
 }
 
-QTEST_GUILESS_MAIN(ToolVerbsTest)
+static const TestClass<ToolVerbsTest> testClass;
 #include "ToolVerbsTest.moc"

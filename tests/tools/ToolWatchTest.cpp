@@ -11,6 +11,7 @@
 #include "ServedDirectory.h"
 #include "ServiceDocuments.h"
 #include "TestFiles.h"
+#include "TestProgram.h"
 #include "ToolProcess.h"
 #include "WaitLimit.h"
 
@@ -317,5 +318,5 @@ void ToolWatchTest::rejectsWrongUsage()
     QCOMPARE(run.exitCode, 2);
 }
 
-QTEST_GUILESS_MAIN(ToolWatchTest)
+static const TestClass<ToolWatchTest> testClass;
 #include "ToolWatchTest.moc"

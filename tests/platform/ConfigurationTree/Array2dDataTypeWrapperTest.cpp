@@ -7,6 +7,7 @@
 
 #include "NodeText.h"
 #include "Row.h"
+#include "TestProgram.h"
 
 using Indices = QVector<unsigned int>;
 
@@ -275,6 +276,6 @@ void Array2dDataTypeWrapperTest::dimensionsCanBeOverridden()
     QCOMPARE(base.getArrayType(), (Indices{3, 2}));
 }
 
-QTEST_GUILESS_MAIN(Array2dDataTypeWrapperTest)
+static const TestClass<Array2dDataTypeWrapperTest> testClass;
 
 #include "Array2dDataTypeWrapperTest.moc"

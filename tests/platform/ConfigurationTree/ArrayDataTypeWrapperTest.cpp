@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "Row.h"
+#include "TestProgram.h"
 
 using Indices = QVector<unsigned int>;
 
@@ -148,6 +149,6 @@ void ArrayDataTypeWrapperTest::resetSelectsOtherData()
     QCOMPARE(array.getValues(), QVariantList{4});
 }
 
-QTEST_GUILESS_MAIN(ArrayDataTypeWrapperTest)
+static const TestClass<ArrayDataTypeWrapperTest> testClass;
 
 #include "ArrayDataTypeWrapperTest.moc"

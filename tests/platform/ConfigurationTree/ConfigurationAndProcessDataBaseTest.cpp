@@ -8,6 +8,7 @@
 #include "ConfigurationAndProcessDataTools.h"
 #include "NodeText.h"
 #include "Row.h"
+#include "TestProgram.h"
 #include "VirtualSlot.h"
 
 namespace {
@@ -140,6 +141,6 @@ void ConfigurationAndProcessDataBaseTest::numberTypeNeedsTypeAndNumber()
     QTEST(node.isNumberNoInput(), "isNoInput");
 }
 
-QTEST_GUILESS_MAIN(ConfigurationAndProcessDataBaseTest)
+static const TestClass<ConfigurationAndProcessDataBaseTest> testClass;
 
 #include "ConfigurationAndProcessDataBaseTest.moc"

@@ -3,6 +3,7 @@
 #include <QtTest/QTest>
 
 #include "Row.h"
+#include "TestProgram.h"
 
 using Definitions = ConfigurationAndProcessDataDefinitions;
 using Getter = const QString& (*)();
@@ -47,6 +48,6 @@ void ConfigurationAndProcessDataDefinitionsTest::getterNamesItsKey()
     QCOMPARE(&getter(), &getter());
 }
 
-QTEST_GUILESS_MAIN(ConfigurationAndProcessDataDefinitionsTest)
+static const TestClass<ConfigurationAndProcessDataDefinitionsTest> testClass;
 
 #include "ConfigurationAndProcessDataDefinitionsTest.moc"

@@ -6,6 +6,7 @@
 
 #include "LogCapture.h"
 #include "NodeText.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -282,6 +283,6 @@ void ConfigurationAndProcessDataParserRobustnessTest::largeNoiseGivesNull()
     QVERIFY(!parse(json));
 }
 
-QTEST_GUILESS_MAIN(ConfigurationAndProcessDataParserRobustnessTest)
+static const TestClass<ConfigurationAndProcessDataParserRobustnessTest> testClass;
 
 #include "ConfigurationAndProcessDataParserRobustnessTest.moc"

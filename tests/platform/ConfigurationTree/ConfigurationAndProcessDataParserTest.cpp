@@ -6,6 +6,7 @@
 #include "LogCapture.h"
 #include "NodeText.h"
 #include "Row.h"
+#include "TestProgram.h"
 
 class ConfigurationAndProcessDataParserTest : public QObject
 {
@@ -235,6 +236,6 @@ void ConfigurationAndProcessDataParserTest::manyChildrenAreFoundByKey()
     }
 }
 
-QTEST_GUILESS_MAIN(ConfigurationAndProcessDataParserTest)
+static const TestClass<ConfigurationAndProcessDataParserTest> testClass;
 
 #include "ConfigurationAndProcessDataParserTest.moc"

@@ -6,6 +6,7 @@
 
 #include "NodeText.h"
 #include "Row.h"
+#include "TestProgram.h"
 
 using Tools = ConfigurationAndProcessDataTools;
 
@@ -145,6 +146,6 @@ void ConfigurationAndProcessDataToolsTest::markerIsAnyNanOfAFloatingType()
     QTEST(Tools::isNoInputValueIndicatorSet(value), "isMarker");
 }
 
-QTEST_GUILESS_MAIN(ConfigurationAndProcessDataToolsTest)
+static const TestClass<ConfigurationAndProcessDataToolsTest> testClass;
 
 #include "ConfigurationAndProcessDataToolsTest.moc"

@@ -12,6 +12,7 @@
 #include "MessageText.h"
 #include "Row.h"
 #include "TestFiles.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -241,6 +242,6 @@ void ConfigurationDataAndProcessDescriptionAccessTest::linkIsFollowed()
     QCOMPARE(readText(link), QStringLiteral("{}"));
 }
 
-QTEST_GUILESS_MAIN(ConfigurationDataAndProcessDescriptionAccessTest)
+static const TestClass<ConfigurationDataAndProcessDescriptionAccessTest> testClass;
 
 #include "ConfigurationDataAndProcessDescriptionAccessTest.moc"

@@ -5,6 +5,7 @@
 #include "ConfigurationAndProcessDataTools.h"
 #include "NodeText.h"
 #include "Row.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -268,6 +269,6 @@ void ConfigurationDataNodeTest::childrenAreNodesOfTheirOwn()
                                             R"(b={@type="Number", @value=1}})"));
 }
 
-QTEST_GUILESS_MAIN(ConfigurationDataNodeTest)
+static const TestClass<ConfigurationDataNodeTest> testClass;
 
 #include "ConfigurationDataNodeTest.moc"

@@ -6,6 +6,7 @@
 #include "DeviceBusEnvironment.h"
 #include "FilesBus.h"
 #include "Row.h"
+#include "TestProgram.h"
 #include "WaitUntil.h"
 
 Q_DECLARE_METATYPE(FakeBusService::Answer)
@@ -251,5 +252,5 @@ void ConfigurationFileHandlerDBusConnectorCallTest::anAsynchronousCallWithoutBus
     QVERIFY(connector->getConfiguration("name", "module", "extra").isError());
 }
 
-QTEST_GUILESS_MAIN(ConfigurationFileHandlerDBusConnectorCallTest)
+static const TestClass<ConfigurationFileHandlerDBusConnectorCallTest> testClass;
 #include "ConfigurationFileHandlerDBusConnectorCallTest.moc"

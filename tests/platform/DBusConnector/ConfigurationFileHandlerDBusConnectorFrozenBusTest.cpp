@@ -6,6 +6,7 @@
 #include "DBusConnection.h"
 #include "DeviceBusEnvironment.h"
 #include "FilesBus.h"
+#include "TestProgram.h"
 #include "WaitUntil.h"
 
 /// Attempts to create a connector on a bus that accepts requests but does not answer them.
@@ -119,5 +120,5 @@ void ConfigurationFileHandlerDBusConnectorFrozenBusTest::aServiceThatDoesNotRepl
     QVERIFY(!FilesBus::createConnector().isNull());
 }
 
-QTEST_GUILESS_MAIN(ConfigurationFileHandlerDBusConnectorFrozenBusTest)
+static const TestClass<ConfigurationFileHandlerDBusConnectorFrozenBusTest> testClass;
 #include "ConfigurationFileHandlerDBusConnectorFrozenBusTest.moc"

@@ -7,6 +7,7 @@
 #include "DBusConnection.h"
 #include "DeviceBusEnvironment.h"
 #include "FilesBus.h"
+#include "TestProgram.h"
 #include "WaitUntil.h"
 
 /// When a connector is created, and the bus traffic of an attempt.
@@ -147,5 +148,5 @@ void ConfigurationFileHandlerDBusConnectorOpeningTest::noServiceIsStarted()
     QVERIFY(waitUntil([&trace] { return QFile::exists(trace); }));
 }
 
-QTEST_GUILESS_MAIN(ConfigurationFileHandlerDBusConnectorOpeningTest)
+static const TestClass<ConfigurationFileHandlerDBusConnectorOpeningTest> testClass;
 #include "ConfigurationFileHandlerDBusConnectorOpeningTest.moc"

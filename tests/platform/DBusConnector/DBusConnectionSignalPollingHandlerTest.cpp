@@ -9,6 +9,7 @@
 #include "DeviceBusEnvironment.h"
 #include "FakeBusService.h"
 #include "Row.h"
+#include "TestProgram.h"
 #include "WaitLimit.h"
 #include "WaitUntil.h"
 
@@ -287,5 +288,5 @@ void DBusConnectionSignalPollingHandlerTest::signalsOfABusThatStartsLateAreRecor
     QVERIFY(waitUntil([&] { return send("units") && handler.isSignalOccured(); }));
 }
 
-QTEST_GUILESS_MAIN(DBusConnectionSignalPollingHandlerTest)
+static const TestClass<DBusConnectionSignalPollingHandlerTest> testClass;
 #include "DBusConnectionSignalPollingHandlerTest.moc"

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "DeviceBusEnvironment.h"
+#include "TestProgram.h"
 #include "WaitUntil.h"
 
 class DBusConnectionTest : public QObject
@@ -301,5 +302,5 @@ void DBusConnectionTest::anObjectIsAddressedByASlashAndItsName()
              QStringLiteral("/UnitManagerConfiguration"));
 }
 
-QTEST_GUILESS_MAIN(DBusConnectionTest)
+static const TestClass<DBusConnectionTest> testClass;
 #include "DBusConnectionTest.moc"

@@ -10,6 +10,7 @@
 #include "DBusConnection.h"
 #include "DeviceBusEnvironment.h"
 #include "FakeBusService.h"
+#include "TestProgram.h"
 #include "WaitLimit.h"
 #include "WaitUntil.h"
 
@@ -211,5 +212,5 @@ void DBusConnectorBaseTest::aQuestionToAFrozenBusEndsWithItsTimeOut()
     QVERIFY(waitUntil([] { return Connector::isServiceAvailable("Module"); }));
 }
 
-QTEST_GUILESS_MAIN(DBusConnectorBaseTest)
+static const TestClass<DBusConnectorBaseTest> testClass;
 #include "DBusConnectorBaseTest.moc"

@@ -5,6 +5,8 @@
 #include <QtDBus/QDBusPendingCall>
 #include <QtTest/QTest>
 
+#include "TestProgram.h"
+
 // Uses finished calls only; calls in progress are tested with the connector that makes them.
 class DBusPendingReplyTest : public QObject
 {
@@ -66,5 +68,5 @@ void DBusPendingReplyTest::aCallThatCouldNotBeMadeHasFailed()
     QCOMPARE(error.getName(), QStringLiteral("org.freedesktop.DBus.Error.Disconnected"));
 }
 
-QTEST_GUILESS_MAIN(DBusPendingReplyTest)
+static const TestClass<DBusPendingReplyTest> testClass;
 #include "DBusPendingReplyTest.moc"

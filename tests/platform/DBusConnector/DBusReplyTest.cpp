@@ -3,6 +3,8 @@
 #include <QtDBus/QDBusMessage>
 #include <QtTest/QTest>
 
+#include "TestProgram.h"
+
 class DBusReplyTest : public QObject
 {
     Q_OBJECT
@@ -89,5 +91,5 @@ void DBusReplyTest::messageOtherThanAReplyIsAnError()
     QVERIFY(!reply.getValue().isValid());
 }
 
-QTEST_GUILESS_MAIN(DBusReplyTest)
+static const TestClass<DBusReplyTest> testClass;
 #include "DBusReplyTest.moc"

@@ -2,6 +2,8 @@
 
 #include <QtTest/QTest>
 
+#include "TestProgram.h"
+
 class ErrorContainerTest : public QObject
 {
     Q_OBJECT
@@ -27,5 +29,5 @@ void ErrorContainerTest::anErrorHasANameAndAMessage()
     QCOMPARE(error.getMessage(), QStringLiteral("nobody answered"));
 }
 
-QTEST_GUILESS_MAIN(ErrorContainerTest)
+static const TestClass<ErrorContainerTest> testClass;
 #include "ErrorContainerTest.moc"

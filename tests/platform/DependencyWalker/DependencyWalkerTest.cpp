@@ -7,6 +7,7 @@
 #include "ConfigurationAndProcessDataParser.h"
 #include "LogCapture.h"
 #include "Row.h"
+#include "TestProgram.h"
 
 static_assert(std::is_abstract_v<UnitManipulatorBase>);
 static_assert(std::has_virtual_destructor_v<UnitManipulatorBase>);
@@ -293,5 +294,5 @@ void DependencyWalkerTest::aVeryWideGraphIsWalked()
     visitNumbers("{\"0\":[" + keys.join(',') + "]}", width);
 }
 
-QTEST_GUILESS_MAIN(DependencyWalkerTest)
+static const TestClass<DependencyWalkerTest> testClass;
 #include "DependencyWalkerTest.moc"

@@ -2,6 +2,8 @@
 
 #include <QtTest/QTest>
 
+#include "TestProgram.h"
+
 class DeviceManagerDefinitionsTest : public QObject
 {
     Q_OBJECT
@@ -25,6 +27,6 @@ void DeviceManagerDefinitionsTest::everyCallGivesTheSameObject()
              &DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration());
 }
 
-QTEST_GUILESS_MAIN(DeviceManagerDefinitionsTest)
+static const TestClass<DeviceManagerDefinitionsTest> testClass;
 
 #include "DeviceManagerDefinitionsTest.moc"

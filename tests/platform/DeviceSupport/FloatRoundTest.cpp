@@ -7,6 +7,7 @@
 #include <random>
 
 #include "ExactText.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -130,6 +131,6 @@ void FloatRoundTest::roundingARoundedValueChangesNothing()
     }
 }
 
-QTEST_GUILESS_MAIN(FloatRoundTest)
+static const TestClass<FloatRoundTest> testClass;
 
 #include "FloatRoundTest.moc"

@@ -2,6 +2,8 @@
 
 #include <QtTest/QTest>
 
+#include "TestProgram.h"
+
 class PropertyManagerConstTest : public QObject
 {
     Q_OBJECT
@@ -26,6 +28,6 @@ void PropertyManagerConstTest::everyCallGivesTheSameObject()
     QCOMPARE(&PropertyManagerConst::getDBusPrefix(), &PropertyManagerConst::getDBusPrefix());
 }
 
-QTEST_GUILESS_MAIN(PropertyManagerConstTest)
+static const TestClass<PropertyManagerConstTest> testClass;
 
 #include "PropertyManagerConstTest.moc"

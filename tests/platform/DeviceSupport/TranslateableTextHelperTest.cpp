@@ -4,6 +4,7 @@
 #include <QtTest/QTest>
 
 #include "Row.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -158,6 +159,6 @@ void TranslateableTextHelperTest::parentOwnsTheHelper()
     QVERIFY(helper.isNull());
 }
 
-QTEST_GUILESS_MAIN(TranslateableTextHelperTest)
+static const TestClass<TranslateableTextHelperTest> testClass;
 
 #include "TranslateableTextHelperTest.moc"

@@ -7,6 +7,7 @@
 
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataTools.h"
+#include "TestProgram.h"
 
 using Definitions = ConfigurationAndProcessDataDefinitions;
 
@@ -208,5 +209,5 @@ void ProcessDataValueTest::threadsSeeWholeValues()
     QCOMPARE(torn, 0);
 }
 
-QTEST_GUILESS_MAIN(ProcessDataValueTest)
+static const TestClass<ProcessDataValueTest> testClass;
 #include "ProcessDataValueTest.moc"

@@ -3,6 +3,7 @@
 #include <QtTest/QTest>
 
 #include "Row.h"
+#include "TestProgram.h"
 
 class ProcessMeasurementAttributesTest : public QObject
 {
@@ -135,5 +136,5 @@ void ProcessMeasurementAttributesTest::theOriginalIsNotTouched()
     QCOMPARE(original.toList().first().toMap().value("unit"), QVariant("Pascal"));
 }
 
-QTEST_GUILESS_MAIN(ProcessMeasurementAttributesTest)
+static const TestClass<ProcessMeasurementAttributesTest> testClass;
 #include "ProcessMeasurementAttributesTest.moc"

@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "Row.h"
+#include "TestProgram.h"
 
 static_assert(std::has_virtual_destructor_v<ProcessValue>);
 
@@ -109,5 +110,5 @@ void ProcessValueTest::equalityComparesEverything()
     QCOMPARE(left != right, !equal);
 }
 
-QTEST_GUILESS_MAIN(ProcessValueTest)
+static const TestClass<ProcessValueTest> testClass;
 #include "ProcessValueTest.moc"

@@ -4,6 +4,7 @@
 #include <QtTest/QTest>
 
 #include "LogCapture.h"
+#include "TestProgram.h"
 #include "UnitConversion/Factory.h"
 
 using StateFactory = VESKFactories::Factory<StateMachineStateBase, QObject*>;
@@ -328,5 +329,5 @@ void StateMachineBaseTest::theHooksLogWhenTheirCategoryIsOn()
     }
 }
 
-QTEST_GUILESS_MAIN(StateMachineBaseTest)
+static const TestClass<StateMachineBaseTest> testClass;
 #include "StateMachineBaseTest.moc"

@@ -4,6 +4,8 @@
 
 #include <type_traits>
 
+#include "TestProgram.h"
+
 static_assert(std::is_convertible_v<QString, StateMachineEvent>);
 
 class StateMachineEventTest : public QObject
@@ -46,5 +48,5 @@ void StateMachineEventTest::aCopyIsIndependent()
     QCOMPARE(copy.getData(), QVariant(1));
 }
 
-QTEST_GUILESS_MAIN(StateMachineEventTest)
+static const TestClass<StateMachineEventTest> testClass;
 #include "StateMachineEventTest.moc"

@@ -5,6 +5,8 @@
 
 #include <type_traits>
 
+#include "TestProgram.h"
+
 class StateThatCounts : public StateMachineStateBase
 {
     Q_OBJECT
@@ -53,5 +55,5 @@ void StateMachineStateBaseTest::enteringIsNotAStep()
     QCOMPARE(counting.steps, 1);
 }
 
-QTEST_GUILESS_MAIN(StateMachineStateBaseTest)
+static const TestClass<StateMachineStateBaseTest> testClass;
 #include "StateMachineStateBaseTest.moc"

@@ -2,6 +2,8 @@
 
 #include <QtTest/QTest>
 
+#include "TestProgram.h"
+
 class HashFromStringTest : public QObject
 {
     Q_OBJECT
@@ -41,6 +43,6 @@ void HashFromStringTest::hashIsFnv1aOfTheUtf8Text()
     QCOMPARE(hashFromString(text), hash);
 }
 
-QTEST_GUILESS_MAIN(HashFromStringTest)
+static const TestClass<HashFromStringTest> testClass;
 
-#include "hashFromStringTest.moc"
+#include "HashFromStringTest.moc"
