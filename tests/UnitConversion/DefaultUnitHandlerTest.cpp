@@ -42,7 +42,7 @@ class DefaultUnitHandlerTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void startsEmpty();
     void documentResult_data();
     void documentResult();

@@ -11,7 +11,7 @@ class FactoryLocalScopeTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void librariesShareTheRegistries_data();
     void librariesShareTheRegistries();

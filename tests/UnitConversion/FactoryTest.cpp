@@ -108,7 +108,7 @@ class FactoryTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void oneRegistryForAllLibraries();
     void libraryUsesWhatTheProgramRegisters();
     void holdsExactlyThreeConverters();

@@ -31,7 +31,7 @@ class NoInputMarkerTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void nothingIsPromised();
     void everyNumberIsTested_data();
     void everyNumberIsTested();

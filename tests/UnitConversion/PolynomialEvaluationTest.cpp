@@ -17,7 +17,7 @@ class PolynomialEvaluationTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void baselineIsLast();
     void everyVariantGivesTheSameBits_data();
     void everyVariantGivesTheSameBits();

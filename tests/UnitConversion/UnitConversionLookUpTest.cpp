@@ -57,7 +57,7 @@ class UnitConversionLookUpTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void startsEmpty();
     void readsDocument();
     void documentResult_data();

@@ -71,7 +71,7 @@ class UnitConversionUnitTypeHandlerConversionTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void convertsNumbers_data();
     void convertsNumbers();
     void leavesValueAndSucceeds_data();

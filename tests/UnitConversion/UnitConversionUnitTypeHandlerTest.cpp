@@ -76,7 +76,7 @@ class UnitConversionUnitTypeHandlerTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void defaultHandlerIsInvalid();
     void acceptsUnits_data();
     void acceptsUnits();

@@ -107,7 +107,7 @@ class ValueConversionWrapperTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void withoutConverter_data();
     void withoutConverter();
     void decimalPlacesWithoutConverterWarn();

@@ -55,7 +55,7 @@ class ValueConverterArbitraryTableTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void readsConfiguration_data();
     void readsConfiguration();
     void readsItsTablesInOrderAndNothingElse();

@@ -54,7 +54,7 @@ class ValueConverterBaseTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void virtualFunctionsFollowTheDestructor();
     void decimalPlacesStartAtZeroAndAreNotVirtual();
     void loadsTable_data();

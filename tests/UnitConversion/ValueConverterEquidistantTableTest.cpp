@@ -63,7 +63,7 @@ class ValueConverterEquidistantTableTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void readsConfiguration_data();
     void readsConfiguration();
     void readsLimitsOnlyAfterTheMinimum_data();

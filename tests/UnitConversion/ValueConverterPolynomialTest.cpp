@@ -67,7 +67,7 @@ class ValueConverterPolynomialTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void readsCoefficients_data();
     void readsCoefficients();
     void readsAMillionCoefficients();

@@ -59,7 +59,7 @@ class UnitManagerAllocationTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void allocationsAreCounted();
     void conversionAllocatesNothing_data();

@@ -18,7 +18,7 @@ class UnitManagerArrayTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void ranges_data();
     void ranges();

@@ -15,7 +15,7 @@ class UnitManagerConversionTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void roundDouble_data();
     void roundDouble();

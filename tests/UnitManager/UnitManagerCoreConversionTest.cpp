@@ -17,7 +17,7 @@ class UnitManagerCoreConversionTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void toBaseUnit_data();
     void toBaseUnit();

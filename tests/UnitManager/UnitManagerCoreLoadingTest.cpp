@@ -14,7 +14,7 @@ class UnitManagerCoreLoadingTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void newCoreIsEmpty();
     void unitDocument_data();

@@ -28,7 +28,7 @@ class UnitManagerCoreTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void fixedUnitsAreRecognisedByTheirSlashes_data();
     void fixedUnitsAreRecognisedByTheirSlashes();

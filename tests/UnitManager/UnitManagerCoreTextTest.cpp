@@ -13,7 +13,7 @@ class UnitManagerCoreTextTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void unitText_data();
     void unitText();

@@ -20,7 +20,7 @@ class UnitManagerDefinitionsTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void namesAreFixed_data();
     void namesAreFixed();
     void unitsAreFixedUnitsOfTheirType_data();

@@ -30,7 +30,7 @@ class UnitManagerFiniteMarkerTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void singleConversions_data();
     void singleConversions();

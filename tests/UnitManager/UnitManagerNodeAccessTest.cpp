@@ -16,7 +16,7 @@ class UnitManagerNodeAccessTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void getValue_data();
     void getValue();

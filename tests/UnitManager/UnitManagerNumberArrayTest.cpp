@@ -26,7 +26,7 @@ class UnitManagerNumberArrayTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void arrayIsLikeSingleConversions_data();
     void arrayIsLikeSingleConversions();

@@ -21,7 +21,7 @@ class UnitManagerRoundTripTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void conversionsEvaluateTheirPolynomials_data();
     void conversionsEvaluateTheirPolynomials();

@@ -24,7 +24,7 @@ class UnitManagerTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void newManagerIsEmpty();
     void bothTextsAreLoaded_data();

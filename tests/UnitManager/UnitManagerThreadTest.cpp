@@ -15,7 +15,7 @@ class UnitManagerThreadTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void oneManagerIsReadByTwoThreads();
     void copiesAreReadAndReplacedByTwoThreads();
 };

@@ -12,7 +12,7 @@ class UnitManagerUnitTypeStringHandlingTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void everyTextHasANumber_data();
     void everyTextHasANumber();
     void numbersAreMappedBack();

@@ -5,6 +5,7 @@
 #include <QtDBus/QDBusConnectionInterface>
 
 #include "DBusConnection.h"
+#include "DeviceBusEnvironment.h"
 #include "TestDocuments.h"
 #include "WaitLimit.h"
 #include "WaitUntil.h"
@@ -44,7 +45,7 @@ QString TestDocument::broken()
 
 void useNoBus()
 {
-    qputenv("DEVICE_BUS", "unix:path=/nonexistent/bus");
+    useDeviceBus(QStringLiteral("unix:path=/nonexistent/bus"));
 }
 
 ConfigurationService::ConfigurationService()
@@ -52,8 +53,7 @@ ConfigurationService::ConfigurationService()
                 {TestSource::dependencyName, FakeBusService::withValue(TestDocument::dependencies())},
                 {TestSource::defaultUnitName, FakeBusService::withValue(TestDocuments::defaultUnits())}}
 {
-    qputenv("DEVICE_BUS", m_bus.address().toLocal8Bit());
-    qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(waitLimit));
+    useDeviceBus(m_bus.address());
 }
 
 ConfigurationService::~ConfigurationService()

@@ -2,6 +2,7 @@
 
 #include <QtTest/QTest>
 
+#include "DeviceBusEnvironment.h"
 #include "LogCapture.h"
 #include "MessageText.h"
 #include "ReadStateTest.h"
@@ -104,7 +105,7 @@ void UnitManagerConnectorStateReadConfigurationSynchronTest::aFailedReadLeavesAn
     RecordingWrapper wrapper;
     QVERIFY(wrapper.openAll());
     if (!isAnswered)
-        qputenv("DEVICE_BUS_TIMEOUT_MS", "300");
+        setCallTimeout(300);
     wrapper.data().configurations()[units] = QStringLiteral("earlier");
     SynchronState state(&wrapper);
     LogCapture log;

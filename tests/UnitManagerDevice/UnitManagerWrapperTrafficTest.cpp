@@ -6,10 +6,10 @@
 
 #include "BusMonitor.h"
 #include "DBusConnection.h"
+#include "DeviceBusEnvironment.h"
 #include "LogCapture.h"
 #include "ServiceFixture.h"
 #include "TestProgram.h"
-#include "WaitLimit.h"
 #include "WrapperSetup.h"
 
 using namespace WrapperSetup;
@@ -103,14 +103,14 @@ void UnitManagerWrapperTrafficTest::attemptWithoutService()
 
 void UnitManagerWrapperTrafficTest::blockingStartOnFrozenBus()
 {
-    qputenv("DEVICE_BUS_TIMEOUT_MS", "1000");
+    setCallTimeout(1000);
     LogCapture log;
     m_service->bus().halt();
     const auto wrapper = create(AllNames, Blocking, Delivered);
     QVERIFY(!*wrapper);
 
     m_service->bus().resume();
-    qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(waitLimit));
+    setCallTimeout(waitLimit);
     // A start makes a hundred attempts, but only one call blocks until its time-out; a second one remains
     // outstanding.
     const QString whoOwnsIt = toBus(QStringLiteral("NameHasOwner ") + service);

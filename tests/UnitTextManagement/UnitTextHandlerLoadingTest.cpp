@@ -59,7 +59,7 @@ class UnitTextHandlerLoadingTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void documentResult_data();
     void documentResult();
     void positionZeroIsTheBaseUnit_data();

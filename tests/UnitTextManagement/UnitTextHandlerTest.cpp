@@ -53,7 +53,7 @@ class UnitTextHandlerTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void startsEmpty();
     void findsText_data();
     void findsText();

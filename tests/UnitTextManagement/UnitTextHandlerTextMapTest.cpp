@@ -25,7 +25,7 @@ class UnitTextHandlerTextMapTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void textMap_data();
     void textMap();
     void textOfTheTypeWithoutUnitIsEmpty();

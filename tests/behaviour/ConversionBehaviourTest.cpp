@@ -104,7 +104,7 @@ class ConversionBehaviourTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void behavesAsRecorded();
 };
 

@@ -28,7 +28,7 @@ class CatalogueTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void loadsWithoutMessage();
     void unitTypeHasItsUnits_data();
     void unitTypeHasItsUnits();

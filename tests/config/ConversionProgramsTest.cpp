@@ -49,7 +49,7 @@ class ConversionProgramsTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void everyUnitHasNamesInThePrograms_data();
     void everyUnitHasNamesInThePrograms();

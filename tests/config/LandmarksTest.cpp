@@ -194,7 +194,7 @@ class LandmarksTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void exactInBothDirections_data();
     void exactInBothDirections();

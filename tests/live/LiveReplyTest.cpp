@@ -1,7 +1,7 @@
 // The possible answers of the service to a read.
 
+#include "DeviceBusEnvironment.h"
 #include "LiveTest.h"
-#include "WaitLimit.h"
 
 using namespace Expected;
 using namespace Fixtures;
@@ -20,7 +20,7 @@ void firstReadFails(Stage& stage, const Answer& answer, const QString& warning)
 {
     stage.start(unitsOnly, unitsWorld({answer, units()}));
     stage.checkUntilEntered(failedStart(stage.mode));
-    stage.setCallTimeout(waitLimit); // undoes the short one of missingReply()
+    setCallTimeout(waitLimit); // undoes the short one of missingReply()
     stage.expectConversion(unconverted);
     stage.expectChanged(false);
     restartWithUnits(stage, onlyIf(stage.mode.isBlocking, warning));
@@ -28,7 +28,7 @@ void firstReadFails(Stage& stage, const Answer& answer, const QString& warning)
 
 void missingReply(Stage& stage)
 {
-    stage.setCallTimeout(500);
+    setCallTimeout(1000);
     firstReadFails(stage, {Answer::Never}, unitsUnread);
 }
 

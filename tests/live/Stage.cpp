@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "DBusConnection.h"
+#include "DeviceBusEnvironment.h"
 #include "Expected.h"
 #include "PrivateBus.h"
 #include "WaitUntil.h"
@@ -49,13 +50,12 @@ void require(const QString& step, bool isDone)
 
 Stage::Stage(const Mode& stageMode, const QString& address) : mode(stageMode), m_service(address)
 {
-    qputenv("DEVICE_BUS", address.toLocal8Bit());
-    setCallTimeout(waitLimit);
+    useDeviceBus(address);
 }
 
 void Stage::withoutBus()
 {
-    qputenv("DEVICE_BUS", PrivateBus().address().toLocal8Bit());
+    useDeviceBus(PrivateBus().address());
 }
 
 void Stage::startModule(const QString& module)
@@ -85,11 +85,6 @@ void Stage::release(const SourceName& name)
     synchronize();
     m_service.release(name);
     synchronize();
-}
-
-void Stage::setCallTimeout(int milliseconds)
-{
-    qputenv("DEVICE_BUS_TIMEOUT_MS", QByteArray::number(milliseconds));
 }
 
 void Stage::start(const Settings& settings, const World& world, const QString& absentModule)

@@ -49,8 +49,6 @@ public:
     /// Sends the held replies of a configuration.
     void release(const SourceName& name);
 
-    /// Time after which the applications give up a call.
-    static void setCallTimeout(int milliseconds);
     /// Puts a world on the bus, except for one module, and starts an application.
     void start(const Settings& settings, const World& world, const QString& absentModule = QString());
     /// The same with all sources. When the library is idle, its change has been queried and its unit manager

@@ -16,8 +16,8 @@ void add(const char* className, Create create);
 
 } // namespace TestProgram
 
-/// Adds a test class to the program that its source is linked to. A constant of this type is the last line of the
-/// source:
+/// Adds a test class to the program that its source is linked to. A constant of this type is the last line of
+/// the source:
 ///
 ///     const TestClass<FactoryTest> testClass;
 template <typename Test>
