@@ -14,7 +14,7 @@ using Operation = QVariant (UnitManager::*)(const QVariant&, const QString&, con
 using Baseline = QVariant (Baselines::*)(const QVariant&, const QString&, const QString&) const;
 
 /// One query and its four results: rounded and raw, from and to the base unit.
-struct Situation
+struct Scenario
 {
     std::string name;
     QString unitType;
@@ -39,7 +39,7 @@ bool operator==(double result, const Near& expected)
     return std::abs(result - expected.number) <= std::abs(expected.number) * 1e-12;
 }
 
-std::vector<Situation> situations()
+std::vector<Scenario> scenarios()
 {
     const QString unknown = QStringLiteral("Cubit");
     return {
@@ -51,24 +51,24 @@ std::vector<Situation> situations()
 }
 
 void addOperation(const std::string& name, Operation operation, const QVariant& value,
-                  const Situation& situation, double expected)
+                  const Scenario& scenario, double expected)
 {
-    benchmark::RegisterBenchmark(
-        ("conversion/" + name + "/" + situation.name).c_str(), [=](benchmark::State& state) {
-            const BenchmarkSupport::SilentLog silence;
-            const UnitManager& manager = Documents::shippedManager();
-            BenchmarkSupport::measure(state, QVariant(expected), [&] {
-                return (manager.*operation)(value, situation.unitType, situation.unit);
-            });
-        });
+    benchmark::RegisterBenchmark(("conversion/" + name + "/" + scenario.name).c_str(),
+                                 [=](benchmark::State& state) {
+                                     const BenchmarkSupport::SilentLog silence;
+                                     const UnitManager& manager = Documents::shippedManager();
+                                     BenchmarkSupport::measure(state, QVariant(expected), [&] {
+                                         return (manager.*operation)(value, scenario.unitType, scenario.unit);
+                                     });
+                                 });
 }
 
-void addBaseline(const std::string& name, Baseline baseline, const QVariant& value,
-                 const Situation& situation, double expected)
+void addBaseline(const std::string& name, Baseline baseline, const QVariant& value, const Scenario& scenario,
+                 double expected)
 {
     const Baselines& baselines = Baselines::instance();
-    add("baseline/" + name + "/" + situation.name, QVariant(expected),
-        [=, &baselines] { return (baselines.*baseline)(value, situation.unitType, situation.unit); });
+    add("baseline/" + name + "/" + scenario.name, QVariant(expected),
+        [=, &baselines] { return (baselines.*baseline)(value, scenario.unitType, scenario.unit); });
 }
 
 /// Converts one value to every unit in turn, so that branch prediction and cached lines do not help.
@@ -114,15 +114,14 @@ void addBaselines()
     add("baseline/nested look-up of variants", QVariant(hectoPascals),
         [&baselines, value, &type, &unit] { return baselines.nestedVariant(value, type, unit); });
 
-    for (const Situation& situation : situations()) {
-        addBaseline("literal fromBaseUnit", &Baselines::literalFromBaseUnit, bars, situation, situation.from);
-        addBaseline("literal toBaseUnit", &Baselines::literalToBaseUnit, hectoPascals, situation,
-                    situation.to);
+    for (const Scenario& scenario : scenarios()) {
+        addBaseline("literal fromBaseUnit", &Baselines::literalFromBaseUnit, bars, scenario, scenario.from);
+        addBaseline("literal toBaseUnit", &Baselines::literalToBaseUnit, hectoPascals, scenario, scenario.to);
     }
-    const Situation named = situations().front();
+    const Scenario named = scenarios().front();
     addBaseline("one-look-up fromBaseUnit", &Baselines::resolvedFromBaseUnit, bars, named, named.from);
     addBaseline("one-look-up toBaseUnit", &Baselines::resolvedToBaseUnit, hectoPascals, named, named.to);
-    const Situation fixed = situations().at(2);
+    const Scenario fixed = scenarios().at(2);
     addBaseline("one-look-up fromBaseUnit", &Baselines::resolvedFixedUnit, bars, fixed, fixed.from);
     addBaseline("one-look-up toBaseUnit", &Baselines::resolvedFixedUnit, hectoPascals, fixed, fixed.to);
     add("baseline/default unit", QStringLiteral("HectoPascal"), [&] { return baselines.defaultUnit(type); });
@@ -162,11 +161,11 @@ void addResolved()
 void Themes::addConversions()
 {
     addResolved();
-    for (const Situation& situation : situations()) {
-        addOperation("fromBaseUnit", &UnitManager::fromBaseUnit, bars, situation, situation.from);
-        addOperation("fromBaseUnitRaw", &UnitManager::fromBaseUnitRaw, bars, situation, situation.fromRaw);
-        addOperation("toBaseUnit", &UnitManager::toBaseUnit, hectoPascals, situation, situation.to);
-        addOperation("toBaseUnitRaw", &UnitManager::toBaseUnitRaw, hectoPascals, situation, situation.toRaw);
+    for (const Scenario& scenario : scenarios()) {
+        addOperation("fromBaseUnit", &UnitManager::fromBaseUnit, bars, scenario, scenario.from);
+        addOperation("fromBaseUnitRaw", &UnitManager::fromBaseUnitRaw, bars, scenario, scenario.fromRaw);
+        addOperation("toBaseUnit", &UnitManager::toBaseUnit, hectoPascals, scenario, scenario.to);
+        addOperation("toBaseUnitRaw", &UnitManager::toBaseUnitRaw, hectoPascals, scenario, scenario.toRaw);
     }
     addEveryUnit("conversion/fromBaseUnit",
                  [](const QVariant& value, const QString& unitType, const QString& unit) {

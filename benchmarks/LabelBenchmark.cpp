@@ -10,10 +10,10 @@ void Themes::addLabels()
     const QString language = QStringLiteral("de");
     const QString hPa = QStringLiteral("hPa");
     for (const QString& unit : {Documents::hectoPascal(), QString()}) {
-        const std::string situation = unit.isEmpty() ? "default unit" : "unit";
-        add("label/getUnitText/" + situation, hPa,
+        const std::string scenario = unit.isEmpty() ? "default unit" : "unit";
+        add("label/getUnitText/" + scenario, hPa,
             [=] { return Documents::shippedManager().getUnitText(Documents::pressure(), language, unit); });
-        add("baseline/label/" + situation, hPa,
+        add("baseline/label/" + scenario, hPa,
             [=] { return Baselines::instance().label(Documents::pressure(), language, unit); });
     }
     add("competitor/KUnitConversion symbol", hPa,

@@ -61,25 +61,25 @@ def conversion_rows():
         Against("UDUNITS", Value("competitor/UDUNITS by names"), 20.0),
     ]
     for operation in ("fromBaseUnit", "toBaseUnit"):
-        for situation in ("unit", "default unit", "fixed unit", "unknown unit"):
-            named = situation == "unit"
+        for scenario in ("unit", "default unit", "fixed unit", "unknown unit"):
+            named = scenario == "unit"
             goal = 1.3 if named else None
-            baselines = [Against("literal", Value(f"baseline/literal {operation}/{situation}"), goal)]
+            baselines = [Against("literal", Value(f"baseline/literal {operation}/{scenario}"), goal)]
             one_look_up = Value(f"baseline/one-look-up {operation}/unit")
             if named:
                 baselines.append(Against("one look-up", one_look_up))
-            if situation == "default unit":
+            if scenario == "default unit":
                 baselines.append(Against("1.5 one look-up + default unit",
                                       Sum([(1.5, one_look_up), (1.0, Value("baseline/default unit"))]), 1.0))
-            if situation == "fixed unit":
+            if scenario == "fixed unit":
                 baselines.append(Against("one look-up", Value(f"baseline/one-look-up {operation}/fixed unit"), 1.5))
-            yield Row(f"`{operation}`, {situation}", Value(f"conversion/{operation}/{situation}"), baselines,
+            yield Row(f"`{operation}`, {scenario}", Value(f"conversion/{operation}/{scenario}"), baselines,
                       by_names if named else [])
             raw_baselines = [
                 Against("nested look-up", Value("baseline/nested look-up"), 1.5),
                 Against("same, variants", Value("baseline/nested look-up of variants")),
             ]
-            yield Row(f"`{operation}Raw`, {situation}", Value(f"conversion/{operation}Raw/{situation}"),
+            yield Row(f"`{operation}Raw`, {scenario}", Value(f"conversion/{operation}Raw/{scenario}"),
                       raw_baselines if named else [], by_names if named else [])
     yield Row("`fromBaseUnit`, every unit in turn", Value("conversion/fromBaseUnit/every unit"),
               [Against("literal", Value("baseline/literal fromBaseUnit/every unit"), 1.3),
@@ -122,9 +122,9 @@ def hot_loop_rows():
 
 
 def label_rows():
-    for situation in ("unit", "default unit"):
-        yield Row(f"`getUnitText`, {situation}", Value(f"label/getUnitText/{situation}"),
-                  [Against("nested look-up", Value(f"baseline/label/{situation}"))],
+    for scenario in ("unit", "default unit"):
+        yield Row(f"`getUnitText`, {scenario}", Value(f"label/getUnitText/{scenario}"),
+                  [Against("nested look-up", Value(f"baseline/label/{scenario}"))],
                   [Against("KUnitConversion", Value("competitor/KUnitConversion symbol")),
                    Against("UDUNITS", Value("competitor/UDUNITS symbol"))])
 

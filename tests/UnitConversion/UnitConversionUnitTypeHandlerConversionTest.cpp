@@ -66,7 +66,7 @@ const QVariant marker = ConfigurationAndProcessDataTools::getNoInputValueIndicat
 
 Q_DECLARE_METATYPE(Direction)
 
-/// Conversions of the values of one unit type; each situation is tested in both directions.
+/// Conversions of the values of one unit type; each scenario is tested in both directions.
 class UnitConversionUnitTypeHandlerConversionTest : public QObject
 {
     Q_OBJECT

@@ -12,7 +12,7 @@ sys.path.append(str(PROJECT / "tests" / "config"))
 
 import document_rules  # noqa: E402 (needs the path above)
 
-# Situation -> document and start of the only finding.
+# Scenario -> document and start of the only finding.
 BROKEN = {
     "document is a list": ([], "$: type"),
     "key is empty": ({"": ["Pressure"]}, "$: pattern"),
@@ -49,8 +49,8 @@ class DependenciesTest(unittest.TestCase):
                 self.assertEqual(document_rules.schema_findings(document, self.schema), [])
 
     def test_faults_are_found(self):
-        for situation, (document, beginning) in BROKEN.items():
-            with self.subTest(situation):
+        for scenario, (document, beginning) in BROKEN.items():
+            with self.subTest(scenario):
                 findings = document_rules.schema_findings(document, self.schema)
                 self.assertEqual(len(findings), 1, findings)
                 self.assertEqual(findings[0][: len(beginning)], beginning)
