@@ -6,7 +6,7 @@ function(unitmanager_add_tests program)
     list(TRANSFORM ARG_CLASSES APPEND .cpp OUTPUT_VARIABLE class_sources)
     add_executable(${program} ${class_sources} ${ARG_SOURCES})
     target_link_libraries(${program} PRIVATE UnitManagerTestMain ${ARG_LIBRARIES})
-    target_precompile_headers(${program} REUSE_FROM UnitManagerTestMain)
+    target_precompile_headers(${program} REUSE_FROM UnitManagerTestSupport)
     target_compile_definitions(${program} PRIVATE
         UNITMANAGER_SOURCE_DIR="${PROJECT_SOURCE_DIR}" UNITMANAGER_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data")
     foreach(class IN LISTS ARG_CLASSES)
