@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtCore/QString>
+
+/// A place in a text: line and column count from 1, columns in characters (code points).
+struct TextPlace
+{
+    int line = 0;
+    int column = 0;
+};
+
+/// The reason why a document cannot be used, and where in the document.
+struct DocumentProblem
+{
+    /// One line without full stop, which continues "PATH: ", such as "is a directory".
+    QString reason;
+    /// Line 0 if the problem concerns the whole document.
+    TextPlace place;
+
+    /// "PATH:LINE:COLUMN: REASON", or "PATH: REASON" without place.
+    QString inFile(const QString& path) const;
+    /// "line LINE, column COLUMN: REASON", or "REASON" without place.
+    QString withPlace() const;
+
+    /// Formats text of a document for a reason: in double quotes, without control characters, long text
+    /// truncated.
+    static QString quoted(const QString& text);
+};

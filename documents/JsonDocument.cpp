@@ -1,0 +1,122 @@
+#include "JsonDocument.h"
+
+#include <QtCore/QStringList>
+
+#include <algorithm>
+#include <utility>
+
+#include "JsonReader.h"
+#include "JsonString.h"
+#include "Utf8.h"
+
+JsonValue::JsonValue(const JsonTree& tree, quint32 index) : m_tree(&tree), m_index(index) {}
+
+JsonType JsonValue::type() const
+{
+    return node().type;
+}
+
+bool JsonValue::boolean() const
+{
+    return type() == JsonType::Boolean && *begin() == 't';
+}
+
+double JsonValue::number() const
+{
+    if (type() != JsonType::Number)
+        return 0.0;
+    const char* const end = std::find_if(begin(), m_tree->bytes.end(), [](char byte) {
+        return std::string_view(",]} \t\r\n").find(byte) != std::string_view::npos;
+    });
+    return QByteArray::fromRawData(begin(), static_cast<int>(end - begin())).toDouble();
+}
+
+QString JsonValue::string() const
+{
+    return type() == JsonType::String ? JsonString::decoded(begin()) : QString();
+}
+
+std::vector<JsonValue> JsonValue::children() const
+{
+    std::vector<JsonValue> result;
+    for (quint32 child = m_index + 1; child != node().next; child = m_tree->nodes[child].next)
+        result.push_back({*m_tree, child});
+    return result;
+}
+
+std::optional<JsonValue> JsonValue::member(const QString& name) const
+{
+    if (type() != JsonType::Object)
+        return {};
+    for (quint32 child = m_index + 1; child != node().next; child = m_tree->nodes[child].next) {
+        const JsonValue value(*m_tree, child);
+        if (value.name() == name)
+            return value;
+    }
+    return {};
+}
+
+QString JsonValue::name() const
+{
+    return node().name == JsonTree::noName ? QString()
+                                           : JsonString::decoded(m_tree->bytes.constData() + node().name);
+}
+
+TextPlace JsonValue::namePlace() const
+{
+    return node().name == JsonTree::noName ? place()
+                                           : Utf8::placeOf(m_tree->bytes, static_cast<int>(node().name));
+}
+
+TextPlace JsonValue::place() const
+{
+    return Utf8::placeOf(m_tree->bytes, static_cast<int>(node().value));
+}
+
+QString JsonValue::path() const
+{
+    QStringList sections;
+    quint32 at = 0;
+    while (at != m_index) {
+        // Descends into the child that contains this value.
+        quint32 child = at + 1;
+        int position = 0;
+        for (; m_tree->nodes[child].next <= m_index; child = m_tree->nodes[child].next)
+            ++position;
+        at = child;
+        const JsonValue value(*m_tree, at);
+        sections.append(value.node().name == JsonTree::noName ? QString::number(position) : value.name());
+    }
+    return sections.join(QLatin1Char('/'));
+}
+
+const JsonTree::Node& JsonValue::node() const
+{
+    return m_tree->nodes[m_index];
+}
+
+const char* JsonValue::begin() const
+{
+    return m_tree->bytes.constData() + node().value;
+}
+
+JsonDocument::JsonDocument(JsonTree tree) : m_tree(std::make_shared<const JsonTree>(std::move(tree))) {}
+
+std::optional<JsonDocument> JsonDocument::read(const QByteArray& bytes, DocumentProblem& problem)
+{
+    JsonReader reader(Utf8::withoutByteOrderMark(bytes));
+    if (reader.read())
+        return JsonDocument(reader.takeTree());
+    problem = reader.problem();
+    return {};
+}
+
+JsonValue JsonDocument::root() const
+{
+    return {*m_tree, 0};
+}
+
+QString JsonDocument::text() const
+{
+    return QString::fromUtf8(m_tree->bytes);
+}

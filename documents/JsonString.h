@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+/// Strings within a JSON text that has been checked.
+namespace JsonString {
+
+/// The bytes between the quotes, with escapes as written.
+///
+/// @param quote the opening quote
+QByteArray encoded(const char* quote);
+
+/// The string's value, with escapes replaced.
+QString decoded(const char* quote);
+
+/// The code unit of four hexadecimal digits; -1 if there are fewer than four before the end.
+int codeUnit(const char* digits, const char* end);
+
+} // namespace JsonString
