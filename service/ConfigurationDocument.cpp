@@ -2,8 +2,9 @@
 
 #include <QtCore/QDebug>
 
-ConfigurationDocument::ConfigurationDocument(const QString& name, const QString& path, Rule rule)
-    : m_name(name), m_path(path), m_rule(rule)
+ConfigurationDocument::ConfigurationDocument(const QString& name, const QString& path, Rule rule,
+                                             int maximumSize)
+    : m_name(name), m_path(path), m_rule(rule), m_maximumSize(maximumSize)
 {}
 
 const QString& ConfigurationDocument::name() const
@@ -23,36 +24,36 @@ const std::optional<QString>& ConfigurationDocument::text() const
 
 bool ConfigurationDocument::update()
 {
-    const DocumentFile::Content content = DocumentFile::read(m_path, maximumSize);
+    DocumentProblem problem;
+    const auto bytes = DocumentFile::read(m_path, DocumentFile::Source::RegularFile, m_maximumSize, problem);
+    const Content content(bytes, problem.reason);
     if (m_content == content)
         return false;
     m_content = content;
 
-    const JsonText json = check(content);
-    if (!json.problem.isEmpty()) {
-        logRefusal(json.problem);
+    const auto document = bytes ? check(*bytes, problem) : std::nullopt;
+    if (!document) {
+        logRefusal(problem);
         return false;
     }
-    const bool isNew = m_text != json.text;
-    m_text = json.text;
+    const QString text = document->text();
+    const bool isNew = m_text != text;
+    m_text = text;
     qInfo().noquote() << m_name + ':' << (isNew ? "loaded" : "unchanged in") << m_path;
     return isNew;
 }
 
-JsonText ConfigurationDocument::check(const DocumentFile::Content& content) const
+std::optional<JsonDocument> ConfigurationDocument::check(const QByteArray& bytes,
+                                                         DocumentProblem& problem) const
 {
-    if (!content.problem.isEmpty())
-        return {{}, {}, content.problem};
-    if (content.bytes.size() > maximumSize)
-        return {{}, {}, QStringLiteral("it is larger than %1 bytes").arg(maximumSize)};
-    JsonText json = JsonText::fromBytes(content.bytes);
-    if (json.problem.isEmpty())
-        json.problem = m_rule(json);
-    return json;
+    auto document = JsonDocument::read(bytes, problem);
+    if (document && !m_rule(*document, problem))
+        document.reset();
+    return document;
 }
 
-void ConfigurationDocument::logRefusal(const QString& problem) const
+void ConfigurationDocument::logRefusal(const DocumentProblem& problem) const
 {
-    qWarning().noquote() << m_name + ": cannot use" << m_path + ':' << problem + ';'
+    qWarning().noquote() << m_name + ": cannot use" << m_path + ':' << problem.withPlace() + ';'
                          << (m_text ? "keeping the last valid document" : "no document to serve");
 }

@@ -1,28 +1,29 @@
 #pragma once
 
+#include <QtCore/QByteArray>
 #include <QtCore/QString>
 
 #include <optional>
+#include <utility>
 
 #include "DocumentFile.h"
-#include "JsonText.h"
+#include "JsonDocument.h"
 
 /// A document and its last valid text. If the file is missing, incomplete or invalid, the last valid text
 /// stays active. Each loaded or refused content of the file is logged once.
 class ConfigurationDocument
 {
 public:
-    /// @return what is wrong with a document; empty when it is valid.
-    using Rule = QString (*)(const JsonText& json);
-
-    /// The largest file that is read, in bytes: 16 MiB.
-    static constexpr qint64 maximumSize = 16LL * 1024 * 1024;
+    /// @return whether a document is valid; if not, @p problem says why.
+    using Rule = bool (*)(const JsonDocument& document, DocumentProblem& problem);
 
     /// Does not read the file yet.
     ///
     /// @param name name of the document on the bus
-    /// @param path path of its file
-    ConfigurationDocument(const QString& name, const QString& path, Rule rule);
+    /// @param path path of its file, which must be a regular file
+    /// @param maximumSize the largest file that is read, in bytes
+    ConfigurationDocument(const QString& name, const QString& path, Rule rule,
+                          int maximumSize = DocumentFile::defaultLimit);
 
     const QString& name() const;
     const QString& path() const;
@@ -33,12 +34,16 @@ public:
     bool update();
 
 private:
-    JsonText check(const DocumentFile::Content& content) const;
-    void logRefusal(const QString& problem) const;
+    /// The bytes of the file, or the reason why it could not be read.
+    using Content = std::pair<std::optional<QByteArray>, QString>;
+
+    std::optional<JsonDocument> check(const QByteArray& bytes, DocumentProblem& problem) const;
+    void logRefusal(const DocumentProblem& problem) const;
 
     QString m_name;
     QString m_path;
     Rule m_rule;
-    std::optional<DocumentFile::Content> m_content;
+    int m_maximumSize;
+    std::optional<Content> m_content;
     std::optional<QString> m_text;
 };

@@ -31,13 +31,12 @@ QList<Place> places()
     using Method = ConfigurationObject::Method;
     return {{DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration(),
              QStringLiteral("UnitManager/UnitType"), QStringLiteral("units.json"), Method::GetConfiguration,
-             DocumentRules::unitsProblem},
+             DocumentRules::isUnits},
             {QStringLiteral("DefaultUnitConfiguration"), QStringLiteral("UnitManager/DefaultUnit"),
-             QStringLiteral("default-units.json"), Method::GetConfiguration,
-             DocumentRules::defaultUnitsProblem},
+             QStringLiteral("default-units.json"), Method::GetConfiguration, DocumentRules::isDefaultUnits},
             {QStringLiteral("DependencyConfiguration"), QStringLiteral("UnitManager/Dependency"),
              QStringLiteral("dependencies.json"), Method::GetConfigurationDependency,
-             DocumentRules::dependenciesProblem}};
+             DocumentRules::isDependencies}};
 }
 
 } // namespace

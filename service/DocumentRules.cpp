@@ -1,7 +1,5 @@
 #include "DocumentRules.h"
 
-#include <QtCore/QJsonArray>
-
 #include <algorithm>
 
 #include "ConfigurationAndProcessDataDefinitions.h"
@@ -11,58 +9,70 @@ namespace {
 
 using Definitions = ConfigurationAndProcessDataDefinitions;
 
-/// Properties of the root are not entries.
-bool isProperty(const QString& key)
+/// Properties of the root and notes for editors, such as "$schema", are not entries.
+bool isEntry(const JsonValue& member)
 {
-    return key.startsWith(QLatin1Char('@'));
+    const QString name = member.name();
+    return !name.startsWith(QLatin1Char('@')) && !name.startsWith(QLatin1Char('$'));
 }
 
-bool isSelection(const QJsonValue& entry)
+QString textOf(const JsonValue& node, const QString& property)
 {
-    return entry[Definitions::getKeyDataPropertyType()].toString() ==
-               Definitions::getKeyDataTypeSelection() &&
-           !entry[Definitions::getKeyDataPropertyValue()].toString().isEmpty();
+    const std::optional<JsonValue> value = node.member(property);
+    return value ? value->string() : QString();
 }
 
-bool isListOfTexts(const QJsonValue& entry)
+bool isSelection(const JsonValue& entry)
 {
-    const QJsonArray array = entry.toArray();
-    return entry.isArray() &&
-           std::all_of(array.begin(), array.end(), [](const QJsonValue& text) { return text.isString(); });
+    return textOf(entry, Definitions::getKeyDataPropertyType()) == Definitions::getKeyDataTypeSelection() &&
+           !textOf(entry, Definitions::getKeyDataPropertyValue()).isEmpty();
 }
 
-/// @return the first invalid entry in the order of the keys; empty when all are valid.
-QString wrongEntry(const QJsonObject& root, bool (*isRight)(const QJsonValue&))
+bool isListOfTexts(const JsonValue& entry)
 {
-    for (auto entry = root.begin(); entry != root.end(); ++entry) {
-        if (!isProperty(entry.key()) && !isRight(entry.value()))
-            return QStringLiteral("its entry \"%1\"").arg(entry.key());
+    const std::vector<JsonValue> elements = entry.children();
+    return entry.type() == JsonType::Array &&
+           std::all_of(elements.begin(), elements.end(),
+                       [](const JsonValue& text) { return text.type() == JsonType::String; });
+}
+
+/// Checks all entries. @param kind what an entry must be
+bool areEntries(const JsonDocument& document, bool (*isRight)(const JsonValue&), const char* kind,
+                DocumentProblem& problem)
+{
+    for (const JsonValue& member : document.root().children()) {
+        if (!isEntry(member) || isRight(member))
+            continue;
+        problem = {"entry " + DocumentProblem::quoted(member.name()) + " is not " + kind, member.place()};
+        return false;
     }
-    return {};
+    return true;
 }
 
 } // namespace
 
-QString DocumentRules::unitsProblem(const JsonText& json)
+bool DocumentRules::isUnits(const JsonDocument& document, DocumentProblem& problem)
 {
     UnitManager units;
-    if (units.updateUnitConversionByJsonString(json.text))
-        return {};
-    return units.getListofUnitTypes().isEmpty() ? QStringLiteral("it contains no unit type")
-                                                : QStringLiteral("it contains no unit label");
+    if (units.updateUnitConversionByJsonString(document.text()))
+        return true;
+    problem = {units.getListofUnitTypes().isEmpty() ? QStringLiteral("contains no unit type")
+                                                    : QStringLiteral("contains no unit label"),
+               {}};
+    return false;
 }
 
-QString DocumentRules::defaultUnitsProblem(const JsonText& json)
+bool DocumentRules::isDefaultUnits(const JsonDocument& document, DocumentProblem& problem)
 {
-    const QStringList keys = json.root.keys();
-    if (std::all_of(keys.begin(), keys.end(), isProperty))
-        return QStringLiteral("it contains no default unit");
-    const QString wrong = wrongEntry(json.root, isSelection);
-    return wrong.isEmpty() ? QString() : wrong + QStringLiteral(" is not a selection of a unit");
+    const std::vector<JsonValue> members = document.root().children();
+    if (std::none_of(members.begin(), members.end(), isEntry)) {
+        problem = {QStringLiteral("contains no default unit"), {}};
+        return false;
+    }
+    return areEntries(document, isSelection, "a selection of a unit", problem);
 }
 
-QString DocumentRules::dependenciesProblem(const JsonText& json)
+bool DocumentRules::isDependencies(const JsonDocument& document, DocumentProblem& problem)
 {
-    const QString wrong = wrongEntry(json.root, isListOfTexts);
-    return wrong.isEmpty() ? QString() : wrong + QStringLiteral(" is not a list of texts");
+    return areEntries(document, isListOfTexts, "a list of texts", problem);
 }

@@ -12,9 +12,12 @@
 namespace {
 
 /// A rule for this test.
-QString forbidsBad(const JsonText& json)
+bool forbidsBad(const JsonDocument& document, DocumentProblem& problem)
 {
-    return json.root.contains("bad") ? "it is bad" : "";
+    const std::optional<JsonValue> bad = document.root().member("bad");
+    if (bad)
+        problem = {"it is bad", bad->place()};
+    return !bad;
 }
 
 } // namespace
@@ -85,10 +88,13 @@ void ConfigurationDocumentTest::lastGoodTextStaysActive_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("reason");
 
-    row("no JSON", QByteArray("{"), "line 1, column 1: unterminated object");
-    row("violating the rule", QByteArray("{\"bad\": 1}"), "it is bad");
-    row("too large", QByteArray("{}").leftJustified(static_cast<int>(ConfigurationDocument::maximumSize) + 1),
-        "it is larger than 16777216 bytes");
+    row("no JSON", QByteArray("{"),
+        "line 1, column 2: unexpected end; the \"{\" at line 1, column 1 is not closed");
+    row("violating the rule", QByteArray("{\"bad\": 1}"), "line 1, column 9: it is bad");
+    row("duplicate name", QByteArray("{\"a\": 1, \"a\": 2}"),
+        "line 1, column 10: duplicate name \"a\"; first at line 1, column 2");
+    row("too large", QByteArray("{}").leftJustified(DocumentFile::defaultLimit + 1),
+        "is larger than the limit of 1048576 bytes; see --max-size");
 }
 
 void ConfigurationDocumentTest::lastGoodTextStaysActive()
@@ -114,7 +120,7 @@ void ConfigurationDocumentTest::withoutGoodTextThereIsNoText()
     QVERIFY(!m_document->update());
     QVERIFY(!m_document->text());
     QCOMPARE(m_log->takeTexts(),
-             QStringList{"Name: cannot use " + m_path + ": No such file or directory; no document to serve"});
+             QStringList{"Name: cannot use " + m_path + ": no such file; no document to serve"});
 }
 
 void ConfigurationDocumentTest::emptyFileIsRefusedAtOnce()
@@ -122,7 +128,7 @@ void ConfigurationDocumentTest::emptyFileIsRefusedAtOnce()
     QVERIFY(TestFiles::write(m_path, ""));
     QVERIFY(!m_document->update());
     QCOMPARE(m_log->takeTexts(),
-             QStringList{"Name: cannot use " + m_path + ": it is empty; no document to serve"});
+             QStringList{"Name: cannot use " + m_path + ": is empty; no document to serve"});
 }
 
 void ConfigurationDocumentTest::refusalIsLoggedOnce()

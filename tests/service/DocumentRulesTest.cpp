@@ -32,12 +32,21 @@ void addDocuments(const QList<QPair<const char*, QPair<QByteArray, QString>>>& r
         QTest::newRow(row.first) << row.second.first << row.second.second;
 }
 
-JsonText parsed(const QByteArray& bytes)
+JsonDocument parsed(const QByteArray& bytes)
 {
-    JsonText json = JsonText::fromBytes(bytes);
-    if (!json.problem.isEmpty())
-        qFatal("%s", qPrintable(json.problem));
-    return json;
+    DocumentProblem problem;
+    const std::optional<JsonDocument> document = JsonDocument::read(bytes, problem);
+    if (!document)
+        qFatal("%s", qPrintable(problem.withPlace()));
+    return *document;
+}
+
+/// What a rule finds wrong with a document; empty if it is valid.
+QString problemOf(const QByteArray& bytes, bool (*rule)(const JsonDocument&, DocumentProblem&))
+{
+    DocumentProblem problem;
+    const bool isValid = rule(parsed(bytes), problem);
+    return isValid ? QString() : problem.withPlace();
 }
 
 } // namespace
@@ -46,12 +55,12 @@ void DocumentRulesTest::units_data()
 {
     addDocuments({
         {"good", {ServiceDocuments::units("bar"), ""}},
-        {"no unit type", {"{}", "it contains no unit type"}},
-        {"properties only", {R"({"@displayPosition": 0})", "it contains no unit type"}},
-        {"unit type without units", {R"({"Pressure": {}})", "it contains no unit label"}},
+        {"no unit type", {"{}", "contains no unit type"}},
+        {"properties only", {R"({"@displayPosition": 0})", "contains no unit type"}},
+        {"unit type without units", {R"({"Pressure": {}})", "contains no unit label"}},
         {"unit without label",
          {R"({"Pressure": {"Bar": {"@displayPosition": 0, "Polynomial": [[0], [1]]}}})",
-          "it contains no unit label"}},
+          "contains no unit label"}},
     });
 }
 
@@ -60,7 +69,7 @@ void DocumentRulesTest::units()
     QFETCH(QByteArray, bytes);
     QFETCH(QString, problem);
 
-    QCOMPARE(DocumentRules::unitsProblem(parsed(bytes)), problem);
+    QCOMPARE(problemOf(bytes, DocumentRules::isUnits), problem);
     QCOMPARE(UnitManager().initByJsonString(bytes, QString()), problem.isEmpty());
 }
 
@@ -72,25 +81,29 @@ void DocumentRulesTest::defaultUnits_data()
          {R"({"Pressure": {"@type": "Selection", "@value": "UnitManager/UnitType/Pressure/Bar"}})", ""}},
         {"further properties",
          {R"({"Pressure": {"@type": "Selection", "@value": "Bar", "@readOnly": true}})", ""}},
-        {"no entry", {"{}", "it contains no default unit"}},
+        {"no entry", {"{}", "contains no default unit"}},
+        {"notes for editors only",
+         {R"({"$schema": "x", "@displayPosition": 0})", "contains no default unit"}},
         {"unit without selection",
-         {R"({"Pressure": "Bar"})", "its entry \"Pressure\" is not a selection of a unit"}},
+         {R"({"Pressure": "Bar"})", "line 1, column 14: entry \"Pressure\" is not a selection of a unit"}},
         {"type missing",
-         {R"({"Pressure": {"@value": "Bar"}})", "its entry \"Pressure\" is not a selection of a unit"}},
+         {R"({"Pressure": {"@value": "Bar"}})",
+          "line 1, column 14: entry \"Pressure\" is not a selection of a unit"}},
         {"type of another kind",
          {R"({"Pressure": {"@type": "Text", "@value": "Bar"}})",
-          "its entry \"Pressure\" is not a selection of a unit"}},
+          "line 1, column 14: entry \"Pressure\" is not a selection of a unit"}},
         {"unit missing",
-         {R"({"Pressure": {"@type": "Selection"}})", "its entry \"Pressure\" is not a selection of a unit"}},
+         {R"({"Pressure": {"@type": "Selection"}})",
+          "line 1, column 14: entry \"Pressure\" is not a selection of a unit"}},
         {"unit empty",
          {R"({"Pressure": {"@type": "Selection", "@value": ""}})",
-          "its entry \"Pressure\" is not a selection of a unit"}},
+          "line 1, column 14: entry \"Pressure\" is not a selection of a unit"}},
         {"unit is a number",
          {R"({"Pressure": {"@type": "Selection", "@value": 1}})",
-          "its entry \"Pressure\" is not a selection of a unit"}},
+          "line 1, column 14: entry \"Pressure\" is not a selection of a unit"}},
         {"one bad among good ones",
          {R"({"A": {"@type": "Selection", "@value": "x"}, "B": null, "C": {"@type": "Selection", "@value": "x"}})",
-          "its entry \"B\" is not a selection of a unit"}},
+          "line 1, column 51: entry \"B\" is not a selection of a unit"}},
     });
 }
 
@@ -99,7 +112,7 @@ void DocumentRulesTest::defaultUnits()
     QFETCH(QByteArray, bytes);
     QFETCH(QString, problem);
 
-    QCOMPARE(DocumentRules::defaultUnitsProblem(parsed(bytes)), problem);
+    QCOMPARE(problemOf(bytes, DocumentRules::isDefaultUnits), problem);
     if (problem.isEmpty())
         QVERIFY(UnitManager().updateDefaultUnitsByJsonString(bytes));
 }
@@ -110,12 +123,18 @@ void DocumentRulesTest::dependencies_data()
         {"good", {ServiceDocuments::dependencies("Pressure"), ""}},
         {"no entry", {"{}", ""}},
         {"entry without dependents", {R"({"PressureUnit": []})", ""}},
+        {"name with a line break",
+         {R"({"A\nB": 1})", "line 1, column 10: entry \"A?B\" is not a list of texts"}},
         {"circle", {R"({"A": ["B"], "B": ["A"]})", ""}},
         {"one text",
-         {R"({"PressureUnit": "Pressure"})", "its entry \"PressureUnit\" is not a list of texts"}},
-        {"object", {R"({"PressureUnit": {}})", "its entry \"PressureUnit\" is not a list of texts"}},
-        {"null", {R"({"PressureUnit": null})", "its entry \"PressureUnit\" is not a list of texts"}},
-        {"number among texts", {R"({"A": ["B"], "C": ["D", 1]})", "its entry \"C\" is not a list of texts"}},
+         {R"({"PressureUnit": "Pressure"})",
+          "line 1, column 18: entry \"PressureUnit\" is not a list of texts"}},
+        {"object",
+         {R"({"PressureUnit": {}})", "line 1, column 18: entry \"PressureUnit\" is not a list of texts"}},
+        {"null",
+         {R"({"PressureUnit": null})", "line 1, column 18: entry \"PressureUnit\" is not a list of texts"}},
+        {"number among texts",
+         {R"({"A": ["B"], "C": ["D", 1]})", "line 1, column 19: entry \"C\" is not a list of texts"}},
     });
 }
 
@@ -124,7 +143,7 @@ void DocumentRulesTest::dependencies()
     QFETCH(QByteArray, bytes);
     QFETCH(QString, problem);
 
-    QCOMPARE(DocumentRules::dependenciesProblem(parsed(bytes)), problem);
+    QCOMPARE(problemOf(bytes, DocumentRules::isDependencies), problem);
     const LogCapture log;
     QCOMPARE(DependencyWalker().initDependencyGraphByJsonString(bytes), problem.isEmpty());
 }

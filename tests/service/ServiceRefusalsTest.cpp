@@ -2,7 +2,7 @@
 #include <QtCore/QFile>
 #include <QtTest/QTest>
 
-#include "ConfigurationDocument.h"
+#include "DocumentFile.h"
 #include "Row.h"
 #include "ServedDirectory.h"
 #include "ServiceDocuments.h"
@@ -37,15 +37,16 @@ void ServiceRefusalsTest::badTextIsRefused_data()
     QTest::addColumn<QString>("reason");
 
     row("half written", QByteArray("{\n  \"Pressure\": {\n    \"Bar\": {"),
-        "line 3, column 12: unterminated object");
+        "line 3, column 13: unexpected end; the \"{\" at line 3, column 12 is not closed");
     row("superfluous comma", QByteArray("{\n  \"Pressure\": {},\n}"),
-        "line 3, column 1: object is missing after a comma");
-    row("invalid UTF-8", QByteArray("{\n  \"Pressure\": \"\xFF\"}"), "line 2, column 16: it is not UTF-8");
-    row("too large", QByteArray(static_cast<int>(ConfigurationDocument::maximumSize) + 1, ' '),
-        "it is larger than 16777216 bytes");
-    row("empty", QByteArray(), "it is empty");
-    row("list", QByteArray("[]"), "its root is not an object");
-    row("no unit type", QByteArray("{}"), "it contains no unit type");
+        "line 2, column 17: remove the comma before \"}\"");
+    row("invalid UTF-8", QByteArray("{\n  \"Pressure\": \"\xFF\"}"),
+        "line 2, column 16: not UTF-8; save the document in that encoding");
+    row("too large", QByteArray(DocumentFile::defaultLimit + 1, ' '),
+        "is larger than the limit of 1048576 bytes; see --max-size");
+    row("empty", QByteArray(), "is empty");
+    row("list", QByteArray("[]"), "line 1, column 1: expected \"{\" at the start of the document");
+    row("no unit type", QByteArray("{}"), "contains no unit type");
 }
 
 void ServiceRefusalsTest::badTextIsRefused()
@@ -75,8 +76,7 @@ void ServiceRefusalsTest::largestDocumentIsServed()
     ServedDirectory served;
     QVERIFY(served.start());
 
-    const QByteArray text =
-        ServiceDocuments::units("next").leftJustified(static_cast<int>(ConfigurationDocument::maximumSize));
+    const QByteArray text = ServiceDocuments::units("next").leftJustified(DocumentFile::defaultLimit);
     QVERIFY(TestFiles::replace(served.path("units.json"), text));
     QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
     QCOMPARE(served.client().text(ServiceObject::units), QString(text));
@@ -91,7 +91,7 @@ void ServiceRefusalsTest::removedDocumentStaysActive()
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QCOMPARE(served.client().text(ServiceObject::units), QString(ServiceDocuments::units("first")));
-    const QString message = "units.json: No such file or directory; keeping the last valid document\n";
+    const QString message = "units.json: no such file; keeping the last valid document\n";
     QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count(message), 1, waitLimit);
 
     QVERIFY(TestFiles::write(served.path("units.json"), ServiceDocuments::units("first")));
@@ -106,7 +106,8 @@ void ServiceRefusalsTest::eachRefusalIsLoggedOnce()
     ServedDirectory served;
     QVERIFY(served.start());
 
-    const QString message = "line 1, column 2: unterminated object; keeping the last valid document\n";
+    const QString message =
+        "line 1, column 2: expected a name in double quotes; keeping the last valid document\n";
     QVERIFY(TestFiles::replace(served.path("units.json"), "{a"));
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QCOMPARE(served.settledAnnouncements(), QStringList());
