@@ -8,7 +8,8 @@
 /// Creates a tree of nodes from the JSON text of a configuration document.
 ///
 /// The document is one object, the root node. Every node is an object: members whose names begin with "@" are
-/// its properties, the others are its children. A member that is a number, a string, a boolean or an array is
+/// its properties, the others are its children. Members of the root whose names begin with "$" are notes for
+/// editors and are ignored. A member that is a number, a string, a boolean or an array is
 /// a leaf node with that value; a `null` member is a child entry with a null node. Numbers are stored as
 /// `double`, arrays as `QVariantList`, objects below a property as `QVariantMap`. A property that is `null`
 /// is ignored, except that the value `null` in a node of the number type is the no-input marker. If two

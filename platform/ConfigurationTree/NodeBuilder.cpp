@@ -139,10 +139,10 @@ bool NodeBuilder::add(const QVariant& value)
         level.list.append(value);
     else if (level.kind == Kind::Map)
         level.map.insert(level.key, value);
-    else if (!isProperty(level.key))
-        level.node->insertChild(level.key, leaf(value));
-    else
+    else if (isProperty(level.key))
         level.node->storeProperty(level.key, value);
+    else if (!isNote())
+        level.node->insertChild(level.key, leaf(value));
     if (level.kind == Kind::Node && level.key == Definitions::getKeyDataPropertyValue())
         level.isValueNull = !value.isValid();
     return true;
@@ -150,7 +150,13 @@ bool NodeBuilder::add(const QVariant& value)
 
 bool NodeBuilder::isChildExpected() const
 {
-    return m_levels.empty() || (m_levels.back().kind == Kind::Node && !isProperty(m_levels.back().key));
+    return m_levels.empty() ||
+           (m_levels.back().kind == Kind::Node && !isProperty(m_levels.back().key) && !isNote());
+}
+
+bool NodeBuilder::isNote() const
+{
+    return m_levels.size() == 1 && m_levels.back().key.startsWith(QLatin1Char('$'));
 }
 
 QString NodeBuilder::shared(const std::string& utf8)

@@ -62,6 +62,8 @@ private:
     bool open(Kind kind);
     bool add(const QVariant& value);
     bool isChildExpected() const;
+    /// Whether the current value is a note for editors: a member of the root such as "$schema".
+    bool isNote() const;
     QString shared(const std::string& utf8);
 
     std::vector<Level> m_levels;

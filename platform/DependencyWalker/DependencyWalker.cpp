@@ -1,10 +1,6 @@
 #include "DependencyWalker.h"
 
 #include <QtCore/QDebug>
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtCore/QJsonParseError>
 #include <QtCore/QMessageLogger>
 #include <QtCore/QSet>
 #include <QtCore/QStack>
@@ -12,41 +8,45 @@
 #include <algorithm>
 
 #include "ConfigurationAndProcessDataDefinitions.h"
+#include "JsonDocument.h"
 
 namespace {
 
 using Dependents = QHash<QString, QStringList>;
 
-// Reads the keys of one array; an error is stored in `reason`.
-QStringList readKeys(const QJsonValue& value, QString& reason)
+// Members for editors, such as "$schema".
+bool isNote(const JsonValue& member)
 {
-    if (!value.isArray())
-        reason = QStringLiteral("a key's value is not an array");
+    return member.name().startsWith(QLatin1Char('$'));
+}
 
+// Reads the keys of one array; an error is stored in `problem`.
+QStringList readKeys(const JsonValue& value, DocumentProblem& problem)
+{
     QStringList keys;
-    const QJsonArray array = value.toArray();
-    for (const QJsonValue& key : array) {
-        if (!key.isString())
-            reason = QStringLiteral("a dependent key is not a string");
-        keys.append(key.toString());
+    if (value.type() != JsonType::Array) {
+        problem = {QStringLiteral("a key's value is not an array"), value.place()};
+        return keys;
+    }
+    for (const JsonValue& key : value.children()) {
+        if (key.type() != JsonType::String)
+            problem = {QStringLiteral("a dependent key is not a string"), key.place()};
+        keys.append(key.string());
     }
     return keys;
 }
 
-// Reads the whole document; an error is stored in `reason`.
-Dependents readDocument(const QString& json, QString& reason)
+// Reads the whole document; an error is stored in `problem`.
+Dependents readDocument(const QString& json, DocumentProblem& problem)
 {
-    QJsonParseError error = {};
-    const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8(), &error);
-    if (error.error != QJsonParseError::NoError)
-        reason = error.errorString();
-    else if (!document.isObject())
-        reason = QStringLiteral("the document is not an object");
-
     Dependents dependents;
-    const QJsonObject object = document.object();
-    for (auto entry = object.begin(); entry != object.end(); ++entry)
-        dependents.insert(entry.key(), readKeys(entry.value(), reason));
+    const std::optional<JsonDocument> document = JsonDocument::read(json.toUtf8(), problem);
+    if (!document)
+        return dependents;
+    for (const JsonValue& member : document->root().children()) {
+        if (!isNote(member))
+            dependents.insert(member.name(), readKeys(member, problem));
+    }
     return dependents;
 }
 
@@ -75,14 +75,14 @@ DependencyWalker::DependencyWalker() = default;
 
 bool DependencyWalker::initDependencyGraphByJsonString(const QString& json)
 {
-    QString reason;
-    m_dependents = readDocument(json, reason);
-    if (reason.isEmpty())
+    DocumentProblem problem;
+    m_dependents = readDocument(json, problem);
+    if (problem.reason.isEmpty())
         return true;
 
     m_dependents.clear();
     QMessageLogger("DependencyWalker", __LINE__, Q_FUNC_INFO).warning()
-        << "Dependency configuration invalid:" << reason;
+        << "Dependency configuration invalid:" << problem.withPlace();
     return false;
 }
 

@@ -15,6 +15,8 @@
 ///
 ///     { "PressureUnit": ["Pressure", "PressureRange"] }
 ///
+/// Members whose names begin with "$" are notes for editors and are ignored.
+///
 /// A plain value; takes no locks.
 class DEPENDENCYWALKER_EXPORT DependencyWalker
 {
@@ -23,8 +25,8 @@ public:
     DependencyWalker();
 
     /// Loads the document and replaces the one loaded before.
-    /// @return false when the text is not JSON of that form; the walker then has no dependencies, and one
-    /// warning gives the reason.
+    /// @return false when the text is not JSON of that form or names a key twice; the walker then has no
+    /// dependencies, and one warning gives the reason.
     bool initDependencyGraphByJsonString(const QString& json);
 
     /// Visits every key that depends on `key`, directly or indirectly, exactly once: depth first, in the

@@ -100,8 +100,9 @@ void dependenciesThatDoNotParse(Stage& stage)
     stage.expectDependents("none");
     stage.expectStart(restart(stage.mode), inHectoPascal(1000));
     stage.expectDependents("Pressure");
-    stage.finish(readAll + readAll,
-                 {"warning Dependency configuration invalid: \"the document is not an object\""});
+    stage.finish(
+        readAll + readAll,
+        {R"(warning Dependency configuration invalid: "line 1, column 1: expected \"{\" at the start of the document")"});
 }
 
 /// Three replies are held; each of three checks receives one.

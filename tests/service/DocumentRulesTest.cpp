@@ -123,6 +123,7 @@ void DocumentRulesTest::dependencies_data()
         {"good", {ServiceDocuments::dependencies("Pressure"), ""}},
         {"no entry", {"{}", ""}},
         {"entry without dependents", {R"({"PressureUnit": []})", ""}},
+        {"note for editors", {R"({"$schema": "x", "A": []})", ""}},
         {"name with a line break",
          {R"({"A\nB": 1})", "line 1, column 10: entry \"A?B\" is not a list of texts"}},
         {"circle", {R"({"A": ["B"], "B": ["A"]})", ""}},

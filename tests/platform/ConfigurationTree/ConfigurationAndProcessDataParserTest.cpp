@@ -73,6 +73,13 @@ void ConfigurationAndProcessDataParserTest::documentBecomesATree_data()
         R"({@type="TreeNode", @unitType="P", @displayPosition=0, @measurementRangeAttributes=<0:<>>, @note=[1]})");
     row("children of empty and odd names", R"({"": 1, " @value": 2})",
         R"({@type="TreeNode", ={@type="Number", @value=1},  @value={@type="Number", @value=2}})");
+    row("notes for editors",
+        R"({"$schema": "x", "a": 1, "$n": null, "$list": [[1], {"k": 2}], "$o": {"k": {"@value": 3}}})",
+        R"({@type="TreeNode", a={@type="Number", @value=1}})");
+    row("dollar sign alone is a note", R"({"$": {"@type": "Number", "@value": null}})",
+        R"({@type="TreeNode"})");
+    row("dollar sign below the root", R"({"a": {"$schema": 1}, "@note": {"$c": 2}})",
+        R"({@type="TreeNode", @note=<$c:2>, a={@type="TreeNode", $schema={@type="Number", @value=1}}})");
     row("at sign alone is a property", R"({"@": 1})", R"({@type="TreeNode"})");
     row("child twice: the later counts", R"({"a": {"b": 1}, "a": 2})",
         R"({@type="TreeNode", a={@type="Number", @value=2}})");

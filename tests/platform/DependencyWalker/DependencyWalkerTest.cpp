@@ -25,6 +25,7 @@ private Q_SLOTS:
     void anInvalidDocumentLeavesNothing_data();
     void anInvalidDocumentLeavesNothing();
     void anEmptyDocumentIsValid();
+    void notesForEditorsAreIgnored();
     void aDocumentReplacesTheOneBefore();
     void theManipulatorGetsEachNodeWithItsUnitType();
     void whatTheManipulatorDidDecidesTheResult_data();
@@ -143,19 +144,23 @@ void DependencyWalkerTest::anInvalidDocumentLeavesNothing_data()
 {
     QTest::addColumn<QString>("json");
     QTest::addColumn<QString>("reason");
-    const QString noObject = QStringLiteral("the document is not an object");
-    const QString noArray = QStringLiteral("a key's value is not an array");
-    const QString noString = QStringLiteral("a dependent key is not a string");
-    row("no text", "", "illegal value");
-    row("no JSON", "a: b", "illegal value");
-    row("cut off", R"({"a": ["b"])", "unterminated object");
-    row("an array", R"(["a", "b"])", noObject);
-    row("a text instead of a list", R"({"a": "b"})", noArray);
-    row("an object instead of a list", R"({"a": {"b": []}})", noArray);
-    row("null instead of a list", R"({"a": null})", noArray);
-    row("a number instead of a key", R"({"a": ["b", 1]})", noString);
-    row("null instead of a key", R"({"a": [null]})", noString);
-    row("one good key and one bad", R"({"a": ["b"], "b": 1})", noArray);
+    // Quotes within the reason are escaped in the log.
+    row("no text", "", "is empty");
+    row("no JSON", "a: b", R"(line 1, column 1: expected \"{\" at the start of the document)");
+    row("cut off", R"({"a": ["b"])",
+        R"(line 1, column 12: unexpected end; the \"{\" at line 1, column 1 is not closed)");
+    row("an array", R"(["a", "b"])", R"(line 1, column 1: expected \"{\" at the start of the document)");
+    row("a key twice", R"({"a": ["b"], "a": ["c"]})",
+        R"(line 1, column 14: duplicate name \"a\"; first at line 1, column 2)");
+    row("a text instead of a list", R"({"a": "b"})", "line 1, column 7: a key's value is not an array");
+    row("an object instead of a list", R"({"a": {"b": []}})",
+        "line 1, column 7: a key's value is not an array");
+    row("null instead of a list", R"({"a": null})", "line 1, column 7: a key's value is not an array");
+    row("a number instead of a key", R"({"a": ["b", 1]})",
+        "line 1, column 13: a dependent key is not a string");
+    row("null instead of a key", R"({"a": [null]})", "line 1, column 8: a dependent key is not a string");
+    row("one good key and one bad", R"({"a": ["b"], "b": 1})",
+        "line 1, column 19: a key's value is not an array");
 }
 
 void DependencyWalkerTest::anInvalidDocumentLeavesNothing()
@@ -182,6 +187,16 @@ void DependencyWalkerTest::anEmptyDocumentIsValid()
     LogCapture log;
     QVERIFY(walker.initDependencyGraphByJsonString("{}"));
     QCOMPARE(log.takeTexts(), QStringList());
+}
+
+void DependencyWalkerTest::notesForEditorsAreIgnored()
+{
+    DependencyWalker walker;
+    LogCapture log;
+    QVERIFY(walker.initDependencyGraphByJsonString(R"({"$schema": "x", "a": ["b"], "$list": ["c"]})"));
+    QCOMPARE(log.takeTexts(), QStringList());
+    QCOMPARE(walk(walker, "a"), QStringList{"b"});
+    QCOMPARE(walk(walker, "$list"), QStringList());
 }
 
 void DependencyWalkerTest::aDocumentReplacesTheOneBefore()
