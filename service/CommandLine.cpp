@@ -3,16 +3,18 @@
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 
+#include "DocumentFile.h"
+
 namespace {
 
 CommandLine printing(const QString& text)
 {
-    return {CommandLine::Request::Print, text, {}, {}};
+    return {CommandLine::Request::Print, text, {}, {}, {}};
 }
 
 CommandLine rejecting(const QString& reason)
 {
-    return {CommandLine::Request::Reject, reason + QStringLiteral("\nTry --help.\n"), {}, {}};
+    return {CommandLine::Request::Reject, reason + QStringLiteral("\nTry --help.\n"), {}, {}, {}};
 }
 
 } // namespace
@@ -29,11 +31,15 @@ CommandLine CommandLine::read(const QStringList& arguments)
         QStringLiteral("bus"),
         QStringLiteral("Bus to serve on: session (the default), system, or an address."),
         QStringLiteral("session|system|ADDRESS"), QStringLiteral("session"));
+    const QCommandLineOption maximumSize(
+        QStringLiteral("max-size"),
+        QStringLiteral("Largest document that is read; %1 when not given.").arg(DocumentFile::defaultLimit),
+        QStringLiteral("BYTES"), QString::number(DocumentFile::defaultLimit));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
                                   QStringLiteral("Prints this."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
                                      QStringLiteral("Prints the version."));
-    parser.addOptions({directory, bus, help, version});
+    parser.addOptions({directory, bus, maximumSize, help, version});
 
     if (!parser.parse(arguments))
         return rejecting(parser.errorText());
@@ -49,5 +55,9 @@ CommandLine CommandLine::read(const QStringList& arguments)
         return rejecting(QStringLiteral("No directory given."));
     if (parser.value(bus).isEmpty())
         return rejecting(QStringLiteral("No bus given."));
-    return {Request::Serve, {}, parser.value(directory), parser.value(bus)};
+    const std::optional<int> limit = DocumentFile::limitFromText(parser.value(maximumSize));
+    if (!limit)
+        return rejecting(QStringLiteral("The value of --max-size must be a number of bytes from 1 to %1.")
+                             .arg(DocumentFile::highestLimit));
+    return {Request::Serve, {}, parser.value(directory), parser.value(bus), *limit};
 }

@@ -26,4 +26,6 @@ struct CommandLine
     QString directory;
     /// "session", "system", or the address of a bus.
     QString bus;
+    /// The largest document that is read, in bytes.
+    int maximumSize = 0;
 };

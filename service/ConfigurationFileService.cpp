@@ -1,16 +1,17 @@
 #include "ConfigurationFileService.h"
 
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
 #include <QtDBus/QDBusConnectionInterface>
 #include <QtDBus/QDBusReply>
 
-#include <algorithm>
-#include <iterator>
+#include <chrono>
+#include <malloc.h>
 
 #include "ConfigurationObject.h"
 #include "DeviceManagerDefinitions.h"
+#include "DocumentLoader.h"
 #include "DocumentRules.h"
-#include "DocumentWatcher.h"
 #include "PropertyManagerConst.h"
 #include "configurationfilehandleradaptor.h"
 
@@ -39,60 +40,104 @@ QList<Place> places()
              DocumentRules::isDependencies}};
 }
 
+/// Returns unused memory to the system. Otherwise a process that has read one large document would keep the
+/// memory of that moment for ever, because small blocks in use lie between the free ones.
+void releaseUnusedMemory()
+{
+#ifdef __GLIBC__
+    ::malloc_trim(0);
+#endif
+}
+
 } // namespace
 
-ConfigurationFileService::ConfigurationFileService(const QString& directory, QObject* parent)
-    : QObject(parent)
+ConfigurationFileService::ConfigurationFileService(const QString& directory, int maximumSize,
+                                                   const QDBusConnection& connection, QObject* parent)
+    : QObject(parent), m_connection(connection)
 {
     const QDir absolute(QDir(directory).absolutePath());
-    QStringList files;
     for (const Place& place : places()) {
-        const ConfigurationDocument document(place.name, absolute.filePath(place.file), place.rule);
-        auto* const object = new ConfigurationObject(document, place.method, this);
+        m_documents.append({place.name, absolute.filePath(place.file), place.rule, maximumSize});
+        auto* const object = new ConfigurationObject(place.name, place.method, this);
         object->setObjectName(place.object);
         new ConfigurationFileHandlerAdaptor(object);
         m_objects.append(object);
-        files.append(document.path());
     }
-    // Watch before reading, so that no change is missed in between.
-    m_watcher = std::make_unique<DocumentWatcher>(files, DocumentWatcher::Debounce());
-    connect(m_watcher.get(), &DocumentWatcher::touched, this, &ConfigurationFileService::update);
-    update();
 }
 
-ConfigurationFileService::~ConfigurationFileService() = default;
+ConfigurationFileService::~ConfigurationFileService()
+{
+    m_thread.quit();
+    m_thread.wait();
+}
 
 QString ConfigurationFileService::name()
 {
     return PropertyManagerConst::getDBusPrefix() + '.' + DeviceManagerDefinitions::getModuleName();
 }
 
-QString ConfigurationFileService::start(QDBusConnection connection)
+void ConfigurationFileService::start()
 {
-    connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
-                       QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
-                       SIGNAL(busLost()));
-    for (ConfigurationObject* object : m_objects) {
+    m_connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                         QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
+                         SIGNAL(busLost()));
+    for (ConfigurationObject* object : qAsConst(m_objects)) {
         const QString path = '/' + object->objectName();
-        if (!connection.registerObject(path, object))
-            return QStringLiteral("cannot put the object %1 on the bus").arg(path);
+        if (!m_connection.registerObject(path, object)) {
+            Q_EMIT failed(QStringLiteral("cannot put the object %1 on the bus").arg(path));
+            return;
+        }
     }
-    // Take the name last: whoever sees it finds every object registered.
-    const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply =
-        connection.interface()->registerService(name());
-    if (!reply.isValid())
-        return QStringLiteral("cannot take the name %1: %2").arg(name(), reply.error().message());
-    if (reply.value() != QDBusConnectionInterface::ServiceRegistered)
-        return QStringLiteral("cannot take the name %1: another program has it").arg(name());
-    return {};
+    m_loader = new DocumentLoader(m_documents);
+    m_loader->moveToThread(&m_thread);
+    connect(&m_thread, &QThread::started, m_loader, &DocumentLoader::start);
+    connect(&m_thread, &QThread::finished, m_loader, &QObject::deleteLater);
+    connect(m_loader, &DocumentLoader::textChanged, this, &ConfigurationFileService::setText);
+    connect(m_loader, &DocumentLoader::updated, this, &ConfigurationFileService::finishUpdate);
+    m_thread.start();
 }
 
-void ConfigurationFileService::update()
+void ConfigurationFileService::reload()
 {
-    QList<ConfigurationObject*> changed;
-    std::copy_if(m_objects.cbegin(), m_objects.cend(), std::back_inserter(changed),
-                 [](ConfigurationObject* object) { return object->update(); });
+    QMetaObject::invokeMethod(m_loader, &DocumentLoader::update);
+}
+
+bool ConfigurationFileService::stop()
+{
+    m_thread.quit();
+    return m_thread.wait(QDeadlineTimer(std::chrono::milliseconds(500)));
+}
+
+void ConfigurationFileService::setText(int index, const QString& text)
+{
+    m_objects[index]->setText(text);
+    m_changed.append(m_objects[index]);
+}
+
+void ConfigurationFileService::finishUpdate()
+{
+    // Nobody has seen the documents of the start yet, so they are not announced.
+    if (!m_isStarted) {
+        m_changed.clear();
+        takeName();
+    }
     // Announce last: whoever receives a signal finds all documents up to date.
-    for (ConfigurationObject* object : qAsConst(changed))
+    for (ConfigurationObject* object : qAsConst(m_changed))
         object->announce();
+    m_changed.clear();
+    releaseUnusedMemory();
+}
+
+/// Done last: whoever sees the name finds every object registered and every document read.
+void ConfigurationFileService::takeName()
+{
+    m_isStarted = true;
+    const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply =
+        m_connection.interface()->registerService(name());
+    if (!reply.isValid())
+        Q_EMIT failed(QStringLiteral("cannot take the name %1: %2").arg(name(), reply.error().message()));
+    else if (reply.value() != QDBusConnectionInterface::ServiceRegistered)
+        Q_EMIT failed(QStringLiteral("cannot take the name %1: another program has it").arg(name()));
+    else
+        Q_EMIT started();
 }

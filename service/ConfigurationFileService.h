@@ -3,41 +3,63 @@
 #include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QThread>
 #include <QtDBus/QDBusConnection>
 
-#include <memory>
+#include "ConfigurationDocument.h"
 
 class ConfigurationObject;
-class DocumentWatcher;
+class DocumentLoader;
 
 /// Serves the three documents of a directory on a bus and announces their changes.
 ///
-/// Use from one thread only, whose event loop must run.
+/// A thread of its own reads the files: while a file system stalls, calls are answered with the last valid
+/// documents. Use from one thread only, whose event loop must run.
 class ConfigurationFileService : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Reads the documents and watches them. A document that cannot be read is logged, and loaded once it
-    /// can.
-    explicit ConfigurationFileService(const QString& directory, QObject* parent = nullptr);
+    /// Does not read the documents yet.
+    ///
+    /// @param maximumSize the largest document that is read, in bytes
+    ConfigurationFileService(const QString& directory, int maximumSize, const QDBusConnection& connection,
+                             QObject* parent = nullptr);
+    /// Waits until a file that is being read has been read, see stop().
     ~ConfigurationFileService() override;
 
     /// The name that the service owns on the bus.
     static QString name();
 
-    /// Registers the documents on the bus and requests the service's name. Does not wait if the name has
-    /// another owner.
-    /// @return an error message; empty on success.
-    QString start(QDBusConnection connection);
+    /// Registers the documents on the bus, reads them and watches them, then requests the service's name. A
+    /// document that cannot be read is logged, and loaded once it can. The event loop delivers the result:
+    /// started() or failed().
+    void start();
+    /// Reads the documents again. Call after start().
+    void reload();
+    /// Stops reading. @return false if that does not succeed within half a second: the thread is stuck in the
+    /// file system, so the process must end without destructors.
+    bool stop();
 
 Q_SIGNALS:
-    /// Emitted when the connection given to start() is lost. It is not restored.
+    /// The documents have been read and the service owns its name.
+    void started();
+    /// The service cannot start. @param problem an error message
+    void failed(const QString& problem);
+    /// Emitted when the connection is lost. It is not restored.
     void busLost();
 
 private:
-    void update();
+    void setText(int index, const QString& text);
+    void finishUpdate();
+    void takeName();
 
+    QDBusConnection m_connection;
+    QList<ConfigurationDocument> m_documents;
     QList<ConfigurationObject*> m_objects;
-    std::unique_ptr<DocumentWatcher> m_watcher;
+    QList<ConfigurationObject*> m_changed;
+    bool m_isStarted = false;
+    QThread m_thread;
+    /// Lives in the thread, which deletes it; null before start().
+    DocumentLoader* m_loader = nullptr;
 };

@@ -11,19 +11,18 @@ QString errorName(const char* error)
 
 } // namespace
 
-ConfigurationObject::ConfigurationObject(const ConfigurationDocument& document, Method method,
-                                         QObject* parent)
-    : QObject(parent), m_document(document), m_method(method)
+ConfigurationObject::ConfigurationObject(const QString& name, Method method, QObject* parent)
+    : QObject(parent), m_name(name), m_method(method)
 {}
 
-bool ConfigurationObject::update()
+void ConfigurationObject::setText(const QString& text)
 {
-    return m_document.update();
+    m_text = text;
 }
 
 void ConfigurationObject::announce()
 {
-    Q_EMIT configurationChanged(m_document.name());
+    Q_EMIT configurationChanged(m_name);
 }
 
 QString ConfigurationObject::getConfiguration(const QString& name, const QString& /*module*/,
@@ -39,18 +38,18 @@ QString ConfigurationObject::getConfigurationDependency(const QString& name, con
 
 QString ConfigurationObject::answer(Method method, const QString& name) const
 {
-    if (method != m_method || name != m_document.name()) {
+    if (method != m_method || name != m_name) {
         sendErrorReply(errorName("UnknownConfiguration"),
                        QStringLiteral("This method of this object serves no configuration '%1'.")
                            .arg(name.left(longestQuotation)));
         return {};
     }
-    if (!m_document.text()) {
+    if (!m_text) {
         sendErrorReply(
             errorName("NoConfiguration"),
             QStringLiteral("No valid document for '%1' has been loaded yet; see the service's log.")
                 .arg(name));
         return {};
     }
-    return *m_document.text();
+    return *m_text;
 }

@@ -4,7 +4,7 @@
 #include <QtCore/QString>
 #include <QtDBus/QDBusContext>
 
-#include "ConfigurationDocument.h"
+#include <optional>
 
 /// A bus object that serves one document by one method. Every other name, and the other method, are answered
 /// with the error "...UnknownConfiguration"; the object's own name with "...NoConfiguration" until the
@@ -21,10 +21,11 @@ public:
         GetConfigurationDependency
     };
 
-    ConfigurationObject(const ConfigurationDocument& document, Method method, QObject* parent);
+    /// @param name name of the document
+    ConfigurationObject(const QString& name, Method method, QObject* parent);
 
-    /// Reads the document's file. @return whether the active text has changed.
-    bool update();
+    /// Sets the text that is served from now on.
+    void setText(const QString& text);
     /// Emits configurationChanged().
     void announce();
 
@@ -40,6 +41,8 @@ Q_SIGNALS:
 private:
     QString answer(Method method, const QString& name) const;
 
-    ConfigurationDocument m_document;
+    const QString m_name;
     const Method m_method;
+    /// No value until the document was valid once.
+    std::optional<QString> m_text;
 };

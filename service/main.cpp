@@ -3,11 +3,13 @@
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusError>
 
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 #include "CommandLine.h"
 #include "ConfigurationFileService.h"
-#include "TerminationSignal.h"
+#include "ProcessSignal.h"
 
 namespace {
 
@@ -40,23 +42,38 @@ int fail(const QString& problem)
     return Failed;
 }
 
-int serve(const QString& directory, const QString& bus)
+int serve(const CommandLine& commandLine)
 {
-    const TerminationSignal termination;
-    QObject::connect(&termination, &TerminationSignal::received, &QCoreApplication::quit);
+    const ProcessSignal termination({SIGTERM, SIGINT});
+    const ProcessSignal hangUp({SIGHUP});
+    // The reader of the log may leave; that must not end the service.
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    const QString& bus = commandLine.bus;
     const QDBusConnection connection = connectTo(bus);
     if (!connection.isConnected())
         return fail(QStringLiteral("cannot reach the bus %1: %2").arg(bus, connection.lastError().message()));
 
-    ConfigurationFileService service(directory);
+    ConfigurationFileService service(commandLine.directory, commandLine.maximumSize, connection);
+    const auto exitWith = [](const QString& problem) {
+        QCoreApplication::exit(fail(problem));
+    };
+    QObject::connect(&service, &ConfigurationFileService::started, [&commandLine] {
+        write(QStringLiteral("serving %1 as %2 on %3\n")
+                  .arg(commandLine.directory, ConfigurationFileService::name(), commandLine.bus),
+              stdout);
+    });
+    // Queued: exit() has no effect before the event loop runs.
+    QObject::connect(&service, &ConfigurationFileService::failed, &service, exitWith, Qt::QueuedConnection);
     QObject::connect(&service, &ConfigurationFileService::busLost,
-                     [&bus] { QCoreApplication::exit(fail(QStringLiteral("lost the bus %1").arg(bus))); });
-    const QString problem = service.start(connection);
-    if (!problem.isEmpty())
-        return fail(problem);
-    write(QStringLiteral("serving %1 as %2 on %3\n").arg(directory, ConfigurationFileService::name(), bus),
-          stdout);
-    return QCoreApplication::exec();
+                     [&bus, exitWith] { exitWith(QStringLiteral("lost the bus %1").arg(bus)); });
+    QObject::connect(&hangUp, &ProcessSignal::received, &service, &ConfigurationFileService::reload);
+    QObject::connect(&termination, &ProcessSignal::received, &QCoreApplication::quit);
+    service.start();
+    const int exitCode = QCoreApplication::exec();
+    // A thread that is stuck cannot be ended; destructors would wait for it or destroy what it uses.
+    if (!service.stop())
+        std::_Exit(exitCode);
+    return exitCode;
 }
 
 } // namespace
@@ -78,5 +95,5 @@ int main(int argc, char* argv[])
     case CommandLine::Request::Serve:
         break;
     }
-    return serve(commandLine.directory, commandLine.bus);
+    return serve(commandLine);
 }

@@ -4,13 +4,15 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTimer>
 
+#include <csignal>
+
 #include <optional>
 
 #include "Console.h"
 #include "ExitCode.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 #include "UnitManagerDevice/UnitManagerWrapper.h"
-#include "service/TerminationSignal.h"
+#include "service/ProcessSignal.h"
 
 namespace {
 
@@ -94,8 +96,8 @@ int WatchVerb::run(const QCommandLineParser& options, const QStringList& /*argum
         qputenv("DEVICE_BUS", bus.toLocal8Bit());
     }
 
-    const TerminationSignal termination;
-    QObject::connect(&termination, &TerminationSignal::received, &QCoreApplication::quit);
+    const ProcessSignal termination({SIGTERM, SIGINT});
+    QObject::connect(&termination, &ProcessSignal::received, &QCoreApplication::quit);
     Watch watch;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&watch] {

@@ -4,6 +4,7 @@
 
 #include "CommandLine.h"
 #include "ConfigurationFileService.h"
+#include "DocumentFile.h"
 #include "TestProgram.h"
 
 namespace {
@@ -76,6 +77,7 @@ void InstalledServiceTest::commandIsOneOfTheProgram()
     QCOMPARE(commandLine.bus, "system");
     const QString prefix = words.first().chopped(program.size());
     QCOMPARE(commandLine.directory, prefix + "share/unitmanager");
+    QCOMPARE(commandLine.maximumSize, DocumentFile::defaultLimit);
 }
 
 void InstalledServiceTest::everyFileNamesTheSameUser()
@@ -91,6 +93,7 @@ void InstalledServiceTest::unitRestartsAndConfinesTheService_data()
 {
     QTest::addColumn<QString>("value");
 
+    QTest::newRow("ExecReload") << "kill -HUP $MAINPID";
     QTest::newRow("Restart") << "on-failure";
     QTest::newRow("RestartPreventExitStatus") << "2";
     QTest::newRow("NoNewPrivileges") << "yes";

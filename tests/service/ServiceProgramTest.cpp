@@ -48,6 +48,8 @@ void ServiceProgramTest::wrongUsageIsRejected_data()
     row("directory without value", Arguments{"--directory"}, "Missing value after '--directory'.");
     row("empty bus", Arguments{"--directory", "x", "--bus", ""}, "No bus given.");
     row("unknown option", Arguments{"--directory", "x", "--port", "1"}, "Unknown option 'port'.");
+    row("no size", Arguments{"--directory", "x", "--max-size", "1M"},
+        "The value of --max-size must be a number of bytes from 1 to 1073741824.");
     row("plain argument", Arguments{"--directory", "x", "y"}, "Unexpected argument 'y'.");
 }
 
@@ -66,7 +68,8 @@ void ServiceProgramTest::helpNamesTheOptions()
 {
     ServiceProcess service;
     QCOMPARE(service.run({"--help"}), 0);
-    for (const char* option : {"--directory <DIR>", "--bus <session|system|ADDRESS>", "--help", "--version"})
+    for (const char* option :
+         {"--directory <DIR>", "--bus <session|system|ADDRESS>", "--max-size <BYTES>", "--help", "--version"})
         QVERIFY2(service.output().contains(option), option);
     QCOMPARE(service.log(), QString());
 }

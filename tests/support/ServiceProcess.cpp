@@ -59,6 +59,11 @@ bool ServiceProcess::send(int signal) const
     return ::kill(static_cast<pid_t>(m_process.processId()), signal) == 0;
 }
 
+void ServiceProcess::closeLog()
+{
+    m_process.closeReadChannel(QProcess::StandardError);
+}
+
 QString ServiceProcess::output()
 {
     m_output += m_process.readAllStandardOutput();

@@ -32,6 +32,9 @@ public:
     /// Sends a signal such as SIGTERM to the process. @return whether that succeeded.
     bool send(int signal) const;
 
+    /// Closes the pipe that receives the log; log() no longer changes.
+    void closeLog();
+
     /// Everything printed to standard output so far.
     QString output();
     /// Everything printed to standard error so far.
