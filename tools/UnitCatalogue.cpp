@@ -2,11 +2,39 @@
 
 #include <algorithm>
 
-#include "JsonDocumentFile.h"
+#include "DocumentFile.h"
+#include "JsonDocument.h"
 #include "KnownNames.h"
 #include "UnitManagerDefinitions.h"
+#include "Utf8.h"
 
 namespace {
+
+struct Document
+{
+    QString text;
+    /// Whether there is more than notes for editors, such as "$schema".
+    bool hasContent = false;
+};
+
+/// Reads a document, which may be blank.
+Result<Document> readDocument(const QString& path, int maximumSize)
+{
+    DocumentProblem problem;
+    const auto bytes = DocumentFile::read(path, DocumentFile::Source::FileOrStream, maximumSize, problem);
+    if (!bytes)
+        return Failure{problem.inFile(path)};
+    if (Utf8::withoutByteOrderMark(*bytes).trimmed().isEmpty())
+        return Document{};
+    const auto json = JsonDocument::read(*bytes, problem);
+    if (!json)
+        return Failure{problem.inFile(path)};
+    const std::vector<JsonValue> members = json->root().children();
+    const bool hasContent = std::any_of(members.begin(), members.end(), [](const JsonValue& member) {
+        return !member.name().startsWith('$');
+    });
+    return Document{json->text(), hasContent};
+}
 
 QString afterLastSlash(const QString& text)
 {
@@ -34,12 +62,13 @@ const UnitType* findType(const QVector<UnitType>& types, const QString& name)
 
 UnitCatalogue::UnitCatalogue() = default;
 
-Result<UnitCatalogue> UnitCatalogue::load(const QString& unitsPath, const QString& defaultUnitsPath)
+Result<UnitCatalogue> UnitCatalogue::load(const QString& unitsPath, const QString& defaultUnitsPath,
+                                          int maximumSize)
 {
-    const auto units = JsonDocumentFile::read(unitsPath);
+    const auto units = readDocument(unitsPath, maximumSize);
     if (!units)
         return units.error();
-    const auto defaultUnits = JsonDocumentFile::read(defaultUnitsPath);
+    const auto defaultUnits = readDocument(defaultUnitsPath, maximumSize);
     if (!defaultUnits)
         return defaultUnits.error();
 

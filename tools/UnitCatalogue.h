@@ -28,8 +28,10 @@ class UnitCatalogue : private UnitManager
 public:
     /// Loads the catalogue from two documents.
     ///
+    /// @param maximumSize the largest document that is read, in bytes
     /// @return a failure that names the document if it cannot be read or is empty
-    static Result<UnitCatalogue> load(const QString& unitsPath, const QString& defaultUnitsPath);
+    static Result<UnitCatalogue> load(const QString& unitsPath, const QString& defaultUnitsPath,
+                                      int maximumSize);
 
     /// All unit types, sorted by name.
     QVector<UnitType> unitTypes() const;

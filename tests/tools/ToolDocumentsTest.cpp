@@ -23,6 +23,8 @@ private Q_SLOTS:
     void loadsTheDocument();
     void replacesOneDocumentAlone();
     void readsFromAPipe();
+    void refusesALargeDocument_data();
+    void refusesALargeDocument();
 };
 
 namespace {
@@ -57,20 +59,29 @@ void ToolDocumentsTest::placesTheFault_data()
     const auto addRow = [](const char* name, const char* content, const char* problem) {
         row(name, QByteArray(content), QByteArray(problem));
     };
-    addRow("missing comma", "{\n  \"A\": {},\n  \"B\": {}\n  \"C\": {}\n}\n", "4:3: unterminated object");
-    addRow("missing colon", "{\"A\" {}}", "1:6: missing name separator");
-    addRow("name without quotes", "{\n\tA: 1}", "2:2: unterminated object");
-    addRow("unknown word", "{\"A\":\n  true,\n  \"B\": nothing}", "3:9: illegal value");
-    addRow("invalid number", "{\"A\": 'x'}", "1:7: illegal number");
-    addRow("text after the end", "{}\n\n}", "3:1: garbage at the end of the document");
-    addRow("end too early", "{\"A\": {\n", "1:8: unterminated object");
-    addRow("column in characters, not bytes", "{\"\xC3\xA4\xE2\x82\x82\": 1 2}", "1:10: unterminated object");
-    addRow("byte order mark does not count", "\xEF\xBB\xBF{\"A\" 1}", "1:6: missing name separator");
+    addRow("missing comma", "{\n  \"A\": {},\n  \"B\": {}\n  \"C\": {}\n}\n", "4:3: expected \",\" or \"}\"");
+    addRow("missing colon", "{\"A\" {}}", "1:6: expected \":\" after the name");
+    addRow("name without quotes", "{\n\tA: 1}", "2:2: expected a name in double quotes");
+    addRow("unknown word", "{\"A\":\n  true,\n  \"B\": nothing}",
+           "3:8: unknown word \"nothing\"; write text in double quotes");
+    addRow("invalid number", "{\"A\": 'x'}", "1:7: write double quotes instead of single quotes");
+    addRow("text after the end", "{}\n\n}", "3:1: expected the end of the document");
+    addRow("end too early", "{\"A\": {\n",
+           "2:1: unexpected end; the \"{\" at line 1, column 7 is not closed");
+    addRow("column in characters, not bytes", "{\"\xC3\xA4\xE2\x82\x82\": 1 2}",
+           "1:10: expected \",\" or \"}\"");
+    addRow("byte order mark does not count", "\xEF\xBB\xBF{\"A\" 1}", "1:6: expected \":\" after the name");
     addRow("lines that end in carriage return and line feed", "{\r\n\"A\": 1\r\n\"B\": 2}",
-           "3:1: unterminated object");
-    addRow("Latin-1 letter", "{\n  \"A\": \"\xE4\"}", "2:9: not UTF-8");
-    addRow("letter cut in the middle", "{\"A\": \"\xC3", "1:8: not UTF-8");
-    addRow("not JSON at all", "Pressure = bar\n", "1:1: illegal value");
+           "3:1: expected \",\" or \"}\"");
+    addRow("Latin-1 letter", "{\n  \"A\": \"\xE4\"}", "2:9: not UTF-8; save the document in that encoding");
+    addRow("letter cut in the middle", "{\"A\": \"\xC3",
+           "1:8: not UTF-8; save the document in that encoding");
+    addRow("not JSON at all", "Pressure = bar\n", "1:1: expected \"{\" at the start of the document");
+    addRow("array", "[1]", "1:1: expected \"{\" at the start of the document");
+    addRow("unit given twice", "{\"A\": {\"B\": {},\n \"B\": {}}}",
+           "2:2: duplicate name \"B\"; first at line 1, column 8");
+    addRow("number too large", "{\"A\": 1e999}",
+           "1:7: too large for a number of double precision, whose limit is about 1.8e308");
 }
 
 void ToolDocumentsTest::placesTheFault()
@@ -95,7 +106,7 @@ void ToolDocumentsTest::namesAFileThatIsNotADocument_data()
     QTest::newRow("empty") << QByteArray() << noTypes;
     QTest::newRow("blank") << QByteArray(" \n") << noTypes;
     QTest::newRow("object without types") << QByteArray("{}") << noTypes;
-    QTest::newRow("array") << QByteArray("[1]") << QByteArray("is not a JSON object");
+    QTest::newRow("note for editors alone") << QByteArray("{\"$schema\": \"x\"}") << noTypes;
 }
 
 void ToolDocumentsTest::namesAFileThatIsNotADocument()
@@ -114,8 +125,12 @@ void ToolDocumentsTest::namesAFileThatIsNotADocument()
     QCOMPARE(folderRun.exitCode, 1);
     const ToolRun missingRun = ToolProcess::run({"types", "--units", folder.path("missing.json")});
     QCOMPARE(missingRun.standardError,
-             "unitmanager: " + folder.path("missing.json").toUtf8() + ": No such file or directory\n");
+             "unitmanager: " + folder.path("missing.json").toUtf8() + ": no such file\n");
     QCOMPARE(missingRun.exitCode, 1);
+    const ToolRun lostRun = ToolProcess::run({"types", "--units", folder.path("lost/units.json")});
+    QCOMPARE(lostRun.standardError, "unitmanager: " + folder.path("lost/units.json").toUtf8() +
+                                        ": no such directory: " + folder.path("lost").toUtf8() + '\n');
+    QCOMPARE(lostRun.exitCode, 1);
 }
 
 void ToolDocumentsTest::namesUnusableDefaultUnits_data()
@@ -148,6 +163,9 @@ void ToolDocumentsTest::loadsTheDocument_data()
         withDefault);
     row("empty default units", lengthDocument, QByteArray(), withoutDefault);
     row("default units without content", lengthDocument, QByteArray("{}\n"), withoutDefault);
+    row("notes for editors", QByteArray(lengthDocument).replace(0, 1, R"({"$schema": "x", "$n": {"a": 1}, )"),
+        QByteArray(lengthDefault).replace(0, 1, R"({"$schema": "x", )"), withDefault);
+    row("default units with notes alone", lengthDocument, QByteArray(R"({"$schema": "x"})"), withoutDefault);
     row("no label", QByteArray(lengthDocument).replace(", \"UnitLabel\": \"m\"", ""), lengthDefault,
         withDefault);
 }
@@ -185,6 +203,41 @@ void ToolDocumentsTest::readsFromAPipe()
     const ToolRun run = ToolProcess::run({"types", "--units", "/dev/stdin"}, lengthDocument);
     QCOMPARE(run.standardError, QByteArray());
     QCOMPARE(run.standardOutput, QByteArray("Length\n"));
+
+    const Folder folder;
+    const QString path = folder.file("units.json", lengthDocument);
+    const QString command = QString("'%1' types --units <(cat '%2')").arg(ToolProcess::path(), path);
+    const ToolRun substitution = ToolProcess::runProgram("bash", {"-c", command});
+    QCOMPARE(substitution.standardError, QByteArray());
+    QCOMPARE(substitution.standardOutput, QByteArray("Length\n"));
+}
+
+void ToolDocumentsTest::refusesALargeDocument_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<int>("limit");
+
+    row("default", QStringList(), 1048576);
+    row("other limit", QStringList{"--max-size", "100000"}, 100000);
+}
+
+void ToolDocumentsTest::refusesALargeDocument()
+{
+    QFETCH(QStringList, options);
+    QFETCH(int, limit);
+    const Folder folder;
+    const QString large = folder.file("large.json", QByteArray(limit + 1, ' '));
+    const QString allowed = folder.file("allowed.json", QByteArray(limit, ' '));
+    for (const char* option : {"--units", "--default-units"}) {
+        for (const QString& path : {large, QString("/dev/zero")}) {
+            const ToolRun run = ToolProcess::run(QStringList{"types", option, path} + options);
+            QCOMPARE(run.standardError, "unitmanager: " + path.toUtf8() + ": is larger than the limit of " +
+                                            QByteArray::number(limit) + " bytes; see --max-size\n");
+            QCOMPARE(run.standardOutput, QByteArray());
+            QCOMPARE(run.exitCode, 1);
+        }
+    }
+    QCOMPARE(ToolProcess::run(QStringList{"types", "--default-units", allowed} + options).exitCode, 0);
 }
 
 static const TestClass<ToolDocumentsTest> testClass;

@@ -26,8 +26,9 @@ void addVerbs()
     QTest::addColumn<QString>("verb");
     QTest::addColumn<QByteArray>("usage");
     QTest::addColumn<QStringList>("content");
-    const QStringList common{"--help", "--version", "--verbose", "--units <FILE>", "--default-units <FILE>",
-                             "--json", "Example"};
+    const QStringList common{
+        "--help", "--version", "--verbose", "--units <FILE>", "--default-units <FILE>", "--max-size <BYTES>",
+        "--json", "Example"};
     row("types", "types", QByteArray("[options]"), common);
     row("units", "units", QByteArray("[options] TYPE"), common + QStringList{"--language", "  TYPE  "});
     row("convert", "convert", QByteArray("[options] VALUE TYPE FROM [TO]"),

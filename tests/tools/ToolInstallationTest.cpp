@@ -55,7 +55,7 @@ void ToolInstallationTest::namesTheMissingDocument()
 {
     const ToolRun run = ToolProcess::runProgram(m_program, {"types"});
     const QString document = QDir(m_prefix->path()).canonicalPath() + "/share/unitmanager/units.json";
-    QCOMPARE(run.standardError, "unitmanager: " + document.toUtf8() + ": No such file or directory\n");
+    QCOMPARE(run.standardError, "unitmanager: " + document.toUtf8() + ": no such file\n");
     QCOMPARE(run.standardOutput, QByteArray());
     QCOMPARE(run.exitCode, 1);
 }

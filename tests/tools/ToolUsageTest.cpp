@@ -86,6 +86,9 @@ void ToolUsageTest::hintsAtTheRightUsage_data()
 
     row("types with an argument", QStringList{"types", "Pressure"},
         QByteArray("too many arguments: 'Pressure'"), QByteArray("types [options]"));
+    row("size that is not a number", QStringList{"types", "--max-size", "1M"},
+        QByteArray("--max-size must be a number of bytes from 1 to 1073741824"),
+        QByteArray("types [options]"));
     row("units without type", QStringList{"units"}, QByteArray("TYPE is missing"),
         QByteArray("units [options] TYPE"));
     row("label without type", QStringList{"label"}, QByteArray("TYPE is missing"),
