@@ -157,7 +157,9 @@ def difference_of_names(where, defined, documented):
 
 def findings(document):
     """One line for each coefficient, unit or unit type in which the document and the definitions differ."""
-    result = difference_of_names("document", DEFINITIONS, document)
+    # Notes for editors, such as "$schema", are not unit types.
+    unit_types = [name for name in document if not name.startswith("$")]
+    result = difference_of_names("document", DEFINITIONS, unit_types)
     for unit_type in DEFINITIONS.keys() & document.keys():
         units = {name: unit for name, unit in document[unit_type].items() if name != NO_UNIT}
         result += difference_of_names(unit_type, DEFINITIONS[unit_type], units)

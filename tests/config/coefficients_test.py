@@ -55,6 +55,10 @@ class CoefficientsTest(unittest.TestCase):
         self.units["Mass"] = {}
         self.assertEqual(coefficients.findings(self.units), ["document: Mass has no definition"])
 
+    def test_notes_for_editors_are_ignored(self):
+        self.units["$schema"] = "units.schema.json"
+        self.assertEqual(coefficients.findings(self.units), [])
+
     def test_unit_type_missing_in_the_document_is_reported(self):
         del self.units["Time"]
         self.assertEqual(coefficients.findings(self.units), ["document: Time is not in the document"])

@@ -41,6 +41,11 @@ def parse(text):
         raise BrokenDocument(str(error)) from error
 
 
+def entries(document):
+    """The members of a document without notes for editors, such as "$schema"."""
+    return {name: value for name, value in document.items() if not name.startswith("$")}
+
+
 def load(path):
     return parse(path.read_bytes())
 
@@ -66,7 +71,8 @@ def unit_findings(text, schema):
         return [str(error)]
     # The rules below rely on members that the schema requires.
     return schema_findings(document, schema) or [
-        finding for unit_type, units in document.items() for finding in display_position_findings(unit_type, units)
+        finding for unit_type, units in entries(document).items()
+        for finding in display_position_findings(unit_type, units)
     ]
 
 
@@ -92,5 +98,5 @@ def default_unit_findings(text, schema, units):
     findings = schema_findings(document, schema)
     if findings:
         return findings
-    candidates = (default_unit_finding(name, node["@value"], units) for name, node in document.items())
+    candidates = (default_unit_finding(name, node["@value"], units) for name, node in entries(document).items())
     return [finding for finding in candidates if finding]

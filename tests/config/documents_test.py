@@ -132,6 +132,19 @@ class DocumentsTest(unittest.TestCase):
         text = b'{ "Pressure": { "@type": "Selection", "@value": "UnitManager/UnitType/Pressure/Bar" } }'
         self.assertEqual(document_rules.default_unit_findings(text, self.default_units_schema, self.units), [])
 
+    def test_notes_for_editors_are_accepted(self):
+        notes = b'{ "$schema": "units.schema.json", "$comment": [1], '
+        units = (CONFIG / "units.json").read_bytes().replace(b"{", notes, 1)
+        self.assertEqual(document_rules.unit_findings(units, self.units_schema), [])
+        default_units = (CONFIG / "default-units.json").read_bytes().replace(b"{", notes, 1)
+        self.assertEqual(
+            document_rules.default_unit_findings(default_units, self.default_units_schema, self.units), []
+        )
+
+    def test_schemas_have_their_own_identifiers(self):
+        self.assertEqual(self.units_schema["$id"], "urn:unitmanager:units")
+        self.assertEqual(self.default_units_schema["$id"], "urn:unitmanager:default-units")
+
     def test_broken_unit_documents_are_rejected_for_their_fault(self):
         self.check_samples("broken-units", BROKEN_UNITS, self.unit_findings)
 

@@ -33,6 +33,7 @@ class DependenciesTest(unittest.TestCase):
 
     def test_schema_is_one(self):
         jsonschema.Draft202012Validator.check_schema(self.schema)
+        self.assertEqual(self.schema["$id"], "urn:unitmanager:dependencies")
 
     def test_shipped_document_is_sound(self):
         self.assertEqual(document_rules.schema_findings(self.document, self.schema), [])
@@ -44,7 +45,7 @@ class DependenciesTest(unittest.TestCase):
         self.assertEqual(self.document, expected)
 
     def test_sound_documents(self):
-        for document in ({}, {"a": ["b"], "b": ["a"]}, {"a": ["a"]}):
+        for document in ({}, {"a": ["b"], "b": ["a"]}, {"a": ["a"]}, {"$schema": "x", "$n": {}, "a": ["b"]}):
             with self.subTest(document=document):
                 self.assertEqual(document_rules.schema_findings(document, self.schema), [])
 
