@@ -9,7 +9,7 @@
 
 TableVerb::TableVerb()
     : ValueVerb({"table",
-                 "Shows a value in every unit of its type, the base unit first.",
+                 "Shows a value in every unit of its type, in display order.",
                  "VALUE TYPE FROM",
                  2,
                  {{"VALUE", "Number to convert."},

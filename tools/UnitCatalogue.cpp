@@ -1,6 +1,8 @@
 #include "UnitCatalogue.h"
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 #include "DocumentFile.h"
 #include "JsonDocument.h"
@@ -10,14 +12,9 @@
 
 namespace {
 
-struct Document
-{
-    QString text;
-    /// Whether there is more than notes for editors, such as "$schema".
-    bool hasContent = false;
-};
+using Document = std::optional<JsonDocument>;
 
-/// Reads a document, which may be blank.
+/// Reads a document; a blank one has no value.
 Result<Document> readDocument(const QString& path, int maximumSize)
 {
     DocumentProblem problem;
@@ -25,15 +22,40 @@ Result<Document> readDocument(const QString& path, int maximumSize)
     if (!bytes)
         return Failure{problem.inFile(path)};
     if (Utf8::withoutByteOrderMark(*bytes).trimmed().isEmpty())
-        return Document{};
-    const auto json = JsonDocument::read(*bytes, problem);
-    if (!json)
+        return Document();
+    const Document document = JsonDocument::read(*bytes, problem);
+    if (!document)
         return Failure{problem.inFile(path)};
-    const std::vector<JsonValue> members = json->root().children();
-    const bool hasContent = std::any_of(members.begin(), members.end(), [](const JsonValue& member) {
-        return !member.name().startsWith('$');
-    });
-    return Document{json->text(), hasContent};
+    return document;
+}
+
+QString textOf(const Document& document)
+{
+    return document ? document->text() : QString();
+}
+
+/// Whether there is more than notes for editors, such as "$schema".
+bool hasContent(const Document& document)
+{
+    if (!document)
+        return false;
+    const std::vector<JsonValue> members = document->root().children();
+    return std::any_of(members.begin(), members.end(),
+                       [](const JsonValue& member) { return !member.name().startsWith('$'); });
+}
+
+/// The display positions of the units, by "TYPE/UNIT".
+QHash<QString, double> displayPositions(const JsonDocument& document)
+{
+    QHash<QString, double> positions;
+    for (const JsonValue& type : document.root().children()) {
+        for (const JsonValue& unit : type.children()) {
+            const auto position = unit.member("@displayPosition");
+            if (position && position->type() == JsonType::Number)
+                positions.insert(type.name() + '/' + unit.name(), position->number());
+        }
+    }
+    return positions;
 }
 
 QString afterLastSlash(const QString& text)
@@ -74,11 +96,12 @@ Result<UnitCatalogue> UnitCatalogue::load(const QString& unitsPath, const QStrin
 
     UnitCatalogue catalogue;
     // The result is ignored: it is also false for a document without labels, which is sufficient here.
-    catalogue.updateUnitConversionByJsonString(units->text);
+    catalogue.updateUnitConversionByJsonString(textOf(*units));
     if (catalogue.getListofUnitTypes().isEmpty())
         return Failure{unitsPath + ": contains no unit types that the library can read"};
-    if (!catalogue.updateDefaultUnitsByJsonString(defaultUnits->text) && defaultUnits->hasContent)
+    if (!catalogue.updateDefaultUnitsByJsonString(textOf(*defaultUnits)) && hasContent(*defaultUnits))
         return Failure{defaultUnitsPath + ": contains no default units that the library can read"};
+    catalogue.m_displayPositions = displayPositions(**units);
     return catalogue;
 }
 
@@ -128,9 +151,13 @@ QStringList UnitCatalogue::units(const UnitType& type) const
     if (base == UnitManagerDefinitions::getUnitTypeNoUnit())
         names.append(base);
     names.removeDuplicates();
-    std::sort(names.begin(), names.end(), [&base](const QString& left, const QString& right) {
-        return left != right && (left == base || (right != base && left < right));
-    });
+    const QString prefix = afterLastSlash(type.id) + '/';
+    const auto rank = [this, &prefix](const QString& unit) {
+        const double last = std::numeric_limits<double>::infinity();
+        return std::make_pair(m_displayPositions.value(prefix + unit, last), unit);
+    };
+    std::sort(names.begin(), names.end(),
+              [&rank](const QString& left, const QString& right) { return rank(left) < rank(right); });
     return names;
 }
 

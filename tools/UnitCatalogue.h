@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
@@ -40,7 +41,8 @@ public:
     /// @return a failure that lists the known names if the name is unknown
     Result<UnitType> unitType(const QString& name) const;
 
-    /// The names of the type's units: the base unit first, the others sorted by name.
+    /// The names of the type's units in display order: by display position, then by name. Units without a
+    /// position come last.
     QStringList units(const UnitType& type) const;
     /// Finds a unit by name; an empty name selects the default unit.
     ///
@@ -64,4 +66,7 @@ public:
 
 private:
     UnitCatalogue();
+
+    /// By "TYPE/UNIT". The library does not keep them.
+    QHash<QString, double> m_displayPositions;
 };

@@ -10,7 +10,7 @@
 
 UnitsVerb::UnitsVerb()
     : CatalogueVerb({"units",
-                     "Lists the units of a unit type with their labels, the base unit first.",
+                     "Lists the units of a unit type with their labels, in display order.",
                      "TYPE",
                      1,
                      {{"TYPE", "Unit type, such as Pressure."}},

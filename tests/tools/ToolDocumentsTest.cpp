@@ -1,4 +1,6 @@
 #include <QtCore/QDir>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonValue>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
@@ -21,6 +23,7 @@ private Q_SLOTS:
     void namesUnusableDefaultUnits();
     void loadsTheDocument_data();
     void loadsTheDocument();
+    void listsUnitsInDisplayOrder();
     void replacesOneDocumentAlone();
     void readsFromAPipe();
     void refusesALargeDocument_data();
@@ -181,6 +184,32 @@ void ToolDocumentsTest::loadsTheDocument()
     QCOMPARE(run.standardError, QByteArray());
     QCOMPARE(run.standardOutput, types);
     QCOMPARE(run.exitCode, 0);
+}
+
+void ToolDocumentsTest::listsUnitsInDisplayOrder()
+{
+    const QByteArray conversion = R"("Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]]})";
+    const auto unit = [&conversion](const char* name, const char* position) {
+        return QByteArray("\"") + name + "\": {" + position + conversion;
+    };
+    // By position, then by name; a unit without a usable position comes last.
+    const QByteArray document =
+        "{\"Length\": {" + unit("B", "") + ',' + unit("A", R"("@displayPosition": true, )") + ',' +
+        unit("Tenth", R"("@displayPosition": 10, )") + ',' + unit("D", R"("@displayPosition": 2, )") + ',' +
+        unit("C", R"("@displayPosition": 2, )") + ',' + unit("Zero", R"("@displayPosition": 0, )") + "}}";
+    const Folder folder;
+    const QStringList options{"--units", folder.file("units.json", document), "--default-units",
+                              folder.file("default-units.json", "")};
+    QCOMPARE(ToolProcess::run(QStringList{"units", "Length"} + options).standardOutput,
+             QByteArray("Zero   base unit\nC\nD\nTenth\nA\nB\n"));
+    const QByteArray lines =
+        ToolProcess::run(QStringList{"units", "Length", "--json"} + options).standardOutput;
+    QByteArrayList units;
+    for (const QByteArray& line : lines.trimmed().split('\n'))
+        units.append(QJsonDocument::fromJson(line)["unit"].toString().toUtf8());
+    QCOMPARE(units, QByteArrayList({"Zero", "C", "D", "Tenth", "A", "B"}));
+    QCOMPARE(ToolProcess::run(QStringList{"table", "5", "Length", "Zero", "--raw"} + options).standardOutput,
+             QByteArray("Zero   5\nC      5\nD      5\nTenth  5\nA      5\nB      5\n"));
 }
 
 void ToolDocumentsTest::replacesOneDocumentAlone()

@@ -52,7 +52,7 @@ void ToolVerbsTest::printsFromTestDocuments_data()
 {"baseUnit":"Celsius","defaultUnit":"Celsius","type":"Temperature"}
 {"baseUnit":"Plain","defaultUnit":null,"type":"Unlabelled"}
 )");
-    addRow("units, the base unit first", {"units", "Pressure"},
+    addRow("units in display order", {"units", "Pressure"},
            "Bar          bar   base unit\n"
            "HectoPascal  hPa   default unit\n"
            "MilliBar     mbar\n");
@@ -60,7 +60,7 @@ void ToolVerbsTest::printsFromTestDocuments_data()
            "Celsius     °C  base unit, default unit\n"
            "Fahrenheit  °F\n");
     addRow("units without labels", {"units", "Unlabelled"},
-           "Plain    base unit\nFine\nHuge\nTable\nTooFine\n");
+           "Plain    base unit\nFine\nTooFine\nTable\nHuge\n");
     addRow("units of a type without any", {"units", "Empty"}, "");
     addRow("units of the unit-less type", {"units", "NoUnit"}, "NoUnit  base unit, default unit\n");
     addRow("units of a fixed unit", {"units", "Pressure/Bar"}, "Bar  bar  base unit, default unit\n");
