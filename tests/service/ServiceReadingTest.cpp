@@ -23,6 +23,7 @@ private Q_SLOTS:
     void hangUpRereadsTheDocuments();
     void stalledReadDelaysNoAnswer();
     void stalledReadDelaysNoEnd();
+    void stallAtTheStartDelaysNoEnd();
     void closedLogDoesNotEndIt();
     void largeDocumentIsServedIfAllowed();
     void missingDirectoryIsReported();
@@ -53,15 +54,20 @@ QString stallFile(ServedDirectory& served)
     return served.bus().directory() + "/stall";
 }
 
-/// Starts the service so that stall() works.
-bool startStallable(ServedDirectory& served)
+/// Makes the reads of the service stallable. Call before it is started.
+void makeStallable(ServedDirectory& served)
 {
     served.service().setVariable("LD_PRELOAD", STALLED_READS);
     served.service().setVariable("STALL_FILE", stallFile(served));
     // AddressSanitizer refuses to run after another preloaded library.
     served.service().setVariable("ASAN_OPTIONS",
                                  qEnvironmentVariable("ASAN_OPTIONS") + ":verify_asan_link_order=0");
-    return served.start();
+}
+
+/// Waits until the service is stuck in reading the unit document.
+bool isStalled(ServedDirectory& served)
+{
+    return waitUntil([&served] { return QFile::exists(stallFile(served) + ".reached"); });
 }
 
 /// Changes the unit document and waits until the service is stuck in reading it.
@@ -69,7 +75,7 @@ bool stall(ServedDirectory& served)
 {
     return TestFiles::write(stallFile(served), "") &&
            TestFiles::replace(served.path("units.json"), ServiceDocuments::units("next")) &&
-           waitUntil([&served] { return QFile::exists(stallFile(served) + ".reached"); });
+           isStalled(served);
 }
 
 } // namespace
@@ -88,7 +94,8 @@ void ServiceReadingTest::hangUpRereadsTheDocuments()
 void ServiceReadingTest::stalledReadDelaysNoAnswer()
 {
     ServedDirectory served;
-    QVERIFY(startStallable(served));
+    makeStallable(served);
+    QVERIFY(served.start());
     QVERIFY(stall(served));
     QCOMPARE(served.client().text(ServiceObject::units), QString(ServiceDocuments::units("first")));
     QCOMPARE(served.client().text(ServiceObject::defaultUnits),
@@ -103,11 +110,26 @@ void ServiceReadingTest::stalledReadDelaysNoAnswer()
 void ServiceReadingTest::stalledReadDelaysNoEnd()
 {
     ServedDirectory served;
-    QVERIFY(startStallable(served));
+    makeStallable(served);
+    QVERIFY(served.start());
     QVERIFY(stall(served));
     QVERIFY(served.service().send(SIGTERM));
     QCOMPARE(served.service().waitForEnd(), 0);
     QVERIFY(QFile::exists(stallFile(served)));
+}
+
+void ServiceReadingTest::stallAtTheStartDelaysNoEnd()
+{
+    ServedDirectory served;
+    makeStallable(served);
+    QVERIFY(served.bus().start());
+    QVERIFY(TestFiles::write(stallFile(served), ""));
+    served.service().launch({"--directory", served.directory(), "--bus", served.bus().address()});
+    QVERIFY(isStalled(served));
+    QVERIFY(served.service().send(SIGTERM));
+    QCOMPARE(served.service().waitForEnd(), 0);
+    // Without documents the service never owned its name.
+    QCOMPARE(served.service().output(), QString());
 }
 
 void ServiceReadingTest::closedLogDoesNotEndIt()

@@ -19,9 +19,14 @@ ServiceProcess::ServiceProcess()
     m_process.setProcessEnvironment(environment);
 }
 
-bool ServiceProcess::start(const QStringList& arguments)
+void ServiceProcess::launch(const QStringList& arguments)
 {
     m_process.start(program(), arguments);
+}
+
+bool ServiceProcess::start(const QStringList& arguments)
+{
+    launch(arguments);
     const QDeadlineTimer deadline(waitLimit);
     while (!output().startsWith(QLatin1String("serving "))) {
         if (!m_process.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
@@ -37,7 +42,7 @@ bool ServiceProcess::serve(const QString& directory, const QString& bus)
 
 int ServiceProcess::run(const QStringList& arguments)
 {
-    m_process.start(program(), arguments);
+    launch(arguments);
     return waitForEnd();
 }
 

@@ -16,6 +16,8 @@ public:
     /// Does not start the program. Removes settings of Qt's messages from its environment.
     ServiceProcess();
 
+    /// Starts the program and does not wait for anything.
+    void launch(const QStringList& arguments);
     /// Starts the program. @return whether it reports within a minute that it is serving.
     bool start(const QStringList& arguments);
     /// Starts the program on a bus. @param bus value of the program's option
