@@ -187,8 +187,10 @@ void DocumentFileTest::pipeIsReadToItsEnd()
     });
     const QByteArray half(100000, 'x');
     const int pipe = writingEnd(m_path);
-    const bool isWritten = ::write(pipe, half.constData(), half.size()) == half.size() &&
-                           ::write(pipe, half.constData(), half.size()) == half.size();
+    const auto writeHalf = [pipe, &half] {
+        return ::write(pipe, half.constData(), static_cast<std::size_t>(half.size())) == half.size();
+    };
+    const bool isWritten = writeHalf() && writeHalf();
     ::close(pipe);
     const std::optional<QByteArray> bytes = reading.get();
     QVERIFY(isWritten);
