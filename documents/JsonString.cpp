@@ -4,7 +4,8 @@
 
 namespace {
 
-/// The character that a letter stands for after a backslash; quote, slash and backslash stand for themselves.
+/// The character that an escape sequence encodes, given the character after its backslash. Quote, slash and
+/// backslash encode themselves.
 QChar unescaped(char letter)
 {
     switch (letter) {

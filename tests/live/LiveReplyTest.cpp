@@ -46,7 +46,7 @@ void firstTextIsUnloadable(Stage& stage, const Answer& answer, const QString& wa
 /// The check after the one in the update state.
 const QStringList updated{Signal::configurationChanged, State::idle, Signal::initialized};
 
-/// Asynchronous reads accept a first reply without a text. Then there is no unit manager until the units
+/// Asynchronous reads accept a first reply without a text. The unit manager is then missing until the units
 /// change.
 /// @param collectingChecks with immediate entry, the number of checks before the one that enters the update
 void firstTextIsAbsent(Stage& stage, const Answer& answer, int collectingChecks)

@@ -51,8 +51,8 @@ public:
 
     /// Puts a world on the bus, except for one module, and starts an application.
     void start(const Settings& settings, const World& world, const QString& absentModule = QString());
-    /// The same with all sources. When the library is idle, its change has been queried and its unit manager
-    /// kept.
+    /// Puts a world on the bus, except for one module, and starts an application with all sources. Returns
+    /// when the library is idle, its change has been queried, and its unit manager is kept.
     void startAllSources(const World& world, const QString& absentModule = QString());
     /// Starts an application, which becomes the active one.
     void start(const Settings& settings);

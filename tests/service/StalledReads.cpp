@@ -10,6 +10,8 @@
 #include <stdio.h>
 #include <unistd.h>
 
+#include "WaitUntil.h"
+
 namespace {
 
 bool isDocument(int descriptor)
@@ -27,10 +29,12 @@ void waitForEndOfStall(const char* stallFile)
 {
     char reached[PATH_MAX];
     snprintf(reached, sizeof(reached), "%s.reached", stallFile);
-    while (::access(stallFile, F_OK) == 0) {
+    waitUntil([stallFile, &reached] {
+        if (::access(stallFile, F_OK) != 0)
+            return true;
         ::close(::open(reached, O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
-        ::usleep(1000);
-    }
+        return false;
+    });
 }
 
 } // namespace
