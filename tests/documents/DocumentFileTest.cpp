@@ -167,7 +167,7 @@ void DocumentFileTest::forbiddenFileIsAProblem()
     QVERIFY(ordinary.isEffective());
     DocumentProblem problem;
     QVERIFY(!DocumentFile::read(m_path, Source::RegularFile, 8, problem));
-    QCOMPARE(problem.withPlace(), "Permission denied");
+    QCOMPARE(problem.withPlace(), qt_error_string(EACCES));
 }
 
 void DocumentFileTest::endlessStreamIsAProblem()
