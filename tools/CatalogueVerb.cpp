@@ -35,16 +35,16 @@ void CatalogueVerb::addOptions(QCommandLineParser& parser) const
          "BYTES", QString::number(DocumentFile::defaultLimit)});
 }
 
-int CatalogueVerb::run(const QCommandLineParser& options, const QStringList& arguments)
+Result<ExitCode> CatalogueVerb::run(const QCommandLineParser& options, const QStringList& arguments)
 {
     const std::optional<int> maximumSize = DocumentFile::limitFromText(options.value(maximumSizeOption));
     if (!maximumSize)
-        return usageError(
+        return wrongUsage(
             QString("--max-size must be a number of bytes from 1 to %1").arg(DocumentFile::highestLimit));
     const auto catalogue =
         UnitCatalogue::load(documentPath(options, unitsOption, "units.json"),
                             documentPath(options, defaultUnitsOption, "default-units.json"), *maximumSize);
     if (!catalogue)
-        return fail(catalogue.error());
+        return catalogue.error();
     return answer(*catalogue, options, arguments);
 }

@@ -12,10 +12,10 @@ protected:
     using Verb::Verb;
 
     void addOptions(QCommandLineParser& parser) const override;
-    /// Executes the verb with the documents loaded. @return an ExitCode
-    virtual int answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
-                       const QStringList& arguments) = 0;
+    /// Executes the verb with the documents loaded; see run().
+    virtual Result<ExitCode> answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
+                                    const QStringList& arguments) = 0;
 
 private:
-    int run(const QCommandLineParser& options, const QStringList& arguments) final;
+    Result<ExitCode> run(const QCommandLineParser& options, const QStringList& arguments) final;
 };

@@ -4,7 +4,6 @@
 
 #include "Console.h"
 #include "ConvertVerb.h"
-#include "ExitCode.h"
 #include "KnownNames.h"
 #include "LabelVerb.h"
 #include "TableVerb.h"
@@ -23,27 +22,30 @@ CommandLine::CommandLine()
     m_verbs.push_back(std::make_unique<WatchVerb>());
 }
 
-int CommandLine::run(const QStringList& words) const
+ExitCode CommandLine::run(const QStringList& words) const
 {
     const QString word = words.value(0);
     if (word == "--help" || word == "-h") {
         Console::printLine(helpText());
         return Succeeded;
     }
-    if (word == "--version") {
+    if (word == "--version" || word == "-v") {
         Console::printLine(Verb::versionText());
         return Succeeded;
     }
     if (Verb* verb = findVerb(word))
         return verb->execute(words.mid(1));
+    return Console::report(wrongUsage(words.isEmpty() ? "VERB is missing; " + KnownNames::list(verbNames())
+                                                      : KnownNames::unknown("verb", word, {}, verbNames())),
+                           "unitmanager VERB [options] ...");
+}
 
+QStringList CommandLine::verbNames() const
+{
     QStringList names;
     for (const auto& verb : m_verbs)
         names.append(verb->about().name);
-    Console::printError(words.isEmpty() ? "VERB is missing; " + KnownNames::list(names)
-                                        : KnownNames::unknown("verb", word, {}, names).reason);
-    Console::printError("usage: unitmanager VERB [options] ...; more with --help");
-    return WrongUsage;
+    return names;
 }
 
 Verb* CommandLine::findVerb(const QString& name) const
@@ -63,6 +65,6 @@ QString CommandLine::helpText() const
            "Verbs:\n" +
            table.lines().join('\n') +
            "\n\n"
-           "Every verb has --help and --version. Exit codes: 0 done; 1 a name, a document or\n"
-           "a line of input was not usable; 2 the command line was wrong.";
+           "Program and verbs have --help (-h) and --version (-v). Exit codes: 0 done; 1 a\n"
+           "name, a document or a line of input was not usable; 2 the command line was wrong.";
 }

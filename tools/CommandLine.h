@@ -16,11 +16,12 @@ public:
 
     /// Executes the command line @p words, given without the program's name.
     ///
-    /// @return an ExitCode; its reason has been printed
-    int run(const QStringList& words) const;
+    /// @return the exit code; its reason has been printed
+    ExitCode run(const QStringList& words) const;
 
 private:
     Verb* findVerb(const QString& name) const;
+    QStringList verbNames() const;
     QString helpText() const;
 
     std::vector<std::unique_ptr<Verb>> m_verbs;

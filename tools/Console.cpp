@@ -4,8 +4,6 @@
 #include <cstdio>
 #include <cstring>
 
-#include "ExitCode.h"
-
 namespace {
 
 const int longestQuotation = 60;
@@ -42,6 +40,14 @@ bool Console::flush()
 void Console::printError(const QString& message)
 {
     write("unitmanager: " + message, stderr);
+}
+
+ExitCode Console::report(const Failure& failure, const QString& usage)
+{
+    printError(failure.reason);
+    if (failure.exitCode == WrongUsage)
+        printError("usage: " + usage + "; more with --help");
+    return failure.exitCode;
 }
 
 int Console::finish(int exitCode)

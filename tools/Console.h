@@ -2,6 +2,8 @@
 
 #include <QtCore/QString>
 
+#include "Result.h"
+
 /// The program's standard output and standard error, always in UTF-8. For one thread only.
 namespace Console {
 
@@ -13,6 +15,11 @@ bool printLine(const QString& line);
 bool flush();
 /// Prints "unitmanager: " and a message to standard error.
 void printError(const QString& message);
+/// Prints the reason of a failure and, if the command line was wrong, the correct usage.
+///
+/// @param usage the form of the command line, such as "unitmanager units [options] TYPE"
+/// @return the failure's exit code
+ExitCode report(const Failure& failure, const QString& usage);
 
 /// Flushes and returns the program's exit code: @p exitCode, or 1 with a message if the output could not be
 /// written. A reader that closed the pipe early is not a failure and gets no message.

@@ -1,19 +1,15 @@
 #pragma once
 
-#include <functional>
-
-#include "ValueVerb.h"
+#include "CatalogueVerb.h"
 
 /// Converts one value, or the values on standard input, from one unit to another.
-class ConvertVerb : public ValueVerb
+class ConvertVerb : public CatalogueVerb
 {
 public:
     ConvertVerb();
 
 protected:
-    int convert(const UnitCatalogue& catalogue, const Source& source, const QCommandLineParser& options,
-                const QStringList& arguments) override;
-
-private:
-    int convertLines(const std::function<QString(double)>& convertedText) const;
+    void addOptions(QCommandLineParser& parser) const override;
+    Result<ExitCode> answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
+                            const QStringList& arguments) override;
 };

@@ -45,7 +45,7 @@ QString suggestion(const QString& name, const QStringList& known)
 
 } // namespace
 
-Failure KnownNames::unknown(const QString& kind, const QString& name, const QString& context,
+QString KnownNames::unknown(const QString& kind, const QString& name, const QString& context,
                             QStringList known)
 {
     known.sort();
@@ -53,7 +53,7 @@ Failure KnownNames::unknown(const QString& kind, const QString& name, const QStr
     const QString near = suggestion(name, known);
     if (!near.isEmpty())
         reason += "; did you mean " + near + '?';
-    return {reason};
+    return reason;
 }
 
 QString KnownNames::list(QStringList known)

@@ -3,15 +3,13 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-#include "Result.h"
-
-/// Error messages for unknown names.
+/// Reasons of failures that concern unknown names.
 namespace KnownNames {
 
 /// "unknown KIND 'NAME'CONTEXT; known: A, B, C; did you mean C?"; the last part only if a name is similar.
 ///
 /// @param context text after the name, such as " of Pressure"; may be empty
-Failure unknown(const QString& kind, const QString& name, const QString& context, QStringList known);
+QString unknown(const QString& kind, const QString& name, const QString& context, QStringList known);
 
 /// "known: A, B, C", or "known: none".
 QString list(QStringList known);

@@ -3,17 +3,14 @@
 #include <QtCore/QJsonObject>
 
 #include "Console.h"
-#include "ExitCode.h"
 #include "OutputOptions.h"
 #include "UnitCatalogue.h"
 
 LabelVerb::LabelVerb()
     : CatalogueVerb({"label",
                      "Shows the label of a unit.",
-                     "TYPE [UNIT]",
-                     1,
                      {{"TYPE", "Unit type, such as Pressure, or a fixed unit, such as Pressure/Bar."},
-                      {"UNIT", "Unit, such as Bar; the default unit when left out."}},
+                      {"UNIT", "Unit, such as Bar; the default unit when left out.", true}},
                      "A unit without label gives an empty line.\n\n"
                      "Example:\n"
                      "  unitmanager label AbsoluteTemperature Kelvin --language de"})
@@ -26,15 +23,15 @@ void LabelVerb::addOptions(QCommandLineParser& parser) const
     OutputOptions::addLanguage(parser);
 }
 
-int LabelVerb::answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
-                      const QStringList& arguments)
+Result<ExitCode> LabelVerb::answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
+                                   const QStringList& arguments)
 {
     const Result<UnitType> type = catalogue.unitType(arguments[0]);
     if (!type)
-        return fail(type.error());
+        return type.error();
     const Result<QString> unit = catalogue.unit(*type, arguments.value(1));
     if (!unit)
-        return fail(unit.error());
+        return unit.error();
 
     const QString label = catalogue.label(*type, *unit, OutputOptions::language(options));
     Console::printLine(

@@ -10,6 +10,6 @@ public:
 
 protected:
     void addOptions(QCommandLineParser& parser) const override;
-    int answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
-               const QStringList& arguments) override;
+    Result<ExitCode> answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
+                            const QStringList& arguments) override;
 };

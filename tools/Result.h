@@ -5,11 +5,20 @@
 #include <optional>
 #include <utility>
 
-/// The reason of a failure, as one line for the user.
+#include "ExitCode.h"
+
+/// The reason of a failure, as one line for the user, and the exit code that it causes.
 struct Failure
 {
     QString reason;
+    ExitCode exitCode = Failed;
 };
+
+/// The failure of a command line that is itself invalid.
+inline Failure wrongUsage(const QString& reason)
+{
+    return {reason, WrongUsage};
+}
 
 /// A value, or the failure that prevented it.
 template <typename T>

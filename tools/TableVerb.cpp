@@ -1,35 +1,41 @@
 #include "TableVerb.h"
 
 #include "Console.h"
-#include "ExitCode.h"
-#include "NumberText.h"
 #include "OutputOptions.h"
 #include "TextTable.h"
+#include "ValueArguments.h"
 #include "ValueFormat.h"
 
 TableVerb::TableVerb()
-    : ValueVerb({"table",
-                 "Shows a value in every unit of its type, in display order.",
-                 "VALUE TYPE FROM",
-                 2,
-                 {{"VALUE", "Number to convert."},
-                  {"TYPE", "Unit type, such as Pressure, or a fixed unit, such as Pressure/Bar."},
-                  {"FROM", "Unit of the value."}},
-                 valueRules() + "Example:\n"
-                                "  unitmanager table 21.5 AbsoluteTemperature DegreeCelsius"})
+    : CatalogueVerb({"table",
+                     "Shows a value in every unit of its type, in display order.",
+                     {{"VALUE", "Number to convert."},
+                      {"TYPE", "Unit type, such as Pressure, or a fixed unit, such as Pressure/Bar."},
+                      {"FROM", "Unit of the value.", true}},
+                     ValueArguments::rules() + "Example:\n"
+                                               "  unitmanager table 21.5 AbsoluteTemperature DegreeCelsius"})
 {}
 
-int TableVerb::convert(const UnitCatalogue& catalogue, const Source& source,
-                       const QCommandLineParser& options, const QStringList& arguments)
+void TableVerb::addOptions(QCommandLineParser& parser) const
 {
-    const auto value = NumberText::parse(arguments[0]);
+    CatalogueVerb::addOptions(parser);
+    ValueArguments::addOptions(parser);
+}
+
+Result<ExitCode> TableVerb::answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
+                                   const QStringList& arguments)
+{
+    const auto source = ValueArguments::source(catalogue, options, arguments);
+    if (!source)
+        return source.error();
+    const Result<double> value = ValueArguments::value(arguments);
     if (!value)
-        return valueError(arguments[0]);
+        return value.error();
 
     TextTable table;
-    for (const QString& unit : catalogue.units(source.type)) {
-        const QString text = ValueFormat(catalogue, source.type, unit, options)
-                                 .text(catalogue.convert(*value, source.type, source.unit, unit));
+    for (const QString& unit : catalogue.units(source->type)) {
+        const QString text = ValueFormat(catalogue, source->type, unit, options)
+                                 .text(catalogue.convert(*value, source->type, source->unit, unit));
         // A JSON object already contains its unit.
         table.addRow(OutputOptions::isJson(options) ? QStringList{text} : QStringList{unit, text});
     }

@@ -1,14 +1,15 @@
 #pragma once
 
-#include "ValueVerb.h"
+#include "CatalogueVerb.h"
 
 /// Shows one value in every unit of its type.
-class TableVerb : public ValueVerb
+class TableVerb : public CatalogueVerb
 {
 public:
     TableVerb();
 
 protected:
-    int convert(const UnitCatalogue& catalogue, const Source& source, const QCommandLineParser& options,
-                const QStringList& arguments) override;
+    void addOptions(QCommandLineParser& parser) const override;
+    Result<ExitCode> answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
+                            const QStringList& arguments) override;
 };

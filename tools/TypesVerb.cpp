@@ -3,15 +3,12 @@
 #include <QtCore/QJsonObject>
 
 #include "Console.h"
-#include "ExitCode.h"
 #include "OutputOptions.h"
 #include "UnitCatalogue.h"
 
 TypesVerb::TypesVerb()
     : CatalogueVerb({"types",
                      "Lists the unit types by name.",
-                     "",
-                     0,
                      {},
                      "Example:\n"
                      "  unitmanager types --json"})
@@ -23,8 +20,8 @@ void TypesVerb::addOptions(QCommandLineParser& parser) const
     OutputOptions::addJson(parser, "type, baseUnit, defaultUnit (null when there is none)");
 }
 
-int TypesVerb::answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
-                      const QStringList& /*arguments*/)
+Result<ExitCode> TypesVerb::answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
+                                   const QStringList& /*arguments*/)
 {
     for (const UnitType& type : catalogue.unitTypes()) {
         const QJsonObject object{{"type", type.name},

@@ -129,10 +129,10 @@ Result<UnitType> UnitCatalogue::unitType(const QString& name) const
     const QString typeName = name.left(name.lastIndexOf('/'));
     const UnitType* type = findType(types, typeName);
     if (type == nullptr)
-        return KnownNames::unknown("unit type", name, {}, namesOf(types));
+        return Failure{KnownNames::unknown("unit type", name, {}, namesOf(types))};
     const QString unitName = afterLastSlash(name);
     if (!units(*type).contains(unitName))
-        return KnownNames::unknown("unit", unitName, " of " + type->name, units(*type));
+        return Failure{KnownNames::unknown("unit", unitName, " of " + type->name, units(*type))};
     return UnitType{type->name + '/' + unitName, type->id, unitName};
 }
 
@@ -165,7 +165,7 @@ Result<QString> UnitCatalogue::unit(const UnitType& type, const QString& name) c
 {
     const QStringList known = units(type);
     if (!name.isEmpty() && !known.contains(name))
-        return KnownNames::unknown("unit", name, " of " + type.name, known);
+        return Failure{KnownNames::unknown("unit", name, " of " + type.name, known)};
     if (!name.isEmpty())
         return name;
 
@@ -173,7 +173,7 @@ Result<QString> UnitCatalogue::unit(const UnitType& type, const QString& name) c
     if (defaultName.isEmpty())
         return Failure{type.name + " has no default unit; " + KnownNames::list(known)};
     if (!known.contains(defaultName))
-        return KnownNames::unknown("default unit", defaultName, " of " + type.name, known);
+        return Failure{KnownNames::unknown("default unit", defaultName, " of " + type.name, known)};
     return defaultName;
 }
 

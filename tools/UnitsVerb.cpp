@@ -3,7 +3,6 @@
 #include <QtCore/QJsonObject>
 
 #include "Console.h"
-#include "ExitCode.h"
 #include "OutputOptions.h"
 #include "TextTable.h"
 #include "UnitCatalogue.h"
@@ -11,8 +10,6 @@
 UnitsVerb::UnitsVerb()
     : CatalogueVerb({"units",
                      "Lists the units of a unit type with their labels, in display order.",
-                     "TYPE",
-                     1,
                      {{"TYPE", "Unit type, such as Pressure."}},
                      "Example:\n"
                      "  unitmanager units Pressure"})
@@ -26,12 +23,12 @@ void UnitsVerb::addOptions(QCommandLineParser& parser) const
     OutputOptions::addLanguage(parser);
 }
 
-int UnitsVerb::answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
-                      const QStringList& arguments)
+Result<ExitCode> UnitsVerb::answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
+                                   const QStringList& arguments)
 {
     const Result<UnitType> type = catalogue.unitType(arguments[0]);
     if (!type)
-        return fail(type.error());
+        return type.error();
     if (OutputOptions::isJson(options))
         printJson(catalogue, *type, OutputOptions::language(options));
     else

@@ -12,8 +12,8 @@ public:
 
 protected:
     void addOptions(QCommandLineParser& parser) const override;
-    int answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
-               const QStringList& arguments) override;
+    Result<ExitCode> answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
+                            const QStringList& arguments) override;
 
 private:
     void printJson(const UnitCatalogue& catalogue, const UnitType& type, const QString& language) const;

@@ -3,7 +3,6 @@
 #include <QtCore/QCommandLineParser>
 
 #include "Console.h"
-#include "ExitCode.h"
 #include "MessageFilter.h"
 
 namespace {
@@ -44,7 +43,7 @@ QString asClause(QString sentence)
     return sentence;
 }
 
-int show(const QString& text)
+ExitCode show(const QString& text)
 {
     Console::printLine(text);
     return Succeeded;
@@ -66,52 +65,64 @@ const Verb::Description& Verb::about() const
     return m_description;
 }
 
-int Verb::execute(const QStringList& words)
+ExitCode Verb::execute(const QStringList& words)
 {
-    QCommandLineParser parser;
+    const Result<ExitCode> result = answer(words);
+    return result ? *result : Console::report(result.error(), usageLine());
+}
+
+void Verb::declare(QCommandLineParser& parser) const
+{
     parser.setApplicationDescription(m_description.summary);
     parser.addOption({{"h", "help"}, "Show this help."});
-    parser.addOption({"version", "Show the program's version."});
+    parser.addOption({{"v", "version"}, "Show the program's version."});
     parser.addOption({"verbose", "Also print the library's messages on standard error."});
     addOptions(parser);
     for (const Argument& argument : m_description.arguments)
         parser.addPositionalArgument(argument.name, argument.description);
+}
 
+Result<ExitCode> Verb::answer(const QStringList& words)
+{
+    QCommandLineParser parser;
+    declare(parser);
     const bool isUnderstood = parser.parse(QStringList("unitmanager") + withShieldedNumbers(words));
     if (parser.isSet("help"))
         return show(helpText(parser));
     if (parser.isSet("version"))
         return show(versionText());
     if (!isUnderstood)
-        return usageError(asClause(parser.errorText()));
+        return wrongUsage(asClause(parser.errorText()));
 
     const QStringList arguments = withoutShields(parser.positionalArguments());
-    if (arguments.size() < m_description.leastArguments)
-        return usageError(m_description.arguments[arguments.size()].name + " is missing");
-    if (arguments.size() > m_description.arguments.size())
-        return usageError("too many arguments: " +
-                          Console::quoted(arguments[m_description.arguments.size()]));
+    if (const auto failure = wrongCount(arguments))
+        return *failure;
     if (parser.isSet("verbose"))
         MessageFilter::setVerbose();
     return run(parser, arguments);
 }
 
-int Verb::usageError(const QString& reason) const
+std::optional<Failure> Verb::wrongCount(const QStringList& arguments) const
 {
-    Console::printError(reason);
-    Console::printError("usage: " + usageLine() + "; more with --help");
-    return WrongUsage;
-}
-
-int Verb::fail(const Failure& failure)
-{
-    Console::printError(failure.reason);
-    return Failed;
+    QStringList required;
+    for (const Argument& argument : m_description.arguments) {
+        if (!argument.isOptional)
+            required.append(argument.name);
+    }
+    if (arguments.size() < required.size())
+        return wrongUsage(required[arguments.size()] + " is missing");
+    const int most = m_description.arguments.size();
+    if (arguments.size() > most)
+        return wrongUsage("too many arguments: " + Console::quoted(arguments[most]));
+    return std::nullopt;
 }
 
 QString Verb::usageLine() const
 {
-    return QString("unitmanager %1 [options] %2").arg(m_description.name, m_description.usage).trimmed();
+    QString line = "unitmanager " + m_description.name + " [options]";
+    for (const Argument& argument : m_description.arguments)
+        line += argument.isOptional ? " [" + argument.name + ']' : ' ' + argument.name;
+    return line;
 }
 
 QString Verb::helpText(const QCommandLineParser& parser) const

@@ -4,6 +4,8 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
 
+#include <optional>
+
 #include "Result.h"
 
 class QCommandLineParser;
@@ -19,16 +21,14 @@ public:
     {
         QString name;
         QString description;
+        bool isOptional = false;
     };
     struct Description
     {
         QString name;
         /// Describes the verb in one sentence.
         QString summary;
-        /// The arguments as shown in the first line of the help, such as "TYPE [UNIT]".
-        QString usage;
-        int leastArguments;
-        /// All arguments, including optional ones.
+        /// The arguments, in the order of the command line.
         QVector<Argument> arguments;
         /// The end of the help: rules and an example.
         QString details;
@@ -45,8 +45,8 @@ public:
 
     /// Executes the verb with @p words, the command line after the verb. Handles --help and --version.
     ///
-    /// @return an ExitCode; a failure has already been printed
-    int execute(const QStringList& words);
+    /// @return the exit code; a failure has already been printed
+    ExitCode execute(const QStringList& words);
 
 protected:
     explicit Verb(const Description& description);
@@ -56,15 +56,13 @@ protected:
     /// Executes the verb.
     ///
     /// @param arguments as many as the description permits
-    /// @return an ExitCode
-    virtual int run(const QCommandLineParser& options, const QStringList& arguments) = 0;
-
-    /// Prints an error in the command line and the correct usage. @return WrongUsage
-    int usageError(const QString& reason) const;
-    /// Prints the failure's reason. @return Failed
-    static int fail(const Failure& failure);
+    /// @return the exit code of a verb that has printed its answer; a failure is still to be printed
+    virtual Result<ExitCode> run(const QCommandLineParser& options, const QStringList& arguments) = 0;
 
 private:
+    void declare(QCommandLineParser& parser) const;
+    Result<ExitCode> answer(const QStringList& words);
+    std::optional<Failure> wrongCount(const QStringList& arguments) const;
     QString usageLine() const;
     QString helpText(const QCommandLineParser& parser) const;
 

@@ -9,7 +9,6 @@
 #include <optional>
 
 #include "Console.h"
-#include "ExitCode.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 #include "UnitManagerDevice/UnitManagerWrapper.h"
 #include "service/ProcessSignal.h"
@@ -67,8 +66,6 @@ bool isBus(const QString& text)
 WatchVerb::WatchVerb()
     : Verb({"watch",
             "Follows the running configuration service until it is interrupted.",
-            "",
-            0,
             {},
             "Prints a line when something happens: 'waiting' when there is no configuration\n"
             "yet or a changed one is being read, 'ready' when that is done, and 'adopted'\n"
@@ -86,12 +83,12 @@ void WatchVerb::addOptions(QCommandLineParser& parser) const
                       "BUS"});
 }
 
-int WatchVerb::run(const QCommandLineParser& options, const QStringList& /*arguments*/)
+Result<ExitCode> WatchVerb::run(const QCommandLineParser& options, const QStringList& /*arguments*/)
 {
     if (options.isSet(busOption)) {
         const QString bus = options.value(busOption);
         if (!isBus(bus))
-            return usageError(Console::quoted(bus) +
+            return wrongUsage(Console::quoted(bus) +
                               " is not a valid bus: expected session, system or a D-Bus address");
         qputenv("DEVICE_BUS", bus.toLocal8Bit());
     }

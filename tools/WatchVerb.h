@@ -10,5 +10,5 @@ public:
 
 protected:
     void addOptions(QCommandLineParser& parser) const override;
-    int run(const QCommandLineParser& options, const QStringList& arguments) override;
+    Result<ExitCode> run(const QCommandLineParser& options, const QStringList& arguments) override;
 };

@@ -27,19 +27,20 @@ void addVerbs()
     QTest::addColumn<QByteArray>("usage");
     QTest::addColumn<QStringList>("content");
     const QStringList common{
-        "--help", "--version", "--verbose", "--units <FILE>", "--default-units <FILE>", "--max-size <BYTES>",
-        "--json", "Example"};
+        "-h, --help",         "-v, --version", "--verbose", "--units <FILE>", "--default-units <FILE>",
+        "--max-size <BYTES>", "--json",        "Example"};
     row("types", "types", QByteArray("[options]"), common);
     row("units", "units", QByteArray("[options] TYPE"), common + QStringList{"--language", "  TYPE  "});
-    row("convert", "convert", QByteArray("[options] VALUE TYPE FROM [TO]"),
+    row("convert", "convert", QByteArray("[options] VALUE TYPE [FROM] [TO]"),
         common + QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  ", "  TO  ", "nan",
                              "inf", "fixed unit", "Blank lines", "#"});
-    row("table", "table", QByteArray("[options] VALUE TYPE FROM"),
+    row("table", "table", QByteArray("[options] VALUE TYPE [FROM]"),
         common + QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  "});
     row("label", "label", QByteArray("[options] TYPE [UNIT]"),
         common + QStringList{"--language", "  TYPE  ", "  UNIT  "});
     row("watch", "watch", QByteArray("[options]"),
-        QStringList{"--help", "--version", "--verbose", "--bus <BUS>", "DEVICE_BUS", "SIGTERM", "Example"});
+        QStringList{"-h, --help", "-v, --version", "--verbose", "--bus <BUS>", "DEVICE_BUS", "SIGTERM",
+                    "Example"});
 }
 
 } // namespace
@@ -76,10 +77,12 @@ void ToolHelpTest::everyVerbHasTheVersion_data()
 void ToolHelpTest::everyVerbHasTheVersion()
 {
     QFETCH(QString, verb);
-    const ToolRun run = ToolProcess::run({verb, "--version"});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.standardError, QByteArray());
-    QCOMPARE(run.standardOutput, QByteArray("unitmanager " UNITMANAGER_VERSION "\n"));
+    for (const char* option : {"--version", "-v"}) {
+        const ToolRun run = ToolProcess::run({verb, option});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.standardError, QByteArray());
+        QCOMPARE(run.standardOutput, QByteArray("unitmanager " UNITMANAGER_VERSION "\n"));
+    }
 }
 
 void ToolHelpTest::programHelpListsEveryVerb_data()
@@ -101,10 +104,12 @@ void ToolHelpTest::programHelpListsEveryVerb()
 
 void ToolHelpTest::programHasTheVersion()
 {
-    const ToolRun run = ToolProcess::run({"--version"});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.standardError, QByteArray());
-    QCOMPARE(run.standardOutput, QByteArray("unitmanager " UNITMANAGER_VERSION "\n"));
+    for (const char* option : {"--version", "-v"}) {
+        const ToolRun run = ToolProcess::run({option});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.standardError, QByteArray());
+        QCOMPARE(run.standardOutput, QByteArray("unitmanager " UNITMANAGER_VERSION "\n"));
+    }
 }
 
 static const TestClass<ToolHelpTest> testClass;

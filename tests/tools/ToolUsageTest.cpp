@@ -80,8 +80,8 @@ void ToolUsageTest::hintsAtTheRightUsage_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("message");
     QTest::addColumn<QByteArray>("usage");
-    const QByteArray convert = "convert [options] VALUE TYPE FROM [TO]";
-    const QByteArray table = "table [options] VALUE TYPE FROM";
+    const QByteArray convert = "convert [options] VALUE TYPE [FROM] [TO]";
+    const QByteArray table = "table [options] VALUE TYPE [FROM]";
     const QByteArray rule = " is not a decimal number such as -1234.5 or 1e-3, within the range of a double";
 
     row("types with an argument", QStringList{"types", "Pressure"},

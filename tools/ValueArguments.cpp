@@ -1,0 +1,45 @@
+#include "ValueArguments.h"
+
+#include "Console.h"
+#include "NumberText.h"
+#include "OutputOptions.h"
+
+void ValueArguments::addOptions(QCommandLineParser& parser)
+{
+    OutputOptions::addRaw(parser);
+    OutputOptions::addJson(parser, "type, unit, label, value (unrounded; null for nan and inf)");
+    OutputOptions::addLanguage(parser);
+}
+
+QString ValueArguments::rules()
+{
+    return "VALUE has a decimal point in every locale and may have a sign and an exponent.\n"
+           "nan means no value and is never converted; inf and -inf are valid values. An\n"
+           "empty unit name means the default unit. Values of a fixed unit, such as\n"
+           "Pressure/Bar, and of NoUnit are never converted; FROM may then be left out.\n\n";
+}
+
+Result<double> ValueArguments::value(const QStringList& arguments)
+{
+    const auto value = NumberText::parse(arguments[0]);
+    if (!value)
+        return wrongUsage(Console::quoted(arguments[0]) + " is not " + NumberText::expectation());
+    return *value;
+}
+
+Result<ValueArguments::Source> ValueArguments::source(const UnitCatalogue& catalogue,
+                                                      const QCommandLineParser& options,
+                                                      const QStringList& arguments)
+{
+    if (OutputOptions::isRaw(options) && OutputOptions::isJson(options))
+        return wrongUsage("--raw and --json cannot be combined");
+    const Result<UnitType> type = catalogue.unitType(arguments[1]);
+    if (!type)
+        return type.error();
+    if (arguments.size() < 3 && type->fixedUnit.isEmpty())
+        return wrongUsage("FROM is missing");
+    const Result<QString> unit = catalogue.unit(*type, arguments.value(2));
+    if (!unit)
+        return unit.error();
+    return Source{*type, *unit};
+}
