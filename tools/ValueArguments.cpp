@@ -14,9 +14,10 @@ void ValueArguments::addOptions(QCommandLineParser& parser)
 QString ValueArguments::rules()
 {
     return "VALUE has a decimal point in every locale and may have a sign and an exponent.\n"
-           "nan means no value and is never converted; inf and -inf are valid values. An\n"
-           "empty unit name means the default unit. Values of a fixed unit, such as\n"
-           "Pressure/Bar, and of NoUnit are never converted; FROM may then be left out.\n\n";
+           "nan means no value and is never converted. inf and -inf are kept in their own\n"
+           "unit and become nan in any other; a result outside the range of a double is inf\n"
+           "or -inf. An empty unit name means the default unit. Values of a fixed unit, such\n"
+           "as Pressure/Bar, and of NoUnit are never converted; FROM may then be left out.\n\n";
 }
 
 Result<double> ValueArguments::value(const QStringList& arguments)

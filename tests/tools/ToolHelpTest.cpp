@@ -33,7 +33,8 @@ void addVerbs()
     row("units", "units", QByteArray("[options] TYPE"), common + QStringList{"--language", "  TYPE  "});
     row("convert", "convert", QByteArray("[options] VALUE TYPE [FROM] [TO]"),
         common + QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  ", "  TO  ", "nan",
-                             "inf", "fixed unit", "Blank lines", "#"});
+                             "inf and -inf are kept in their own\nunit and become nan in any other",
+                             "fixed unit", "Blank lines", "#"});
     row("table", "table", QByteArray("[options] VALUE TYPE [FROM]"),
         common + QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  "});
     row("label", "label", QByteArray("[options] TYPE [UNIT]"),

@@ -8,6 +8,7 @@
 #include <limits>
 #include <random>
 
+#include "Row.h"
 #include "TestProgram.h"
 #include "ToolProcess.h"
 
@@ -23,6 +24,8 @@ private Q_SLOTS:
     void refusesOtherText();
     void roundsAsTheLibraryDoes_data();
     void roundsAsTheLibraryDoes();
+    void printsSpecialValues_data();
+    void printsSpecialValues();
     void rawTextReadsBackTheSameDouble();
     void jsonValueReadsBackTheSameDouble();
 };
@@ -167,6 +170,56 @@ void ToolNumbersTest::roundsAsTheLibraryDoes()
     QCOMPARE(run.standardError, QByteArray());
     QCOMPARE(run.standardOutput, shown + " bar\n");
     QCOMPARE(run.exitCode, 0);
+}
+
+void ToolNumbersTest::printsSpecialValues_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("shown");
+    QTest::addColumn<QByteArray>("raw");
+    QTest::addColumn<QByteArray>("json");
+    const auto addRow = [](const char* name, const QStringList& arguments, const QByteArray& value,
+                           const QByteArray& label, const QByteArray& json) {
+        row(name, arguments, QByteArray(value + ' ' + label), value, json);
+    };
+    const QByteArray inBar = R"({"label":"bar","type":"Pressure","unit":"Bar","value":null})";
+    const QByteArray inPascal = R"({"label":"Pa","type":"Pressure","unit":"Pascal","value":null})";
+    const QByteArray inKelvin = R"({"label":"K","type":"AbsoluteTemperature","unit":"Kelvin","value":null})";
+    for (const char* value : {"inf", "-inf", "nan"})
+        addRow(qPrintable(QString("%1 in its own unit").arg(value)),
+               {"convert", value, "Pressure", "Bar", "Bar"}, value, "bar", inBar);
+    for (const char* value : {"inf", "-inf", "nan"}) {
+        addRow(qPrintable(QString("%1 from the base unit").arg(value)),
+               {"convert", value, "Pressure", "Bar", "Pascal"}, "nan", "Pa", inPascal);
+        addRow(qPrintable(QString("%1 into the base unit").arg(value)),
+               {"convert", value, "Pressure", "Pascal", "Bar"}, "nan", "bar", inBar);
+        addRow(qPrintable(QString("%1 with an offset").arg(value)),
+               {"convert", value, "AbsoluteTemperature", "DegreeCelsius", "Kelvin"}, "nan", "K", inKelvin);
+    }
+    addRow("too large in the other unit", {"convert", "1e305", "Pressure", "Bar", "Pascal"}, "inf", "Pa",
+           inPascal);
+    addRow("too small in the other unit", {"convert", "-1e305", "Pressure", "Bar", "Pascal"}, "-inf", "Pa",
+           inPascal);
+    row("table", QStringList{"table", "-inf", "Ratio", "PartsPerMillion"},
+        QByteArray("Percentage       nan %\nPartsPerMillion  -inf ppm\nPartsPerBillion  nan ppb\n"
+                   "Fraction         nan fraction"),
+        QByteArray("Percentage       nan\nPartsPerMillion  -inf\nPartsPerBillion  nan\n"
+                   "Fraction         nan"),
+        QByteArray(R"({"label":"%","type":"Ratio","unit":"Percentage","value":null}
+{"label":"ppm","type":"Ratio","unit":"PartsPerMillion","value":null}
+{"label":"ppb","type":"Ratio","unit":"PartsPerBillion","value":null}
+{"label":"fraction","type":"Ratio","unit":"Fraction","value":null})"));
+}
+
+void ToolNumbersTest::printsSpecialValues()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, shown);
+    QFETCH(QByteArray, raw);
+    QFETCH(QByteArray, json);
+    QCOMPARE(ToolProcess::run(arguments).standardOutput, shown + '\n');
+    QCOMPARE(ToolProcess::run(arguments + QStringList("--raw")).standardOutput, raw + '\n');
+    QCOMPARE(ToolProcess::run(arguments + QStringList("--json")).standardOutput, json + '\n');
 }
 
 void ToolNumbersTest::rawTextReadsBackTheSameDouble()
