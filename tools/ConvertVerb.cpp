@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <iostream>
+#include <optional>
 
 #include "Console.h"
 #include "LineReader.h"
@@ -17,8 +18,10 @@ void reportLine(qint64 number, const QString& text)
                         NumberText::expectation());
 }
 
-/// Converts the values on standard input, one per line.
-Result<ExitCode> convertLines(const std::function<QString(double)>& convertedText)
+/// Prints a line for every line of standard input, so that the lines pair.
+///
+/// @param outputLine formats the result; called without value for a line without number
+Result<ExitCode> convertLines(const std::function<QString(std::optional<double>)>& outputLine)
 {
     std::ios::sync_with_stdio(false);
     LineReader reader(std::cin);
@@ -26,7 +29,7 @@ Result<ExitCode> convertLines(const std::function<QString(double)>& convertedTex
     while (reader.next()) {
         const QString text = reader.text();
         const auto value = NumberText::parse(text);
-        if (value && !Console::printLine(convertedText(*value)))
+        if (!Console::printLine(outputLine(value)))
             return exitCode;
         if (!value && !text.isEmpty() && !text.startsWith('#')) {
             reportLine(reader.number(), text);
@@ -51,9 +54,10 @@ ConvertVerb::ConvertVerb()
                       {"FROM", "Unit of the value.", true},
                       {"TO", "Unit to convert to; the default unit when left out.", true}},
                      ValueArguments::rules() +
-                         "With - every line of input gives a line of output. Blank lines and lines that\n"
-                         "begin with # are skipped. A line that is not a number gives a message with its\n"
-                         "line number, and the next line is read; the exit code is then 1.\n\n"
+                         "With - every line of input gives exactly one line of output, so that the lines\n"
+                         "pair. It is empty (with --json, its value is null) for a blank line, a line that\n"
+                         "begins with #, and a line that is not a number. The latter also gives a message\n"
+                         "with its line number; the exit code is then 1.\n\n"
                          "Examples:\n"
                          "  unitmanager convert 1234.56 Pressure HectoPascal Bar\n"
                          "  unitmanager convert - Pressure HectoPascal Bar --raw < values.txt"})
@@ -75,15 +79,16 @@ Result<ExitCode> ConvertVerb::answer(const UnitCatalogue& catalogue, const QComm
     if (!target)
         return target.error();
     const ValueFormat format(catalogue, source->type, *target, options);
-    const auto convertedText = [&](double value) {
-        return format.text(catalogue.convert(value, source->type, source->unit, *target));
+    const auto outputLine = [&](std::optional<double> value) {
+        return value ? format.text(catalogue.convert(*value, source->type, source->unit, *target))
+                     : format.missing();
     };
 
     if (arguments[0] == "-")
-        return convertLines(convertedText);
+        return convertLines(outputLine);
     const Result<double> value = ValueArguments::value(arguments);
     if (!value)
         return value.error();
-    Console::printLine(convertedText(*value));
+    Console::printLine(outputLine(*value));
     return Succeeded;
 }

@@ -22,8 +22,18 @@ ValueFormat::ValueFormat(const UnitCatalogue& source, const UnitType& type, cons
 QString ValueFormat::text(double value) const
 {
     if (m_isJson)
-        return m_jsonStart + (std::isfinite(value) ? NumberText::shortest(value) : "null") + '}';
+        return jsonLine(std::isfinite(value) ? NumberText::shortest(value) : "null");
     return m_isRaw ? NumberText::shortest(value) : shown(value);
+}
+
+QString ValueFormat::missing() const
+{
+    return m_isJson ? jsonLine("null") : QString();
+}
+
+QString ValueFormat::jsonLine(const QString& value) const
+{
+    return m_jsonStart + value + '}';
 }
 
 QString ValueFormat::shown(double value) const

@@ -20,8 +20,11 @@ public:
 
     /// One line, without line break.
     QString text(double value) const;
+    /// The line in place of a value that is missing: empty, or a JSON object with the value null.
+    QString missing() const;
 
 private:
+    QString jsonLine(const QString& value) const;
     QString shown(double value) const;
 
     const UnitCatalogue& m_catalogue;

@@ -34,7 +34,7 @@ void addVerbs()
     row("convert", "convert", QByteArray("[options] VALUE TYPE [FROM] [TO]"),
         common + QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  ", "  TO  ", "nan",
                              "inf and -inf are kept in their own\nunit and become nan in any other",
-                             "fixed unit", "Blank lines", "#"});
+                             "fixed unit", "exactly one line of output", "#"});
     row("table", "table", QByteArray("[options] VALUE TYPE [FROM]"),
         common + QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  "});
     row("label", "label", QByteArray("[options] TYPE [UNIT]"),

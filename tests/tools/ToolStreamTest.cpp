@@ -15,6 +15,8 @@ class ToolStreamTest : public QObject
 private Q_SLOTS:
     void convertsLineByLine_data();
     void convertsLineByLine();
+    void givesALineForEveryLine_data();
+    void givesALineForEveryLine();
     void answersBeforeTheInputEnds();
     void doesNotGrowOverAMillionLines();
     void endsQuietlyWhenTheReaderLeaves_data();
@@ -64,22 +66,23 @@ void ToolStreamTest::convertsLineByLine_data()
         QByteArray());
     row("carriage returns", QByteArray("1000\r\n2000\r\n"), QByteArray("1.000 bar\n2.000 bar\n"),
         QByteArray());
-    row("blank lines and comments are skipped", QByteArray("# hPa\n\n  \n1000\n\r\n #2\n"),
-        QByteArray("1.000 bar\n"), QByteArray());
+    row("blank lines and comments give empty lines", QByteArray("# hPa\n\n  \n1000\n\r\n #2\n"),
+        QByteArray("\n\n\n1.000 bar\n\n\n"), QByteArray());
+    row("comment without end", QByteArray("1000\n#"), QByteArray("1.000 bar\n\n"), QByteArray());
     row("blanks around a value", QByteArray("  1000\t\n"), QByteArray("1.000 bar\n"), QByteArray());
     row("bad lines do not stop the good ones", QByteArray("1000\nfive\n\n2,5\n3000\n"),
-        QByteArray("1.000 bar\n3.000 bar\n"), notANumber(2, "five") + notANumber(4, "2,5"));
-    row("comment after a value", QByteArray("1000 # hPa\n"), QByteArray(), notANumber(1, "1000 # hPa"));
-    row("null byte", QByteArray("1000\0zero\n2000\n", 15), QByteArray("2.000 bar\n"),
+        QByteArray("1.000 bar\n\n\n\n3.000 bar\n"), notANumber(2, "five") + notANumber(4, "2,5"));
+    row("comment after a value", QByteArray("1000 # hPa\n"), QByteArray("\n"), notANumber(1, "1000 # hPa"));
+    row("null byte", QByteArray("1000\0zero\n2000\n", 15), QByteArray("\n2.000 bar\n"),
         notANumber(1, "1000?zero"));
-    row("not UTF-8", QByteArray("1000\xFF\n"), QByteArray(), notANumber(1, "1000\xEF\xBF\xBD"));
+    row("not UTF-8", QByteArray("1000\xFF\n"), QByteArray("\n"), notANumber(1, "1000\xEF\xBF\xBD"));
     row("line of the longest size", QByteArray(4091, ' ') + "1000\n2000\n",
         QByteArray("1.000 bar\n2.000 bar\n"), QByteArray());
-    row("line too long", QByteArray(4092, ' ') + "1000\n2000\n", QByteArray("2.000 bar\n"),
+    row("line too long", QByteArray(4092, ' ') + "1000\n2000\n", QByteArray("\n2.000 bar\n"),
         notANumber(1, "100..."));
-    row("line far too long", QByteArray(100000, '1') + "\n2000\n", QByteArray("2.000 bar\n"),
+    row("line far too long", QByteArray(100000, '1') + "\n2000\n", QByteArray("\n2.000 bar\n"),
         notANumber(1, QByteArray(60, '1') + "..."));
-    row("line too long without end", QByteArray(5000, ' ') + "1", QByteArray(), notANumber(1, "..."));
+    row("line too long without end", QByteArray(5000, ' ') + "1", QByteArray("\n"), notANumber(1, "..."));
 }
 
 void ToolStreamTest::convertsLineByLine()
@@ -91,6 +94,26 @@ void ToolStreamTest::convertsLineByLine()
     QCOMPARE(run.standardError, standardError);
     QCOMPARE(run.standardOutput, standardOutput);
     QCOMPARE(run.exitCode, standardError.isEmpty() ? 0 : 1);
+}
+
+void ToolStreamTest::givesALineForEveryLine_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QByteArray>("standardOutput");
+    const QByteArray start = R"({"label":"bar","type":"Pressure","unit":"Bar","value":)";
+    row("shown", QStringList(), QByteArray("1.000 bar\n\n\n\nnan bar\n2.000 bar\n"));
+    row("raw", QStringList{"--raw"}, QByteArray("1\n\n\n\nnan\n2\n"));
+    row("JSON", QStringList{"--json"}, start + "1}\n" + (start + "null}\n").repeated(4) + start + "2}\n");
+}
+
+void ToolStreamTest::givesALineForEveryLine()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QByteArray, standardOutput);
+    const ToolRun run = ToolProcess::run(toBar + options, "1000\n\n# pause\nfive\nnan\n2000\n");
+    QCOMPARE(run.standardError, notANumber(4, "five"));
+    QCOMPARE(run.standardOutput, standardOutput);
+    QCOMPARE(run.exitCode, 1);
 }
 
 void ToolStreamTest::answersBeforeTheInputEnds()
