@@ -1,6 +1,7 @@
-"""The shipped documents are valid, and each kind of fault in a document is detected and reported."""
+"""The shipped documents are valid, and the schemas find each structural fault of the corpus of faulty documents."""
 
 import pathlib
+import re
 import unittest
 
 import jsonschema
@@ -9,85 +10,45 @@ import document_rules
 
 PROJECT = pathlib.Path(__file__).resolve().parents[2]
 CONFIG = PROJECT / "config"
-DATA = PROJECT / "tests" / "config" / "data"
+CORPUS = PROJECT / "tests" / "documents" / "corpus"
+KINDS = ("units", "default-units", "dependencies")
 LANGUAGES = ("en", "de", "fr")
+# From the least to the most severe.
+VERDICTS = ("accepts", "rejects", "unreadable")
 
-BAR = "$.Pressure.Bar"
-HECTOPASCAL = "$.Pressure.HectoPascal"
+# Rules about the text of a document. A list as document is readable for the JSON parser of Python.
+UNREADABLE = {"encoding", "nesting", "duplicate-name", "number-overflow"}
+# Rules that a schema can express. The others concern several members or the meaning of a value.
+STRUCTURAL = UNREADABLE | {
+    "syntax", "document-empty", "name-invalid", "null-node", "type-invalid", "type-empty", "no-unit-invalid",
+    "unit-invalid", "unknown-member", "conversion-missing", "conversion-ambiguous", "coefficients-invalid",
+    "inverse-missing", "position-invalid", "decimals-invalid", "label-missing", "label-invalid",
+    "language-invalid", "default-invalid", "dependency-invalid", "dependency-empty", "dependency-duplicate",
+}  # fmt: skip
+# The service's verdict by the most severe finding.
+SERVICE = {"error": "refuses", "warning": "warns", "note": "accepts"}
+FINDING = re.compile(r"(?:[a-z-]+\.json )?\d+:\d+ (error|warning|note) ([a-z-]+)(?: (.+))?")
 
-# File name -> start of the only finding: location, violated rule, and the object if the rule names it.
-BROKEN_UNITS = {
-    "arbitrary-table-of-ordinates": "$.Level.Percent.Table[0]: minItems",
-    "arbitrary-table-without-table": "$.Level.Percent: required: 'Table'",
-    "base-unit-missing": "Pressure: no base unit",
-    "base-unit-twice": "Pressure: display position 0 occurs twice",
-    "coefficient-nan": "number out of range: NaN",
-    "coefficient-null": f"{BAR}.Polynomial[1][0]: type",
-    "coefficient-out-of-range": "number out of range: 1e999",
-    "coefficient-text": f"{BAR}.Polynomial[1][0]: type",
-    "decimal-places-fraction": f"{BAR}.DecimalPlaces: type",
-    "decimal-places-missing": f"{BAR}: required: 'DecimalPlaces'",
-    "decimal-places-negative": f"{BAR}.DecimalPlaces: minimum",
-    "decimal-places-text": f"{BAR}.DecimalPlaces: type",
-    "decimal-places-too-many": f"{BAR}.DecimalPlaces: maximum",
-    "display-position-fraction": f"{HECTOPASCAL}.@displayPosition: type",
-    "display-position-missing": f"{HECTOPASCAL}: required: '@displayPosition'",
-    "display-position-negative": f"{HECTOPASCAL}.@displayPosition: minimum",
-    "display-position-text": f"{HECTOPASCAL}.@displayPosition: type",
-    "display-position-twice": "Pressure: display position 1 occurs twice",
-    "document-array": "$: type",
-    "document-empty": "$: minProperties",
-    "document-not-utf-8": "'utf-8' codec can't decode",
-    "document-truncated": "Expecting property name",
-    "document-without-text": "Expecting value: line 1 column 1",
-    "equidistant-table-of-points": "$.Level.Percent.Table[0]: maxItems",
-    "inverse-polynomial-missing": f"{BAR}: required: 'InversePolynomial'",
-    "label-empty": f"{BAR}.UnitLabel.@value.en: minLength",
-    "label-language-unknown": f"{BAR}.UnitLabel.@value: pattern: 'Deutsch'",
-    "label-missing": f"{BAR}: required: 'UnitLabel'",
-    "label-number": f"{BAR}.UnitLabel.@value.en: type",
-    "label-plain-text": f"{BAR}.UnitLabel: type",
-    "label-without-english": f"{BAR}.UnitLabel.@value: required: 'en'",
-    "label-without-value": f"{BAR}.UnitLabel: required: '@value'",
-    "member-misspelt": f"{BAR}: additionalProperties",
-    "member-twice": "duplicate member 'DecimalPlaces'",
-    "no-unit-among-units": "$.Pressure: maxProperties",
-    "no-unit-not-at-position-0": "$.NoUnit.NoUnit.@displayPosition: const",
-    "no-unit-with-converter": "$.NoUnit.NoUnit: additionalProperties",
-    "no-unit-with-label": "$.NoUnit.NoUnit.UnitLabel.@value.en: const",
-    "polynomial-empty": f"{BAR}.Polynomial: minItems",
-    "polynomial-flat": f"{BAR}.Polynomial[0]: type",
-    "polynomial-missing": f"{BAR}: required: 'Polynomial'",
-    "polynomial-row-empty": f"{BAR}.Polynomial[1]: minItems",
-    "polynomial-row-of-two": f"{BAR}.Polynomial[0]: maxItems",
-    "unit-name-empty": "$.Pressure: pattern: ''",
-    "unit-name-reserved": "$.Pressure: not",
-    "unit-name-with-slash": "$.Pressure: pattern: 'Pressure/Bar'",
-    "unit-null": f"{BAR}: type",
-    "unit-twice": "duplicate member 'Bar'",
-    "unit-type-empty": "$.Pressure: minProperties",
-    "unit-type-name-with-prefix": "$: pattern: 'UnitManager/UnitType/Pressure'",
-    "unit-type-null": "$.Pressure: type",
-    "unit-type-twice": "duplicate member 'Pressure'",
-}
-BROKEN_DEFAULT_UNITS = {
-    "default-plain-text": "$.Pressure: type",
-    "document-empty": "$: minProperties",
-    "document-truncated": "Invalid control character",
-    "member-unknown": "$.Pressure: additionalProperties",
-    "no-unit": "NoUnit: has no default unit",
-    "type-missing": "$.Pressure: required: '@type'",
-    "type-of-another-kind": "$.Pressure.@type: const",
-    "unit-of-another-type": "Pressure: UnitManager/UnitType/Time/Seconds is not a unit of this type",
-    "unit-type-twice": "duplicate member 'Pressure'",
-    "unit-type-unknown": "Presure: unknown unit type",
-    "unit-type-with-prefix": "$: pattern: 'UnitManager/UnitType/Pressure'",
-    "unit-unknown": "Pressure: unknown unit bar",
-    "value-empty": "$.Pressure.@value: pattern: ''",
-    "value-missing": "$.Pressure: required: '@value'",
-    "value-number": "$.Pressure.@value: type",
-    "value-with-trailing-slash": "$.Pressure.@value: pattern: 'Bar/'",
-}
+
+class Entry:
+    """A document of the corpus, or a folder with the documents of a device, and what is expected of it."""
+
+    def __init__(self, name, expected):
+        self.name = name
+        self.expected = expected
+        path = CORPUS / name
+        self.files = sorted(path.iterdir()) if path.is_dir() else [path]
+        findings = [FINDING.fullmatch(finding).groups(default="") for finding in expected["findings"]]
+        self.severities = {severity for severity, _, _ in findings}
+        self.rules = {rule for _, rule, _ in findings}
+        self.paths = [path for _, _, path in findings]
+
+    def kind(self, file):
+        return file.stem if len(self.files) > 1 else self.name.split("/")[0]
+
+
+def is_at_or_around(outer, inner):
+    return not outer or inner == outer or inner.startswith(outer + "/")
 
 
 class DocumentsTest(unittest.TestCase):
@@ -95,61 +56,83 @@ class DocumentsTest(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        cls.units_schema = document_rules.load(CONFIG / "units.schema.json")
-        cls.default_units_schema = document_rules.load(CONFIG / "default-units.schema.json")
+        cls.schemas = {kind: document_rules.load(CONFIG / f"{kind}.schema.json") for kind in KINDS}
         cls.units = document_rules.load(CONFIG / "units.json")
         cls.default_units = document_rules.load(CONFIG / "default-units.json")
+        expected = document_rules.load(CORPUS / "expected.json")
+        cls.corpus = [Entry(name, entry) for name, entry in expected.items()]
 
-    def unit_findings(self, path):
-        return document_rules.unit_findings(path.read_bytes(), self.units_schema)
+    def errors(self, kind, path):
+        return document_rules.schema_errors(document_rules.load(path), self.schemas[kind])
 
-    def default_unit_findings(self, path):
-        return document_rules.default_unit_findings(path.read_bytes(), self.default_units_schema, self.units)
-
-    def check_samples(self, folder, expected_findings, findings_of):
-        samples = {path.stem: path for path in (DATA / folder).iterdir()}
-        self.assertEqual(sorted(samples), sorted(expected_findings))
-        for name, path in samples.items():
-            with self.subTest(name):
-                findings = findings_of(path)
-                self.assertEqual(len(findings), 1, findings)
-                self.assertTrue(findings[0].startswith(expected_findings[name]), findings[0])
+    def verdict(self, kind, path):
+        try:
+            return "rejects" if self.errors(kind, path) else "accepts"
+        except document_rules.BrokenDocument:
+            return "unreadable"
 
     def test_schemas_are_valid(self):
-        jsonschema.Draft202012Validator.check_schema(self.units_schema)
-        jsonschema.Draft202012Validator.check_schema(self.default_units_schema)
+        for kind, schema in self.schemas.items():
+            with self.subTest(kind):
+                jsonschema.Draft202012Validator.check_schema(schema)
+                self.assertEqual(schema["$id"], f"urn:unitmanager:{kind}")
 
-    def test_shipped_units_are_sound(self):
-        self.assertEqual(self.unit_findings(CONFIG / "units.json"), [])
-
-    def test_shipped_default_units_are_sound(self):
-        self.assertEqual(self.default_unit_findings(CONFIG / "default-units.json"), [])
-
-    def test_every_kind_of_unit_is_accepted(self):
-        self.assertEqual(self.unit_findings(DATA / "sound-units.json"), [])
-
-    def test_fixed_unit_is_accepted_as_default_unit(self):
-        text = b'{ "Pressure": { "@type": "Selection", "@value": "UnitManager/UnitType/Pressure/Bar" } }'
-        self.assertEqual(document_rules.default_unit_findings(text, self.default_units_schema, self.units), [])
+    def test_shipped_documents_are_accepted(self):
+        for kind in KINDS:
+            with self.subTest(kind):
+                document = document_rules.load(CONFIG / f"{kind}.json")
+                self.assertEqual(document_rules.schema_findings(document, self.schemas[kind]), [])
 
     def test_notes_for_editors_are_accepted(self):
-        notes = b'{ "$schema": "units.schema.json", "$comment": [1], '
-        units = (CONFIG / "units.json").read_bytes().replace(b"{", notes, 1)
-        self.assertEqual(document_rules.unit_findings(units, self.units_schema), [])
-        default_units = (CONFIG / "default-units.json").read_bytes().replace(b"{", notes, 1)
-        self.assertEqual(
-            document_rules.default_unit_findings(default_units, self.default_units_schema, self.units), []
-        )
+        for kind in KINDS:
+            with self.subTest(kind):
+                notes = {"$schema": f"{kind}.schema.json", "$comment": [1]}
+                document = {**notes, **document_rules.load(CONFIG / f"{kind}.json")}
+                self.assertEqual(document_rules.schema_findings(document, self.schemas[kind]), [])
 
-    def test_schemas_have_their_own_identifiers(self):
-        self.assertEqual(self.units_schema["$id"], "urn:unitmanager:units")
-        self.assertEqual(self.default_units_schema["$id"], "urn:unitmanager:default-units")
+    def test_every_document_of_the_corpus_has_its_expectation(self):
+        files = sorted(file for entry in self.corpus for file in entry.files)
+        self.assertEqual(files, sorted(set(CORPUS.glob("**/*.json")) - {CORPUS / "expected.json"}))
+        self.assertEqual(len(self.corpus), 164)
 
-    def test_broken_unit_documents_are_rejected_for_their_fault(self):
-        self.check_samples("broken-units", BROKEN_UNITS, self.unit_findings)
+    def test_schemas_detect_structural_faults(self):
+        for entry in self.corpus:
+            with self.subTest(entry.name):
+                verdicts = [self.verdict(entry.kind(file), file) for file in entry.files]
+                self.assertEqual(max(verdicts, key=VERDICTS.index), entry.expected["schema"])
 
-    def test_broken_default_unit_documents_are_rejected_for_their_fault(self):
-        self.check_samples("broken-default-units", BROKEN_DEFAULT_UNITS, self.default_unit_findings)
+    def test_schemas_locate_faults(self):
+        located = 0
+        for entry in self.corpus:
+            if entry.expected["schema"] != "rejects":
+                continue
+            for file in entry.files:
+                for error in self.errors(entry.kind(file), file):
+                    with self.subTest(entry.name, error=error.message):
+                        path = "/".join(map(str, error.absolute_path))
+                        self.assertTrue(
+                            any(is_at_or_around(path, p) or is_at_or_around(p, path) for p in entry.paths), path
+                        )
+                    located += 1
+        self.assertGreater(located, 0)
+
+    def test_schema_and_findings_agree(self):
+        for entry in self.corpus:
+            with self.subTest(entry.name):
+                schema = entry.expected["schema"]
+                if schema != "accepts":
+                    self.assertTrue(entry.rules)
+                if entry.rules & STRUCTURAL:
+                    self.assertNotEqual(schema, "accepts")
+                if entry.rules & UNREADABLE:
+                    self.assertEqual(schema, "unreadable")
+
+    def test_errors_decide_what_the_service_does(self):
+        for entry in self.corpus:
+            with self.subTest(entry.name):
+                decisive = [severity for severity in SERVICE if severity in entry.severities]
+                expected = SERVICE[decisive[0]] if decisive else "accepts"
+                self.assertEqual(entry.expected["service"], expected)
 
     def test_shipped_labels_exist_in_every_language(self):
         labels = {
@@ -178,6 +161,8 @@ class DocumentsTest(unittest.TestCase):
 
     def test_every_unit_type_but_the_unit_less_one_has_a_default_unit(self):
         self.assertEqual(list(self.default_units), [name for name in self.units if name != document_rules.NO_UNIT])
+        for unit_type, default in self.default_units.items():
+            self.assertIn(default["@value"], self.units[unit_type])
 
 
 if __name__ == "__main__":
