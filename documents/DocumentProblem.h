@@ -12,10 +12,22 @@ struct TextPlace
 /// The reason why a document cannot be used, and where in the document.
 struct DocumentProblem
 {
+    enum class Kind
+    {
+        /// The file cannot be read.
+        File,
+        Syntax,
+        Encoding,
+        Nesting,
+        DuplicateName,
+        NumberOverflow
+    };
+
     /// One line without full stop, which continues "PATH: ", such as "is a directory".
     QString reason;
     /// Line 0 if the problem concerns the whole document.
     TextPlace place;
+    Kind kind = Kind::File;
 
     /// "PATH:LINE:COLUMN: REASON", or "PATH: REASON" without place.
     QString inFile(const QString& path) const;

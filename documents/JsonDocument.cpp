@@ -64,13 +64,22 @@ QString JsonValue::name() const
 
 TextPlace JsonValue::namePlace() const
 {
-    return node().name == JsonTree::noName ? place()
-                                           : Utf8::placeOf(m_tree->bytes, static_cast<int>(node().name));
+    return Utf8::placeOf(m_tree->bytes, nameOffset());
 }
 
 TextPlace JsonValue::place() const
 {
-    return Utf8::placeOf(m_tree->bytes, static_cast<int>(node().value));
+    return Utf8::placeOf(m_tree->bytes, offset());
+}
+
+int JsonValue::nameOffset() const
+{
+    return node().name == JsonTree::noName ? offset() : static_cast<int>(node().name);
+}
+
+int JsonValue::offset() const
+{
+    return static_cast<int>(node().value);
 }
 
 QString JsonValue::path() const
@@ -119,4 +128,9 @@ JsonValue JsonDocument::root() const
 QString JsonDocument::text() const
 {
     return QString::fromUtf8(m_tree->bytes);
+}
+
+const QByteArray& JsonDocument::bytes() const
+{
+    return m_tree->bytes;
 }

@@ -34,6 +34,9 @@ public:
     TextPlace namePlace() const;
     /// Where the value begins.
     TextPlace place() const;
+    /// The offsets of namePlace() and place() in the text, in bytes; see TextPlaces.
+    int nameOffset() const;
+    int offset() const;
     /// Names and indices (from 0) from the root to this value, such as "Pressure/Bar/Polynomial/0"; empty for
     /// the root.
     QString path() const;
@@ -62,6 +65,8 @@ public:
     JsonValue root() const;
     /// The whole text, without byte order mark.
     QString text() const;
+    /// The same in UTF-8.
+    const QByteArray& bytes() const;
 
 private:
     explicit JsonDocument(JsonTree tree);

@@ -46,7 +46,7 @@ bool JsonReader::read()
 {
     const int invalid = Utf8::firstInvalidByte(m_tree.bytes);
     if (invalid >= 0)
-        return fail(m_begin + invalid, "not UTF-8; save the document in that encoding");
+        return fail(m_begin + invalid, "not UTF-8; save the document in that encoding", Kind::Encoding);
     // Every value but the root follows a comma or an opening bracket.
     const auto most =
         std::count_if(m_begin, m_end, [](char byte) { return byte == ',' || byte == '{' || byte == '['; });
@@ -54,7 +54,7 @@ bool JsonReader::read()
 
     skipBlanks();
     if (isAtEnd()) {
-        m_problem = {"is empty", {}};
+        m_problem = {"is empty", {}, Kind::Syntax};
         return false;
     }
     if (*m_at != '{')
@@ -184,7 +184,8 @@ bool JsonReader::readNumber()
             return fail(m_at, "write a digit in the exponent, as in 1e3");
     }
     if (std::isinf(QByteArray::fromRawData(start, static_cast<int>(m_at - start)).toDouble()))
-        return fail(start, "too large for a number of double precision, whose limit is about 1.8e308");
+        return fail(start, "too large for a number of double precision, whose limit is about 1.8e308",
+                    Kind::NumberOverflow);
     return true;
 }
 
@@ -242,7 +243,8 @@ bool JsonReader::readCodeUnits()
 bool JsonReader::open(JsonType type, quint32 name)
 {
     if (m_open.size() == maxDepth)
-        return fail(m_at, QStringLiteral("nested too deeply; the limit is %1 levels").arg(maxDepth));
+        return fail(m_at, QStringLiteral("nested too deeply; the limit is %1 levels").arg(maxDepth),
+                    Kind::Nesting);
     m_open.push_back(static_cast<quint32>(m_tree.nodes.size()));
     add(type, name);
     ++m_at;
@@ -292,7 +294,8 @@ bool JsonReader::checkNames(quint32 object)
     const char* const duplicate = m_begin + nodes[second].name;
     return fail(duplicate,
                 "duplicate name " + DocumentProblem::quoted(JsonString::decoded(duplicate)) +
-                    QStringLiteral("; first at line %1, column %2").arg(place.line).arg(place.column));
+                    QStringLiteral("; first at line %1, column %2").arg(place.line).arg(place.column),
+                Kind::DuplicateName);
 }
 
 void JsonReader::add(JsonType type, quint32 name)
@@ -326,9 +329,9 @@ quint32 JsonReader::offset() const
     return static_cast<quint32>(m_at - m_begin);
 }
 
-bool JsonReader::fail(const char* at, const QString& reason)
+bool JsonReader::fail(const char* at, const QString& reason, Kind kind)
 {
-    m_problem = {reason, placeOf(at)};
+    m_problem = {reason, placeOf(at), kind};
     return false;
 }
 

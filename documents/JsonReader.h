@@ -47,7 +47,9 @@ private:
     bool isAtEnd() const;
     quint32 offset() const;
 
-    bool fail(const char* at, const QString& reason);
+    using Kind = DocumentProblem::Kind;
+
+    bool fail(const char* at, const QString& reason, Kind kind = Kind::Syntax);
     bool failExpecting(const char* expected);
     TextPlace placeOf(const char* at) const;
 

@@ -1,0 +1,52 @@
+#include "SimilarName.h"
+
+#include <QtCore/QVector>
+
+#include <algorithm>
+#include <cstdlib>
+#include <numeric>
+
+namespace {
+
+/// With more wrong characters a word is a different name, not a typing error.
+const int mostSlips = 2;
+/// Longer words are not compared, because the time grows with the square of the length.
+const int longestName = 200;
+
+/// The number of insertions, deletions and replacements that turn one text into the other.
+int editDistance(const QString& left, const QString& right)
+{
+    QVector<int> row(right.size() + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (int i = 0; i < left.size(); ++i) {
+        int diagonal = row[0];
+        row[0] = i + 1;
+        for (int j = 0; j < right.size(); ++j) {
+            const int replaced = diagonal + (left[i] == right[j] ? 0 : 1);
+            diagonal = row[j + 1];
+            row[j + 1] = std::min({replaced, row[j] + 1, diagonal + 1});
+        }
+    }
+    return row.last();
+}
+
+} // namespace
+
+QString SimilarName::of(const QString& name, const QStringList& known)
+{
+    QString nearest;
+    int fewestSlips = std::min(mostSlips, name.size() - 1) + 1;
+    if (name.size() > longestName)
+        return nearest;
+    const QString lowerCase = name.toLower();
+    for (const QString& candidate : known) {
+        if (std::abs(candidate.size() - name.size()) >= fewestSlips)
+            continue;
+        const int slips = editDistance(lowerCase, candidate.toLower());
+        if (slips < fewestSlips) {
+            nearest = candidate;
+            fewestSlips = slips;
+        }
+    }
+    return nearest;
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+/// Suggestions for misspelt names.
+namespace SimilarName {
+
+/// The name of the list that differs from @p name in at most two characters, regardless of case; the first
+/// one if several do. @return empty if there is none
+QString of(const QString& name, const QStringList& known);
+
+} // namespace SimilarName
