@@ -1,0 +1,123 @@
+#include "DefaultUnitsCheck.h"
+
+#include <QtCore/QRegularExpression>
+
+#include <algorithm>
+
+#include "SimilarName.h"
+#include "UnitManager.h"
+#include "UnitManagerDefinitions.h"
+#include "UnitTypeNames.h"
+
+namespace {
+
+bool isUnitReference(const QString& text)
+{
+    static const QRegularExpression pattern(QStringLiteral("^([^/]+/)*[A-Za-z][A-Za-z0-9]*$"));
+    return pattern.match(text).hasMatch();
+}
+
+} // namespace
+
+DefaultUnitsCheck::DefaultUnitsCheck(const JsonDocument& document, const UnitManager* library,
+                                     Findings& findings)
+    : m_document(document), m_library(library), m_findings(findings)
+{
+    if (m_library != nullptr)
+        m_types = UnitTypeNames::ofLibrary(*m_library);
+}
+
+void DefaultUnitsCheck::run()
+{
+    bool isEmpty = true;
+    for (const JsonValue& entry : m_document.root().children()) {
+        if (entry.name().startsWith(QLatin1Char('$')))
+            continue;
+        isEmpty = false;
+        checkEntry(entry);
+    }
+    if (isEmpty)
+        m_findings.addForDocument(Rule::DocumentEmpty, QStringLiteral("the document has no default units"));
+    if (m_library != nullptr)
+        checkTypes();
+}
+
+void DefaultUnitsCheck::checkEntry(const JsonValue& entry)
+{
+    const QString name = entry.name();
+    if (name.startsWith(QLatin1Char('@'))) {
+        m_findings.addAtName(Rule::UnknownMember, entry, name,
+                             DocumentProblem::quoted(name) + " is not read by any program");
+    } else if (!UnitTypeNames::isName(name)) {
+        m_findings.addAtName(Rule::NameInvalid, entry, name,
+                             DocumentProblem::quoted(name) + " is not the name of a unit type",
+                             QStringLiteral("write the name without prefix, such as \"Pressure\""));
+    } else if (entry.type() == JsonType::Null) {
+        m_findings.addAtName(Rule::NullNode, entry, name,
+                             "the default unit of " + DocumentProblem::quoted(name) + " is null");
+    } else if (isSelection(entry) && m_library != nullptr) {
+        checkUnit(entry, entry.member(QStringLiteral("@value"))->string());
+    }
+}
+
+bool DefaultUnitsCheck::isSelection(const JsonValue& entry)
+{
+    const auto type = entry.member(QStringLiteral("@type"));
+    const auto value = entry.member(QStringLiteral("@value"));
+    const bool isValid =
+        type && type->string() == QLatin1String("Selection") && value && isUnitReference(value->string());
+    if (!isValid) {
+        m_findings.addAtName(Rule::DefaultInvalid, entry, entry.name(),
+                             "the entry " + DocumentProblem::quoted(entry.name()) +
+                                 " is not a selection of a unit",
+                             QStringLiteral("write { \"@type\": \"Selection\", \"@value\": \"UNIT\" }"));
+        return false;
+    }
+    for (const JsonValue& member : entry.children()) {
+        if (member.name() != QLatin1String("@type") && member.name() != QLatin1String("@value"))
+            m_findings.addAtName(Rule::UnknownMember, member, entry.name() + '/' + member.name(),
+                                 "no program reads " + DocumentProblem::quoted(member.name()) +
+                                     " of a default unit");
+    }
+    return true;
+}
+
+void DefaultUnitsCheck::checkUnit(const JsonValue& entry, const QString& value)
+{
+    const QString type = entry.name();
+    const QString id = UnitTypeNames::identifierOf(type);
+    const QString quotedType = DocumentProblem::quoted(type);
+    if (m_library->getListofUnitTypes().contains(id) && !m_types.contains(type)) {
+        m_findings.addAtName(Rule::DefaultUnitUnknown, entry, type,
+                             "unit type " + quotedType + " has no units, so it has no default unit");
+        return;
+    }
+    if (!m_types.contains(type)) {
+        const QString similar = SimilarName::of(type, m_types);
+        m_findings.addAtName(
+            Rule::DefaultTypeUnknown, entry, type, "the units have no unit type " + quotedType,
+            similar.isEmpty() ? QString() : "did you mean " + DocumentProblem::quoted(similar) + '?');
+        return;
+    }
+    const int separator = value.lastIndexOf(QLatin1Char('/'));
+    const QString unit = value.mid(separator + 1);
+    const QStringList units = m_library->getListofUnits(id);
+    if (units.contains(unit) && (separator < 0 || value.left(separator) == id))
+        return;
+    const QString similar = SimilarName::of(unit, units);
+    m_findings.addAtName(Rule::DefaultUnitUnknown, entry, type,
+                         DocumentProblem::quoted(value) + " is not a unit of " + quotedType,
+                         similar.isEmpty() ? QString()
+                                           : "did you mean " + DocumentProblem::quoted(similar) + '?');
+}
+
+/// Reports the unit types without default unit.
+void DefaultUnitsCheck::checkTypes()
+{
+    const JsonValue root = m_document.root();
+    for (const QString& type : qAsConst(m_types)) {
+        if (!root.member(type))
+            m_findings.addForDocument(Rule::DefaultMissing,
+                                      "unit type " + DocumentProblem::quoted(type) + " has no default unit");
+    }
+}

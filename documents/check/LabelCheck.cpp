@@ -1,0 +1,149 @@
+#include "LabelCheck.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QSet>
+
+#include <algorithm>
+
+namespace {
+
+const QString& english()
+{
+    static const QString language = QStringLiteral("en");
+    return language;
+}
+
+bool isLanguage(const QString& name)
+{
+    static const QRegularExpression pattern(QStringLiteral("^[a-z]{2,3}(_[A-Z]{2})?$"));
+    return pattern.match(name).hasMatch();
+}
+
+/// The object with a text per language; no value if the label is not valid.
+std::optional<JsonValue> textsOf(const std::optional<JsonValue>& label)
+{
+    const auto texts = label ? label->member(QStringLiteral("@value")) : std::nullopt;
+    return texts && texts->type() == JsonType::Object ? texts : std::nullopt;
+}
+
+bool hasUnusualCharacters(const QString& text)
+{
+    return text != text.trimmed() || std::any_of(text.begin(), text.end(), [](QChar character) {
+               return !character.isPrint() && !character.isSurrogate();
+           });
+}
+
+} // namespace
+
+LabelCheck::LabelCheck(const TypeNode& type, const QStringList& languages, Findings& findings)
+    : m_type(type), m_languages(languages), m_findings(findings)
+{}
+
+QStringList LabelCheck::requiredLanguages(const JsonDocument& document, const QStringList& given)
+{
+    QSet<QString> languages(given.begin(), given.end());
+    languages.insert(english());
+    if (given.isEmpty()) {
+        for (const JsonValue& type : document.root().children()) {
+            for (const JsonValue& unit : type.children()) {
+                const auto texts = textsOf(unit.member(QStringLiteral("UnitLabel")));
+                for (const JsonValue& text : texts ? texts->children() : std::vector<JsonValue>()) {
+                    if (isLanguage(text.name()))
+                        languages.insert(text.name());
+                }
+            }
+        }
+    }
+    QStringList result(languages.begin(), languages.end());
+    result.sort();
+    return result;
+}
+
+void LabelCheck::run()
+{
+    for (const UnitNode& unit : m_type.units)
+        checkLabel(unit);
+    checkDuplicates();
+}
+
+void LabelCheck::checkLabel(const UnitNode& unit)
+{
+    const QString advice = QStringLiteral("write \"UnitLabel\": { \"@value\": { \"en\": \"...\" } }");
+    const QString path = unit.path + "/UnitLabel";
+    if (!unit.label) {
+        m_findings.addAtName(Rule::LabelMissing, unit.value, unit.path,
+                             QStringLiteral("the unit has no label"), advice);
+        return;
+    }
+    if (unit.label->type() == JsonType::Null)
+        return;
+    const auto texts = textsOf(unit.label);
+    if (!texts) {
+        m_findings.addAtName(Rule::LabelInvalid, *unit.label, path,
+                             QStringLiteral("the label is not an object with a text per language"), advice);
+        return;
+    }
+    for (const JsonValue& member : unit.label->children()) {
+        if (member.name() != QLatin1String("@value"))
+            m_findings.addAtName(Rule::UnknownMember, member, path + '/' + member.name(),
+                                 "no program reads " + DocumentProblem::quoted(member.name()) +
+                                     " of a label");
+    }
+    const std::vector<JsonValue> members = texts->children();
+    for (const JsonValue& text : members)
+        checkText(unit, text);
+    checkLanguages(unit, members);
+}
+
+void LabelCheck::checkLanguages(const UnitNode& unit, const std::vector<JsonValue>& texts)
+{
+    QStringList missing = m_languages;
+    for (const JsonValue& text : texts)
+        missing.removeOne(text.name());
+    if (!missing.isEmpty())
+        m_findings.addAtName(Rule::LanguageMissing, *unit.label, unit.path + "/UnitLabel",
+                             "the label lacks " + missing.join(QStringLiteral(", ")));
+}
+
+void LabelCheck::checkText(const UnitNode& unit, const JsonValue& text)
+{
+    const QString language = text.name();
+    const QString path = unit.path + "/UnitLabel/@value/" + language;
+    if (!isLanguage(language)) {
+        m_findings.addAtName(Rule::LanguageInvalid, text, path,
+                             DocumentProblem::quoted(language) + " is not a language",
+                             QStringLiteral("write a code such as de or de_AT"));
+    } else if (text.type() != JsonType::String) {
+        m_findings.addAtValue(Rule::LabelInvalid, text, path, QStringLiteral("the label is not a text"));
+    } else if (text.string().isEmpty()) {
+        m_findings.addAtValue(Rule::LabelMissing, text, path, QStringLiteral("the label is empty"));
+    } else if (hasUnusualCharacters(text.string())) {
+        m_findings.addAtValue(Rule::LabelCharacters, text, path,
+                              QStringLiteral("the label has control characters, or blanks at its ends"));
+    }
+}
+
+/// Reports each unit once, in the first language in which its label repeats that of another unit.
+void LabelCheck::checkDuplicates()
+{
+    QHash<QString, const UnitNode*> unitsByText;
+    for (const UnitNode& unit : m_type.units) {
+        const auto texts = textsOf(unit.label);
+        bool isReported = false;
+        for (const JsonValue& text : texts ? texts->children() : std::vector<JsonValue>()) {
+            if (text.string().isEmpty())
+                continue;
+            const QString key = text.name() + '/' + text.string();
+            const UnitNode* const other = unitsByText.value(key);
+            if (other == nullptr) {
+                unitsByText.insert(key, &unit);
+            } else if (!isReported) {
+                isReported = true;
+                m_findings.addAtValue(Rule::LabelDuplicate, text,
+                                      unit.path + "/UnitLabel/@value/" + text.name(),
+                                      "the label is also that of " + DocumentProblem::quoted(other->name));
+            }
+        }
+    }
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+class UnitManager;
+
+/// The names and identifiers of unit types.
+namespace UnitTypeNames {
+
+/// Whether the text can be the name of a unit type or unit: a section of an identifier.
+bool isName(const QString& text);
+/// The library's identifier of a unit type, "UnitManager/UnitType/NAME".
+QString identifierOf(const QString& name);
+/// The text after the last "/".
+QString afterLastSlash(const QString& text);
+/// The names of the library's unit types that have units, sorted.
+QStringList ofLibrary(const UnitManager& library);
+
+} // namespace UnitTypeNames
