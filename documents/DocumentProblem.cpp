@@ -1,5 +1,7 @@
 #include "DocumentProblem.h"
 
+#include "PrintableText.h"
+
 namespace {
 
 const int longestQuotation = 60;
@@ -23,10 +25,6 @@ QString DocumentProblem::withPlace() const
 
 QString DocumentProblem::quoted(const QString& text)
 {
-    QString shown = text.left(longestQuotation);
-    for (QChar& character : shown) {
-        if (!character.isPrint() && !character.isSurrogate())
-            character = QLatin1Char('?');
-    }
-    return '"' + shown + (text.size() > longestQuotation ? "...\"" : "\"");
+    return '"' + PrintableText::of(text.left(longestQuotation)) +
+           (text.size() > longestQuotation ? "...\"" : "\"");
 }

@@ -16,6 +16,8 @@ struct DocumentProblem
     {
         /// The file cannot be read.
         File,
+        /// The file has no text.
+        Empty,
         Syntax,
         Encoding,
         Nesting,

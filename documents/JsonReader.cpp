@@ -54,7 +54,7 @@ bool JsonReader::read()
 
     skipBlanks();
     if (isAtEnd()) {
-        m_problem = {"is empty", {}, Kind::Syntax};
+        m_problem = {"is empty", {}, Kind::Empty};
         return false;
     }
     if (*m_at != '{')

@@ -12,6 +12,8 @@ namespace {
 const int mostSlips = 2;
 /// Longer words are not compared, because the time grows with the square of the length.
 const int longestName = 200;
+/// From more names nothing is suggested: thousands of misspelt names would take minutes.
+const int mostNames = 1000;
 
 /// The number of insertions, deletions and replacements that turn one text into the other.
 int editDistance(const QString& left, const QString& right)
@@ -36,7 +38,7 @@ QString SimilarName::of(const QString& name, const QStringList& known)
 {
     QString nearest;
     int fewestSlips = std::min(mostSlips, name.size() - 1) + 1;
-    if (name.size() > longestName)
+    if (name.size() > longestName || known.size() > mostNames)
         return nearest;
     const QString lowerCase = name.toLower();
     for (const QString& candidate : known) {

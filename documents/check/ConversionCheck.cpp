@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "MemberNames.h"
 #include "RoundTrip.h"
 
 namespace {
@@ -105,15 +106,16 @@ ConversionCheck::ConversionCheck(const TypeNode& type, const DocumentChecker::Op
 
 void ConversionCheck::run()
 {
-    checkBaseUnits();
+    const UnitNode* const base = checkBaseUnits();
     for (const UnitNode& unit : m_type.units) {
         if (!unit.coefficients.empty())
-            checkUnit(unit);
+            checkUnit(unit, &unit == base);
     }
     checkPrefixes();
 }
 
-void ConversionCheck::checkBaseUnits()
+/// @return the first unit at position 0; null if there is none
+const UnitNode* ConversionCheck::checkBaseUnits()
 {
     const UnitNode* first = nullptr;
     bool isPositionUnknown = false;
@@ -134,13 +136,14 @@ void ConversionCheck::checkBaseUnits()
         m_findings.addAtName(Rule::BaseMissing, m_type.value, m_type.name,
                              "unit type " + DocumentProblem::quoted(m_type.name) + " has no base unit",
                              QStringLiteral("give the unit in which values are stored the position 0"));
+    return first;
 }
 
-void ConversionCheck::checkUnit(const UnitNode& unit)
+void ConversionCheck::checkUnit(const UnitNode& unit, bool isBase)
 {
     const QString path = unit.path + "/Polynomial";
     const std::vector<double> identity{0, 1};
-    if (unit.displayPosition == 0 && unit.coefficients != identity) {
+    if (isBase && unit.coefficients != identity) {
         m_findings.addAtName(Rule::BaseNotIdentity, *unit.polynomial, path,
                              "the base unit " + DocumentProblem::quoted(unit.name) + " changes values",
                              "write " + listText(0, 1));
@@ -158,7 +161,9 @@ void ConversionCheck::checkUnit(const UnitNode& unit)
         m_findings.addAtName(
             Rule::InverseMissing, unit.value, unit.path,
             QStringLiteral("the unit has no \"InversePolynomial\": every value is stored as 0"),
-            unit.isLinear() ? "write \"InversePolynomial\": " + inverseText(unit) : QString());
+            MemberNames::adviceForMissing(
+                unit.value, QStringLiteral("InversePolynomial"),
+                unit.isLinear() ? "write \"InversePolynomial\": " + inverseText(unit) : QString()));
     } else if (!unit.inverseCoefficients.empty()) {
         checkInverse(unit);
     }

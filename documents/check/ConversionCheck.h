@@ -17,8 +17,8 @@ public:
     void run();
 
 private:
-    void checkBaseUnits();
-    void checkUnit(const UnitNode& unit);
+    const UnitNode* checkBaseUnits();
+    void checkUnit(const UnitNode& unit, bool isBase);
     bool isMonotonic(const UnitNode& unit) const;
     void checkInverse(const UnitNode& unit);
     void checkPrefixes();

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "SimilarName.h"
+#include "MemberNames.h"
 #include "UnitManager.h"
 #include "UnitManagerDefinitions.h"
 #include "UnitTypeNames.h"
@@ -23,8 +23,13 @@ DefaultUnitsCheck::DefaultUnitsCheck(const JsonDocument& document, const UnitMan
                                      Findings& findings)
     : m_document(document), m_library(library), m_findings(findings)
 {
-    if (m_library != nullptr)
-        m_types = UnitTypeNames::ofLibrary(*m_library);
+    if (m_library == nullptr)
+        return;
+    m_types = UnitTypeNames::withUnits(*m_library);
+    m_typeSet = QSet<QString>(m_types.begin(), m_types.end());
+    for (const QString& id : m_library->getListofUnitTypes())
+        m_unitlessTypes.insert(UnitTypeNames::afterLastSlash(id));
+    m_unitlessTypes.subtract(m_typeSet);
 }
 
 void DefaultUnitsCheck::run()
@@ -87,16 +92,15 @@ void DefaultUnitsCheck::checkUnit(const JsonValue& entry, const QString& value)
     const QString type = entry.name();
     const QString id = UnitTypeNames::identifierOf(type);
     const QString quotedType = DocumentProblem::quoted(type);
-    if (m_library->getListofUnitTypes().contains(id) && !m_types.contains(type)) {
+    if (m_unitlessTypes.contains(type)) {
         m_findings.addAtName(Rule::DefaultUnitUnknown, entry, type,
                              "unit type " + quotedType + " has no units, so it has no default unit");
         return;
     }
-    if (!m_types.contains(type)) {
-        const QString similar = SimilarName::of(type, m_types);
-        m_findings.addAtName(
-            Rule::DefaultTypeUnknown, entry, type, "the units have no unit type " + quotedType,
-            similar.isEmpty() ? QString() : "did you mean " + DocumentProblem::quoted(similar) + '?');
+    if (!m_typeSet.contains(type)) {
+        m_findings.addAtName(Rule::DefaultTypeUnknown, entry, type,
+                             "the units have no unit type " + quotedType,
+                             MemberNames::suggestion(type, m_types));
         return;
     }
     const int separator = value.lastIndexOf(QLatin1Char('/'));
@@ -104,19 +108,19 @@ void DefaultUnitsCheck::checkUnit(const JsonValue& entry, const QString& value)
     const QStringList units = m_library->getListofUnits(id);
     if (units.contains(unit) && (separator < 0 || value.left(separator) == id))
         return;
-    const QString similar = SimilarName::of(unit, units);
     m_findings.addAtName(Rule::DefaultUnitUnknown, entry, type,
                          DocumentProblem::quoted(value) + " is not a unit of " + quotedType,
-                         similar.isEmpty() ? QString()
-                                           : "did you mean " + DocumentProblem::quoted(similar) + '?');
+                         MemberNames::suggestion(unit, units));
 }
 
 /// Reports the unit types without default unit.
 void DefaultUnitsCheck::checkTypes()
 {
-    const JsonValue root = m_document.root();
+    QSet<QString> entries;
+    for (const JsonValue& entry : m_document.root().children())
+        entries.insert(entry.name());
     for (const QString& type : qAsConst(m_types)) {
-        if (!root.member(type))
+        if (!entries.contains(type))
             m_findings.addForDocument(Rule::DefaultMissing,
                                       "unit type " + DocumentProblem::quoted(type) + " has no default unit");
     }

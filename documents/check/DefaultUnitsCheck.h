@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QtCore/QSet>
+#include <QtCore/QStringList>
+
 #include "Findings.h"
 
 class UnitManager;
@@ -23,6 +26,9 @@ private:
     const JsonDocument& m_document;
     const UnitManager* m_library;
     Findings& m_findings;
-    /// The names of the library's unit types that have units.
+    /// The names of the library's unit types that have units, sorted.
     QStringList m_types;
+    QSet<QString> m_typeSet;
+    /// The names of the other unit types.
+    QSet<QString> m_unitlessTypes;
 };

@@ -2,7 +2,7 @@
 
 #include <QtCore/QSet>
 
-#include "SimilarName.h"
+#include "MemberNames.h"
 #include "UnitTypeNames.h"
 
 namespace {
@@ -27,8 +27,9 @@ DependenciesCheck::DependenciesCheck(const JsonDocument& document, const UnitMan
 {
     if (library == nullptr)
         return;
-    for (const QString& type : UnitTypeNames::ofLibrary(*library))
+    for (const QString& type : UnitTypeNames::withUnits(*library))
         m_typeKeys << type << type + "Range" << type + "Unit";
+    m_typeKeySet = QSet<QString>(m_typeKeys.begin(), m_typeKeys.end());
 }
 
 void DependenciesCheck::run()
@@ -43,16 +44,13 @@ void DependenciesCheck::run()
 void DependenciesCheck::checkEntry(const JsonValue& entry)
 {
     const QString key = entry.name();
-    if (key.startsWith(QLatin1Char('@'))) {
-        m_findings.addAtName(Rule::UnknownMember, entry, key,
-                             DocumentProblem::quoted(key) + " is not read by any program");
-    } else if (entry.type() == JsonType::Null) {
+    if (entry.type() == JsonType::Null) {
         m_findings.addAtName(Rule::NullNode, entry, key,
                              "the list of " + DocumentProblem::quoted(key) + " is null");
     } else if (!isKey(key) || entry.type() != JsonType::Array) {
         m_findings.addAtName(Rule::DependencyInvalid, entry, key,
                              isKey(key) ? DocumentProblem::quoted(key) + " has no list of keys"
-                                        : QStringLiteral("the key is empty"),
+                                        : QStringLiteral("a key must not be empty or begin with \"@\""),
                              QStringLiteral("write \"KEY\": [\"KEY\"]"));
     } else {
         checkKey(entry, key, key);
@@ -72,6 +70,10 @@ void DependenciesCheck::checkDependents(const JsonValue& entry, const std::vecto
         const JsonValue& dependent = dependents[index];
         const QString path = key + '/' + QString::number(index);
         const QString text = dependent.string();
+        if (dependent.type() == JsonType::Null) {
+            m_findings.addAtValue(Rule::NullNode, dependent, path, QStringLiteral("null in place of a key"));
+            continue;
+        }
         if (dependent.type() != JsonType::String || !isKey(text)) {
             m_findings.addAtValue(Rule::DependencyInvalid, dependent, path,
                                   QStringLiteral("this is not a key"),
@@ -90,13 +92,12 @@ void DependenciesCheck::checkDependents(const JsonValue& entry, const std::vecto
 /// Reports a key that differs a little from that of a unit type. Other keys are the application's own.
 void DependenciesCheck::checkKey(const JsonValue& at, const QString& key, const QString& path)
 {
-    if (m_typeKeys.contains(key))
+    if (m_typeKeySet.contains(key))
         return;
-    const QString similar = SimilarName::of(key, m_typeKeys);
-    if (!similar.isEmpty())
+    const QString suggestion = MemberNames::suggestion(key, m_typeKeys);
+    if (!suggestion.isEmpty())
         m_findings.addAtName(Rule::DependencyUnknown, at, path,
-                             DocumentProblem::quoted(key) + " leads nowhere",
-                             "did you mean " + DocumentProblem::quoted(similar) + '?');
+                             DocumentProblem::quoted(key) + " leads nowhere", suggestion);
 }
 
 /// Visits every key once, depth first. Does not use recursion: a chain may be as long as the document.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QHash>
+#include <QtCore/QSet>
 #include <QtCore/QStringList>
 
 #include "Findings.h"
@@ -28,5 +29,6 @@ private:
     /// The keys that belong to unit types: "Pressure", "PressureRange", "PressureUnit". Empty without
     /// library.
     QStringList m_typeKeys;
+    QSet<QString> m_typeKeySet;
     QHash<QString, std::vector<JsonValue>> m_dependents;
 };

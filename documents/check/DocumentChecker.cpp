@@ -23,6 +23,8 @@ Rule ruleOf(Kind kind)
         return Rule::DuplicateName;
     case Kind::NumberOverflow:
         return Rule::NumberOverflow;
+    case Kind::Empty:
+        return Rule::DocumentEmpty;
     case Kind::File:
     case Kind::Syntax:
         break;
@@ -58,7 +60,9 @@ QString Finding::text() const
 
 Finding DocumentChecker::readingFinding(DocumentKind document, const DocumentProblem& problem)
 {
-    return {document, ruleOf(problem.kind), problem.place, {}, problem.reason, {}};
+    const TextPlace start{1, 1};
+    return {document, ruleOf(problem.kind), problem.place.line > 0 ? problem.place : start,
+            {},       problem.reason,       {}};
 }
 
 std::vector<Finding> DocumentChecker::check(const DocumentSet& documents, const Options& options)

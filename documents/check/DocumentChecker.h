@@ -22,7 +22,7 @@ struct Finding
 {
     DocumentKind document;
     Rule rule;
-    /// Line 0 if the finding concerns the whole document.
+    /// Line 1, column 1 if the finding concerns the whole document.
     TextPlace place;
     /// Names and indices from the root, such as "Pressure/Bar/Polynomial/0"; empty for the root.
     QString path;

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+#include "MemberNames.h"
+
 namespace {
 
 const QString& english()
@@ -73,7 +75,8 @@ void LabelCheck::checkLabel(const UnitNode& unit)
     const QString path = unit.path + "/UnitLabel";
     if (!unit.label) {
         m_findings.addAtName(Rule::LabelMissing, unit.value, unit.path,
-                             QStringLiteral("the unit has no label"), advice);
+                             QStringLiteral("the unit has no label"),
+                             MemberNames::adviceForMissing(unit.value, QStringLiteral("UnitLabel"), advice));
         return;
     }
     if (unit.label->type() == JsonType::Null)
@@ -114,10 +117,12 @@ void LabelCheck::checkText(const UnitNode& unit, const JsonValue& text)
         m_findings.addAtName(Rule::LanguageInvalid, text, path,
                              DocumentProblem::quoted(language) + " is not a language",
                              QStringLiteral("write a code such as de or de_AT"));
+    } else if (text.type() == JsonType::Null) {
+        m_findings.addAtName(Rule::NullNode, text, path, QStringLiteral("null in place of a label"));
     } else if (text.type() != JsonType::String) {
         m_findings.addAtValue(Rule::LabelInvalid, text, path, QStringLiteral("the label is not a text"));
     } else if (text.string().isEmpty()) {
-        m_findings.addAtValue(Rule::LabelMissing, text, path, QStringLiteral("the label is empty"));
+        m_findings.addAtValue(Rule::LabelInvalid, text, path, QStringLiteral("the label is empty"));
     } else if (hasUnusualCharacters(text.string())) {
         m_findings.addAtValue(Rule::LabelCharacters, text, path,
                               QStringLiteral("the label has control characters, or blanks at its ends"));

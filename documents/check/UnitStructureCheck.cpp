@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "SimilarName.h"
+#include "MemberNames.h"
 #include "UnitManager.h"
 
 namespace {
@@ -31,11 +31,21 @@ QStringList knownMembers(const QString& conversionKind)
                        QStringLiteral("OrdinateMinInversion"), QStringLiteral("OrdinateMaxInversion")};
 }
 
-/// "did you mean "X"?", or empty without similar name.
-QString suggestion(const QString& name, const QStringList& known)
+/// The members that every unit must have. Their absence is reported on its own.
+QStringList requiredMembers(const QString& conversionKind)
 {
-    const QString similar = SimilarName::of(name, known);
-    return similar.isEmpty() ? QString() : "did you mean " + DocumentProblem::quoted(similar) + '?';
+    const QStringList common{QStringLiteral("@displayPosition"), QStringLiteral("UnitLabel"), conversionKind};
+    if (conversionKind != conversionKinds()[0])
+        return common + QStringList{QStringLiteral("Table")};
+    return common + QStringList{QStringLiteral("DecimalPlaces"), QStringLiteral("InversePolynomial")};
+}
+
+QString adviceForMissingConversion(const JsonValue& unit)
+{
+    QString advice = QStringLiteral("add \"Polynomial\" and \"InversePolynomial\"");
+    for (const QString& kind : conversionKinds())
+        advice = MemberNames::adviceForMissing(unit, kind, advice);
+    return advice;
 }
 
 /// The whole number from 0 to a maximum; no value for anything else.
@@ -97,43 +107,36 @@ void UnitStructureCheck::checkConversion(UnitNode& unit, const TypeNode& type, c
     }
     if (kinds.empty() || !isAccepted) {
         const bool isNull = !kinds.empty() && kinds[0].type() == JsonType::Null;
-        QString misspelt;
-        QString advice = QStringLiteral("add \"Polynomial\" and \"InversePolynomial\"");
-        for (const JsonValue& member : unit.value.children()) {
-            const QString similar = SimilarName::of(member.name(), conversionKinds());
-            if (kinds.empty() && !similar.isEmpty()) {
-                misspelt = member.name();
-                advice = DocumentProblem::quoted(misspelt) + ": did you mean " +
-                         DocumentProblem::quoted(similar) + '?';
-            }
-        }
         if (!isNull)
             m_findings.addAtName(Rule::ConversionMissing, unit.value, unit.path,
                                  QStringLiteral("the library ignores the unit: it has no conversion"),
-                                 advice);
-        checkMembers(unit, knownMembers(conversionKinds()[0]), misspelt);
+                                 adviceForMissingConversion(unit.value));
+        checkMembers(unit, conversionKinds()[0]);
         return;
     }
-    checkMembers(unit, knownMembers(kinds[0].name()), {});
+    checkMembers(unit, kinds[0].name());
     if (unit.polynomial)
         checkPolynomialUnit(unit);
     else
         checkTableUnit(unit, kinds[0]);
 }
 
-/// Reports null and unknown members. @param reported a member that has been reported already
-void UnitStructureCheck::checkMembers(const UnitNode& unit, const QStringList& known, const QString& reported)
+/// Reports null and unknown members. A misspelt member is reported where the right one is missing.
+void UnitStructureCheck::checkMembers(const UnitNode& unit, const QString& conversionKind)
 {
+    QStringList misspelt;
+    for (const QString& required : requiredMembers(conversionKind))
+        misspelt.append(MemberNames::misspelling(unit.value, required));
+    const QStringList known = knownMembers(conversionKind);
     for (const JsonValue& member : unit.value.children()) {
-        const QString path = unit.path + '/' + member.name();
-        if (!known.contains(member.name()) && member.name() != reported) {
+        const QString name = member.name();
+        const QString path = unit.path + '/' + name;
+        if (!known.contains(name) && !misspelt.contains(name)) {
             m_findings.addAtName(Rule::UnknownMember, member, path,
-                                 "no program reads " + DocumentProblem::quoted(member.name()) +
-                                     " of this unit",
-                                 suggestion(member.name(), known));
+                                 "no program reads " + DocumentProblem::quoted(name) + " of this unit",
+                                 MemberNames::suggestion(name, known));
         } else if (member.type() == JsonType::Null) {
-            m_findings.addAtName(Rule::NullNode, member, path,
-                                 DocumentProblem::quoted(member.name()) + " is null");
+            m_findings.addAtName(Rule::NullNode, member, path, DocumentProblem::quoted(name) + " is null");
         }
     }
 }
@@ -176,8 +179,10 @@ void UnitStructureCheck::checkPosition(UnitNode& unit)
 {
     const QString advice = QStringLiteral("write a whole number; 0 is the base unit");
     if (!unit.position) {
-        m_findings.addAtName(Rule::PositionInvalid, unit.value, unit.path,
-                             QStringLiteral("the unit has no \"@displayPosition\""), advice);
+        m_findings.addAtName(
+            Rule::PositionInvalid, unit.value, unit.path,
+            QStringLiteral("the unit has no \"@displayPosition\""),
+            MemberNames::adviceForMissing(unit.value, QStringLiteral("@displayPosition"), advice));
     } else if (unit.position->type() != JsonType::Null) {
         unit.displayPosition = wholeNumber(*unit.position, std::numeric_limits<int>::max());
         if (!unit.displayPosition)
@@ -190,9 +195,10 @@ void UnitStructureCheck::checkDecimals(UnitNode& unit)
 {
     const QString advice = QStringLiteral("write a whole number from 0 to 17, without quotes");
     if (!unit.decimals) {
-        m_findings.addAtName(Rule::DecimalsInvalid, unit.value, unit.path,
-                             QStringLiteral("the unit has no \"DecimalPlaces\", so it is shown without any"),
-                             advice);
+        m_findings.addAtName(
+            Rule::DecimalsInvalid, unit.value, unit.path,
+            QStringLiteral("the unit has no \"DecimalPlaces\", so it is shown without any"),
+            MemberNames::adviceForMissing(unit.value, QStringLiteral("DecimalPlaces"), advice));
     } else if (unit.decimals->type() != JsonType::Null) {
         unit.decimalPlaces = wholeNumber(*unit.decimals, mostDecimalPlaces);
         if (!unit.decimalPlaces)

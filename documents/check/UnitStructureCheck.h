@@ -20,7 +20,7 @@ private:
     void checkConversion(UnitNode& unit, const TypeNode& type, const UnitManager& library);
     void checkPosition(UnitNode& unit);
     void checkDecimals(UnitNode& unit);
-    void checkMembers(const UnitNode& unit, const QStringList& known, const QString& reported);
+    void checkMembers(const UnitNode& unit, const QString& conversionKind);
     bool checkRows(const JsonValue& list, const QString& path, std::size_t columns);
     bool checkRow(const JsonValue& row, const QString& path, std::size_t columns);
     bool checkNumber(const JsonValue& number, const QString& path);

@@ -24,7 +24,7 @@ QString UnitTypeNames::afterLastSlash(const QString& text)
     return text.mid(text.lastIndexOf(QLatin1Char('/')) + 1);
 }
 
-QStringList UnitTypeNames::ofLibrary(const UnitManager& library)
+QStringList UnitTypeNames::withUnits(const UnitManager& library)
 {
     QStringList names;
     for (const QString& id : library.getListofUnitTypes()) {

@@ -15,6 +15,6 @@ QString identifierOf(const QString& name);
 /// The text after the last "/".
 QString afterLastSlash(const QString& text);
 /// The names of the library's unit types that have units, sorted.
-QStringList ofLibrary(const UnitManager& library);
+QStringList withUnits(const UnitManager& library);
 
 } // namespace UnitTypeNames
