@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "CheckVerb.h"
 #include "Console.h"
 #include "ConvertVerb.h"
 #include "KnownNames.h"
@@ -19,6 +20,7 @@ CommandLine::CommandLine()
     m_verbs.push_back(std::make_unique<ConvertVerb>());
     m_verbs.push_back(std::make_unique<TableVerb>());
     m_verbs.push_back(std::make_unique<LabelVerb>());
+    m_verbs.push_back(std::make_unique<CheckVerb>());
     m_verbs.push_back(std::make_unique<WatchVerb>());
 }
 

@@ -1,0 +1,139 @@
+#include "CheckVerb.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QJsonObject>
+
+#include <algorithm>
+#include <cmath>
+
+#include "CheckedDocuments.h"
+#include "Console.h"
+#include "FindingText.h"
+#include "NumberText.h"
+#include "OutputOptions.h"
+#include "SarifLog.h"
+
+namespace {
+
+const char* const languagesOption = "languages";
+const char* const severityOption = "severity";
+const char* const rangeOption = "range";
+const char* const rulesOption = "rules";
+const char* const sarifOption = "sarif";
+
+/// Reads the options that concern the checks.
+Result<DocumentChecker::Options> checkerOptions(const QCommandLineParser& options)
+{
+    DocumentChecker::Options result;
+    if (options.isSet(languagesOption)) {
+        result.languages = options.value(languagesOption).split(',');
+        if (result.languages.contains(QString()))
+            return wrongUsage("--languages must be a list such as en,de,fr");
+    }
+    if (options.isSet(rangeOption)) {
+        const QStringList limits = options.value(rangeOption).split(',');
+        const auto lowest = NumberText::parse(limits.value(0));
+        const auto highest = NumberText::parse(limits.value(1));
+        if (limits.size() != 2 || !lowest || !highest || !(*lowest < *highest) ||
+            !std::isfinite(*highest - *lowest))
+            return wrongUsage("--range must be two numbers, the lower first, such as -40,180");
+        result.lowest = *lowest;
+        result.highest = *highest;
+    }
+    return result;
+}
+
+void printRules()
+{
+    for (const RuleDescription& rule : Rules::all())
+        Console::printLine(QString("%1 %2 %3")
+                               .arg(rule.name, -21)
+                               .arg(Rules::severityName(rule.severity), -8)
+                               .arg(rule.summary));
+}
+
+void printJson(const std::vector<Finding>& findings, const CheckedDocuments& documents)
+{
+    for (const Finding& finding : findings) {
+        const RuleDescription& rule = Rules::describe(finding.rule);
+        Console::printLine(OutputOptions::jsonLine({{"file", documents.name(finding.document)},
+                                                    {"line", finding.place.line},
+                                                    {"column", finding.place.column},
+                                                    {"path", finding.path},
+                                                    {"severity", Rules::severityName(rule.severity)},
+                                                    {"rule", rule.name},
+                                                    {"message", finding.message},
+                                                    {"advice", finding.advice}}));
+    }
+}
+
+} // namespace
+
+CheckVerb::CheckVerb()
+    : Verb({"check",
+            "Finds mistakes in documents.",
+            {},
+            "Checks the given documents, alone and together; without any, the shipped ones. A\n"
+            "finding has a place, a path in the document, a severity and a rule. The\n"
+            "configuration service refuses a document with an error, logs warnings and ignores\n"
+            "notes.\n\n"
+            "Exit codes: 0 no finding; 1 findings; 2 a document cannot be read, or the command\n"
+            "line was wrong.\n\n"
+            "Examples:\n"
+            "  unitmanager check --units units.json --default-units default-units.json\n"
+            "  unitmanager check --units units.json --languages en,de,fr --severity warning"})
+{}
+
+void CheckVerb::addOptions(QCommandLineParser& parser) const
+{
+    CheckedDocuments::addOptions(parser);
+    parser.addOption({languagesOption,
+                      "Languages that every label must have, such as en,de; those of the document when not "
+                      "given.",
+                      "LIST"});
+    parser.addOption({severityOption,
+                      "Least severity that is reported: error, warning or note (the default).", "SEVERITY",
+                      "note"});
+    parser.addOption({rangeOption,
+                      "Values in base units between which polynomials of degree 2 and higher are examined; "
+                      "0,100 when not given.",
+                      "LOW,HIGH"});
+    parser.addOption({rulesOption, "List the rules instead."});
+    OutputOptions::addJson(parser, "file, line, column, path, severity, rule, message, advice");
+    parser.addOption({sarifOption, "Print a SARIF 2.1.0 log."});
+}
+
+Result<ExitCode> CheckVerb::run(const QCommandLineParser& options, const QStringList& /*arguments*/)
+{
+    if (options.isSet(rulesOption)) {
+        printRules();
+        return Succeeded;
+    }
+    if (OutputOptions::isJson(options) && options.isSet(sarifOption))
+        return wrongUsage("--json and --sarif cannot be combined");
+    const auto least = Rules::severityFromName(options.value(severityOption));
+    if (!least)
+        return wrongUsage("--severity must be error, warning or note");
+    const auto checks = checkerOptions(options);
+    if (!checks)
+        return checks.error();
+    Result<CheckedDocuments> documents = CheckedDocuments::read(options);
+    if (!documents)
+        return documents.error();
+
+    std::vector<Finding> findings = documents->check(*checks);
+    findings.erase(std::remove_if(findings.begin(), findings.end(),
+                                  [&least](const Finding& finding) {
+                                      return Rules::describe(finding.rule).severity > *least;
+                                  }),
+                   findings.end());
+    if (OutputOptions::isJson(options))
+        printJson(findings, *documents);
+    else if (options.isSet(sarifOption))
+        Console::printLine(SarifLog::text(findings, *documents));
+    else
+        FindingText::print(findings, *documents);
+    if (documents->hasUnreadable())
+        return Unreadable;
+    return findings.empty() ? Succeeded : Failed;
+}

@@ -1,0 +1,110 @@
+#include "CheckedDocuments.h"
+
+#include <QtCore/QCommandLineParser>
+
+#include <algorithm>
+
+#include "Console.h"
+#include "DocumentFile.h"
+#include "ShippedDocuments.h"
+#include "Utf8.h"
+
+namespace {
+
+struct Kind
+{
+    DocumentKind kind;
+    const char* option;
+    const char* description;
+    const char* shippedName;
+};
+
+const std::vector<Kind>& kinds()
+{
+    static const std::vector<Kind> table = {
+        {DocumentKind::Units, "units", "Unit document.", "units.json"},
+        {DocumentKind::DefaultUnits, "default-units", "Default-unit document.", "default-units.json"},
+        {DocumentKind::Dependencies, "dependencies", "Dependency document.", "dependencies.json"}};
+    return table;
+}
+
+} // namespace
+
+void CheckedDocuments::addOptions(QCommandLineParser& parser)
+{
+    for (const Kind& kind : kinds())
+        parser.addOption({kind.option, kind.description, "FILE"});
+    ShippedDocuments::addMaximumSize(parser);
+}
+
+Result<CheckedDocuments> CheckedDocuments::read(const QCommandLineParser& options)
+{
+    const auto maximumSize = ShippedDocuments::maximumSize(options);
+    if (!maximumSize)
+        return maximumSize.error();
+    const bool isAnyGiven = std::any_of(kinds().begin(), kinds().end(),
+                                        [&options](const Kind& kind) { return options.isSet(kind.option); });
+    CheckedDocuments result;
+    for (const Kind& kind : kinds()) {
+        if (options.isSet(kind.option))
+            result.readFile(kind.kind, options.value(kind.option), *maximumSize);
+        else if (!isAnyGiven)
+            result.readFile(kind.kind, ShippedDocuments::path(kind.shippedName), *maximumSize);
+    }
+    return result;
+}
+
+void CheckedDocuments::readFile(DocumentKind kind, const QString& path, int maximumSize)
+{
+    DocumentProblem problem;
+    const auto bytes = DocumentFile::read(path, DocumentFile::Source::FileOrStream, maximumSize, problem);
+    if (bytes) {
+        m_documents.push_back({kind, path, Utf8::withoutByteOrderMark(*bytes)});
+    } else {
+        Console::printError(problem.inFile(path));
+        m_hasUnreadable = true;
+    }
+}
+
+bool CheckedDocuments::hasUnreadable() const
+{
+    return m_hasUnreadable;
+}
+
+std::vector<Finding> CheckedDocuments::check(const DocumentChecker::Options& options) const
+{
+    std::vector<Finding> findings;
+    DocumentSet set;
+    for (const Document& document : m_documents) {
+        DocumentProblem problem;
+        auto& parsed =
+            document.kind == DocumentKind::Units
+                ? set.units
+                : (document.kind == DocumentKind::DefaultUnits ? set.defaultUnits : set.dependencies);
+        parsed = JsonDocument::read(document.text, problem);
+        if (!parsed)
+            findings.push_back(DocumentChecker::readingFinding(document.kind, problem));
+    }
+    const std::vector<Finding> found = DocumentChecker::check(set, options);
+    findings.insert(findings.end(), found.begin(), found.end());
+    std::stable_sort(findings.begin(), findings.end(), [](const Finding& left, const Finding& right) {
+        return left.document < right.document;
+    });
+    return findings;
+}
+
+QString CheckedDocuments::name(DocumentKind kind) const
+{
+    return document(kind).name;
+}
+
+const QByteArray& CheckedDocuments::text(DocumentKind kind) const
+{
+    return document(kind).text;
+}
+
+const CheckedDocuments::Document& CheckedDocuments::document(DocumentKind kind) const
+{
+    return *std::find_if(m_documents.begin(), m_documents.end(),
+                         [kind](const Document& document) { return document.kind == kind; });
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <vector>
+
+#include "DocumentChecker.h"
+
+class CheckedDocuments;
+
+/// Findings for people.
+namespace FindingText {
+
+/// Prints every finding as "FILE:LINE:COLUMN: SEVERITY: MESSAGE [RULE]" with the line of the document and a
+/// caret below the place, and finally the number of findings. Uses colors on a terminal, unless the
+/// environment variable NO_COLOR is set.
+void print(const std::vector<Finding>& findings, const CheckedDocuments& documents);
+
+} // namespace FindingText
