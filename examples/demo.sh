@@ -30,6 +30,11 @@ show convert 14.5 Pressure PoundForcePerSquareInch HectoPascal --raw
 show table 1 Pressure StandardAtmosphere
 
 echo
+echo "Units by their labels, which determine the type"
+show convert 14.5 psi bar
+show convert 90 min h
+
+echo
 echo "Labels in three languages, and of a fixed unit"
 for language in en de fr; do
     show label RelativeHumidity RelHumidity --language "$language"

@@ -37,17 +37,18 @@ ExitCode CommandLine::run(const QStringList& words) const
     }
     if (Verb* verb = findVerb(word))
         return verb->execute(words.mid(1));
-    return Console::report(wrongUsage(words.isEmpty() ? "VERB is missing; " + KnownNames::list(verbNames())
-                                                      : KnownNames::unknown("verb", word, {}, verbNames())),
+    return Console::report(wrongUsage(words.isEmpty() ? "VERB is missing; " + KnownNames::list(verbs())
+                                                      : KnownNames::unknown("verb", word, {}, verbs())),
                            "unitmanager VERB [options] ...");
 }
 
-QStringList CommandLine::verbNames() const
+QVector<KnownName> CommandLine::verbs() const
 {
     QStringList names;
     for (const auto& verb : m_verbs)
         names.append(verb->about().name);
-    return names;
+    names.sort();
+    return KnownNames::plain(names);
 }
 
 Verb* CommandLine::findVerb(const QString& name) const

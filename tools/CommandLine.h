@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+#include "KnownNames.h"
 #include "Verb.h"
 
 /// Selects and runs the program's verbs.
@@ -21,7 +22,7 @@ public:
 
 private:
     Verb* findVerb(const QString& name) const;
-    QStringList verbNames() const;
+    QVector<KnownName> verbs() const;
     QString helpText() const;
 
     std::vector<std::unique_ptr<Verb>> m_verbs;

@@ -50,8 +50,8 @@ ConvertVerb::ConvertVerb()
     : CatalogueVerb({"convert",
                      "Converts a value from one unit to another.",
                      {{"VALUE", "Number to convert; - reads one from every line of standard input."},
-                      {"TYPE", "Unit type, such as Pressure, or a fixed unit, such as Pressure/Bar."},
-                      {"FROM", "Unit of the value.", true},
+                      {"TYPE", UnitWords::typeDescription(), true},
+                      {"FROM", "Unit of the value."},
                       {"TO", "Unit to convert to; the default unit when left out.", true}},
                      ValueArguments::rules() +
                          "With - every line of input gives exactly one line of output, so that the lines\n"
@@ -60,6 +60,7 @@ ConvertVerb::ConvertVerb()
                          "with its line number; the exit code is then 1.\n\n"
                          "Examples:\n"
                          "  unitmanager convert 1234.56 Pressure HectoPascal Bar\n"
+                         "  unitmanager convert 14.5 psi bar\n"
                          "  unitmanager convert - Pressure HectoPascal Bar --raw < values.txt"})
 {}
 
@@ -72,16 +73,15 @@ void ConvertVerb::addOptions(QCommandLineParser& parser) const
 Result<ExitCode> ConvertVerb::answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
                                      const QStringList& arguments)
 {
-    const auto source = ValueArguments::source(catalogue, options, arguments);
-    if (!source)
-        return source.error();
-    const Result<QString> target = catalogue.unit(source->type, arguments.value(3));
-    if (!target)
-        return target.error();
-    const ValueFormat format(catalogue, source->type, *target, options);
+    const auto selection = ValueArguments::units(catalogue, 2, options, arguments);
+    if (!selection)
+        return selection.error();
+    const UnitType& type = selection->type;
+    const QString& from = selection->units[0];
+    const QString& to = selection->units[1];
+    const ValueFormat format(catalogue, type, to, options);
     const auto outputLine = [&](std::optional<double> value) {
-        return value ? format.text(catalogue.convert(*value, source->type, source->unit, *target))
-                     : format.missing();
+        return value ? format.text(catalogue.convert(*value, type, from, to)) : format.missing();
     };
 
     if (arguments[0] == "-")

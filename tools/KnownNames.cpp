@@ -1,9 +1,9 @@
 #include "KnownNames.h"
 
-#include <QtCore/QVector>
-
 #include <algorithm>
+#include <cstdlib>
 #include <numeric>
+#include <optional>
 
 #include "Console.h"
 
@@ -29,35 +29,79 @@ int editDistance(const QString& left, const QString& right)
     return row.last();
 }
 
-QString suggestion(const QString& name, const QStringList& known)
+/// The wrong characters in @p name if it stands for @p spelling; no value if it is a different name.
+std::optional<int> slips(const QString& name, const QString& spelling)
 {
-    QString nearest;
-    int fewestSlips = std::min(mostSlips, name.size() - 1) + 1;
-    for (const QString& candidate : known) {
-        const int slips = editDistance(name.toLower(), candidate.toLower());
-        if (slips < fewestSlips) {
-            nearest = candidate;
-            fewestSlips = slips;
-        }
+    const int allowed = std::min({mostSlips, name.size() - 1, spelling.size() - 1});
+    if (std::abs(name.size() - spelling.size()) > allowed)
+        return {};
+    const int count = editDistance(name.toLower(), spelling.toLower());
+    return count <= allowed ? std::optional<int>(count) : std::nullopt;
+}
+
+/// The wrong characters in @p name if it stands for the nearest of @p spellings.
+std::optional<int> fewestSlips(const QString& name, const QStringList& spellings)
+{
+    std::optional<int> fewest;
+    for (const QString& spelling : spellings) {
+        const std::optional<int> count = slips(name, spelling);
+        if (count && (!fewest || *count < *fewest))
+            fewest = count;
+    }
+    return fewest;
+}
+
+QStringList nearest(const QString& name, const QVector<KnownName>& known)
+{
+    QStringList nearest;
+    int fewest = mostSlips;
+    for (const KnownName& candidate : known) {
+        const std::optional<int> count = fewestSlips(name, candidate.spellings);
+        if (!count || *count > fewest)
+            continue;
+        if (*count < fewest)
+            nearest.clear();
+        fewest = *count;
+        nearest.append(candidate.shown);
     }
     return nearest;
 }
 
 } // namespace
 
-QString KnownNames::unknown(const QString& kind, const QString& name, const QString& context,
-                            QStringList known)
+QVector<KnownName> KnownNames::plain(const QStringList& names)
 {
-    known.sort();
-    QString reason = "unknown " + kind + ' ' + Console::quoted(name) + context + "; " + list(known);
-    const QString near = suggestion(name, known);
-    if (!near.isEmpty())
-        reason += "; did you mean " + near + '?';
-    return reason;
+    QVector<KnownName> known;
+    for (const QString& name : names)
+        known.append({name, {name}});
+    return known;
 }
 
-QString KnownNames::list(QStringList known)
+QString KnownNames::unknown(const QString& kind, const QString& name, const QString& context,
+                            const QVector<KnownName>& known)
 {
-    known.sort();
-    return "known: " + (known.isEmpty() ? "none" : known.join(", "));
+    return "unknown " + kind + ' ' + Console::quoted(name) + context + "; " + list(known) +
+           suggestion(name, known);
+}
+
+QString KnownNames::joined(const QVector<KnownName>& known)
+{
+    QStringList shown;
+    for (const KnownName& name : known)
+        shown.append(name.shown);
+    return shown.isEmpty() ? "none" : shown.join(", ");
+}
+
+QString KnownNames::list(const QVector<KnownName>& known)
+{
+    return "known: " + joined(known);
+}
+
+QString KnownNames::suggestion(const QString& name, const QVector<KnownName>& known)
+{
+    QStringList names = nearest(name, known);
+    if (names.isEmpty())
+        return {};
+    const QString last = names.takeLast();
+    return "; did you mean " + (names.isEmpty() ? last : names.join(", ") + " or " + last) + '?';
 }

@@ -4,16 +4,17 @@
 
 #include "Console.h"
 #include "OutputOptions.h"
-#include "UnitCatalogue.h"
+#include "UnitWords.h"
 
 LabelVerb::LabelVerb()
     : CatalogueVerb({"label",
                      "Shows the label of a unit.",
-                     {{"TYPE", "Unit type, such as Pressure, or a fixed unit, such as Pressure/Bar."},
-                      {"UNIT", "Unit, such as Bar; the default unit when left out.", true}},
-                     "A unit without label gives an empty line.\n\n"
-                     "Example:\n"
-                     "  unitmanager label AbsoluteTemperature Kelvin --language de"})
+                     {{"TYPE", UnitWords::typeDescription(), true},
+                      {"UNIT", "Unit, such as Bar. TYPE alone stands for its default unit."}},
+                     UnitWords::rules() + "\nA unit without label gives an empty line.\n\n"
+                                          "Examples:\n"
+                                          "  unitmanager label AbsoluteTemperature Kelvin --language de\n"
+                                          "  unitmanager label psi"})
 {}
 
 void LabelVerb::addOptions(QCommandLineParser& parser) const
@@ -26,17 +27,15 @@ void LabelVerb::addOptions(QCommandLineParser& parser) const
 Result<ExitCode> LabelVerb::answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
                                    const QStringList& arguments)
 {
-    const Result<UnitType> type = catalogue.unitType(arguments[0]);
-    if (!type)
-        return type.error();
-    const Result<QString> unit = catalogue.unit(*type, arguments.value(1));
-    if (!unit)
-        return unit.error();
+    const Result<UnitSelection> selection = UnitWords(catalogue, arguments).select(1);
+    if (!selection)
+        return selection.error();
 
-    const QString label = catalogue.label(*type, *unit, OutputOptions::language(options));
-    Console::printLine(
-        OutputOptions::isJson(options)
-            ? OutputOptions::jsonLine({{"type", type->name}, {"unit", *unit}, {"label", label}})
-            : label);
+    const UnitType& type = selection->type;
+    const QString& unit = selection->units[0];
+    const QString label = catalogue.label(type, unit, OutputOptions::language(options));
+    Console::printLine(OutputOptions::isJson(options)
+                           ? OutputOptions::jsonLine({{"type", type.name}, {"unit", unit}, {"label", label}})
+                           : label);
     return Succeeded;
 }

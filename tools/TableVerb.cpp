@@ -10,10 +10,11 @@ TableVerb::TableVerb()
     : CatalogueVerb({"table",
                      "Shows a value in every unit of its type, in display order.",
                      {{"VALUE", "Number to convert."},
-                      {"TYPE", "Unit type, such as Pressure, or a fixed unit, such as Pressure/Bar."},
-                      {"FROM", "Unit of the value.", true}},
-                     ValueArguments::rules() + "Example:\n"
-                                               "  unitmanager table 21.5 AbsoluteTemperature DegreeCelsius"})
+                      {"TYPE", UnitWords::typeDescription(), true},
+                      {"FROM", "Unit of the value."}},
+                     ValueArguments::rules() + "Examples:\n"
+                                               "  unitmanager table 21.5 AbsoluteTemperature DegreeCelsius\n"
+                                               "  unitmanager table 1 atm"})
 {}
 
 void TableVerb::addOptions(QCommandLineParser& parser) const
@@ -25,17 +26,17 @@ void TableVerb::addOptions(QCommandLineParser& parser) const
 Result<ExitCode> TableVerb::answer(const UnitCatalogue& catalogue, const QCommandLineParser& options,
                                    const QStringList& arguments)
 {
-    const auto source = ValueArguments::source(catalogue, options, arguments);
-    if (!source)
-        return source.error();
+    const auto selection = ValueArguments::units(catalogue, 1, options, arguments);
+    if (!selection)
+        return selection.error();
     const Result<double> value = ValueArguments::value(arguments);
     if (!value)
         return value.error();
 
     TextTable table;
-    for (const QString& unit : catalogue.units(source->type)) {
-        const QString text = ValueFormat(catalogue, source->type, unit, options)
-                                 .text(catalogue.convert(*value, source->type, source->unit, unit));
+    for (const QString& unit : catalogue.units(selection->type)) {
+        const QString text = ValueFormat(catalogue, selection->type, unit, options)
+                                 .text(catalogue.convert(*value, selection->type, selection->units[0], unit));
         // A JSON object already contains its unit.
         table.addRow(OutputOptions::isJson(options) ? QStringList{text} : QStringList{unit, text});
     }

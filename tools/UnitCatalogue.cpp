@@ -1,12 +1,11 @@
 #include "UnitCatalogue.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
+#include "Console.h"
 #include "DocumentFile.h"
 #include "JsonDocument.h"
-#include "KnownNames.h"
 #include "UnitManagerDefinitions.h"
 #include "Utf8.h"
 
@@ -42,20 +41,6 @@ bool hasContent(const Document& document)
     const std::vector<JsonValue> members = document->root().children();
     return std::any_of(members.begin(), members.end(),
                        [](const JsonValue& member) { return !member.name().startsWith('$'); });
-}
-
-/// The display positions of the units, by "TYPE/UNIT".
-QHash<QString, double> displayPositions(const JsonDocument& document)
-{
-    QHash<QString, double> positions;
-    for (const JsonValue& type : document.root().children()) {
-        for (const JsonValue& unit : type.children()) {
-            const auto position = unit.member("@displayPosition");
-            if (position && position->type() == JsonType::Number)
-                positions.insert(type.name() + '/' + unit.name(), position->number());
-        }
-    }
-    return positions;
 }
 
 QString afterLastSlash(const QString& text)
@@ -101,7 +86,7 @@ Result<UnitCatalogue> UnitCatalogue::load(const QString& unitsPath, const QStrin
         return Failure{unitsPath + ": contains no unit types that the library can read"};
     if (!catalogue.updateDefaultUnitsByJsonString(textOf(*defaultUnits)) && hasContent(*defaultUnits))
         return Failure{defaultUnitsPath + ": contains no default units that the library can read"};
-    catalogue.m_displayPositions = displayPositions(**units);
+    catalogue.m_document = UnitDocument(**units);
     return catalogue;
 }
 
@@ -129,10 +114,11 @@ Result<UnitType> UnitCatalogue::unitType(const QString& name) const
     const QString typeName = name.left(name.lastIndexOf('/'));
     const UnitType* type = findType(types, typeName);
     if (type == nullptr)
-        return Failure{KnownNames::unknown("unit type", name, {}, namesOf(types))};
+        return Failure{KnownNames::unknown("unit type", name, {}, KnownNames::plain(namesOf(types)))};
     const QString unitName = afterLastSlash(name);
     if (!units(*type).contains(unitName))
-        return Failure{KnownNames::unknown("unit", unitName, " of " + type->name, units(*type))};
+        return Failure{
+            KnownNames::unknown("unit", unitName, " of " + type->name, knownNames(*type, units(*type)))};
     return UnitType{type->name + '/' + unitName, type->id, unitName};
 }
 
@@ -151,30 +137,82 @@ QStringList UnitCatalogue::units(const UnitType& type) const
     if (base == UnitManagerDefinitions::getUnitTypeNoUnit())
         names.append(base);
     names.removeDuplicates();
-    const QString prefix = afterLastSlash(type.id) + '/';
-    const auto rank = [this, &prefix](const QString& unit) {
-        const double last = std::numeric_limits<double>::infinity();
-        return std::make_pair(m_displayPositions.value(prefix + unit, last), unit);
+    const auto rank = [this, typeName = afterLastSlash(type.id)](const QString& unit) {
+        return std::make_pair(m_document.displayPosition(typeName, unit), unit);
     };
     std::sort(names.begin(), names.end(),
               [&rank](const QString& left, const QString& right) { return rank(left) < rank(right); });
     return names;
 }
 
-Result<QString> UnitCatalogue::unit(const UnitType& type, const QString& name) const
+Result<QString> UnitCatalogue::unit(const UnitType& type, const QString& word) const
 {
-    const QStringList known = units(type);
-    if (!name.isEmpty() && !known.contains(name))
-        return Failure{KnownNames::unknown("unit", name, " of " + type.name, known)};
-    if (!name.isEmpty())
-        return name;
+    if (word.isEmpty())
+        return defaultOf(type);
+    const QStringList all = units(type);
+    if (all.contains(word))
+        return word;
+    const QStringList labelled = unitsLabelled(type, word);
+    if (labelled.size() == 1)
+        return labelled.first();
 
-    const QString defaultName = defaultUnit(type);
-    if (defaultName.isEmpty())
-        return Failure{type.name + " has no default unit; " + KnownNames::list(known)};
-    if (!known.contains(defaultName))
-        return Failure{KnownNames::unknown("default unit", defaultName, " of " + type.name, known)};
-    return defaultName;
+    const QString ofType = " of " + type.name;
+    if (labelled.isEmpty())
+        return Failure{KnownNames::unknown("unit", word, ofType, knownNames(type, all))};
+    return Failure{Console::quoted(word) + " is the label of several units" + ofType + ": " +
+                   KnownNames::joined(knownNames(type, labelled))};
+}
+
+Result<QString> UnitCatalogue::defaultOf(const UnitType& type) const
+{
+    const QStringList all = units(type);
+    const QString name = defaultUnit(type);
+    if (name.isEmpty())
+        return Failure{type.name + " has no default unit; " + KnownNames::list(knownNames(type, all))};
+    if (!all.contains(name))
+        return Failure{KnownNames::unknown("default unit", name, " of " + type.name, knownNames(type, all))};
+    return name;
+}
+
+QVector<Unit> UnitCatalogue::unitsNamed(const QString& word) const
+{
+    QVector<Unit> named;
+    QVector<Unit> labelled;
+    for (const UnitType& type : unitTypes()) {
+        if (units(type).contains(word))
+            named.append({type, word});
+        for (const QString& unit : unitsLabelled(type, word))
+            labelled.append({type, unit});
+    }
+    return named.isEmpty() ? labelled : named;
+}
+
+QStringList UnitCatalogue::unitsLabelled(const UnitType& type, const QString& label) const
+{
+    QStringList labelled;
+    if (label.isEmpty())
+        return labelled;
+    for (const QString& unit : units(type)) {
+        if (m_document.labels(afterLastSlash(type.id), unit).values().contains(label))
+            labelled.append(unit);
+    }
+    return labelled;
+}
+
+KnownName UnitCatalogue::knownName(const UnitType& type, const QString& unit) const
+{
+    QStringList spellings{unit};
+    spellings += m_document.labels(afterLastSlash(type.id), unit).values();
+    const QString text = label(type, unit, "en");
+    return {text.isEmpty() || text == unit ? unit : unit + " (" + text + ')', spellings};
+}
+
+QVector<KnownName> UnitCatalogue::knownNames(const UnitType& type, const QStringList& units) const
+{
+    QVector<KnownName> names;
+    for (const QString& unit : units)
+        names.append(knownName(type, unit));
+    return names;
 }
 
 QString UnitCatalogue::baseUnit(const UnitType& type) const

@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
 
 #include <optional>
 
+#include "KnownNames.h"
 #include "Result.h"
+#include "UnitDocument.h"
 #include "UnitManager.h"
 
 /// A unit type as the user named it.
@@ -20,6 +21,13 @@ struct UnitType
     /// The only unit of a fixed unit; empty for a type with a choice of units. The unit-less type counts as
     /// fixed.
     QString fixedUnit;
+};
+
+/// A unit of a type, by name.
+struct Unit
+{
+    UnitType type;
+    QString name;
 };
 
 /// The unit manager of two documents, queried by names that a user typed. Lists are sorted, so that the
@@ -44,10 +52,17 @@ public:
     /// The names of the type's units in display order: by display position, then by name. Units without a
     /// position come last.
     QStringList units(const UnitType& type) const;
-    /// Finds a unit by name; an empty name selects the default unit.
+    /// Finds a unit by name or, if no unit has that name, by its label in any language. An empty word selects
+    /// the default unit.
     ///
-    /// @return a failure that lists the known names if the name is unknown
-    Result<QString> unit(const UnitType& type, const QString& name) const;
+    /// @return a failure that lists the candidates if the word is unknown or the label of several units
+    Result<QString> unit(const UnitType& type, const QString& word) const;
+    /// The units of all types with that name or, if there is none, with that label in any language; none for
+    /// an empty word.
+    QVector<Unit> unitsNamed(const QString& word) const;
+
+    /// A unit for a list of names: "HectoPascal (hPa)", with its name and labels as spellings.
+    KnownName knownName(const UnitType& type, const QString& unit) const;
 
     /// The name of the type's base unit; empty if it has none.
     QString baseUnit(const UnitType& type) const;
@@ -67,6 +82,9 @@ public:
 private:
     UnitCatalogue();
 
-    /// By "TYPE/UNIT". The library does not keep them.
-    QHash<QString, double> m_displayPositions;
+    Result<QString> defaultOf(const UnitType& type) const;
+    QVector<KnownName> knownNames(const UnitType& type, const QStringList& units) const;
+    QStringList unitsLabelled(const UnitType& type, const QString& label) const;
+
+    UnitDocument m_document;
 };

@@ -16,8 +16,10 @@ QString ValueArguments::rules()
     return "VALUE has a decimal point in every locale and may have a sign and an exponent.\n"
            "nan means no value and is never converted. inf and -inf are kept in their own\n"
            "unit and become nan in any other; a result outside the range of a double is inf\n"
-           "or -inf. An empty unit name means the default unit. Values of a fixed unit, such\n"
-           "as Pressure/Bar, and of NoUnit are never converted; FROM may then be left out.\n\n";
+           "or -inf.\n\n" +
+           UnitWords::rules() +
+           "Values of a fixed unit, such as Pressure/Bar, and of NoUnit are never converted;\n"
+           "FROM may then be left out.\n\n";
 }
 
 Result<double> ValueArguments::value(const QStringList& arguments)
@@ -28,19 +30,13 @@ Result<double> ValueArguments::value(const QStringList& arguments)
     return *value;
 }
 
-Result<ValueArguments::Source> ValueArguments::source(const UnitCatalogue& catalogue,
-                                                      const QCommandLineParser& options,
-                                                      const QStringList& arguments)
+Result<UnitSelection> ValueArguments::units(const UnitCatalogue& catalogue, int count,
+                                            const QCommandLineParser& options, const QStringList& arguments)
 {
     if (OutputOptions::isRaw(options) && OutputOptions::isJson(options))
         return wrongUsage("--raw and --json cannot be combined");
-    const Result<UnitType> type = catalogue.unitType(arguments[1]);
-    if (!type)
-        return type.error();
-    if (arguments.size() < 3 && type->fixedUnit.isEmpty())
+    const UnitWords words(catalogue, arguments.mid(1));
+    if (words.lacksUnit())
         return wrongUsage("FROM is missing");
-    const Result<QString> unit = catalogue.unit(*type, arguments.value(2));
-    if (!unit)
-        return unit.error();
-    return Source{*type, *unit};
+    return words.select(count);
 }

@@ -223,7 +223,7 @@ void ToolDocumentsTest::replacesOneDocumentAlone()
 
     const ToolRun run = ToolProcess::run(
         {"convert", "1", "Length", "Meter", "--units", folder.file("units.json", lengthDocument)});
-    QCOMPARE(run.standardError, QByteArray("unitmanager: Length has no default unit; known: Meter\n"));
+    QCOMPARE(run.standardError, QByteArray("unitmanager: Length has no default unit; known: Meter (m)\n"));
     QCOMPARE(run.exitCode, 1);
 }
 

@@ -31,13 +31,13 @@ void addVerbs()
         "--max-size <BYTES>", "--json",        "Example"};
     row("types", "types", QByteArray("[options]"), common);
     row("units", "units", QByteArray("[options] TYPE"), common + QStringList{"--language", "  TYPE  "});
-    row("convert", "convert", QByteArray("[options] VALUE TYPE [FROM] [TO]"),
+    row("convert", "convert", QByteArray("[options] VALUE [TYPE] FROM [TO]"),
         common + QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  ", "  TO  ", "nan",
                              "inf and -inf are kept in their own\nunit and become nan in any other",
                              "fixed unit", "exactly one line of output", "#"});
-    row("table", "table", QByteArray("[options] VALUE TYPE [FROM]"),
+    row("table", "table", QByteArray("[options] VALUE [TYPE] FROM"),
         common + QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  "});
-    row("label", "label", QByteArray("[options] TYPE [UNIT]"),
+    row("label", "label", QByteArray("[options] [TYPE] UNIT"),
         common + QStringList{"--language", "  TYPE  ", "  UNIT  "});
     row("watch", "watch", QByteArray("[options]"),
         QStringList{"-h, --help", "-v, --version", "--verbose", "--bus <BUS>", "DEVICE_BUS", "SIGTERM",

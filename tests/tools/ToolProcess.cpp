@@ -18,10 +18,14 @@ QString ToolProcess::path()
     return QStringLiteral(UNITMANAGER_TOOL);
 }
 
+QString ToolProcess::testData(const QString& name)
+{
+    return UNITMANAGER_TEST_DATA "/" + name;
+}
+
 QStringList ToolProcess::testDocuments()
 {
-    return {"--units", UNITMANAGER_TEST_DATA "/units.json", "--default-units",
-            UNITMANAGER_TEST_DATA "/default-units.json"};
+    return {"--units", testData("units.json"), "--default-units", testData("default-units.json")};
 }
 
 ToolRun ToolProcess::run(const QStringList& arguments, const QByteArray& standardInput,

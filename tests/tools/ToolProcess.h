@@ -21,6 +21,8 @@ namespace ToolProcess {
 
 /// The tool's path.
 QString path();
+/// The path of a document in the test's own data.
+QString testData(const QString& name);
 /// The options that select the test's own documents.
 QStringList testDocuments();
 

@@ -26,12 +26,12 @@ void ToolUsageTest::namesWhatIsKnown_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("message");
     const QByteArray types = "known: Empty, Größe, Misled, NoUnit, Pressure, Temperature, Unlabelled";
-    const QByteArray units = "known: Bar, HectoPascal, MilliBar";
+    const QByteArray units = "known: Bar (bar), HectoPascal (hPa), MilliBar (mbar)";
 
     row("unit, near miss", QStringList{"convert", "1", "Pressure", "Baar"},
-        "unknown unit 'Baar' of Pressure; " + units + "; did you mean Bar?");
+        "unknown unit 'Baar' of Pressure; " + units + "; did you mean Bar (bar)?");
     row("unit, other case", QStringList{"convert", "1", "Pressure", "HECTOPASCAL"},
-        "unknown unit 'HECTOPASCAL' of Pressure; " + units + "; did you mean HectoPascal?");
+        "unknown unit 'HECTOPASCAL' of Pressure; " + units + "; did you mean HectoPascal (hPa)?");
     row("unit, no near miss", QStringList{"convert", "1", "Pressure", "Furlong"},
         "unknown unit 'Furlong' of Pressure; " + units);
     row("unit, too short to be a near miss", QStringList{"convert", "1", "Pressure", "B"},
@@ -47,9 +47,9 @@ void ToolUsageTest::namesWhatIsKnown_data()
     row("unit of a type without any", QStringList{"convert", "1", "Empty", "Bar"},
         QByteArray("unknown unit 'Bar' of Empty; known: none"));
     row("unit other than the fixed one", QStringList{"convert", "1", "Pressure/Bar", "HectoPascal"},
-        QByteArray("unknown unit 'HectoPascal' of Pressure/Bar; known: Bar"));
+        QByteArray("unknown unit 'HectoPascal' of Pressure/Bar; known: Bar (bar)"));
     row("fixed unit", QStringList{"label", "Pressure/Ba"},
-        "unknown unit 'Ba' of Pressure; " + units + "; did you mean Bar?");
+        "unknown unit 'Ba' of Pressure; " + units + "; did you mean Bar (bar)?");
     row("unit with control characters", QStringList{"convert", "1", "Pressure", "x\n\x1b[31m"},
         "unknown unit 'x??[31m' of Pressure; " + units);
     row("unit type, near miss", QStringList{"units", "Presure"},
@@ -58,7 +58,7 @@ void ToolUsageTest::namesWhatIsKnown_data()
     row("unit type with a foreign prefix", QStringList{"units", "Else/Where/Pressure"},
         "unknown unit type 'Else/Where/Pressure'; " + types);
     row("no default unit", QStringList{"convert", "1", "Unlabelled", "Plain"},
-        QByteArray("Unlabelled has no default unit; known: Fine, Huge, Plain, Table, TooFine"));
+        QByteArray("Unlabelled has no default unit; known: Plain, Fine, TooFine, Table, Huge"));
     row("no default unit for a label", QStringList{"label", "Empty"},
         QByteArray("Empty has no default unit; known: none"));
     row("default unit that does not exist", QStringList{"convert", "1", "Misled", "Here"},
@@ -80,8 +80,8 @@ void ToolUsageTest::hintsAtTheRightUsage_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("message");
     QTest::addColumn<QByteArray>("usage");
-    const QByteArray convert = "convert [options] VALUE TYPE [FROM] [TO]";
-    const QByteArray table = "table [options] VALUE TYPE [FROM]";
+    const QByteArray convert = "convert [options] VALUE [TYPE] FROM [TO]";
+    const QByteArray table = "table [options] VALUE [TYPE] FROM";
     const QByteArray rule = " is not a decimal number such as -1234.5 or 1e-3, within the range of a double";
 
     row("types with an argument", QStringList{"types", "Pressure"},
@@ -91,10 +91,10 @@ void ToolUsageTest::hintsAtTheRightUsage_data()
         QByteArray("types [options]"));
     row("units without type", QStringList{"units"}, QByteArray("TYPE is missing"),
         QByteArray("units [options] TYPE"));
-    row("label without type", QStringList{"label"}, QByteArray("TYPE is missing"),
-        QByteArray("label [options] TYPE [UNIT]"));
+    row("label without unit", QStringList{"label"}, QByteArray("UNIT is missing"),
+        QByteArray("label [options] [TYPE] UNIT"));
     row("convert without arguments", QStringList{"convert"}, QByteArray("VALUE is missing"), convert);
-    row("convert without type", QStringList{"convert", "1"}, QByteArray("TYPE is missing"), convert);
+    row("convert without type and unit", QStringList{"convert", "1"}, QByteArray("FROM is missing"), convert);
     row("convert without unit", QStringList{"convert", "1", "Pressure"}, QByteArray("FROM is missing"),
         convert);
     row("convert with too many arguments", QStringList{"convert", "1", "Pressure", "Bar", "Bar", "Bar"},
@@ -111,7 +111,7 @@ void ToolUsageTest::hintsAtTheRightUsage_data()
     row("option of another verb", QStringList{"units", "Pressure", "--raw"},
         QByteArray("unknown option 'raw'"), QByteArray("units [options] TYPE"));
     row("option without its value", QStringList{"label", "Pressure", "--language"},
-        QByteArray("missing value after '--language'"), QByteArray("label [options] TYPE [UNIT]"));
+        QByteArray("missing value after '--language'"), QByteArray("label [options] [TYPE] UNIT"));
 }
 
 void ToolUsageTest::hintsAtTheRightUsage()
