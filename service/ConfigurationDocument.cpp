@@ -1,6 +1,16 @@
 #include "ConfigurationDocument.h"
 
+#include <QtCore/QCryptographicHash>
 #include <QtCore/QDebug>
+
+namespace {
+
+QString checksumOf(const QString& text)
+{
+    return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256).toHex());
+}
+
+} // namespace
 
 ConfigurationDocument::ConfigurationDocument(const QString& name, const QString& path, Rule rule,
                                              int maximumSize)
@@ -17,9 +27,9 @@ const QString& ConfigurationDocument::path() const
     return m_path;
 }
 
-const std::optional<QString>& ConfigurationDocument::text() const
+const DocumentState& ConfigurationDocument::state() const
 {
-    return m_text;
+    return m_state;
 }
 
 bool ConfigurationDocument::update()
@@ -32,15 +42,7 @@ bool ConfigurationDocument::update()
     m_content = content;
 
     const auto document = bytes ? check(*bytes, problem) : std::nullopt;
-    if (!document) {
-        logRefusal(problem);
-        return false;
-    }
-    const QString text = document->text();
-    const bool isNew = m_text != text;
-    m_text = text;
-    qInfo().noquote() << m_name + ':' << (isNew ? "loaded" : "unchanged in") << m_path;
-    return isNew;
+    return document ? accept(document->text()) : refuse(problem);
 }
 
 std::optional<JsonDocument> ConfigurationDocument::check(const QByteArray& bytes,
@@ -52,8 +54,24 @@ std::optional<JsonDocument> ConfigurationDocument::check(const QByteArray& bytes
     return document;
 }
 
-void ConfigurationDocument::logRefusal(const DocumentProblem& problem) const
+/// Serves a valid text from now on. @return whether the state has changed.
+bool ConfigurationDocument::accept(const QString& text)
 {
+    const bool isNew = m_state.text != text;
+    const bool wasRefused = !m_state.refusal.isEmpty();
+    m_state = {text, isNew ? checksumOf(text) : m_state.checksum, {}};
+    qInfo().noquote() << m_name + ':' << (isNew ? "loaded" : "unchanged in") << m_path;
+    return isNew || wasRefused;
+}
+
+/// Keeps the last valid text. @return whether the state has changed.
+bool ConfigurationDocument::refuse(const DocumentProblem& problem)
+{
+    const QString refusal = problem.inFile(m_path);
+    const bool isNew = m_state.refusal != refusal;
+    m_state.refusal = refusal;
     qWarning().noquote() << m_name + ": cannot use" << m_path + ':' << problem.withPlace() + ';'
-                         << (m_text ? "keeping the last valid document" : "no document to serve");
+                         << (m_state.text.isNull() ? "no document to serve"
+                                                   : "keeping the last valid document");
+    return isNew;
 }

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "DocumentFile.h"
+#include "DocumentState.h"
 #include "JsonDocument.h"
 
 /// A document and its last valid text. If the file is missing, incomplete or invalid, the last valid text
@@ -27,10 +28,9 @@ public:
 
     const QString& name() const;
     const QString& path() const;
-    /// The active text; no value until a valid one was read.
-    const std::optional<QString>& text() const;
+    const DocumentState& state() const;
 
-    /// Reads the file. @return whether the active text has changed.
+    /// Reads the file. @return whether state() has changed.
     bool update();
 
 private:
@@ -38,12 +38,13 @@ private:
     using Content = std::pair<std::optional<QByteArray>, QString>;
 
     std::optional<JsonDocument> check(const QByteArray& bytes, DocumentProblem& problem) const;
-    void logRefusal(const DocumentProblem& problem) const;
+    bool accept(const QString& text);
+    bool refuse(const DocumentProblem& problem);
 
     QString m_name;
     QString m_path;
     Rule m_rule;
     int m_maximumSize;
     std::optional<Content> m_content;
-    std::optional<QString> m_text;
+    DocumentState m_state;
 };

@@ -3,6 +3,7 @@
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
 #include <QtDBus/QDBusConnectionInterface>
+#include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusReply>
 
 #include <chrono>
@@ -38,6 +39,16 @@ QList<Place> places()
             {QStringLiteral("DependencyConfiguration"), QStringLiteral("UnitManager/Dependency"),
              QStringLiteral("dependencies.json"), Method::GetConfigurationDependency,
              DocumentRules::isDependencies}};
+}
+
+/// The signal that clients of org.freedesktop.DBus.Properties expect.
+QDBusMessage propertiesChanged(const QString& path, const QVariantMap& changes)
+{
+    QDBusMessage message = QDBusMessage::createSignal(path, QStringLiteral("org.freedesktop.DBus.Properties"),
+                                                      QStringLiteral("PropertiesChanged"));
+    const QStringList invalidated;
+    message << QStringLiteral("org.measuringdevice.ConfigurationFileHandler") << changes << invalidated;
+    return message;
 }
 
 /// Returns unused memory to the system. Otherwise a process that has read one large document would keep the
@@ -92,7 +103,11 @@ void ConfigurationFileService::start()
     m_loader->moveToThread(&m_thread);
     connect(&m_thread, &QThread::started, m_loader, &DocumentLoader::start);
     connect(&m_thread, &QThread::finished, m_loader, &QObject::deleteLater);
-    connect(m_loader, &DocumentLoader::textChanged, this, &ConfigurationFileService::setText);
+    const auto setState = [this](int index, const DocumentState& state) {
+        m_objects[index]->setState(state);
+    };
+    // A connection of this type registers the type of the argument.
+    connect(m_loader, &DocumentLoader::stateChanged, this, setState, Qt::QueuedConnection);
     connect(m_loader, &DocumentLoader::updated, this, &ConfigurationFileService::finishUpdate);
     m_thread.start();
 }
@@ -108,24 +123,32 @@ bool ConfigurationFileService::stop()
     return m_thread.wait(QDeadlineTimer(std::chrono::milliseconds(500)));
 }
 
-void ConfigurationFileService::setText(int index, const QString& text)
-{
-    m_objects[index]->setText(text);
-    m_changed.append(m_objects[index]);
-}
-
 void ConfigurationFileService::finishUpdate()
 {
+    QVector<QVariantMap> changes;
+    for (ConfigurationObject* object : qAsConst(m_objects))
+        changes.append(object->takeChanges());
     // Nobody has seen the documents of the start yet, so they are not announced.
-    if (!m_isStarted) {
-        m_changed.clear();
+    if (m_isStarted)
+        announce(changes);
+    else
         takeName();
-    }
-    // Announce last: whoever receives a signal finds all documents up to date.
-    for (ConfigurationObject* object : qAsConst(m_changed))
-        object->announce();
-    m_changed.clear();
     releaseUnusedMemory();
+}
+
+/// Announces an update that is complete: whoever receives a signal finds all documents up to date.
+///
+/// @param changes for each object, the properties that have changed
+void ConfigurationFileService::announce(const QVector<QVariantMap>& changes)
+{
+    for (int index = 0; index < changes.size(); ++index) {
+        if (!changes[index].isEmpty())
+            m_connection.send(propertiesChanged('/' + m_objects[index]->objectName(), changes[index]));
+    }
+    for (int index = 0; index < changes.size(); ++index) {
+        if (changes[index].contains(QStringLiteral("checksum")))
+            m_objects[index]->announce();
+    }
 }
 
 /// Done last: whoever sees the name finds every object registered and every document read.

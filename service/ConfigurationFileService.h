@@ -4,6 +4,8 @@
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QThread>
+#include <QtCore/QVariantMap>
+#include <QtCore/QVector>
 #include <QtDBus/QDBusConnection>
 
 #include "ConfigurationDocument.h"
@@ -50,14 +52,13 @@ Q_SIGNALS:
     void busLost();
 
 private:
-    void setText(int index, const QString& text);
     void finishUpdate();
+    void announce(const QVector<QVariantMap>& changes);
     void takeName();
 
     QDBusConnection m_connection;
     QList<ConfigurationDocument> m_documents;
     QList<ConfigurationObject*> m_objects;
-    QList<ConfigurationObject*> m_changed;
     bool m_isStarted = false;
     QThread m_thread;
     /// Lives in the thread, which deletes it; null before start().

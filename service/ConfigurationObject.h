@@ -2,16 +2,21 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QVariantMap>
 #include <QtDBus/QDBusContext>
 
-#include <optional>
+#include "DocumentState.h"
 
-/// A bus object that serves one document by one method. Every other name, and the other method, are answered
-/// with the error "...UnknownConfiguration"; the object's own name with "...NoConfiguration" until the
-/// document was valid once. The requesting module makes no difference.
+/// A bus object that serves one document by one method, and shows its state as properties. Every other name,
+/// and the other method, are answered with the error "...UnknownConfiguration"; the object's own name with
+/// "...NoConfiguration" until the document was valid once. The requesting module makes no difference.
 class ConfigurationObject : public QObject, protected QDBusContext
 {
     Q_OBJECT
+    Q_PROPERTY(QString version READ version)
+    Q_PROPERTY(QString state READ state)
+    Q_PROPERTY(QString checksum READ checksum)
+    Q_PROPERTY(QString lastRefusal READ lastRefusal)
 
 public:
     /// The method that serves the document.
@@ -24,10 +29,22 @@ public:
     /// @param name name of the document
     ConfigurationObject(const QString& name, Method method, QObject* parent);
 
-    /// Sets the text that is served from now on.
-    void setText(const QString& text);
+    /// Sets what is served from now on.
+    void setState(const DocumentState& state);
+    /// The properties that have changed since the last call, with their present values.
+    QVariantMap takeChanges();
     /// Emits configurationChanged().
     void announce();
+
+    /// The program's version.
+    QString version() const;
+    /// "missing" until a valid document was read, "active" while the file's content is served, "refused"
+    /// while the last valid document is served in place of the file's content.
+    QString state() const;
+    /// See DocumentState::checksum.
+    QString checksum() const;
+    /// See DocumentState::refusal.
+    QString lastRefusal() const;
 
     /// Called from the bus. @return the text of the document @p name.
     QString getConfiguration(const QString& name, const QString& module, const QString& extra) const;
@@ -40,9 +57,11 @@ Q_SIGNALS:
 
 private:
     QString answer(Method method, const QString& name) const;
+    QVariantMap changeableProperties() const;
 
     const QString m_name;
     const Method m_method;
-    /// No value until the document was valid once.
-    std::optional<QString> m_text;
+    DocumentState m_served;
+    /// The properties that can change, as of the last takeChanges().
+    QVariantMap m_announced;
 };

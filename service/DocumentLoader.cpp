@@ -23,7 +23,7 @@ void DocumentLoader::update()
 {
     for (int index = 0; index < m_documents.size(); ++index) {
         if (m_documents[index].update())
-            Q_EMIT textChanged(index, *m_documents[index].text());
+            Q_EMIT stateChanged(index, m_documents[index].state());
     }
     Q_EMIT updated();
 }

@@ -26,9 +26,9 @@ public:
     void update();
 
 Q_SIGNALS:
-    /// A document has a new valid text. @param index its index in the list given to the constructor
-    void textChanged(int index, const QString& text);
-    /// All files have been read; textChanged() was emitted for every document with a new text.
+    /// The state of a document has changed. @param index its index in the list given to the constructor
+    void stateChanged(int index, const DocumentState& state);
+    /// All files have been read; stateChanged() was emitted for every document with a new state.
     void updated();
 
 private:

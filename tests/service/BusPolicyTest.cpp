@@ -48,6 +48,7 @@ private Q_SLOTS:
     void nobodyElseMayOwnTheName();
     void everybodyMayRead();
     void everybodyMayListen();
+    void everybodyMayReadTheState();
     void everybodyMayIntrospect();
     void nobodyMayDoMore();
 
@@ -162,7 +163,16 @@ void BusPolicyTest::everybodyMayListen()
     QVERIFY(changeRules(policy(anotherUser())));
     QVERIFY(TestFiles::replace(m_directory.filePath("units.json"), ServiceDocuments::units("next")));
     QTRY_COMPARE_WITH_TIMEOUT(m_client->announcements(), QStringList{ServiceAnnouncement::units}, waitLimit);
+    QCOMPARE(m_client->propertyChanges().size(), 1);
+    QCOMPARE(m_client->propertyChanges()[0].values.keys(), QStringList{"checksum"});
     QCOMPARE(m_client->text(ServiceObject::units), QString(ServiceDocuments::units("next")));
+}
+
+void BusPolicyTest::everybodyMayReadTheState()
+{
+    QVERIFY(startService());
+    QVERIFY(changeRules(policy(anotherUser())));
+    QCOMPARE(m_client->state(ServiceObject::units).value("state"), QVariant("active"));
 }
 
 void BusPolicyTest::everybodyMayIntrospect()
@@ -183,7 +193,7 @@ void BusPolicyTest::nobodyMayDoMore()
     QVERIFY(startService());
     QVERIFY(changeRules(policy(anotherUser())));
     const QDBusMessage reply = m_client->call(ConfigurationFileService::name(), '/' + ServiceObject::units,
-                                              "org.freedesktop.DBus.Properties", "GetAll", {""});
+                                              "org.freedesktop.DBus.ObjectManager", "GetManagedObjects");
     QCOMPARE(reply.errorName(), denied);
 }
 

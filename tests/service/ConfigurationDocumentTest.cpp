@@ -57,19 +57,23 @@ void ConfigurationDocumentTest::nothingIsReadAtFirst()
 {
     QCOMPARE(m_document->name(), "Name");
     QCOMPARE(m_document->path(), m_path);
-    QVERIFY(!m_document->text());
+    QVERIFY(m_document->state().text.isNull());
     QCOMPARE(m_log->takeTexts(), QStringList());
 }
 
 void ConfigurationDocumentTest::goodTextBecomesActive()
 {
     QVERIFY(m_document->update());
-    QCOMPARE(m_document->text(), QString("{\"a\": 1}"));
+    QCOMPARE(m_document->state().text, QString("{\"a\": 1}"));
+    // From sha256sum.
+    QCOMPARE(m_document->state().checksum,
+             "f9d86028c6e0d64e225186f96acb69338b2c59764df79162107f5c4bb34d1310");
+    QCOMPARE(m_document->state().refusal, QString());
     QCOMPARE(m_log->takeTexts(), QStringList{"Name: loaded " + m_path});
 
     QVERIFY(TestFiles::write(m_path, "{\"a\": 2}"));
     QVERIFY(m_document->update());
-    QCOMPARE(m_document->text(), QString("{\"a\": 2}"));
+    QCOMPARE(m_document->state().text, QString("{\"a\": 2}"));
     QCOMPARE(m_log->takeTexts(), QStringList{"Name: loaded " + m_path});
 }
 
@@ -102,11 +106,13 @@ void ConfigurationDocumentTest::lastGoodTextStaysActive()
     QFETCH(QByteArray, bytes);
     QFETCH(QString, reason);
     QVERIFY(m_document->update());
+    const QString checksum = m_document->state().checksum;
     m_log->take();
 
     QVERIFY(TestFiles::write(m_path, bytes));
-    QVERIFY(!m_document->update());
-    QCOMPARE(m_document->text(), QString("{\"a\": 1}"));
+    QVERIFY(m_document->update());
+    QCOMPARE(m_document->state().text, QString("{\"a\": 1}"));
+    QCOMPARE(m_document->state().checksum, checksum);
     const QList<LoggedMessage> messages = m_log->take();
     QCOMPARE(messages.size(), 1);
     QCOMPARE(messages[0].type, QtWarningMsg);
@@ -117,8 +123,10 @@ void ConfigurationDocumentTest::lastGoodTextStaysActive()
 void ConfigurationDocumentTest::withoutGoodTextThereIsNoText()
 {
     QVERIFY(QFile::remove(m_path));
-    QVERIFY(!m_document->update());
-    QVERIFY(!m_document->text());
+    QVERIFY(m_document->update());
+    QVERIFY(m_document->state().text.isNull());
+    QCOMPARE(m_document->state().checksum, QString());
+    QCOMPARE(m_document->state().refusal, m_path + ": no such file");
     QCOMPARE(m_log->takeTexts(),
              QStringList{"Name: cannot use " + m_path + ": no such file; no document to serve"});
 }
@@ -126,7 +134,7 @@ void ConfigurationDocumentTest::withoutGoodTextThereIsNoText()
 void ConfigurationDocumentTest::emptyFileIsRefusedAtOnce()
 {
     QVERIFY(TestFiles::write(m_path, ""));
-    QVERIFY(!m_document->update());
+    QVERIFY(m_document->update());
     QCOMPARE(m_log->takeTexts(),
              QStringList{"Name: cannot use " + m_path + ": is empty; no document to serve"});
 }
@@ -134,11 +142,13 @@ void ConfigurationDocumentTest::emptyFileIsRefusedAtOnce()
 void ConfigurationDocumentTest::refusalIsLoggedOnce()
 {
     QVERIFY(TestFiles::write(m_path, "{\"bad\": 1}"));
-    QVERIFY(!m_document->update());
+    QVERIFY(m_document->update());
+    QCOMPARE(m_document->state().refusal, m_path + ":1:9: it is bad");
     QCOMPARE(m_log->takeTexts().size(), 1);
     QVERIFY(!m_document->update());
     QCOMPARE(m_log->takeTexts(), QStringList());
 
+    // The same problem in another content is logged, but the state is the same.
     QVERIFY(TestFiles::write(m_path, "{\"bad\": 2}"));
     QVERIFY(!m_document->update());
     QCOMPARE(m_log->takeTexts().size(), 1);
@@ -148,11 +158,12 @@ void ConfigurationDocumentTest::returnOfTheGoodTextIsLogged()
 {
     QVERIFY(m_document->update());
     QVERIFY(TestFiles::write(m_path, "{"));
-    QVERIFY(!m_document->update());
+    QVERIFY(m_document->update());
     m_log->take();
 
     QVERIFY(TestFiles::write(m_path, "{\"a\": 1}"));
-    QVERIFY(!m_document->update());
+    QVERIFY(m_document->update());
+    QCOMPARE(m_document->state().refusal, QString());
     QCOMPARE(m_log->takeTexts(), QStringList{"Name: unchanged in " + m_path});
 }
 

@@ -1,6 +1,7 @@
 #include "ServiceClient.h"
 
 #include <QtCore/QUuid>
+#include <QtDBus/QDBusArgument>
 #include <QtDBus/QDBusConnection>
 
 #include "ConfigurationFileHandlerProxy.h"
@@ -9,6 +10,7 @@
 namespace {
 
 const char* const service = "org.measuringdevice.DeviceManager";
+const char* const propertiesInterface = "org.freedesktop.DBus.Properties";
 const char* const interfaceName = "org.measuringdevice.ConfigurationFileHandler";
 
 QVariantList variants(const QStringList& texts)
@@ -26,6 +28,8 @@ ServiceClient::ServiceClient(const QString& address) : m_connectionName(QUuid::c
     QDBusConnection connection = QDBusConnection::connectToBus(address, m_connectionName);
     connection.connect(service, QString(), interfaceName, "configurationChanged", this,
                        SLOT(receive(QString, QDBusMessage)));
+    connection.connect(service, QString(), propertiesInterface, "PropertiesChanged", this,
+                       SLOT(receiveProperties(QDBusMessage)));
 }
 
 ServiceClient::~ServiceClient()
@@ -62,6 +66,18 @@ QString ServiceClient::text(const QString& object) const
     return reply.isError() ? "error: " + reply.error().name() : reply.value();
 }
 
+QVariantMap ServiceClient::state(const QString& object) const
+{
+    const QDBusMessage reply =
+        call(service, '/' + object, propertiesInterface, "GetAll", {QString(interfaceName)});
+    return qdbus_cast<QVariantMap>(reply.arguments().value(0));
+}
+
+QList<ServiceClient::PropertyChange> ServiceClient::propertyChanges() const
+{
+    return m_propertyChanges;
+}
+
 QStringList ServiceClient::announcements() const
 {
     return m_announcements;
@@ -70,4 +86,13 @@ QStringList ServiceClient::announcements() const
 void ServiceClient::receive(const QString& name, const QDBusMessage& message)
 {
     m_announcements.append(message.path().mid(1) + ' ' + name);
+}
+
+void ServiceClient::receiveProperties(const QDBusMessage& message)
+{
+    const QVariantList arguments = message.arguments();
+    const bool isRegular = message.signature() == "sa{sv}as" && arguments[0] == interfaceName &&
+                           qdbus_cast<QStringList>(arguments[2]).isEmpty();
+    const QVariantMap values = isRegular ? qdbus_cast<QVariantMap>(arguments[1]) : QVariantMap();
+    m_propertyChanges.append({message.path().mid(1), values, m_announcements.size()});
 }

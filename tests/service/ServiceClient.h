@@ -3,6 +3,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+#include <QtCore/QVariantMap>
 #include <QtDBus/QDBusMessage>
 
 /// The names of the service's objects.
@@ -38,13 +39,29 @@ public:
     /// name.
     QString text(const QString& object) const;
 
+    /// The values of all properties of an object; empty on error.
+    QVariantMap state(const QString& object) const;
+
+    /// A received signal PropertiesChanged.
+    struct PropertyChange
+    {
+        QString object;
+        QVariantMap values;
+        /// The announcements received before.
+        int announcementsBefore;
+    };
+    /// The changes received so far, oldest first. One that is not as the interface promises has no values.
+    QList<PropertyChange> propertyChanges() const;
+
     /// The announcements received so far, oldest first: the object's name, a blank, and the announced name.
     QStringList announcements() const;
 
 private Q_SLOTS:
     void receive(const QString& name, const QDBusMessage& message);
+    void receiveProperties(const QDBusMessage& message);
 
 private:
     QString m_connectionName;
     QStringList m_announcements;
+    QList<PropertyChange> m_propertyChanges;
 };
