@@ -3,18 +3,46 @@
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 
-#include "DocumentFile.h"
+#include "CommonOptions.h"
+#include "DocumentProblem.h"
 
 namespace {
 
-CommandLine printing(const QString& text)
+const QString directoryOption = QStringLiteral("directory");
+
+QString programName()
 {
-    return {CommandLine::Request::Print, text, {}, {}, {}};
+    return QCoreApplication::applicationName();
 }
 
-CommandLine rejecting(const QString& reason)
+QString usage()
 {
-    return {CommandLine::Request::Reject, reason + QStringLiteral("\nTry --help.\n"), {}, {}, {}};
+    return programName() + QStringLiteral(" [options] --directory DIR");
+}
+
+CommandLine printing(const QString& text)
+{
+    return {CommandLine::Request::Print, text + QLatin1Char('\n'), {}, {}, {}};
+}
+
+CommandLine rejecting(const Failure& failure)
+{
+    return {CommandLine::Request::Reject,
+            CommonOptions::failureText(programName(), failure, usage()),
+            {},
+            {},
+            {}};
+}
+
+void declareOptions(QCommandLineParser& parser)
+{
+    parser.setApplicationDescription(
+        QStringLiteral("Serves units.json, default-units.json and dependencies.json to the programs on a\n"
+                       "bus, and announces when one of them has changed."));
+    CommonOptions::addHelpAndVersion(parser);
+    parser.addOption({directoryOption, QStringLiteral("Directory of the documents."), QStringLiteral("DIR")});
+    CommonOptions::addBus(parser);
+    CommonOptions::addMaximumSize(parser);
 }
 
 } // namespace
@@ -22,42 +50,27 @@ CommandLine rejecting(const QString& reason)
 CommandLine CommandLine::read(const QStringList& arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Serves units.json, default-units.json and dependencies.json to the programs on a bus, and "
-        "announces when one of them has changed."));
-    const QCommandLineOption directory(QStringLiteral("directory"),
-                                       QStringLiteral("Directory of the documents."), QStringLiteral("DIR"));
-    const QCommandLineOption bus(
-        QStringLiteral("bus"),
-        QStringLiteral("Bus to serve on: session (the default), system, or an address."),
-        QStringLiteral("session|system|ADDRESS"), QStringLiteral("session"));
-    const QCommandLineOption maximumSize(
-        QStringLiteral("max-size"),
-        QStringLiteral("Largest document that is read; %1 when not given.").arg(DocumentFile::defaultLimit),
-        QStringLiteral("BYTES"), QString::number(DocumentFile::defaultLimit));
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Prints this."));
-    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
-                                     QStringLiteral("Prints the version."));
-    parser.addOptions({directory, bus, maximumSize, help, version});
+    declareOptions(parser);
+    const bool isUnderstood = parser.parse(arguments);
+    if (parser.isSet(QStringLiteral("help")))
+        return printing(CommonOptions::helpText(parser, usage()));
+    if (parser.isSet(QStringLiteral("version")))
+        return printing(programName() + QLatin1Char(' ') + QCoreApplication::applicationVersion());
+    if (!isUnderstood)
+        return rejecting(CommonOptions::parserFailure(parser));
 
-    if (!parser.parse(arguments))
-        return rejecting(parser.errorText());
-    if (parser.isSet(help))
-        return printing(parser.helpText());
-    if (parser.isSet(version))
-        return printing(QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(),
-                                                      QCoreApplication::applicationVersion()));
-    if (!parser.positionalArguments().isEmpty())
+    const QStringList words = parser.positionalArguments();
+    if (!words.isEmpty())
         return rejecting(
-            QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
-    if (parser.value(directory).isEmpty())
-        return rejecting(QStringLiteral("No directory given."));
-    if (parser.value(bus).isEmpty())
-        return rejecting(QStringLiteral("No bus given."));
-    const std::optional<int> limit = DocumentFile::limitFromText(parser.value(maximumSize));
-    if (!limit)
-        return rejecting(QStringLiteral("The value of --max-size must be a number of bytes from 1 to %1.")
-                             .arg(DocumentFile::highestLimit));
-    return {Request::Serve, {}, parser.value(directory), parser.value(bus), *limit};
+            wrongUsage(QStringLiteral("too many arguments: ") + DocumentProblem::quoted(words.first())));
+    const QString directory = parser.value(directoryOption);
+    if (directory.isEmpty())
+        return rejecting(wrongUsage(QStringLiteral("--directory is missing")));
+    const auto bus = CommonOptions::bus(parser);
+    if (!bus)
+        return rejecting(bus.error());
+    const auto maximumSize = CommonOptions::maximumSize(parser);
+    if (!maximumSize)
+        return rejecting(maximumSize.error());
+    return {Request::Serve, {}, directory, *bus, *maximumSize};
 }

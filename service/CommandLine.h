@@ -12,7 +12,7 @@ struct CommandLine
         Serve,
         /// Print the text and exit.
         Print,
-        /// The command line is invalid; the text describes the error.
+        /// The command line is invalid; the text is the error message.
         Reject
     };
 
@@ -20,7 +20,7 @@ struct CommandLine
     static CommandLine read(const QStringList& arguments);
 
     Request request = Request::Serve;
-    /// A help text, the version, or an error message; ends with a line break.
+    /// The help, the version, or an error message; ends with a line break.
     QString text;
     /// The directory of the documents, as given on the command line.
     QString directory;

@@ -61,7 +61,7 @@ void DocumentWatcher::complainOnce(const QString& place)
     if (m_unwatchable.contains(place))
         return;
     m_unwatchable.append(place);
-    qWarning().noquote() << "Cannot watch" << place + ": changes there may go unnoticed";
+    qWarning().noquote() << "cannot watch" << place + ": changes there may go unnoticed";
 }
 
 /// Handles a change in a directory. In the directory of a document every change counts; further up only a

@@ -9,17 +9,10 @@
 
 #include "CommandLine.h"
 #include "ConfigurationFileService.h"
+#include "ExitCode.h"
 #include "ProcessSignal.h"
 
 namespace {
-
-/// Exit codes of the program.
-enum ExitCode
-{
-    Succeeded = 0,
-    Failed = 1,
-    WrongUsage = 2
-};
 
 bool write(const QString& text, std::FILE* stream)
 {
@@ -90,7 +83,7 @@ int main(int argc, char* argv[])
     case CommandLine::Request::Print:
         return write(commandLine.text, stdout) ? Succeeded : Failed;
     case CommandLine::Request::Reject:
-        write(QCoreApplication::applicationName() + ": " + commandLine.text, stderr);
+        write(commandLine.text, stderr);
         return WrongUsage;
     case CommandLine::Request::Serve:
         break;

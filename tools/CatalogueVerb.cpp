@@ -2,6 +2,7 @@
 
 #include <QtCore/QCommandLineParser>
 
+#include "CommonOptions.h"
 #include "ShippedDocuments.h"
 #include "UnitCatalogue.h"
 
@@ -24,12 +25,12 @@ void CatalogueVerb::addOptions(QCommandLineParser& parser) const
     parser.addOption({defaultUnitsOption,
                       "Default-unit document; the shipped one when not given. An empty file means none.",
                       "FILE"});
-    ShippedDocuments::addMaximumSize(parser);
+    CommonOptions::addMaximumSize(parser);
 }
 
 Result<ExitCode> CatalogueVerb::run(const QCommandLineParser& options, const QStringList& arguments)
 {
-    const auto maximumSize = ShippedDocuments::maximumSize(options);
+    const auto maximumSize = CommonOptions::maximumSize(options);
     if (!maximumSize)
         return maximumSize.error();
     const auto catalogue =

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "CommonOptions.h"
 #include "Console.h"
 #include "DocumentFile.h"
 #include "ShippedDocuments.h"
@@ -34,12 +35,12 @@ void CheckedDocuments::addOptions(QCommandLineParser& parser)
 {
     for (const Kind& kind : kinds())
         parser.addOption({kind.option, kind.description, "FILE"});
-    ShippedDocuments::addMaximumSize(parser);
+    CommonOptions::addMaximumSize(parser);
 }
 
 Result<CheckedDocuments> CheckedDocuments::read(const QCommandLineParser& options)
 {
-    const auto maximumSize = ShippedDocuments::maximumSize(options);
+    const auto maximumSize = CommonOptions::maximumSize(options);
     if (!maximumSize)
         return maximumSize.error();
     const bool isAnyGiven = std::any_of(kinds().begin(), kinds().end(),

@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <cstring>
 
+#include "CommonOptions.h"
+
 namespace {
 
 const int longestQuotation = 60;
@@ -18,9 +20,9 @@ bool written(bool success)
     return writeError == 0;
 }
 
-bool write(const QString& line, std::FILE* stream)
+bool write(const QString& text, std::FILE* stream)
 {
-    const QByteArray bytes = (line + '\n').toUtf8();
+    const QByteArray bytes = text.toUtf8();
     const auto size = static_cast<std::size_t>(bytes.size());
     return std::fwrite(bytes.constData(), 1, size, stream) == size;
 }
@@ -29,7 +31,7 @@ bool write(const QString& line, std::FILE* stream)
 
 bool Console::printLine(const QString& line)
 {
-    return writeError == 0 && written(write(line, stdout));
+    return writeError == 0 && written(write(line + '\n', stdout));
 }
 
 bool Console::flush()
@@ -39,14 +41,12 @@ bool Console::flush()
 
 void Console::printError(const QString& message)
 {
-    write("unitmanager: " + message, stderr);
+    write("unitmanager: " + message + '\n', stderr);
 }
 
 ExitCode Console::report(const Failure& failure, const QString& usage)
 {
-    printError(failure.reason);
-    if (failure.exitCode == WrongUsage)
-        printError("usage: " + usage + "; more with --help");
+    write(CommonOptions::failureText("unitmanager", failure, usage), stderr);
     return failure.exitCode;
 }
 

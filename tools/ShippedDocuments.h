@@ -2,19 +2,10 @@
 
 #include <QtCore/QString>
 
-#include "Result.h"
-
-class QCommandLineParser;
-
-/// What all verbs that read documents share.
+/// The documents that are installed with the program.
 namespace ShippedDocuments {
 
-/// The path of a document that is installed with the program; it is fixed relative to the program's folder.
+/// The path of a document; it is fixed relative to the program's folder.
 QString path(const QString& name);
-
-/// Declares --max-size.
-void addMaximumSize(QCommandLineParser& parser);
-/// The value of --max-size in bytes. @return a failure if it is not valid
-Result<int> maximumSize(const QCommandLineParser& options);
 
 } // namespace ShippedDocuments

@@ -2,6 +2,7 @@
 
 #include <QtCore/QCommandLineParser>
 
+#include "CommonOptions.h"
 #include "Console.h"
 #include "MessageFilter.h"
 
@@ -32,15 +33,6 @@ QStringList withoutShields(QStringList words)
             word.remove(0, 1);
     }
     return words;
-}
-
-/// A sentence for use within a message: without capital letter and full stop.
-QString asClause(QString sentence)
-{
-    sentence[0] = sentence[0].toLower();
-    if (sentence.endsWith('.'))
-        sentence.chop(1);
-    return sentence;
 }
 
 ExitCode show(const QString& text)
@@ -74,8 +66,7 @@ ExitCode Verb::execute(const QStringList& words)
 void Verb::declare(QCommandLineParser& parser) const
 {
     parser.setApplicationDescription(m_description.summary);
-    parser.addOption({{"h", "help"}, "Show this help."});
-    parser.addOption({{"v", "version"}, "Show the program's version."});
+    CommonOptions::addHelpAndVersion(parser);
     parser.addOption({"verbose", "Also print the library's messages on standard error."});
     addOptions(parser);
     for (const Argument& argument : m_description.arguments)
@@ -92,7 +83,7 @@ Result<ExitCode> Verb::answer(const QStringList& words)
     if (parser.isSet("version"))
         return show(versionText());
     if (!isUnderstood)
-        return wrongUsage(asClause(parser.errorText()));
+        return CommonOptions::parserFailure(parser);
 
     const QStringList arguments = withoutShields(parser.positionalArguments());
     if (const auto failure = wrongCount(arguments))
@@ -127,7 +118,5 @@ QString Verb::usageLine() const
 
 QString Verb::helpText(const QCommandLineParser& parser) const
 {
-    // The first line of the generated help shows the program's path and lacks the verb.
-    const QString generated = parser.helpText();
-    return "Usage: " + usageLine() + generated.mid(generated.indexOf('\n')) + '\n' + m_description.details;
+    return CommonOptions::helpText(parser, usageLine()) + "\n\n" + m_description.details;
 }

@@ -8,14 +8,14 @@
 
 #include <optional>
 
+#include "CommonOptions.h"
 #include "Console.h"
+#include "ProcessSignal.h"
 #include "UnitManagerDevice/UnitManagerDevice.h"
 #include "UnitManagerDevice/UnitManagerWrapper.h"
-#include "service/ProcessSignal.h"
 
 namespace {
 
-const char* const busOption = "bus";
 const int pollMilliseconds = 20;
 
 /// Tracks the state of the service and prints its changes.
@@ -56,11 +56,6 @@ private:
     std::optional<bool> m_wasReady;
 };
 
-bool isBus(const QString& text)
-{
-    return text == "session" || text == "system" || text.contains(':');
-}
-
 } // namespace
 
 WatchVerb::WatchVerb()
@@ -77,21 +72,15 @@ WatchVerb::WatchVerb()
 
 void WatchVerb::addOptions(QCommandLineParser& parser) const
 {
-    parser.addOption({busOption,
-                      "The bus: session, system or a D-Bus address; when not given, what the variable "
-                      "DEVICE_BUS names, or the session bus.",
-                      "BUS"});
+    CommonOptions::addBus(parser);
 }
 
 Result<ExitCode> WatchVerb::run(const QCommandLineParser& options, const QStringList& /*arguments*/)
 {
-    if (options.isSet(busOption)) {
-        const QString bus = options.value(busOption);
-        if (!isBus(bus))
-            return wrongUsage(Console::quoted(bus) +
-                              " is not a valid bus: expected session, system or a D-Bus address");
-        qputenv("DEVICE_BUS", bus.toLocal8Bit());
-    }
+    const auto bus = CommonOptions::bus(options);
+    if (!bus)
+        return bus.error();
+    qputenv("DEVICE_BUS", bus->toLocal8Bit());
 
     const ProcessSignal termination({SIGTERM, SIGINT});
     QObject::connect(&termination, &ProcessSignal::received, &QCoreApplication::quit);

@@ -146,7 +146,7 @@ void DocumentWatcherTest::placeThatCannotBeWatchedIsLoggedOnce()
 
     const DocumentWatcher watcher({m_file}, {10ms, 100ms});
     QSignalSpy reports(&watcher, &DocumentWatcher::touched);
-    QCOMPARE(log.takeTexts().join('\n'), "Cannot watch " + closed + ": changes there may go unnoticed");
+    QCOMPARE(log.takeTexts().join('\n'), "cannot watch " + closed + ": changes there may go unnoticed");
 
     // The file itself is still watched.
     QVERIFY(TestFiles::write(m_file, "another text"));

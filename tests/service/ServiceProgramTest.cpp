@@ -20,7 +20,10 @@ class ServiceProgramTest : public QObject
 private Q_SLOTS:
     void wrongUsageIsRejected_data();
     void wrongUsageIsRejected();
+    void wrongVariableIsRejected();
+    void helpNamesTheOptions_data();
     void helpNamesTheOptions();
+    void versionIsPrinted_data();
     void versionIsPrinted();
     void busIsChosen_data();
     void busIsChosen();
@@ -36,21 +39,35 @@ private Q_SLOTS:
     void lostBusEndsIt();
 };
 
+namespace {
+
+/// The message for a wrong command line.
+QString rejection(const QString& reason)
+{
+    return "configuration-file-service: " + reason +
+           "\nconfiguration-file-service: usage: configuration-file-service [options] --directory DIR; "
+           "more with --help\n";
+}
+
+} // namespace
+
 void ServiceProgramTest::wrongUsageIsRejected_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("reason");
 
     using Arguments = QStringList;
-    row("nothing", Arguments{}, "No directory given.");
-    row("no directory", Arguments{"--bus", "session"}, "No directory given.");
-    row("empty directory", Arguments{"--directory", ""}, "No directory given.");
-    row("directory without value", Arguments{"--directory"}, "Missing value after '--directory'.");
-    row("empty bus", Arguments{"--directory", "x", "--bus", ""}, "No bus given.");
-    row("unknown option", Arguments{"--directory", "x", "--port", "1"}, "Unknown option 'port'.");
+    const QString noBus = " is not a valid bus: expected session, system or a D-Bus address";
+    row("nothing", Arguments{}, "--directory is missing");
+    row("no directory", Arguments{"--bus", "session"}, "--directory is missing");
+    row("empty directory", Arguments{"--directory", ""}, "--directory is missing");
+    row("directory without value", Arguments{"--directory"}, "missing value after '--directory'");
+    row("empty bus", Arguments{"--directory", "x", "--bus", ""}, "\"\"" + noBus);
+    row("unknown bus", Arguments{"--directory", "x", "--bus", "Session"}, "\"Session\"" + noBus);
+    row("unknown option", Arguments{"--directory", "x", "--port", "1"}, "unknown option 'port'");
     row("no size", Arguments{"--directory", "x", "--max-size", "1M"},
-        "The value of --max-size must be a number of bytes from 1 to 1073741824.");
-    row("plain argument", Arguments{"--directory", "x", "y"}, "Unexpected argument 'y'.");
+        "--max-size must be a number of bytes from 1 to 1073741824");
+    row("plain argument", Arguments{"--directory", "x", "y"}, "too many arguments: \"y\"");
 }
 
 void ServiceProgramTest::wrongUsageIsRejected()
@@ -60,24 +77,55 @@ void ServiceProgramTest::wrongUsageIsRejected()
 
     ServiceProcess service;
     QCOMPARE(service.run(arguments), 2);
-    QCOMPARE(service.log(), "configuration-file-service: " + reason + "\nTry --help.\n");
+    QCOMPARE(service.log(), rejection(reason));
     QCOMPARE(service.output(), QString());
+}
+
+void ServiceProgramTest::wrongVariableIsRejected()
+{
+    ServiceProcess service;
+    service.setVariable("DEVICE_BUS", "anything");
+    QCOMPARE(service.run({"--directory", "x"}), 2);
+    QCOMPARE(service.log(),
+             rejection("\"anything\" is not a valid bus: expected session, system or a D-Bus address"));
+}
+
+void ServiceProgramTest::helpNamesTheOptions_data()
+{
+    QTest::addColumn<QString>("option");
+
+    row("long", "--help");
+    row("short", "-h");
 }
 
 void ServiceProgramTest::helpNamesTheOptions()
 {
+    QFETCH(QString, option);
     ServiceProcess service;
-    QCOMPARE(service.run({"--help"}), 0);
-    for (const char* option :
-         {"--directory <DIR>", "--bus <session|system|ADDRESS>", "--max-size <BYTES>", "--help", "--version"})
-        QVERIFY2(service.output().contains(option), option);
+    QCOMPARE(service.run({option}), 0);
+    const QStringList lines = service.output().split('\n');
+    QCOMPARE(lines.first(), "Usage: configuration-file-service [options] --directory DIR");
+    for (const char* text : {"--directory <DIR>", "--bus <BUS>", "DEVICE_BUS", "--max-size <BYTES>",
+                             "-h, --help", "-v, --version"})
+        QVERIFY2(service.output().contains(text), text);
+    for (const QString& line : lines)
+        QVERIFY2(line.size() < 81, qPrintable(line));
     QCOMPARE(service.log(), QString());
+}
+
+void ServiceProgramTest::versionIsPrinted_data()
+{
+    QTest::addColumn<QString>("option");
+
+    row("long", "--version");
+    row("short", "-v");
 }
 
 void ServiceProgramTest::versionIsPrinted()
 {
+    QFETCH(QString, option);
     ServiceProcess service;
-    QCOMPARE(service.run({"--version"}), 0);
+    QCOMPARE(service.run({option}), 0);
     QCOMPARE(service.output(), "configuration-file-service " UNITMANAGER_VERSION "\n");
     QCOMPARE(service.log(), QString());
 }
@@ -91,6 +139,8 @@ void ServiceProgramTest::busIsChosen_data()
     row("default", QStringList{}, "DBUS_SESSION_BUS_ADDRESS", "session");
     row("session", QStringList{"--bus", "session"}, "DBUS_SESSION_BUS_ADDRESS", "session");
     row("system", QStringList{"--bus", "system"}, "DBUS_SYSTEM_BUS_ADDRESS", "system");
+    row("address of the variable", QStringList{}, "DEVICE_BUS", "ADDRESS");
+    row("address, not the variable", QStringList{"--bus", "ADDRESS"}, "UNUSED", "ADDRESS");
 }
 
 void ServiceProgramTest::busIsChosen()
@@ -100,11 +150,15 @@ void ServiceProgramTest::busIsChosen()
     QFETCH(QString, shown);
     ServedDirectory served;
     QVERIFY(served.bus().start());
+    const QString address = served.bus().address();
+    options.replaceInStrings("ADDRESS", address);
+    shown.replace("ADDRESS", address);
 
     ServiceProcess service;
     service.setVariable("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
     service.setVariable("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere");
-    service.setVariable(variable, served.bus().address());
+    service.setVariable("DEVICE_BUS", options.isEmpty() ? "" : "unix:path=/nowhere");
+    service.setVariable(variable, address);
     QVERIFY(service.start(QStringList{"--directory", served.directory()} + options));
     QCOMPARE(service.output(),
              "serving " + served.directory() + " as org.measuringdevice.DeviceManager on " + shown + '\n');
@@ -208,7 +262,7 @@ void ServiceProgramTest::unreachableBusEndsIt_data()
     QTest::addColumn<QString>("bus");
 
     QTest::newRow("no listener") << "unix:path=/nowhere/socket";
-    QTest::newRow("not an address") << "anything";
+    QTest::newRow("not a transport") << "anything:";
     QTest::newRow("missing session bus") << "session";
     QTest::newRow("missing system bus") << "system";
 }

@@ -14,7 +14,7 @@ QString ServiceProcess::program()
 ServiceProcess::ServiceProcess()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char* name : {"QT_HASH_SEED", "QT_LOGGING_RULES", "QT_MESSAGE_PATTERN"})
+    for (const char* name : {"DEVICE_BUS", "QT_HASH_SEED", "QT_LOGGING_RULES", "QT_MESSAGE_PATTERN"})
         environment.remove(name);
     m_process.setProcessEnvironment(environment);
 }

@@ -13,7 +13,7 @@ public:
     /// The path of the program.
     static QString program();
 
-    /// Does not start the program. Removes settings of Qt's messages from its environment.
+    /// Does not start the program. Removes the bus and settings of Qt's messages from its environment.
     ServiceProcess();
 
     /// Starts the program and does not wait for anything.

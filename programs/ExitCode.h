@@ -1,11 +1,11 @@
 #pragma once
 
-/// Exit codes of the program.
+/// Exit codes of the programs.
 enum ExitCode
 {
-    /// Everything requested was printed.
+    /// Everything requested was done.
     Succeeded = 0,
-    /// A name, a document or a line of input was invalid.
+    /// A name, a document or a line of input was invalid, or a bus was not usable.
     Failed = 1,
     /// The command line itself was invalid.
     WrongUsage = 2,
