@@ -1,0 +1,145 @@
+#include <QtTest/QTest>
+
+#include <algorithm>
+
+#include "Corpus.h"
+#include "LogCapture.h"
+#include "TestProgram.h"
+#include "UnitManager.h"
+
+Q_DECLARE_METATYPE(CorpusFile)
+
+/// The checker and the library agree about the documents of the corpus: which units the library ignores,
+/// which unit is the base unit, and which labels are empty.
+class CorpusLibraryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void agree_data();
+    void agree();
+
+private:
+    void compareType(const JsonValue& type);
+    void compareUnit(const QString& typeId, const JsonValue& unit, const QString& path);
+    void compareBaseUnit(const QString& typeId, const JsonValue& type);
+    bool isFound(const QString& path, std::initializer_list<Rule> rules) const;
+
+    UnitManager m_library;
+    std::vector<Finding> m_findings;
+};
+
+namespace {
+
+const char* const conversionKinds[] = {"Polynomial", "ArbitraryTable", "EquidistantTable"};
+
+/// Whether the document puts the unit at position 0.
+bool isBase(const JsonValue& unit)
+{
+    const auto position = unit.member(QStringLiteral("@displayPosition"));
+    return position && position->type() == JsonType::Number && position->number() == 0;
+}
+
+} // namespace
+
+void CorpusLibraryTest::agree_data()
+{
+    QTest::addColumn<CorpusFile>("file");
+
+    for (const CorpusEntry& entry : Corpus::entries()) {
+        for (const CorpusFile& file : entry.files) {
+            Finding unreadable;
+            if (file.kind == DocumentKind::Units && file.read(unreadable))
+                QTest::newRow(qPrintable(entry.name)) << file;
+        }
+    }
+}
+
+void CorpusLibraryTest::agree()
+{
+    QFETCH(CorpusFile, file);
+
+    LogCapture log;
+    Finding unreadable;
+    const auto document = file.read(unreadable);
+    m_library = UnitManager();
+    const bool isLoaded = m_library.updateUnitConversionByJsonString(document->text());
+    m_findings = DocumentChecker::check({document, {}, {}}, {});
+
+    // That the library refuses the document is not reported in addition to another error.
+    const bool hasError = std::any_of(m_findings.begin(), m_findings.end(), [](const Finding& finding) {
+        return Rules::describe(finding.rule).severity == Severity::Error;
+    });
+    QVERIFY(isLoaded ? !isFound({}, {Rule::DocumentEmpty, Rule::DocumentRefused}) : hasError);
+    for (const JsonValue& type : document->root().children()) {
+        // "NoUnit" removes the conversions read before it, and the library reads in hash order.
+        const bool hasNoUnit = type.member(QStringLiteral("NoUnit")).has_value();
+        if (type.type() == JsonType::Object && !type.name().startsWith('$') && !hasNoUnit)
+            compareType(type);
+        if (QTest::currentTestFailed())
+            return;
+    }
+}
+
+void CorpusLibraryTest::compareType(const JsonValue& type)
+{
+    const QString id = "UnitManager/UnitType/" + type.name();
+    for (const JsonValue& unit : type.children()) {
+        compareUnit(id, unit, type.name() + '/' + unit.name());
+        if (QTest::currentTestFailed())
+            return;
+    }
+    compareBaseUnit(id, type);
+}
+
+void CorpusLibraryTest::compareUnit(const QString& typeId, const JsonValue& unit, const QString& path)
+{
+    const bool isNullKind =
+        std::any_of(std::begin(conversionKinds), std::end(conversionKinds),
+                    [&](const char* kind) { return isFound(path + '/' + kind, {Rule::NullNode}); });
+    const bool isReserved = unit.name() == QLatin1String("Text") && isFound(path, {Rule::NameInvalid});
+    const bool isIgnored = isNullKind || isReserved ||
+                           isFound(path, {Rule::ConversionMissing, Rule::UnitInvalid, Rule::NullNode});
+    const bool isListed = m_library.getListofUnits(typeId).contains(unit.name());
+    QVERIFY2(isListed != isIgnored, qPrintable(path));
+    if (!isListed)
+        return;
+
+    const QString label = path + "/UnitLabel";
+    const QString text = label + "/@value/en";
+    const bool lacksLabel = isFound(path, {Rule::LabelMissing}) || isFound(label, {Rule::NullNode}) ||
+                            isFound(text, {Rule::LabelMissing, Rule::NullNode});
+    // The library shows a label that is a plain text or a number in every language.
+    const bool mayLackLabel =
+        lacksLabel || isFound(label, {Rule::LabelInvalid}) || isFound(text, {Rule::LabelInvalid});
+    const bool isEmpty = m_library.getUnitText(typeId, "en", unit.name()).isEmpty();
+    QVERIFY2(isEmpty ? mayLackLabel : !lacksLabel, qPrintable(label));
+}
+
+void CorpusLibraryTest::compareBaseUnit(const QString& typeId, const JsonValue& type)
+{
+    const std::vector<JsonValue> units = type.children();
+    const auto isAmbiguous = [&](const JsonValue& unit) {
+        return isFound(type.name() + '/' + unit.name() + "/@displayPosition", {Rule::BaseAmbiguous});
+    };
+    // The base unit is then the last one in hash order.
+    if (std::any_of(units.begin(), units.end(), isAmbiguous))
+        return;
+
+    const QString base = m_library.getBaseUnit(typeId).mid(typeId.size() + 1);
+    QCOMPARE(base.isEmpty(), isFound(type.name(), {Rule::BaseMissing, Rule::TypeEmpty}));
+    if (base.isEmpty())
+        return;
+    const QString position = type.name() + '/' + base + "/@displayPosition";
+    QVERIFY2(isBase(*type.member(base)) || isFound(position, {Rule::PositionInvalid}), qPrintable(position));
+}
+
+bool CorpusLibraryTest::isFound(const QString& path, std::initializer_list<Rule> rules) const
+{
+    return std::any_of(m_findings.begin(), m_findings.end(), [&](const Finding& finding) {
+        return finding.path == path && std::find(rules.begin(), rules.end(), finding.rule) != rules.end();
+    });
+}
+
+static const TestClass<CorpusLibraryTest> testClass;
+#include "CorpusLibraryTest.moc"

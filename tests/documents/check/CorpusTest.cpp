@@ -1,0 +1,130 @@
+#include <QtTest/QTest>
+
+#include <QtCore/QFile>
+#include <QtCore/QSet>
+
+#include "Corpus.h"
+#include "LogCapture.h"
+#include "TestProgram.h"
+
+Q_DECLARE_METATYPE(CorpusEntry)
+
+/// What the checker finds in each document of the corpus.
+class CorpusTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findingsAreExact_data();
+    void findingsAreExact();
+    void everyDocumentHasItsExpectation();
+    void everyRuleHasADocument();
+    void shippedDocumentsHaveOnlyNotes();
+};
+
+namespace {
+
+const char* const fileNames[] = {"units.json", "default-units.json", "dependencies.json"};
+
+/// The member of the set for a kind of document.
+std::optional<JsonDocument>& documentOf(DocumentSet& documents, DocumentKind kind)
+{
+    std::optional<JsonDocument>* const members[] = {&documents.units, &documents.defaultUnits,
+                                                    &documents.dependencies};
+    return *members[static_cast<int>(kind)];
+}
+
+/// The findings in the files of an entry, as texts.
+QStringList check(const CorpusEntry& entry)
+{
+    DocumentSet documents;
+    std::vector<Finding> findings;
+    for (const CorpusFile& file : entry.files) {
+        Finding unreadable;
+        documentOf(documents, file.kind) = file.read(unreadable);
+        if (!documentOf(documents, file.kind))
+            findings.push_back(unreadable);
+    }
+    LogCapture log;
+    for (const Finding& finding : DocumentChecker::check(documents, {}))
+        findings.push_back(finding);
+
+    QStringList texts;
+    for (const Finding& finding : findings) {
+        const char* const fileName = fileNames[static_cast<int>(finding.document)];
+        texts.append(entry.isDevice() ? fileName + (' ' + Corpus::textOf(finding)) : Corpus::textOf(finding));
+    }
+    return texts;
+}
+
+} // namespace
+
+void CorpusTest::findingsAreExact_data()
+{
+    QTest::addColumn<CorpusEntry>("entry");
+
+    for (const CorpusEntry& entry : Corpus::entries())
+        QTest::newRow(qPrintable(entry.name)) << entry;
+}
+
+void CorpusTest::findingsAreExact()
+{
+    QFETCH(CorpusEntry, entry);
+
+    QVERIFY(!entry.files.empty());
+    QCOMPARE(check(entry).join('\n'), entry.findings.join('\n'));
+}
+
+void CorpusTest::everyDocumentHasItsExpectation()
+{
+    QStringList expected;
+    for (const CorpusEntry& entry : Corpus::entries()) {
+        for (const CorpusFile& file : entry.files)
+            expected.append(file.path);
+    }
+    expected.sort();
+    QVERIFY(expected.size() > 100);
+    QCOMPARE(Corpus::paths(), expected);
+}
+
+void CorpusTest::everyRuleHasADocument()
+{
+    QSet<QString> words;
+    for (const CorpusEntry& entry : Corpus::entries()) {
+        for (const QString& finding : entry.findings) {
+            for (const QString& word : finding.split(' '))
+                words.insert(word);
+        }
+    }
+    for (const RuleDescription& rule : Rules::all())
+        QVERIFY2(words.contains(rule.name), rule.name);
+}
+
+void CorpusTest::shippedDocumentsHaveOnlyNotes()
+{
+    DocumentSet documents;
+    for (const DocumentKind kind :
+         {DocumentKind::Units, DocumentKind::DefaultUnits, DocumentKind::Dependencies}) {
+        const CorpusFile file{kind,
+                              UNITMANAGER_SOURCE_DIR "/config/" + QString(fileNames[static_cast<int>(kind)])};
+        Finding unreadable;
+        documentOf(documents, kind) = file.read(unreadable);
+        QVERIFY2(documentOf(documents, kind), qPrintable(unreadable.message));
+    }
+    DocumentChecker::Options options;
+    options.languages = QStringList{"en", "de", "fr"};
+    QStringList findings;
+    for (const Finding& finding : DocumentChecker::check(documents, options))
+        findings.append(Corpus::textOf(finding));
+    // Fewer decimal places than the base unit's precision needs, because these units are read more easily so.
+    const QStringList notes{"149:24 note decimals-too-few MixingRatio/GrainPerPound/DecimalPlaces",
+                            "241:24 note decimals-too-few Resistance/KiloOhm/DecimalPlaces",
+                            "248:24 note decimals-too-few Resistance/MegaOhm/DecimalPlaces",
+                            "301:24 note decimals-too-few Time/Minutes/DecimalPlaces",
+                            "308:24 note decimals-too-few Time/Hours/DecimalPlaces",
+                            "315:24 note decimals-too-few Time/Days/DecimalPlaces"};
+    QCOMPARE(findings.join('\n'), notes.join('\n'));
+}
+
+static const TestClass<CorpusTest> testClass;
+#include "CorpusTest.moc"
