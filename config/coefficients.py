@@ -4,6 +4,7 @@
   coefficients.py units.json            print the coefficients of every unit, in the form of the document
   coefficients.py --check units.json    compare them with those in the document; exit status 1 on any difference
 
+The exit status is 2 if the document cannot be read or lacks what the calculation needs.
 A new unit is added here first: its size is written as an exact fraction, never as a rounded decimal.
 """
 
@@ -14,6 +15,11 @@ from fractions import Fraction
 from typing import NamedTuple
 
 NO_UNIT = "NoUnit"
+POSITION = "@displayPosition"
+
+
+class UnusableDocument(Exception):
+    """The document cannot be read, or lacks what the calculation needs."""
 
 
 class Unit(NamedTuple):
@@ -134,8 +140,39 @@ def polynomial(source, target):
     return [[float((source.zero - target.zero) / target.size)], [float(source.size / target.size)]]
 
 
-def base_unit(units):
-    return next(name for name, unit in units.items() if unit["@displayPosition"] == 0)
+def require_object(value, where):
+    if not isinstance(value, dict):
+        raise UnusableDocument(f"{where} is not an object")
+
+
+def unit_types_of(document):
+    """The unit types of a document without notes for editors, such as "$schema"."""
+    require_object(document, "the document")
+    result = {name: units for name, units in document.items() if not name.startswith("$")}
+    for unit_type, units in result.items():
+        require_object(units, unit_type)
+        for name, unit in units.items():
+            require_object(unit, f"{unit_type}/{name}")
+            if POSITION not in unit:
+                raise UnusableDocument(f"{unit_type}/{name} has no {POSITION}")
+    return result
+
+
+def base_unit(unit_type, units):
+    for name, unit in units.items():
+        if unit[POSITION] == 0:
+            return name
+    raise UnusableDocument(f"{unit_type} has no base unit, which has {POSITION} 0")
+
+
+def read_document(path):
+    try:
+        with open(path, encoding="utf-8") as file:
+            return unit_types_of(json.load(file))
+    except OSError as error:
+        raise UnusableDocument(error.strerror) from error
+    except (ValueError, RecursionError) as error:
+        raise UnusableDocument(f"not JSON: {error}") from error
 
 
 def expected_coefficients(definitions, base):
@@ -157,15 +194,13 @@ def difference_of_names(where, defined, documented):
 
 def findings(document):
     """One line for each coefficient, unit or unit type in which the document and the definitions differ."""
-    # Notes for editors, such as "$schema", are not unit types.
-    unit_types = [name for name in document if not name.startswith("$")]
-    result = difference_of_names("document", DEFINITIONS, unit_types)
+    result = difference_of_names("document", DEFINITIONS, document)
     for unit_type in DEFINITIONS.keys() & document.keys():
         units = {name: unit for name, unit in document[unit_type].items() if name != NO_UNIT}
         result += difference_of_names(unit_type, DEFINITIONS[unit_type], units)
         if units.keys() != DEFINITIONS[unit_type].keys() or not units:
             continue
-        for name, polynomials in expected_coefficients(DEFINITIONS[unit_type], base_unit(units)).items():
+        for name, polynomials in expected_coefficients(DEFINITIONS[unit_type], base_unit(unit_type, units)).items():
             result += [
                 f"{unit_type}/{name}: {key} is {units[name].get(key)}, its definition gives {coefficients}"
                 for key, coefficients in polynomials.items()
@@ -174,12 +209,20 @@ def findings(document):
     return sorted(result)
 
 
-def print_coefficients(document):
+def coefficient_lines(document):
+    """One line per unit, in the form of the document."""
+    result = []
     for unit_type, definitions in DEFINITIONS.items():
         if not definitions:
             continue
-        for name, polynomials in expected_coefficients(definitions, base_unit(document[unit_type])).items():
-            print(f"{unit_type}/{name}", json.dumps(polynomials))
+        if unit_type not in document:
+            raise UnusableDocument(f"the document has no unit type {unit_type}")
+        base = base_unit(unit_type, document[unit_type])
+        if base not in definitions:
+            raise UnusableDocument(f"{unit_type}/{base} has no definition")
+        for name, polynomials in expected_coefficients(definitions, base).items():
+            result.append(f"{unit_type}/{name} {json.dumps(polynomials)}")
+    return result
 
 
 def main():
@@ -187,15 +230,15 @@ def main():
     parser.add_argument("--check", action="store_true", help="compare the document with the definitions")
     parser.add_argument("document", help="the unit document, units.json")
     arguments = parser.parse_args()
-    with open(arguments.document, encoding="utf-8") as file:
-        document = json.load(file)
-    if not arguments.check:
-        print_coefficients(document)
-        return 0
-    differences = findings(document)
-    for difference in differences:
-        print(difference, file=sys.stderr)
-    return 1 if differences else 0
+    try:
+        document = read_document(arguments.document)
+        lines = findings(document) if arguments.check else coefficient_lines(document)
+    except UnusableDocument as error:
+        print(f"coefficients.py: {arguments.document}: {error}", file=sys.stderr)
+        return 2
+    for line in lines:
+        print(line, file=sys.stderr if arguments.check else sys.stdout)
+    return 1 if arguments.check and lines else 0
 
 
 if __name__ == "__main__":

@@ -57,7 +57,7 @@ class CoefficientsTest(unittest.TestCase):
 
     def test_notes_for_editors_are_ignored(self):
         self.units["$schema"] = "units.schema.json"
-        self.assertEqual(coefficients.findings(self.units), [])
+        self.assertEqual(coefficients.findings(coefficients.unit_types_of(self.units)), [])
 
     def test_unit_type_missing_in_the_document_is_reported(self):
         del self.units["Time"]
@@ -96,6 +96,47 @@ class CoefficientsTest(unittest.TestCase):
             unit_type, unit = name.split("/")
             for key, polynomial in json.loads(printed).items():
                 self.assertEqual(self.units[unit_type][unit][key], polynomial, name)
+
+    def test_command_reports_an_unusable_document_in_one_line(self):
+        bar = {"@displayPosition": 0, "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]]}
+        pascal = {**bar, "@displayPosition": 1}
+        pressure = self.units["Pressure"]
+        rows = {
+            "not JSON": ("{", "not JSON: Expecting property name enclosed in double quotes: line 1 column 2 (char 1)"),
+            "empty": ("", "not JSON: Expecting value: line 1 column 1 (char 0)"),
+            "list": ([], "the document is not an object"),
+            "type is null": ({"Pressure": None}, "Pressure is not an object"),
+            "type is text": ({"Pressure": "Bar"}, "Pressure is not an object"),
+            "unit is null": ({"Pressure": {"Bar": None}}, "Pressure/Bar is not an object"),
+            "unit is text": ({"Pressure": {"Bar": "bar"}}, "Pressure/Bar is not an object"),
+            "no position": ({"Pressure": {"Bar": bar, "Pascal": {}}}, "Pressure/Pascal has no @displayPosition"),
+            "no base unit": (
+                {**self.units, "Pressure": {name: {**unit, "@displayPosition": 1} for name, unit in pressure.items()}},
+                "Pressure has no base unit, which has @displayPosition 0",
+            ),
+        }
+        for arguments in ([], ["--check"]):
+            for name, (document, message) in rows.items():
+                with self.subTest(name, arguments=arguments):
+                    self.check_unusable(document, message, *arguments)
+        # Compared with the definitions, these are differences.
+        del self.units["Time"]
+        self.check_unusable(self.units, "the document has no unit type Time")
+        self.check_unusable({"Pressure": {"Barye": bar, "Pascal": pascal}}, "Pressure/Barye has no definition")
+
+    def test_command_reports_a_missing_file(self):
+        result = self.run_command("--check", "/does/not/exist.json")
+        self.assertEqual((result.returncode, result.stdout), (2, ""))
+        self.assertEqual(result.stderr, "coefficients.py: /does/not/exist.json: No such file or directory\n")
+
+    def check_unusable(self, document, message, *arguments):
+        text = document if isinstance(document, str) else json.dumps(document)
+        with tempfile.NamedTemporaryFile("w", suffix=".json", encoding="utf-8") as file:
+            file.write(text)
+            file.flush()
+            result = self.run_command(*arguments, file.name)
+            self.assertEqual((result.returncode, result.stdout), (2, ""))
+            self.assertEqual(result.stderr, f"coefficients.py: {file.name}: {message}\n")
 
     @staticmethod
     def run_command(*arguments):
