@@ -118,7 +118,8 @@ void ConversionCheck::run()
 const UnitNode* ConversionCheck::checkBaseUnits()
 {
     const UnitNode* first = nullptr;
-    bool isPositionUnknown = false;
+    // Units that were reported already may be meant as base unit.
+    bool isPositionUnknown = m_type.units.size() < m_type.value.children().size();
     for (const UnitNode& unit : m_type.units) {
         isPositionUnknown = isPositionUnknown || !unit.displayPosition;
         if (unit.displayPosition != 0)
@@ -131,7 +132,6 @@ const UnitNode* ConversionCheck::checkBaseUnits()
         else
             first = &unit;
     }
-    // Units that were reported already may be meant as base unit.
     if (m_type.baseUnit.isEmpty() && first == nullptr && !isPositionUnknown)
         m_findings.addAtName(Rule::BaseMissing, m_type.value, m_type.name,
                              "unit type " + DocumentProblem::quoted(m_type.name) + " has no base unit",
