@@ -118,6 +118,8 @@ void UnitsCheck::checkNoUnit(const JsonValue& unit, const QString& path)
                              QStringLiteral("write { \"@displayPosition\": 0, \"UnitLabel\": "
                                             "{ \"@value\": { \"en\": \"\" } } }"));
     };
+    if (unit.type() == JsonType::Null)
+        return m_findings.addAtName(Rule::NullNode, unit, path, QStringLiteral("\"NoUnit\" is null"));
     if (unit.type() != JsonType::Object)
         return fail(unit, {}, QStringLiteral("\"NoUnit\" is not an object"));
     const auto position = unit.member(QStringLiteral("@displayPosition"));
