@@ -48,10 +48,10 @@ std::optional<JsonValue> JsonValue::member(const QString& name) const
 {
     if (type() != JsonType::Object)
         return {};
+    const QByteArray utf8 = name.toUtf8();
     for (quint32 child = m_index + 1; child != node().next; child = m_tree->nodes[child].next) {
-        const JsonValue value(*m_tree, child);
-        if (value.name() == name)
-            return value;
+        if (JsonString::equals(m_tree->bytes.constData() + m_tree->nodes[child].name, utf8))
+            return JsonValue(*m_tree, child);
     }
     return {};
 }

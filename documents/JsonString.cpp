@@ -60,6 +60,20 @@ QString JsonString::decoded(const char* quote)
     }
 }
 
+bool JsonString::equals(const char* quote, const QByteArray& utf8)
+{
+    const char* at = quote + 1;
+    for (const char byte : utf8) {
+        // The quote at the end ends the comparison, too.
+        if (*at == '\\')
+            return decoded(quote).toUtf8() == utf8;
+        if (*at != byte || byte == '"')
+            return false;
+        ++at;
+    }
+    return *at == '"' || (*at == '\\' && decoded(quote).toUtf8() == utf8);
+}
+
 int JsonString::codeUnit(const char* digits, const char* end)
 {
     const int length = 4;

@@ -14,6 +14,9 @@ QByteArray encoded(const char* quote);
 /// The string's value, with escapes replaced.
 QString decoded(const char* quote);
 
+/// Whether the string's value is @p utf8. Faster than to decode it.
+bool equals(const char* quote, const QByteArray& utf8);
+
 /// The code unit of four hexadecimal digits; -1 if there are fewer than four before the end.
 int codeUnit(const char* digits, const char* end);
 

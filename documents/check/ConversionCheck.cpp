@@ -188,10 +188,8 @@ bool ConversionCheck::isMonotonic(const UnitNode& unit) const
 
 void ConversionCheck::checkInverse(const UnitNode& unit)
 {
-    UnitNode padded = unit;
-    padded.inverseCoefficients.resize(std::max<std::size_t>(2, unit.inverseCoefficients.size()));
-    const RoundTrip worst = unit.isLinear() ? RoundTrip::ofLinear(padded)
-                                            : RoundTrip::between(padded, m_options.lowest, m_options.highest);
+    const RoundTrip worst = unit.isLinear() ? RoundTrip::ofLinear(unit)
+                                            : RoundTrip::between(unit, m_options.lowest, m_options.highest);
     const bool isWrong = worst.relativeError > (unit.isLinear() ? wrongLinear : wrongCurved);
     const bool isInaccurate = unit.isLinear() ? worst.ulps > accurateUlps : worst.digits > invisibleDigits;
     if (!isWrong && !isInaccurate)

@@ -1,7 +1,6 @@
 #include "LabelCheck.h"
 
 #include <QtCore/QHash>
-#include <QtCore/QRegularExpression>
 #include <QtCore/QSet>
 
 #include <algorithm>
@@ -16,10 +15,23 @@ const QString& english()
     return language;
 }
 
-bool isLanguage(const QString& name)
+bool areLetters(const QString& text, char first, char last)
 {
-    static const QRegularExpression pattern(QStringLiteral("^[a-z]{2,3}(_[A-Z]{2})?$"));
-    return pattern.match(name).hasMatch();
+    return std::all_of(text.begin(), text.end(), [first, last](QChar character) {
+        return character >= QLatin1Char(first) && character <= QLatin1Char(last);
+    });
+}
+
+/// Whether the text has the form of "de" or "de_AT".
+bool isLanguage(const QString& text)
+{
+    const int separator = text.indexOf(QLatin1Char('_'));
+    const QString language = text.left(separator);
+    const bool isShort = language.size() == 2 || language.size() == 3;
+    if (separator < 0 || !isShort)
+        return isShort && areLetters(language, 'a', 'z');
+    const QString country = text.mid(separator + 1);
+    return country.size() == 2 && areLetters(language, 'a', 'z') && areLetters(country, 'A', 'Z');
 }
 
 /// The object with a text per language; no value if the label is not valid.
@@ -111,20 +123,21 @@ void LabelCheck::checkLanguages(const UnitNode& unit, const std::vector<JsonValu
 
 void LabelCheck::checkText(const UnitNode& unit, const JsonValue& text)
 {
-    const QString language = text.name();
-    const QString path = unit.path + "/UnitLabel/@value/" + language;
-    if (!isLanguage(language)) {
-        m_findings.addAtName(Rule::LanguageInvalid, text, path,
-                             DocumentProblem::quoted(language) + " is not a language",
+    const auto path = [&] {
+        return unit.path + "/UnitLabel/@value/" + text.name();
+    };
+    if (!isLanguage(text.name())) {
+        m_findings.addAtName(Rule::LanguageInvalid, text, path(),
+                             DocumentProblem::quoted(text.name()) + " is not a language",
                              QStringLiteral("write a code such as de or de_AT"));
     } else if (text.type() == JsonType::Null) {
-        m_findings.addAtName(Rule::NullNode, text, path, QStringLiteral("null in place of a label"));
+        m_findings.addAtName(Rule::NullNode, text, path(), QStringLiteral("null in place of a label"));
     } else if (text.type() != JsonType::String) {
-        m_findings.addAtValue(Rule::LabelInvalid, text, path, QStringLiteral("the label is not a text"));
+        m_findings.addAtValue(Rule::LabelInvalid, text, path(), QStringLiteral("the label is not a text"));
     } else if (text.string().isEmpty()) {
-        m_findings.addAtValue(Rule::LabelInvalid, text, path, QStringLiteral("the label is empty"));
+        m_findings.addAtValue(Rule::LabelInvalid, text, path(), QStringLiteral("the label is empty"));
     } else if (hasUnusualCharacters(text.string())) {
-        m_findings.addAtValue(Rule::LabelCharacters, text, path,
+        m_findings.addAtValue(Rule::LabelCharacters, text, path(),
                               QStringLiteral("the label has control characters, or blanks at its ends"));
     }
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-const int largestExponent = 6;
+const double largestValue = 1e6;
 const int steps = 100;
 
 /// The distance from a positive number to the next larger one.
@@ -15,13 +15,18 @@ double ulpOf(double number)
     return std::nextafter(number, std::numeric_limits<double>::infinity()) - number;
 }
 
-RoundTrip compare(const UnitNode& unit, double value, double result, double scale)
+double errorOf(double value, double result)
 {
     const double difference = std::abs(result - value);
     // A result that is not finite is as wrong as can be.
-    const double error = std::isfinite(difference) ? difference : std::numeric_limits<double>::infinity();
-    return {value, result, error / scale, error / ulpOf(scale),
-            error * std::pow(10.0, unit.decimalPlaces.value_or(0))};
+    return std::isfinite(difference) ? difference : std::numeric_limits<double>::infinity();
+}
+
+/// @param scale the largest number of the calculation
+RoundTrip compare(double value, double result, double scale)
+{
+    const double error = errorOf(value, result);
+    return {value, result, error / scale, error / ulpOf(scale), 0};
 }
 
 void keepWorse(RoundTrip& worst, const RoundTrip& other)
@@ -37,7 +42,7 @@ RoundTrip ofDisplayedValue(const UnitNode& unit, double value)
     const double scale = std::max({std::abs(value), std::abs(unit.coefficients[0]),
                                    std::abs(unit.coefficients[1] * unit.inverseCoefficients[0]),
                                    std::numeric_limits<double>::min()});
-    return compare(unit, value, unit.conversion.convertValue(base), scale);
+    return compare(value, unit.conversion.convertValue(base), scale);
 }
 
 } // namespace
@@ -45,10 +50,12 @@ RoundTrip ofDisplayedValue(const UnitNode& unit, double value)
 RoundTrip RoundTrip::ofLinear(const UnitNode& unit)
 {
     RoundTrip worst;
-    for (int exponent = -unit.decimalPlaces.value_or(0); exponent <= largestExponent; ++exponent) {
+    double power = std::pow(10.0, -unit.decimalPlaces.value_or(0));
+    for (; power <= largestValue; power *= 10) {
         for (const double digit : {1.0, 3.7, -1.0, -3.7})
-            keepWorse(worst, ofDisplayedValue(unit, digit * std::pow(10.0, exponent)));
+            keepWorse(worst, ofDisplayedValue(unit, digit * power));
     }
+    worst.digits = errorOf(worst.value, worst.result) * std::pow(10.0, unit.decimalPlaces.value_or(0));
     return worst;
 }
 
@@ -61,7 +68,8 @@ RoundTrip RoundTrip::between(const UnitNode& unit, double lowest, double highest
         const double base = lowest + (highest - lowest) * step / steps;
         const double value = unit.conversion.convertValue(base);
         const double result = unit.conversion.convertValue(unit.conversion.invertValue(value));
-        keepWorse(worst, compare(unit, value, result, span));
+        keepWorse(worst, compare(value, result, span));
     }
+    worst.digits = errorOf(worst.value, worst.result) * std::pow(10.0, unit.decimalPlaces.value_or(0));
     return worst;
 }

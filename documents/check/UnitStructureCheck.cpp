@@ -2,50 +2,53 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <utility>
 
 #include "MemberNames.h"
+#include "NumberLists.h"
 #include "UnitManager.h"
 
 namespace {
 
 const int mostDecimalPlaces = 17;
 
-const QStringList& conversionKinds()
+/// A kind of conversion, named by the member that selects it.
+struct ConversionKind
 {
-    static const QStringList kinds{QStringLiteral("Polynomial"), QStringLiteral("ArbitraryTable"),
-                                   QStringLiteral("EquidistantTable")};
+    QString name;
+    /// The members of a unit. The absence of a required one is reported on its own.
+    QStringList required;
+    QStringList optional;
+};
+
+const std::vector<ConversionKind>& conversionKinds()
+{
+    static const std::vector<ConversionKind> kinds = {
+        {"Polynomial",
+         {"@displayPosition", "DecimalPlaces", "Polynomial", "InversePolynomial", "UnitLabel"},
+         {}},
+        {"ArbitraryTable", {"@displayPosition", "ArbitraryTable", "Table", "UnitLabel"}, {"InverseTable"}},
+        {"EquidistantTable",
+         {"@displayPosition", "EquidistantTable", "Table", "UnitLabel"},
+         {"InverseTable", "DistanceBaseTable", "DistanceBaseInverseTable", "OrdinateMin", "OrdinateMax",
+          "OrdinateMinInversion", "OrdinateMaxInversion"}}};
     return kinds;
-}
-
-QStringList knownMembers(const QString& conversionKind)
-{
-    const QStringList common{QStringLiteral("@displayPosition"), QStringLiteral("UnitLabel"), conversionKind};
-    if (conversionKind == conversionKinds()[0])
-        return common + QStringList{QStringLiteral("DecimalPlaces"), QStringLiteral("InversePolynomial")};
-    const QStringList table = common + QStringList{QStringLiteral("Table"), QStringLiteral("InverseTable")};
-    if (conversionKind == conversionKinds()[1])
-        return table;
-    return table +
-           QStringList{QStringLiteral("DistanceBaseTable"),    QStringLiteral("DistanceBaseInverseTable"),
-                       QStringLiteral("OrdinateMin"),          QStringLiteral("OrdinateMax"),
-                       QStringLiteral("OrdinateMinInversion"), QStringLiteral("OrdinateMaxInversion")};
-}
-
-/// The members that every unit must have. Their absence is reported on its own.
-QStringList requiredMembers(const QString& conversionKind)
-{
-    const QStringList common{QStringLiteral("@displayPosition"), QStringLiteral("UnitLabel"), conversionKind};
-    if (conversionKind != conversionKinds()[0])
-        return common + QStringList{QStringLiteral("Table")};
-    return common + QStringList{QStringLiteral("DecimalPlaces"), QStringLiteral("InversePolynomial")};
 }
 
 QString adviceForMissingConversion(const JsonValue& unit)
 {
     QString advice = QStringLiteral("add \"Polynomial\" and \"InversePolynomial\"");
-    for (const QString& kind : conversionKinds())
-        advice = MemberNames::adviceForMissing(unit, kind, advice);
+    for (const ConversionKind& kind : conversionKinds())
+        advice = MemberNames::adviceForMissing(unit, kind.name, advice);
     return advice;
+}
+
+/// Whether the member is a misspelt one of those that the unit lacks.
+bool isMisspelt(const JsonValue& unit, const QString& member, const QStringList& required)
+{
+    return std::any_of(required.begin(), required.end(),
+                       [&](const QString& name) { return MemberNames::misspelling(unit, name) == member; });
 }
 
 /// The whole number from 0 to a maximum; no value for anything else.
@@ -77,14 +80,14 @@ void UnitStructureCheck::checkUnit(const JsonValue& value, TypeNode& type, const
         return;
     }
     UnitNode unit{value.name(), path, value, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}};
-    unit.polynomial = value.member(conversionKinds()[0]);
+    unit.polynomial = value.member(QStringLiteral("Polynomial"));
     unit.inverse = value.member(QStringLiteral("InversePolynomial"));
     unit.position = value.member(QStringLiteral("@displayPosition"));
     unit.decimals = value.member(QStringLiteral("DecimalPlaces"));
     unit.label = value.member(QStringLiteral("UnitLabel"));
     checkConversion(unit, type, library);
     checkPosition(unit);
-    type.units.push_back(unit);
+    type.units.push_back(std::move(unit));
 }
 
 void UnitStructureCheck::checkConversion(UnitNode& unit, const TypeNode& type, const UnitManager& library)
@@ -93,50 +96,48 @@ void UnitStructureCheck::checkConversion(UnitNode& unit, const TypeNode& type, c
     if (isAccepted)
         library.getConversion(type.id, unit.name, unit.conversion);
 
-    std::vector<JsonValue> kinds;
-    for (const QString& kind : conversionKinds()) {
-        if (const auto member = unit.value.member(kind))
-            kinds.push_back(*member);
+    std::vector<std::pair<const ConversionKind*, JsonValue>> kinds;
+    for (const ConversionKind& kind : conversionKinds()) {
+        if (const auto member = unit.value.member(kind.name))
+            kinds.push_back({&kind, *member});
     }
     if (kinds.size() > 1) {
         m_findings.addAtName(Rule::ConversionAmbiguous, unit.value, unit.path,
-                             "the unit has both " + DocumentProblem::quoted(kinds[0].name()) + " and " +
-                                 DocumentProblem::quoted(kinds[1].name()),
+                             "the unit has both " + DocumentProblem::quoted(kinds[0].first->name) + " and " +
+                                 DocumentProblem::quoted(kinds[1].first->name),
                              QStringLiteral("keep one of them"));
         return;
     }
     if (kinds.empty() || !isAccepted) {
-        const bool isNull = !kinds.empty() && kinds[0].type() == JsonType::Null;
+        const bool isNull = !kinds.empty() && kinds[0].second.type() == JsonType::Null;
         if (!isNull)
             m_findings.addAtName(Rule::ConversionMissing, unit.value, unit.path,
                                  QStringLiteral("the library ignores the unit: it has no conversion"),
                                  adviceForMissingConversion(unit.value));
-        checkMembers(unit, conversionKinds()[0]);
+        checkMembers(unit, conversionKinds()[0].required, {});
         return;
     }
-    checkMembers(unit, kinds[0].name());
+    checkMembers(unit, kinds[0].first->required, kinds[0].first->optional);
     if (unit.polynomial)
         checkPolynomialUnit(unit);
     else
-        checkTableUnit(unit, kinds[0]);
+        checkTableUnit(unit, kinds[0].second);
 }
 
 /// Reports null and unknown members. A misspelt member is reported where the right one is missing.
-void UnitStructureCheck::checkMembers(const UnitNode& unit, const QString& conversionKind)
+void UnitStructureCheck::checkMembers(const UnitNode& unit, const QStringList& required,
+                                      const QStringList& optional)
 {
-    QStringList misspelt;
-    for (const QString& required : requiredMembers(conversionKind))
-        misspelt.append(MemberNames::misspelling(unit.value, required));
-    const QStringList known = knownMembers(conversionKind);
     for (const JsonValue& member : unit.value.children()) {
         const QString name = member.name();
-        const QString path = unit.path + '/' + name;
-        if (!known.contains(name) && !misspelt.contains(name)) {
-            m_findings.addAtName(Rule::UnknownMember, member, path,
+        const bool isKnown = required.contains(name) || optional.contains(name);
+        if (isKnown && member.type() == JsonType::Null) {
+            m_findings.addAtName(Rule::NullNode, member, unit.path + '/' + name,
+                                 DocumentProblem::quoted(name) + " is null");
+        } else if (!isKnown && !isMisspelt(unit.value, name, required)) {
+            m_findings.addAtName(Rule::UnknownMember, member, unit.path + '/' + name,
                                  "no program reads " + DocumentProblem::quoted(name) + " of this unit",
-                                 MemberNames::suggestion(name, known));
-        } else if (member.type() == JsonType::Null) {
-            m_findings.addAtName(Rule::NullNode, member, path, DocumentProblem::quoted(name) + " is null");
+                                 MemberNames::suggestion(name, required + optional));
         }
     }
 }
@@ -144,8 +145,8 @@ void UnitStructureCheck::checkMembers(const UnitNode& unit, const QString& conve
 void UnitStructureCheck::checkPolynomialUnit(UnitNode& unit)
 {
     checkDecimals(unit);
-    unit.coefficients = readCoefficients(unit.polynomial, unit.path + "/Polynomial");
-    unit.inverseCoefficients = readCoefficients(unit.inverse, unit.path + "/InversePolynomial");
+    unit.coefficients = readCoefficients(unit, unit.polynomial);
+    unit.inverseCoefficients = readCoefficients(unit, unit.inverse);
 }
 
 void UnitStructureCheck::checkTableUnit(const UnitNode& unit, const JsonValue& kind)
@@ -169,9 +170,9 @@ void UnitStructureCheck::checkTableUnit(const UnitNode& unit, const JsonValue& k
         if (member.type() == JsonType::Null)
             continue;
         if (name == QLatin1String("Table") || name == QLatin1String("InverseTable"))
-            checkRows(member, memberPath, columns);
+            NumberLists::check(member, memberPath, columns, m_findings);
         else if (name.startsWith(QLatin1String("Distance")) || name.startsWith(QLatin1String("Ordinate")))
-            checkNumber(member, memberPath);
+            NumberLists::checkNumber(member, memberPath, m_findings);
     }
 }
 
@@ -209,76 +210,16 @@ void UnitStructureCheck::checkDecimals(UnitNode& unit)
 }
 
 /// @return empty if there is no list, or if it is not valid, which is reported
-std::vector<double> UnitStructureCheck::readCoefficients(const std::optional<JsonValue>& list,
-                                                         const QString& path)
+std::vector<double> UnitStructureCheck::readCoefficients(const UnitNode& unit,
+                                                         const std::optional<JsonValue>& list)
 {
     std::vector<double> result;
-    if (!list || list->type() == JsonType::Null || !checkRows(*list, path, 1))
+    if (!list || list->type() == JsonType::Null ||
+        !NumberLists::check(*list, unit.path + '/' + list->name(), 1, m_findings))
         return result;
     for (const JsonValue& row : list->children())
         result.push_back(row.children().front().number());
     while (result.size() > 1 && result.back() == 0)
         result.pop_back();
     return result;
-}
-
-bool UnitStructureCheck::checkRows(const JsonValue& list, const QString& path, std::size_t columns)
-{
-    const std::vector<JsonValue> rows = list.children();
-    if (list.type() != JsonType::Array || rows.empty()) {
-        m_findings.addAtValue(Rule::CoefficientsInvalid, list, path,
-                              list.type() == JsonType::Array ? QStringLiteral("the list is empty")
-                                                             : QStringLiteral("this is not a list of lists"),
-                              columns == 1
-                                  ? QStringLiteral("write one list per number, as in [[0], [1000]]")
-                                  : QStringLiteral("write one list per point, as in [[0, 4], [10, 20]]"));
-        return false;
-    }
-    for (std::size_t index = 0; index < rows.size(); ++index) {
-        if (!checkRow(rows[index], path + '/' + QString::number(index), columns))
-            return false;
-    }
-    return true;
-}
-
-bool UnitStructureCheck::checkRow(const JsonValue& row, const QString& path, std::size_t columns)
-{
-    const std::vector<JsonValue> cells = row.children();
-    if (row.type() != JsonType::Array || cells.size() != columns) {
-        QString advice =
-            QStringLiteral("write %1 in brackets").arg(columns == 1 ? "one number" : "two numbers");
-        if (columns == 1 && cells.size() == 2)
-            advice = QStringLiteral("write a decimal point instead of the comma");
-        m_findings.addAtValue(Rule::CoefficientsInvalid, row, path,
-                              columns == 1 ? QStringLiteral("this is not a list with one number")
-                                           : QStringLiteral("this is not a list with two numbers"),
-                              advice);
-        return false;
-    }
-    for (std::size_t index = 0; index < cells.size(); ++index) {
-        if (!checkNumber(cells[index], path + '/' + QString::number(index)))
-            return false;
-    }
-    return true;
-}
-
-bool UnitStructureCheck::checkNumber(const JsonValue& number, const QString& path)
-{
-    if (number.type() == JsonType::Number)
-        return true;
-    if (number.type() == JsonType::Null) {
-        m_findings.addAtValue(Rule::NullNode, number, path, QStringLiteral("null in place of a number"));
-        return false;
-    }
-    QString advice;
-    if (number.type() == JsonType::String) {
-        bool isNumber = false;
-        const QString text = number.string().replace(QLatin1Char(','), QLatin1Char('.')).trimmed();
-        text.toDouble(&isNumber);
-        advice = isNumber ? "write " + text + " without quotes"
-                          : QStringLiteral("write the number without quotes");
-    }
-    m_findings.addAtValue(Rule::CoefficientsInvalid, number, path, QStringLiteral("this is not a number"),
-                          advice);
-    return false;
 }

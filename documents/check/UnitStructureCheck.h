@@ -20,11 +20,8 @@ private:
     void checkConversion(UnitNode& unit, const TypeNode& type, const UnitManager& library);
     void checkPosition(UnitNode& unit);
     void checkDecimals(UnitNode& unit);
-    void checkMembers(const UnitNode& unit, const QString& conversionKind);
-    bool checkRows(const JsonValue& list, const QString& path, std::size_t columns);
-    bool checkRow(const JsonValue& row, const QString& path, std::size_t columns);
-    bool checkNumber(const JsonValue& number, const QString& path);
-    std::vector<double> readCoefficients(const std::optional<JsonValue>& list, const QString& path);
+    void checkMembers(const UnitNode& unit, const QStringList& required, const QStringList& optional);
+    std::vector<double> readCoefficients(const UnitNode& unit, const std::optional<JsonValue>& list);
 
     Findings& m_findings;
 };
