@@ -7,6 +7,7 @@
 #include "ConvertVerb.h"
 #include "KnownNames.h"
 #include "LabelVerb.h"
+#include "LabelsVerb.h"
 #include "TableVerb.h"
 #include "TextTable.h"
 #include "TypesVerb.h"
@@ -20,6 +21,7 @@ CommandLine::CommandLine()
     m_verbs.push_back(std::make_unique<ConvertVerb>());
     m_verbs.push_back(std::make_unique<TableVerb>());
     m_verbs.push_back(std::make_unique<LabelVerb>());
+    m_verbs.push_back(std::make_unique<LabelsVerb>());
     m_verbs.push_back(std::make_unique<CheckVerb>());
     m_verbs.push_back(std::make_unique<WatchVerb>());
 }

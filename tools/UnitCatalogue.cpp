@@ -193,7 +193,7 @@ QStringList UnitCatalogue::unitsLabelled(const UnitType& type, const QString& la
     if (label.isEmpty())
         return labelled;
     for (const QString& unit : units(type)) {
-        if (m_document.labels(afterLastSlash(type.id), unit).values().contains(label))
+        if (labels(type, unit).values().contains(label))
             labelled.append(unit);
     }
     return labelled;
@@ -202,7 +202,7 @@ QStringList UnitCatalogue::unitsLabelled(const UnitType& type, const QString& la
 KnownName UnitCatalogue::knownName(const UnitType& type, const QString& unit) const
 {
     QStringList spellings{unit};
-    spellings += m_document.labels(afterLastSlash(type.id), unit).values();
+    spellings += labels(type, unit).values();
     const QString text = label(type, unit, "en");
     return {text.isEmpty() || text == unit ? unit : unit + " (" + text + ')', spellings};
 }
@@ -230,6 +230,16 @@ QString UnitCatalogue::defaultUnit(const UnitType& type) const
 QString UnitCatalogue::label(const UnitType& type, const QString& unit, const QString& language) const
 {
     return getUnitText(type.id, language, unit);
+}
+
+QMap<QString, QString> UnitCatalogue::labels(const UnitType& type, const QString& unit) const
+{
+    return m_document.labels(afterLastSlash(type.id), unit);
+}
+
+QStringList UnitCatalogue::languages() const
+{
+    return m_document.languages();
 }
 
 std::optional<unsigned int> UnitCatalogue::decimalPlaces(const UnitType& type, const QString& unit) const

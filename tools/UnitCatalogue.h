@@ -71,6 +71,10 @@ public:
 
     /// The unit's label. @return empty for a unit without label
     QString label(const UnitType& type, const QString& unit, const QString& language) const;
+    /// The unit's labels by language; see UnitDocument.
+    QMap<QString, QString> labels(const UnitType& type, const QString& unit) const;
+    /// The languages of all labels, "en" first.
+    QStringList languages() const;
     /// The unit's decimal places. @return no value for a unit whose values are never rounded
     std::optional<unsigned int> decimalPlaces(const UnitType& type, const QString& unit) const;
 

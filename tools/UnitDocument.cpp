@@ -1,6 +1,8 @@
 #include "UnitDocument.h"
 
+#include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -25,7 +27,7 @@ QMap<QString, QString> readLabels(const JsonValue& unit)
     if (!text)
         return {};
     if (text->type() == JsonType::String)
-        return {{QString(), text->string()}};
+        return {{"*", text->string()}};
 
     if (text->type() != JsonType::Object)
         return {};
@@ -55,4 +57,16 @@ double UnitDocument::displayPosition(const QString& type, const QString& unit) c
 QMap<QString, QString> UnitDocument::labels(const QString& type, const QString& unit) const
 {
     return m_units.value(keyOf(type, unit)).labels;
+}
+
+QStringList UnitDocument::languages() const
+{
+    QStringList languages;
+    for (const Unit& unit : m_units)
+        languages += unit.labels.keys();
+    languages.removeDuplicates();
+    std::sort(languages.begin(), languages.end(), [](const QString& left, const QString& right) {
+        return std::make_pair(left != "en", left) < std::make_pair(right != "en", right);
+    });
+    return languages;
 }

@@ -3,6 +3,7 @@
 #include <QtCore/QHash>
 #include <QtCore/QMap>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include "JsonDocument.h"
 
@@ -17,8 +18,10 @@ public:
 
     /// The display position; infinity for a unit without one.
     double displayPosition(const QString& type, const QString& unit) const;
-    /// The unit's labels by language. A label that is a plain text is for every language and has the key "".
+    /// The unit's labels by language. The language of a label that is a plain text is "*", which means all.
     QMap<QString, QString> labels(const QString& type, const QString& unit) const;
+    /// The languages of all labels, "en" first, then by name.
+    QStringList languages() const;
 
 private:
     struct Unit

@@ -39,6 +39,9 @@ void addVerbs()
         common + QStringList{"--raw", "--language", "  VALUE  ", "  TYPE  ", "  FROM  "});
     row("label", "label", QByteArray("[options] [TYPE] UNIT"),
         common + QStringList{"--language", "  TYPE  ", "  UNIT  "});
+    row("labels", "labels", QByteArray("[options] [TYPE]"),
+        common +
+            QStringList{"--missing <LANGUAGE>", "  TYPE  ", "exit code is 0 also if a label is missing"});
     row("watch", "watch", QByteArray("[options]"),
         QStringList{"-h, --help", "-v, --version", "--verbose", "--bus <BUS>", "DEVICE_BUS", "SIGTERM",
                     "Example"});
@@ -99,7 +102,7 @@ void ToolHelpTest::programHelpListsEveryVerb()
     const ToolRun run = ToolProcess::run({option});
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.standardError, QByteArray());
-    for (const char* verb : {"types", "units", "convert", "table", "label", "watch"})
+    for (const char* verb : {"types", "units", "convert", "table", "label", "labels", "watch"})
         QVERIFY2(run.standardOutput.contains('\n' + QByteArray(" ") + verb + ' '), verb);
 }
 

@@ -110,6 +110,8 @@ void ToolUsageTest::hintsAtTheRightUsage_data()
         QByteArray("unknown option 'colour'"), convert);
     row("option of another verb", QStringList{"units", "Pressure", "--raw"},
         QByteArray("unknown option 'raw'"), QByteArray("units [options] TYPE"));
+    row("no language", QStringList{"labels", "--missing", ""}, QByteArray("--missing must name a language"),
+        QByteArray("labels [options] [TYPE]"));
     row("option without its value", QStringList{"label", "Pressure", "--language"},
         QByteArray("missing value after '--language'"), QByteArray("label [options] [TYPE] UNIT"));
 }
@@ -130,7 +132,7 @@ void ToolUsageTest::needsAVerb_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("message");
-    const QByteArray known = "; known: convert, label, table, types, units, watch";
+    const QByteArray known = "; known: convert, label, labels, table, types, units, watch";
     row("nothing", QStringList{}, "VERB is missing" + known);
     row("unknown verb", QStringList{"invert"}, "unknown verb 'invert'" + known + "; did you mean convert?");
     row("option before the verb", QStringList{"--json", "types"}, "unknown verb '--json'" + known);
