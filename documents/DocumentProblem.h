@@ -31,12 +31,11 @@ struct DocumentProblem
     TextPlace place;
     Kind kind = Kind::File;
 
-    /// "PATH:LINE:COLUMN: REASON", or "PATH: REASON" without place.
+    /// "PATH:LINE:COLUMN: REASON", or "PATH: REASON" without place; made safe by PrintableText.
     QString inFile(const QString& path) const;
-    /// "line LINE, column COLUMN: REASON", or "REASON" without place.
+    /// "line LINE, column COLUMN: REASON", or "REASON" without place; made safe by PrintableText.
     QString withPlace() const;
 
-    /// Formats text of a document for a reason: in double quotes, without control characters, long text
-    /// truncated.
+    /// Formats external text for a reason: in double quotes, made safe by PrintableText, long text truncated.
     static QString quoted(const QString& text);
 };

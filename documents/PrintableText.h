@@ -2,11 +2,15 @@
 
 #include <QtCore/QString>
 
-/// Text from documents and command lines for a terminal or a log.
+/// Makes external text safe for terminals and logs.
 namespace PrintableText {
 
-/// Replaces every character that a terminal could obey instead of showing, such as control characters and
-/// changes of the writing direction: a tab by a blank, others by "?".
-QString of(QString text);
+/// Whether a character (code point) may be shown: false for control characters, line separators, and
+/// invisible format characters, which could change what a terminal shows. Joiners and directional marks may
+/// be shown; scripts need them.
+bool isPrintable(uint character);
+
+/// The text with "?" in place of every other character and of incomplete surrogate pairs.
+QString of(const QString& text);
 
 } // namespace PrintableText

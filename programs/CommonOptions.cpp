@@ -4,6 +4,7 @@
 
 #include "DocumentFile.h"
 #include "DocumentProblem.h"
+#include "PrintableText.h"
 
 namespace {
 
@@ -11,15 +12,6 @@ const QString helpOption = QStringLiteral("help");
 const QString versionOption = QStringLiteral("version");
 const QString maximumSizeOption = QStringLiteral("max-size");
 const QString busOption = QStringLiteral("bus");
-
-/// A sentence for use within a message: without capital letter and full stop.
-QString asClause(QString sentence)
-{
-    sentence[0] = sentence[0].toLower();
-    if (sentence.endsWith(QLatin1Char('.')))
-        sentence.chop(1);
-    return sentence;
-}
 
 bool isBus(const QString& text)
 {
@@ -77,7 +69,15 @@ Result<QString> CommonOptions::bus(const QCommandLineParser& options)
 
 Failure CommonOptions::parserFailure(const QCommandLineParser& parser)
 {
-    return wrongUsage(asClause(parser.errorText()));
+    const QStringList unknown = parser.unknownOptionNames();
+    if (!unknown.isEmpty())
+        return wrongUsage("unknown option " + DocumentProblem::quoted(unknown.first()));
+    // A clause in the form of the programs' own messages.
+    QString clause = parser.errorText();
+    clause[0] = clause[0].toLower();
+    if (clause.endsWith(QLatin1Char('.')))
+        clause.chop(1);
+    return wrongUsage(clause.replace(QLatin1Char('\''), QLatin1Char('"')));
 }
 
 QString CommonOptions::helpText(const QCommandLineParser& parser, const QString& usage)
@@ -90,7 +90,7 @@ QString CommonOptions::helpText(const QCommandLineParser& parser, const QString&
 QString CommonOptions::failureText(const QString& program, const Failure& failure, const QString& usage)
 {
     const QString prefix = program + QStringLiteral(": ");
-    const QString reason = prefix + failure.reason + QLatin1Char('\n');
+    const QString reason = prefix + PrintableText::of(failure.reason) + QLatin1Char('\n');
     if (failure.exitCode != WrongUsage)
         return reason;
     return reason + prefix + QStringLiteral("usage: ") + usage + QStringLiteral("; more with --help\n");

@@ -30,7 +30,7 @@ ExitCode CommandLine::run(const QStringList& words) const
 {
     const QString word = words.value(0);
     if (word == "--help" || word == "-h") {
-        Console::printLine(helpText());
+        Console::printText(helpText());
         return Succeeded;
     }
     if (word == "--version" || word == "-v") {

@@ -1,14 +1,16 @@
 #include "Console.h"
 
+#include <QtCore/QStringList>
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 
 #include "CommonOptions.h"
+#include "DocumentProblem.h"
+#include "PrintableText.h"
 
 namespace {
-
-const int longestQuotation = 60;
 
 /// The error number of the first failed write; 0 if none has failed.
 int writeError = 0;
@@ -31,7 +33,13 @@ bool write(const QString& text, std::FILE* stream)
 
 bool Console::printLine(const QString& line)
 {
-    return writeError == 0 && written(write(line + '\n', stdout));
+    return writeError == 0 && written(write(PrintableText::of(line) + '\n', stdout));
+}
+
+void Console::printText(const QString& text)
+{
+    for (const QString& line : text.split('\n'))
+        printLine(line);
 }
 
 bool Console::flush()
@@ -41,7 +49,7 @@ bool Console::flush()
 
 void Console::printError(const QString& message)
 {
-    write("unitmanager: " + message + '\n', stderr);
+    write("unitmanager: " + PrintableText::of(message) + '\n', stderr);
 }
 
 ExitCode Console::report(const Failure& failure, const QString& usage)
@@ -60,10 +68,5 @@ int Console::finish(int exitCode)
 
 QString Console::quoted(const QString& text)
 {
-    QString shown = text.left(longestQuotation);
-    for (QChar& character : shown) {
-        if (!character.isPrint() && !character.isSurrogate())
-            character = '?';
-    }
-    return '\'' + shown + (text.size() > longestQuotation ? "...'" : "'");
+    return DocumentProblem::quoted(text);
 }

@@ -4,13 +4,16 @@
 
 #include "Result.h"
 
-/// The program's standard output and standard error, always in UTF-8. For one thread only.
+/// The program's standard output and standard error, always in UTF-8. Every line is made safe for terminals
+/// by PrintableText. For one thread only.
 namespace Console {
 
 /// Prints a line to standard output, which is buffered.
 ///
 /// @return false once writing has failed: no further output will arrive
 bool printLine(const QString& line);
+/// Prints a text of several lines to standard output.
+void printText(const QString& text);
 /// Writes the buffered output. @return false once writing has failed
 bool flush();
 /// Prints "unitmanager: " and a message to standard error.
@@ -25,7 +28,7 @@ ExitCode report(const Failure& failure, const QString& usage);
 /// written. A reader that closed the pipe early is not a failure and gets no message.
 int finish(int exitCode);
 
-/// Formats external text for a message: quoted, without control characters, long text truncated.
+/// Formats external text for a message; see DocumentProblem::quoted().
 QString quoted(const QString& text);
 
 } // namespace Console

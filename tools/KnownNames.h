@@ -19,7 +19,7 @@ namespace KnownNames {
 /// Names that are listed as they are typed.
 QVector<KnownName> plain(const QStringList& names);
 
-/// "unknown KIND 'NAME'CONTEXT; known: A, B, C; did you mean C?"; see suggestion().
+/// `unknown KIND "NAME"CONTEXT; known: A, B, C; did you mean C?`; see suggestion().
 ///
 /// @param context text after the name, such as " of Pressure"; may be empty
 QString unknown(const QString& kind, const QString& name, const QString& context,

@@ -4,6 +4,8 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
+#include "PrintableText.h"
+
 namespace {
 
 const char* const jsonName = "json";
@@ -46,7 +48,16 @@ QString OutputOptions::language(const QCommandLineParser& options)
 
 QString OutputOptions::jsonLine(const QJsonObject& object)
 {
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+    const QString json = QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+    QString line;
+    for (const QChar unit : json) {
+        // Qt only escapes the first of the control characters.
+        if (unit.isSurrogate() || PrintableText::isPrintable(unit.unicode()))
+            line += unit;
+        else
+            line += QStringLiteral("\\u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+    }
+    return line;
 }
 
 QJsonValue OutputOptions::jsonText(const QString& text)

@@ -20,7 +20,7 @@ bool isJson(const QCommandLineParser& options);
 bool isRaw(const QCommandLineParser& options);
 QString language(const QCommandLineParser& options);
 
-/// An object as one line, without line break.
+/// An object as one line, without line break; characters that are not printable are escaped.
 QString jsonLine(const QJsonObject& object);
 /// The text; null if it is empty.
 QJsonValue jsonText(const QString& text);

@@ -37,7 +37,7 @@ QStringList withoutShields(QStringList words)
 
 ExitCode show(const QString& text)
 {
-    Console::printLine(text);
+    Console::printText(text);
     return Succeeded;
 }
 

@@ -118,7 +118,7 @@ void ToolLabelsTest::refusesAnUnknownType()
     const ToolRun run =
         ToolProcess::run({"labels", "Presure", "--units", ToolProcess::testData("shared-labels.json")});
     QCOMPARE(run.standardError,
-             QByteArray("unitmanager: unknown unit type 'Presure'; known: Duration, Length, "
+             QByteArray("unitmanager: unknown unit type \"Presure\"; known: Duration, Length, "
                         "Sound, Time, Volume\n"));
     QCOMPARE(run.standardOutput, QByteArray());
     QCOMPARE(run.exitCode, 1);

@@ -67,7 +67,7 @@ void ToolLocaleTest::refusesTheDecimalComma()
 {
     const ToolRun run =
         ToolProcess::run({"convert", "-", "Pressure", "HectoPascal", "Bar"}, "1,5\n", m_environment);
-    QVERIFY(run.standardError.startsWith("unitmanager: line 1: '1,5' is not a decimal number"));
+    QVERIFY(run.standardError.startsWith("unitmanager: line 1: \"1,5\" is not a decimal number"));
     QCOMPARE(run.standardOutput, QByteArray("\n"));
     QCOMPARE(run.exitCode, 1);
 }

@@ -133,8 +133,8 @@ void ToolNumbersTest::refusesOtherText()
 {
     QFETCH(QString, value);
     const QByteArray message =
-        '\'' + value.toUtf8() +
-        "' is not a decimal number such as -1234.5 or 1e-3, within the range of a double\n";
+        '"' + value.toUtf8() +
+        "\" is not a decimal number such as -1234.5 or 1e-3, within the range of a double\n";
     const ToolRun argument = ToolProcess::run({"convert", "--", value, "NoUnit"});
     QVERIFY2(argument.standardError.startsWith("unitmanager: " + message),
              argument.standardError.constData());

@@ -31,8 +31,8 @@ const QStringList toBar{"convert", "-", "Pressure", "HectoPascal", "Bar"};
 
 QByteArray notANumber(int line, const QByteArray& text)
 {
-    return "unitmanager: line " + QByteArray::number(line) + ": '" + text +
-           "' is not a decimal number such as -1234.5 or 1e-3, within the range of a double\n";
+    return "unitmanager: line " + QByteArray::number(line) + ": \"" + text +
+           "\" is not a decimal number such as -1234.5 or 1e-3, within the range of a double\n";
 }
 
 /// Writes lines to a running conversion and waits for as many results, a thousand at a time.

@@ -131,51 +131,51 @@ void ToolUnitWordsTest::listsCandidates_data()
     const QByteArray types = "known unit types: Duration, Length, Sound, Time, Volume";
     const QByteArray times = "known: Second (s), Minute (m), Hour (h), Volume";
     problem("label of several types", {"convert", "1", "m"},
-            "'m' is ambiguous: Moment (m) of Duration, Meter (m) of Length, Minute (m) of Time");
+            "\"m\" is ambiguous: Moment (m) of Duration, Meter (m) of Length, Minute (m) of Time");
     problem("label of several types, for a table", {"table", "1", "m"},
-            "'m' is ambiguous: Moment (m) of Duration, Meter (m) of Length, Minute (m) of Time");
+            "\"m\" is ambiguous: Moment (m) of Duration, Meter (m) of Length, Minute (m) of Time");
     problem("label of several types, for a label", {"label", "m"},
-            "'m' is ambiguous: Moment (m) of Duration, Meter (m) of Length, Minute (m) of Time");
+            "\"m\" is ambiguous: Moment (m) of Duration, Meter (m) of Length, Minute (m) of Time");
     problem("name of several types", {"convert", "1", "Hour"},
-            "'Hour' is ambiguous: Hour (hour) of Sound, Hour (h) of Time");
+            "\"Hour\" is ambiguous: Hour (hour) of Sound, Hour (h) of Time");
     problem("two words with several types in common", {"convert", "1", "m", "mi"},
-            "'m' and 'mi' are ambiguous: Moment (m) of Duration, Meter (m) of Length, MicroYear (mi) of "
+            "\"m\" and \"mi\" are ambiguous: Moment (m) of Duration, Meter (m) of Length, MicroYear (mi) of "
             "Duration, Mile (mi) of Length");
     problem("label of several units of one type", {"convert", "1", "pt"},
-            "'pt' is the label of several units of Volume: UsPint (pt), ImperialPint (pt)");
+            "\"pt\" is the label of several units of Volume: UsPint (pt), ImperialPint (pt)");
     problem("label of several units of the given type", {"convert", "1", "Volume", "l", "pt"},
-            "'pt' is the label of several units of Volume: UsPint (pt), ImperialPint (pt)");
+            "\"pt\" is the label of several units of Volume: UsPint (pt), ImperialPint (pt)");
     problem("no type in common", {"convert", "1", "Fuß", "l"},
-            "'Fuß' and 'l' are not units of one type: Foot (ft) of Length, Liter (l) of Volume");
+            "\"Fuß\" and \"l\" are not units of one type: Foot (ft) of Length, Liter (l) of Volume");
     problem("no type in common, because a name wins", {"convert", "1", "ft", "Meter"},
-            "'ft' and 'Meter' are not units of one type: ft of Sound, Meter (m) of Length");
-    problem("unit of another type", {"convert", "1", "Time", "l"}, "unknown unit 'l' of Time; " + times);
-    problem("unknown word", {"convert", "1", "Furlong"}, "unknown unit type or unit 'Furlong'; " + types);
+            "\"ft\" and \"Meter\" are not units of one type: ft of Sound, Meter (m) of Length");
+    problem("unit of another type", {"convert", "1", "Time", "l"}, "unknown unit \"l\" of Time; " + times);
+    problem("unknown word", {"convert", "1", "Furlong"}, "unknown unit type or unit \"Furlong\"; " + types);
     problem("unknown words", {"convert", "1", "Furlong", "Fathom"},
-            "unknown unit type or unit 'Furlong'; " + types);
-    problem("empty words", {"convert", "1", "", ""}, "unknown unit type or unit ''; " + types);
+            "unknown unit type or unit \"Furlong\"; " + types);
+    problem("empty words", {"convert", "1", "", ""}, "unknown unit type or unit \"\"; " + types);
     problem("unknown TO of one type", {"convert", "1", "min", "Furlong"},
-            "unknown unit 'Furlong' of Time; " + times);
+            "unknown unit \"Furlong\" of Time; " + times);
     problem("unknown TO of several types", {"convert", "1", "m", "Furlong"},
-            "unknown unit type or unit 'Furlong'; " + types);
+            "unknown unit type or unit \"Furlong\"; " + types);
     problem("FROM and TO after an unknown type", {"convert", "1", "Tine", "m", "s"},
-            "unknown unit type 'Tine'; known: Duration, Length, Sound, Time, Volume; did you mean Time?");
+            "unknown unit type \"Tine\"; known: Duration, Length, Sound, Time, Volume; did you mean Time?");
     problem("two units of a label", {"label", "m", "s"},
-            "unknown unit type 'm'; known: Duration, Length, Sound, Time, Volume");
+            "unknown unit type \"m\"; known: Duration, Length, Sound, Time, Volume");
 
     problem("near miss of a type", {"convert", "1", "Tine", "m"},
-            "unknown unit type or unit 'Tine'; " + types + "; did you mean Time?");
+            "unknown unit type or unit \"Tine\"; " + types + "; did you mean Time?");
     problem("near miss of a name", {"convert", "1", "Litre"},
-            "unknown unit type or unit 'Litre'; " + types + "; did you mean Liter (l) of Volume?");
+            "unknown unit type or unit \"Litre\"; " + types + "; did you mean Liter (l) of Volume?");
     problem("near miss of a label", {"convert", "1", "Meilen"},
-            "unknown unit type or unit 'Meilen'; " + types + "; did you mean Mile (mi) of Length?");
+            "unknown unit type or unit \"Meilen\"; " + types + "; did you mean Mile (mi) of Length?");
     problem("other case of a label", {"convert", "1", "MIN"},
-            "unknown unit type or unit 'MIN'; " + types + "; did you mean Minute (m) of Time?");
+            "unknown unit type or unit \"MIN\"; " + types + "; did you mean Minute (m) of Time?");
     problem("other case of several labels", {"convert", "1", "M", "s"},
-            "unknown unit type or unit 'M'; " + types +
+            "unknown unit type or unit \"M\"; " + types +
                 "; did you mean Moment (m) of Duration, Meter (m) of Length or Minute (m) of Time?");
     problem("unit of a fixed unit", {"convert", "1", "Time/Minut"},
-            "unknown unit 'Minut' of Time; " + times + "; did you mean Minute (m)?");
+            "unknown unit \"Minut\" of Time; " + times + "; did you mean Minute (m)?");
 }
 
 void ToolUnitWordsTest::listsCandidates()
@@ -197,15 +197,15 @@ void ToolUnitWordsTest::suggestsShippedUnits_data()
         "known unit types: AbsoluteHumidity, AbsoluteTemperature, MixingRatio, NoUnit, Pressure, Ratio, "
         "RelativeHumidity, Resistance, SpecificEnthalpy, Time, Voltage";
     problem("upper case", {"convert", "5", "Pressure", "HPA"},
-            "unknown unit 'HPA'" + ofPressure + "; did you mean HectoPascal (hPa)?");
+            "unknown unit \"HPA\"" + ofPressure + "; did you mean HectoPascal (hPa)?");
     problem("lower case", {"convert", "5", "Pressure", "hpa"},
-            "unknown unit 'hpa'" + ofPressure + "; did you mean HectoPascal (hPa)?");
+            "unknown unit \"hpa\"" + ofPressure + "; did you mean HectoPascal (hPa)?");
     problem("lower case without type", {"convert", "5", "hpa", "bar"},
-            "unknown unit type or unit 'hpa'; " + types + "; did you mean HectoPascal (hPa) of Pressure?");
+            "unknown unit type or unit \"hpa\"; " + types + "; did you mean HectoPascal (hPa) of Pressure?");
     problem("second unit in lower case", {"convert", "5", "bar", "hpa"},
-            "unknown unit 'hpa'" + ofPressure + "; did you mean HectoPascal (hPa)?");
+            "unknown unit \"hpa\"" + ofPressure + "; did you mean HectoPascal (hPa)?");
     problem("type", {"convert", "1", "Presure", "Bar"},
-            "unknown unit type or unit 'Presure'; " + types + "; did you mean Pressure?");
+            "unknown unit type or unit \"Presure\"; " + types + "; did you mean Pressure?");
 }
 
 void ToolUnitWordsTest::suggestsShippedUnits()
@@ -221,7 +221,7 @@ void ToolUnitWordsTest::refusesWrongUsage_data()
     problem("unit with the name of a type", {"convert", "1", "Volume"},
             "FROM is missing\nunitmanager: usage: unitmanager convert [options] VALUE [TYPE] FROM [TO]");
     problem("too many units", {"table", "1", "Time", "s", "m"},
-            "too many arguments: 'm'\nunitmanager: usage: unitmanager table [options] VALUE [TYPE] FROM");
+            "too many arguments: \"m\"\nunitmanager: usage: unitmanager table [options] VALUE [TYPE] FROM");
 }
 
 void ToolUnitWordsTest::refusesWrongUsage()

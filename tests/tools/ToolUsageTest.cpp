@@ -29,40 +29,40 @@ void ToolUsageTest::namesWhatIsKnown_data()
     const QByteArray units = "known: Bar (bar), HectoPascal (hPa), MilliBar (mbar)";
 
     row("unit, near miss", QStringList{"convert", "1", "Pressure", "Baar"},
-        "unknown unit 'Baar' of Pressure; " + units + "; did you mean Bar (bar)?");
+        "unknown unit \"Baar\" of Pressure; " + units + "; did you mean Bar (bar)?");
     row("unit, other case", QStringList{"convert", "1", "Pressure", "HECTOPASCAL"},
-        "unknown unit 'HECTOPASCAL' of Pressure; " + units + "; did you mean HectoPascal (hPa)?");
+        "unknown unit \"HECTOPASCAL\" of Pressure; " + units + "; did you mean HectoPascal (hPa)?");
     row("unit, no near miss", QStringList{"convert", "1", "Pressure", "Furlong"},
-        "unknown unit 'Furlong' of Pressure; " + units);
+        "unknown unit \"Furlong\" of Pressure; " + units);
     row("unit, too short to be a near miss", QStringList{"convert", "1", "Pressure", "B"},
-        "unknown unit 'B' of Pressure; " + units);
+        "unknown unit \"B\" of Pressure; " + units);
     row("target unit", QStringList{"convert", "1", "Pressure", "Bar", "Celsius"},
-        "unknown unit 'Celsius' of Pressure; " + units);
+        "unknown unit \"Celsius\" of Pressure; " + units);
     row("unit of a table", QStringList{"table", "1", "Pressure", "Celsius"},
-        "unknown unit 'Celsius' of Pressure; " + units);
+        "unknown unit \"Celsius\" of Pressure; " + units);
     row("unit of a label", QStringList{"label", "Pressure", "Celsius"},
-        "unknown unit 'Celsius' of Pressure; " + units);
+        "unknown unit \"Celsius\" of Pressure; " + units);
     row("unit of the unit-less type", QStringList{"convert", "1", "NoUnit", "Bar"},
-        QByteArray("unknown unit 'Bar' of NoUnit; known: NoUnit"));
+        QByteArray("unknown unit \"Bar\" of NoUnit; known: NoUnit"));
     row("unit of a type without any", QStringList{"convert", "1", "Empty", "Bar"},
-        QByteArray("unknown unit 'Bar' of Empty; known: none"));
+        QByteArray("unknown unit \"Bar\" of Empty; known: none"));
     row("unit other than the fixed one", QStringList{"convert", "1", "Pressure/Bar", "HectoPascal"},
-        QByteArray("unknown unit 'HectoPascal' of Pressure/Bar; known: Bar (bar)"));
+        QByteArray("unknown unit \"HectoPascal\" of Pressure/Bar; known: Bar (bar)"));
     row("fixed unit", QStringList{"label", "Pressure/Ba"},
-        "unknown unit 'Ba' of Pressure; " + units + "; did you mean Bar (bar)?");
+        "unknown unit \"Ba\" of Pressure; " + units + "; did you mean Bar (bar)?");
     row("unit with control characters", QStringList{"convert", "1", "Pressure", "x\n\x1b[31m"},
-        "unknown unit 'x??[31m' of Pressure; " + units);
+        "unknown unit \"x??[31m\" of Pressure; " + units);
     row("unit type, near miss", QStringList{"units", "Presure"},
-        "unknown unit type 'Presure'; " + types + "; did you mean Pressure?");
-    row("unit type, empty", QStringList{"units", ""}, "unknown unit type ''; " + types);
+        "unknown unit type \"Presure\"; " + types + "; did you mean Pressure?");
+    row("unit type, empty", QStringList{"units", ""}, "unknown unit type \"\"; " + types);
     row("unit type with a foreign prefix", QStringList{"units", "Else/Where/Pressure"},
-        "unknown unit type 'Else/Where/Pressure'; " + types);
+        "unknown unit type \"Else/Where/Pressure\"; " + types);
     row("no default unit", QStringList{"convert", "1", "Unlabelled", "Plain"},
         QByteArray("Unlabelled has no default unit; known: Plain, Fine, TooFine, Table, Huge"));
     row("no default unit for a label", QStringList{"label", "Empty"},
         QByteArray("Empty has no default unit; known: none"));
     row("default unit that does not exist", QStringList{"convert", "1", "Misled", "Here"},
-        QByteArray("unknown default unit 'Elsewhere' of Misled; known: Here"));
+        QByteArray("unknown default unit \"Elsewhere\" of Misled; known: Here"));
 }
 
 void ToolUsageTest::namesWhatIsKnown()
@@ -85,7 +85,7 @@ void ToolUsageTest::hintsAtTheRightUsage_data()
     const QByteArray rule = " is not a decimal number such as -1234.5 or 1e-3, within the range of a double";
 
     row("types with an argument", QStringList{"types", "Pressure"},
-        QByteArray("too many arguments: 'Pressure'"), QByteArray("types [options]"));
+        QByteArray("too many arguments: \"Pressure\""), QByteArray("types [options]"));
     row("size that is not a number", QStringList{"types", "--max-size", "1M"},
         QByteArray("--max-size must be a number of bytes from 1 to 1073741824"),
         QByteArray("types [options]"));
@@ -98,22 +98,23 @@ void ToolUsageTest::hintsAtTheRightUsage_data()
     row("convert without unit", QStringList{"convert", "1", "Pressure"}, QByteArray("FROM is missing"),
         convert);
     row("convert with too many arguments", QStringList{"convert", "1", "Pressure", "Bar", "Bar", "Bar"},
-        QByteArray("too many arguments: 'Bar'"), convert);
-    row("convert with garbage", QStringList{"convert", "five", "Pressure", "Bar"}, "'five'" + rule, convert);
+        QByteArray("too many arguments: \"Bar\""), convert);
+    row("convert with garbage", QStringList{"convert", "five", "Pressure", "Bar"}, "\"five\"" + rule,
+        convert);
     row("convert with a negative number and garbage", QStringList{"convert", "-5x", "Pressure", "Bar"},
-        "'-5x'" + rule, convert);
+        "\"-5x\"" + rule, convert);
     row("table without unit", QStringList{"table", "1", "Pressure"}, QByteArray("FROM is missing"), table);
-    row("table of standard input", QStringList{"table", "-", "Pressure", "Bar"}, "'-'" + rule, table);
+    row("table of standard input", QStringList{"table", "-", "Pressure", "Bar"}, "\"-\"" + rule, table);
     row("raw and JSON", QStringList{"convert", "1", "Pressure", "Bar", "--raw", "--json"},
         QByteArray("--raw and --json cannot be combined"), convert);
     row("unknown option", QStringList{"convert", "1", "Pressure", "Bar", "--colour"},
-        QByteArray("unknown option 'colour'"), convert);
+        QByteArray("unknown option \"colour\""), convert);
     row("option of another verb", QStringList{"units", "Pressure", "--raw"},
-        QByteArray("unknown option 'raw'"), QByteArray("units [options] TYPE"));
+        QByteArray("unknown option \"raw\""), QByteArray("units [options] TYPE"));
     row("no language", QStringList{"labels", "--missing", ""}, QByteArray("--missing must name a language"),
         QByteArray("labels [options] [TYPE]"));
     row("option without its value", QStringList{"label", "Pressure", "--language"},
-        QByteArray("missing value after '--language'"), QByteArray("label [options] [TYPE] UNIT"));
+        QByteArray("missing value after \"--language\""), QByteArray("label [options] [TYPE] UNIT"));
 }
 
 void ToolUsageTest::hintsAtTheRightUsage()
@@ -134,8 +135,8 @@ void ToolUsageTest::needsAVerb_data()
     QTest::addColumn<QByteArray>("message");
     const QByteArray known = "; known: convert, label, labels, table, types, units, watch";
     row("nothing", QStringList{}, "VERB is missing" + known);
-    row("unknown verb", QStringList{"invert"}, "unknown verb 'invert'" + known + "; did you mean convert?");
-    row("option before the verb", QStringList{"--json", "types"}, "unknown verb '--json'" + known);
+    row("unknown verb", QStringList{"invert"}, "unknown verb \"invert\"" + known + "; did you mean convert?");
+    row("option before the verb", QStringList{"--json", "types"}, "unknown verb \"--json\"" + known);
 }
 
 void ToolUsageTest::needsAVerb()

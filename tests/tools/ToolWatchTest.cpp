@@ -302,9 +302,9 @@ void ToolWatchTest::rejectsWrongUsage_data()
     const QByteArray noBus = " is not a valid bus: expected session, system or a D-Bus address";
     QTest::newRow("empty bus") << QStringList{"--bus", ""} << "\"\"" + noBus;
     QTest::newRow("unknown bus") << QStringList{"--bus", "Session"} << "\"Session\"" + noBus;
-    QTest::newRow("bus without value") << QStringList{"--bus"} << QByteArray("missing value after '--bus'");
-    QTest::newRow("argument") << QStringList{"session"} << QByteArray("too many arguments: 'session'");
-    QTest::newRow("option of other verbs") << QStringList{"--json"} << QByteArray("unknown option 'json'");
+    QTest::newRow("bus without value") << QStringList{"--bus"} << QByteArray("missing value after \"--bus\"");
+    QTest::newRow("argument") << QStringList{"session"} << QByteArray("too many arguments: \"session\"");
+    QTest::newRow("option of other verbs") << QStringList{"--json"} << QByteArray("unknown option \"json\"");
 }
 
 void ToolWatchTest::rejectsWrongUsage()
