@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <unistd.h>
 
 #include "CommonOptions.h"
 #include "DocumentProblem.h"
@@ -29,6 +30,11 @@ bool write(const QString& text, std::FILE* stream)
     return std::fwrite(bytes.constData(), 1, size, stream) == size;
 }
 
+bool hasColors()
+{
+    return ::isatty(STDOUT_FILENO) == 1 && qEnvironmentVariableIsEmpty("NO_COLOR");
+}
+
 } // namespace
 
 bool Console::printLine(const QString& line)
@@ -40,6 +46,17 @@ void Console::printText(const QString& text)
 {
     for (const QString& line : text.split('\n'))
         printLine(line);
+}
+
+void Console::printHighlighted(const QString& before, const QString& highlighted, int color,
+                               const QString& after)
+{
+    QString middle = PrintableText::of(highlighted);
+    if (hasColors())
+        middle = "\033[1;" + QString::number(color) + 'm' + middle + "\033[0m";
+    const QString line = PrintableText::of(before) + middle + PrintableText::of(after) + '\n';
+    if (writeError == 0)
+        written(write(line, stdout));
 }
 
 bool Console::flush()

@@ -14,6 +14,10 @@ namespace Console {
 bool printLine(const QString& line);
 /// Prints a text of several lines to standard output.
 void printText(const QString& text);
+/// Prints a line of three parts; on a terminal the middle one in a color, unless NO_COLOR is set.
+///
+/// @param color the number of an ANSI color, such as 31 for red
+void printHighlighted(const QString& before, const QString& highlighted, int color, const QString& after);
 /// Writes the buffered output. @return false once writing has failed
 bool flush();
 /// Prints "unitmanager: " and a message to standard error.

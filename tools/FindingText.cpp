@@ -2,11 +2,9 @@
 
 #include <array>
 #include <map>
-#include <unistd.h>
 
 #include "CheckedDocuments.h"
 #include "Console.h"
-#include "PrintableText.h"
 
 namespace {
 
@@ -38,26 +36,19 @@ private:
     std::vector<int> m_starts;
 };
 
-bool hasColors()
+int colorOf(Severity severity)
 {
-    return ::isatty(STDOUT_FILENO) == 1 && !qEnvironmentVariableIsSet("NO_COLOR");
-}
-
-QString colored(Severity severity)
-{
-    const QString name = Rules::severityName(severity);
-    if (!hasColors())
-        return name;
-    const std::array<const char*, 3> codes{"31", "35", "36"};
-    return QString("\033[1;%1m%2\033[0m").arg(codes[static_cast<std::size_t>(severity)], name);
+    const std::array<int, 3> colors{31, 35, 36};
+    return colors[static_cast<std::size_t>(severity)];
 }
 
 void printSource(const Lines& lines, const TextPlace& place)
 {
-    const QString line = lines.line(place.line);
+    // A tab is one column wide, like every other character.
+    const QString line = lines.line(place.line).replace('\t', ' ');
     if (line.isEmpty())
         return;
-    Console::printLine("  " + PrintableText::of(line));
+    Console::printLine("  " + line);
     Console::printLine("  " + QString(place.column - 1, ' ') + '^');
 }
 
@@ -85,10 +76,11 @@ void FindingText::print(const std::vector<Finding>& findings, const CheckedDocum
     std::map<DocumentKind, Lines> linesByDocument;
     for (const Finding& finding : findings) {
         const RuleDescription& rule = Rules::describe(finding.rule);
-        const DocumentProblem problem{colored(rule.severity) + ": " + PrintableText::of(finding.text()) +
-                                          " [" + rule.name + ']',
-                                      finding.place};
-        Console::printLine(problem.inFile(PrintableText::of(documents.name(finding.document))));
+        const QString file = documents.name(finding.document);
+        Console::printHighlighted(file +
+                                      QString(":%1:%2: ").arg(finding.place.line).arg(finding.place.column),
+                                  Rules::severityName(rule.severity), colorOf(rule.severity),
+                                  ": " + finding.text() + " [" + rule.name + ']');
         const auto lines =
             linesByDocument.try_emplace(finding.document, documents.text(finding.document)).first;
         printSource(lines->second, finding.place);

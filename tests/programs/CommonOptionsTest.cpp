@@ -101,7 +101,7 @@ void CommonOptionsTest::parserFailureIsAClause()
     QCommandLineParser parser;
     parser.parse({"program", "--colour"});
     const Failure failure = CommonOptions::parserFailure(parser);
-    QCOMPARE(failure.reason, "unknown option 'colour'");
+    QCOMPARE(failure.reason, "unknown option \"colour\"");
     QCOMPARE(failure.exitCode, WrongUsage);
 }
 

@@ -64,7 +64,7 @@ void ServiceProgramTest::wrongUsageIsRejected_data()
     row("directory without value", Arguments{"--directory"}, "missing value after '--directory'");
     row("empty bus", Arguments{"--directory", "x", "--bus", ""}, "\"\"" + noBus);
     row("unknown bus", Arguments{"--directory", "x", "--bus", "Session"}, "\"Session\"" + noBus);
-    row("unknown option", Arguments{"--directory", "x", "--port", "1"}, "unknown option 'port'");
+    row("unknown option", Arguments{"--directory", "x", "--port", "1"}, "unknown option \"port\"");
     row("no size", Arguments{"--directory", "x", "--max-size", "1M"},
         "--max-size must be a number of bytes from 1 to 1073741824");
     row("plain argument", Arguments{"--directory", "x", "y"}, "too many arguments: \"y\"");
