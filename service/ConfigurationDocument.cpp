@@ -3,6 +3,10 @@
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QDebug>
 
+#include <algorithm>
+
+#include "FindingLog.h"
+
 namespace {
 
 QString checksumOf(const QString& text)
@@ -10,11 +14,33 @@ QString checksumOf(const QString& text)
     return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256).toHex());
 }
 
+DocumentSet setOf(DocumentKind kind, const JsonDocument& document)
+{
+    DocumentSet set;
+    set.of(kind) = document;
+    return set;
+}
+
+bool isError(const Finding& finding)
+{
+    return Rules::describe(finding.rule).severity == Severity::Error;
+}
+
+/// " (and 2 more errors)"; empty if there is only one.
+QString otherErrorsText(const std::vector<Finding>& findings)
+{
+    const auto others = std::count_if(findings.begin(), findings.end(), isError) - 1;
+    if (others == 0)
+        return {};
+    return others == 1 ? QStringLiteral(" (and one more error)")
+                       : QStringLiteral(" (and %1 more errors)").arg(others);
+}
+
 } // namespace
 
-ConfigurationDocument::ConfigurationDocument(const QString& name, const QString& path, Rule rule,
+ConfigurationDocument::ConfigurationDocument(const QString& name, DocumentKind kind, const QString& path,
                                              int maximumSize)
-    : m_name(name), m_path(path), m_rule(rule), m_maximumSize(maximumSize)
+    : m_name(name), m_kind(kind), m_path(path), m_maximumSize(maximumSize)
 {}
 
 const QString& ConfigurationDocument::name() const
@@ -25,6 +51,11 @@ const QString& ConfigurationDocument::name() const
 const QString& ConfigurationDocument::path() const
 {
     return m_path;
+}
+
+DocumentKind ConfigurationDocument::kind() const
+{
+    return m_kind;
 }
 
 const DocumentState& ConfigurationDocument::state() const
@@ -45,12 +76,21 @@ bool ConfigurationDocument::update()
     return document ? accept(document->text()) : refuse(problem);
 }
 
+/// @return no value, and the first error as problem, for a document with errors. Logs warnings otherwise.
 std::optional<JsonDocument> ConfigurationDocument::check(const QByteArray& bytes,
                                                          DocumentProblem& problem) const
 {
     auto document = JsonDocument::read(bytes, problem);
-    if (document && !m_rule(*document, problem))
-        document.reset();
+    if (!document)
+        return {};
+    const std::vector<Finding> findings = DocumentChecker::check(setOf(m_kind, *document), {});
+    const auto error = std::find_if(findings.begin(), findings.end(), isError);
+    if (error != findings.end()) {
+        problem = {error->text() + otherErrorsText(findings), error->place};
+        return {};
+    }
+    for (const Finding& finding : findings)
+        FindingLog::writeWarning(m_name, m_path, finding);
     return document;
 }
 

@@ -6,28 +6,27 @@
 #include <optional>
 #include <utility>
 
+#include "DocumentChecker.h"
 #include "DocumentFile.h"
 #include "DocumentState.h"
-#include "JsonDocument.h"
 
 /// A document and its last valid text. If the file is missing, incomplete or invalid, the last valid text
-/// stays active. Each loaded or refused content of the file is logged once.
+/// stays active. Each loaded or refused content of the file is logged once, with the mistakes found in it.
 class ConfigurationDocument
 {
 public:
-    /// @return whether a document is valid; if not, @p problem says why.
-    using Rule = bool (*)(const JsonDocument& document, DocumentProblem& problem);
-
     /// Does not read the file yet.
     ///
     /// @param name name of the document on the bus
+    /// @param kind decides which rules apply
     /// @param path path of its file, which must be a regular file
     /// @param maximumSize the largest file that is read, in bytes
-    ConfigurationDocument(const QString& name, const QString& path, Rule rule,
+    ConfigurationDocument(const QString& name, DocumentKind kind, const QString& path,
                           int maximumSize = DocumentFile::defaultLimit);
 
     const QString& name() const;
     const QString& path() const;
+    DocumentKind kind() const;
     const DocumentState& state() const;
 
     /// Reads the file. @return whether state() has changed.
@@ -42,8 +41,8 @@ private:
     bool refuse(const DocumentProblem& problem);
 
     QString m_name;
+    DocumentKind m_kind;
     QString m_path;
-    Rule m_rule;
     int m_maximumSize;
     std::optional<Content> m_content;
     DocumentState m_state;

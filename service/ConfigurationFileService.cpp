@@ -12,7 +12,6 @@
 #include "ConfigurationObject.h"
 #include "DeviceManagerDefinitions.h"
 #include "DocumentLoader.h"
-#include "DocumentRules.h"
 #include "PropertyManagerConst.h"
 #include "configurationfilehandleradaptor.h"
 
@@ -25,7 +24,7 @@ struct Place
     QString name;
     QString file;
     ConfigurationObject::Method method;
-    ConfigurationDocument::Rule rule;
+    DocumentKind kind;
 };
 
 QList<Place> places()
@@ -33,12 +32,12 @@ QList<Place> places()
     using Method = ConfigurationObject::Method;
     return {{DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration(),
              QStringLiteral("UnitManager/UnitType"), QStringLiteral("units.json"), Method::GetConfiguration,
-             DocumentRules::isUnits},
+             DocumentKind::Units},
             {QStringLiteral("DefaultUnitConfiguration"), QStringLiteral("UnitManager/DefaultUnit"),
-             QStringLiteral("default-units.json"), Method::GetConfiguration, DocumentRules::isDefaultUnits},
+             QStringLiteral("default-units.json"), Method::GetConfiguration, DocumentKind::DefaultUnits},
             {QStringLiteral("DependencyConfiguration"), QStringLiteral("UnitManager/Dependency"),
              QStringLiteral("dependencies.json"), Method::GetConfigurationDependency,
-             DocumentRules::isDependencies}};
+             DocumentKind::Dependencies}};
 }
 
 /// The signal that clients of org.freedesktop.DBus.Properties expect.
@@ -68,7 +67,7 @@ ConfigurationFileService::ConfigurationFileService(const QString& directory, int
 {
     const QDir absolute(QDir(directory).absolutePath());
     for (const Place& place : places()) {
-        m_documents.append({place.name, absolute.filePath(place.file), place.rule, maximumSize});
+        m_documents.append({place.name, place.kind, absolute.filePath(place.file), maximumSize});
         auto* const object = new ConfigurationObject(place.name, place.method, this);
         object->setObjectName(place.object);
         new ConfigurationFileHandlerAdaptor(object);

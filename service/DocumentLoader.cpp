@@ -3,6 +3,7 @@
 #include <QtCore/QStringList>
 
 #include "DocumentWatcher.h"
+#include "FindingLog.h"
 
 DocumentLoader::DocumentLoader(const QList<ConfigurationDocument>& documents) : m_documents(documents) {}
 
@@ -21,9 +22,33 @@ void DocumentLoader::start()
 
 void DocumentLoader::update()
 {
+    bool hasNewText = false;
     for (int index = 0; index < m_documents.size(); ++index) {
-        if (m_documents[index].update())
-            Q_EMIT stateChanged(index, m_documents[index].state());
+        const QString text = m_documents[index].state().text;
+        if (!m_documents[index].update())
+            continue;
+        hasNewText = hasNewText || m_documents[index].state().text != text;
+        Q_EMIT stateChanged(index, m_documents[index].state());
     }
+    if (hasNewText)
+        logDisagreements();
     Q_EMIT updated();
+}
+
+/// Logs where the active documents do not fit together, such as a default unit that does not exist.
+void DocumentLoader::logDisagreements() const
+{
+    DocumentSet set;
+    for (const ConfigurationDocument& document : m_documents) {
+        DocumentProblem unused;
+        set.of(document.kind()) = JsonDocument::read(document.state().text.toUtf8(), unused);
+    }
+    for (const Finding& finding : DocumentChecker::check(set, {})) {
+        if (Rules::describe(finding.rule).scope != Scope::Documents)
+            continue;
+        for (const ConfigurationDocument& document : m_documents) {
+            if (document.kind() == finding.document)
+                FindingLog::writeWarning(document.name(), document.path(), finding);
+        }
+    }
 }

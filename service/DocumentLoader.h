@@ -32,6 +32,8 @@ Q_SIGNALS:
     void updated();
 
 private:
+    void logDisagreements() const;
+
     QList<ConfigurationDocument> m_documents;
     std::unique_ptr<DocumentWatcher> m_watcher;
 };

@@ -78,10 +78,7 @@ std::vector<Finding> CheckedDocuments::check(const DocumentChecker::Options& opt
     DocumentSet set;
     for (const Document& document : m_documents) {
         DocumentProblem problem;
-        auto& parsed =
-            document.kind == DocumentKind::Units
-                ? set.units
-                : (document.kind == DocumentKind::DefaultUnits ? set.defaultUnits : set.dependencies);
+        auto& parsed = set.of(document.kind);
         parsed = JsonDocument::read(document.text, problem);
         if (!parsed)
             findings.push_back(DocumentChecker::readingFinding(document.kind, problem));

@@ -58,6 +58,19 @@ QString Finding::text() const
     return advice.isEmpty() ? message : message + "; " + advice;
 }
 
+std::optional<JsonDocument>& DocumentSet::of(DocumentKind kind)
+{
+    switch (kind) {
+    case DocumentKind::Units:
+        return units;
+    case DocumentKind::DefaultUnits:
+        return defaultUnits;
+    case DocumentKind::Dependencies:
+        break;
+    }
+    return dependencies;
+}
+
 Finding DocumentChecker::readingFinding(DocumentKind document, const DocumentProblem& problem)
 {
     const TextPlace start{1, 1};

@@ -42,6 +42,8 @@ struct DocumentSet
     std::optional<JsonDocument> units;
     std::optional<JsonDocument> defaultUnits;
     std::optional<JsonDocument> dependencies;
+
+    std::optional<JsonDocument>& of(DocumentKind kind);
 };
 
 /// Finds the mistakes in documents.

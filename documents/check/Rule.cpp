@@ -82,16 +82,17 @@ const std::vector<RuleDescription>& Rules::all()
 
         {Rule::DefaultInvalid, Severity::Error, "default-invalid", "an entry is not a selection of a unit"},
         {Rule::DefaultTypeUnknown, Severity::Warning, "default-type-unknown",
-         "a default unit for an unknown unit type"},
+         "a default unit for an unknown unit type", Scope::Documents},
         {Rule::DefaultUnitUnknown, Severity::Warning, "default-unit-unknown",
-         "a default unit that is not a unit of its type"},
-        {Rule::DefaultMissing, Severity::Warning, "default-missing", "a unit type has no default unit"},
+         "a default unit that is not a unit of its type", Scope::Documents},
+        {Rule::DefaultMissing, Severity::Warning, "default-missing", "a unit type has no default unit",
+         Scope::Documents},
 
         {Rule::DependencyInvalid, Severity::Error, "dependency-invalid", "an entry is not a list of keys"},
         {Rule::DependencyEmpty, Severity::Warning, "dependency-empty", "nothing depends on a key"},
         {Rule::DependencyDuplicate, Severity::Warning, "dependency-duplicate", "a key is listed twice"},
         {Rule::DependencyUnknown, Severity::Warning, "dependency-unknown",
-         "a key leads nowhere: it is similar to that of a unit type, but misspelt"},
+         "a key leads nowhere: it is similar to that of a unit type, but misspelt", Scope::Documents},
         {Rule::DependencyCycle, Severity::Warning, "dependency-cycle", "a key depends on itself"}};
     return table;
 }

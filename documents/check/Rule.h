@@ -72,6 +72,16 @@ enum class Rule
     DependencyCycle
 };
 
+/// What a rule looks at.
+enum class Scope
+{
+    /// One document alone.
+    Document,
+    /// A document together with the unit document. Such a finding is never an error: documents are saved one
+    /// after the other, so they may disagree for a moment.
+    Documents
+};
+
 /// A rule as shown to the user.
 struct RuleDescription
 {
@@ -81,6 +91,7 @@ struct RuleDescription
     const char* name;
     /// What is wrong when the rule is violated; one sentence without full stop.
     const char* summary;
+    Scope scope = Scope::Document;
 };
 
 /// The table of rules. It decides which findings are errors, everywhere.

@@ -9,19 +9,6 @@
 #include "TestFiles.h"
 #include "TestProgram.h"
 
-namespace {
-
-/// A rule for this test.
-bool forbidsBad(const JsonDocument& document, DocumentProblem& problem)
-{
-    const std::optional<JsonValue> bad = document.root().member("bad");
-    if (bad)
-        problem = {"it is bad", bad->place()};
-    return !bad;
-}
-
-} // namespace
-
 class ConfigurationDocumentTest : public QObject
 {
     Q_OBJECT
@@ -37,6 +24,7 @@ private Q_SLOTS:
     void emptyFileIsRefusedAtOnce();
     void refusalIsLoggedOnce();
     void returnOfTheGoodTextIsLogged();
+    void warningsAreLoggedWithTheirPlaces();
 
 private:
     QTemporaryDir m_directory;
@@ -48,8 +36,8 @@ private:
 void ConfigurationDocumentTest::init()
 {
     m_path = m_directory.filePath("document.json");
-    QVERIFY(TestFiles::write(m_path, "{\"a\": 1}"));
-    m_document.emplace("Name", m_path, forbidsBad);
+    QVERIFY(TestFiles::write(m_path, "{\"a\": [\"b\"]}"));
+    m_document.emplace("Name", DocumentKind::Dependencies, m_path);
     m_log.emplace();
 }
 
@@ -64,16 +52,16 @@ void ConfigurationDocumentTest::nothingIsReadAtFirst()
 void ConfigurationDocumentTest::goodTextBecomesActive()
 {
     QVERIFY(m_document->update());
-    QCOMPARE(m_document->state().text, QString("{\"a\": 1}"));
+    QCOMPARE(m_document->state().text, QString("{\"a\": [\"b\"]}"));
     // From sha256sum.
     QCOMPARE(m_document->state().checksum,
-             "f9d86028c6e0d64e225186f96acb69338b2c59764df79162107f5c4bb34d1310");
+             "fd7aed09f2bdd9a8027ed00523c3da064615c520c6f2387cb0d3a57f08914dae");
     QCOMPARE(m_document->state().refusal, QString());
     QCOMPARE(m_log->takeTexts(), QStringList{"Name: loaded " + m_path});
 
-    QVERIFY(TestFiles::write(m_path, "{\"a\": 2}"));
+    QVERIFY(TestFiles::write(m_path, "{\"a\": [\"c\"]}"));
     QVERIFY(m_document->update());
-    QCOMPARE(m_document->state().text, QString("{\"a\": 2}"));
+    QCOMPARE(m_document->state().text, QString("{\"a\": [\"c\"]}"));
     QCOMPARE(m_log->takeTexts(), QStringList{"Name: loaded " + m_path});
 }
 
@@ -82,7 +70,7 @@ void ConfigurationDocumentTest::sameTextChangesNothing()
     QVERIFY(m_document->update());
     m_log->take();
     QVERIFY(!m_document->update());
-    QVERIFY(TestFiles::replace(m_path, "{\"a\": 1}"));
+    QVERIFY(TestFiles::replace(m_path, "{\"a\": [\"b\"]}"));
     QVERIFY(!m_document->update());
     QCOMPARE(m_log->takeTexts(), QStringList());
 }
@@ -94,7 +82,12 @@ void ConfigurationDocumentTest::lastGoodTextStaysActive_data()
 
     row("no JSON", QByteArray("{"),
         "line 1, column 2: unexpected end; the \"{\" at line 1, column 1 is not closed");
-    row("violating the rule", QByteArray("{\"bad\": 1}"), "line 1, column 9: it is bad");
+    row("violating a rule", QByteArray("{\"bad\": 1}"),
+        R"(line 1, column 2: "bad" has no list of keys; write "KEY": ["KEY"])");
+    row("two mistakes", QByteArray("{\"bad\": 1, \"worse\": 2}"),
+        R"(line 1, column 2: "bad" has no list of keys; write "KEY": ["KEY"] (and one more error))");
+    row("three mistakes", QByteArray("{\"bad\": 1, \"worse\": 2, \"worst\": 3}"),
+        R"(line 1, column 2: "bad" has no list of keys; write "KEY": ["KEY"] (and 2 more errors))");
     row("duplicate name", QByteArray("{\"a\": 1, \"a\": 2}"),
         "line 1, column 10: duplicate name \"a\"; first at line 1, column 2");
     row("too large", QByteArray("{}").leftJustified(DocumentFile::defaultLimit + 1),
@@ -111,7 +104,7 @@ void ConfigurationDocumentTest::lastGoodTextStaysActive()
 
     QVERIFY(TestFiles::write(m_path, bytes));
     QVERIFY(m_document->update());
-    QCOMPARE(m_document->state().text, QString("{\"a\": 1}"));
+    QCOMPARE(m_document->state().text, QString("{\"a\": [\"b\"]}"));
     QCOMPARE(m_document->state().checksum, checksum);
     const QList<LoggedMessage> messages = m_log->take();
     QCOMPARE(messages.size(), 1);
@@ -143,7 +136,8 @@ void ConfigurationDocumentTest::refusalIsLoggedOnce()
 {
     QVERIFY(TestFiles::write(m_path, "{\"bad\": 1}"));
     QVERIFY(m_document->update());
-    QCOMPARE(m_document->state().refusal, m_path + ":1:9: it is bad");
+    QCOMPARE(m_document->state().refusal,
+             m_path + R"(:1:2: "bad" has no list of keys; write "KEY": ["KEY"])");
     QCOMPARE(m_log->takeTexts().size(), 1);
     QVERIFY(!m_document->update());
     QCOMPARE(m_log->takeTexts(), QStringList());
@@ -161,10 +155,24 @@ void ConfigurationDocumentTest::returnOfTheGoodTextIsLogged()
     QVERIFY(m_document->update());
     m_log->take();
 
-    QVERIFY(TestFiles::write(m_path, "{\"a\": 1}"));
+    QVERIFY(TestFiles::write(m_path, "{\"a\": [\"b\"]}"));
     QVERIFY(m_document->update());
     QCOMPARE(m_document->state().refusal, QString());
     QCOMPARE(m_log->takeTexts(), QStringList{"Name: unchanged in " + m_path});
+}
+
+void ConfigurationDocumentTest::warningsAreLoggedWithTheirPlaces()
+{
+    QVERIFY(TestFiles::write(m_path, "{\n  \"a\": [],\n  \"b\": [\"c\", \"c\"]\n}"));
+    QVERIFY(m_document->update());
+    const QList<LoggedMessage> messages = m_log->take();
+    QCOMPARE(messages.size(), 3);
+    QCOMPARE(messages[0].type, QtWarningMsg);
+    QCOMPARE(messages[0].text,
+             "Name: " + m_path + R"(:2:3: nothing depends on "a"; remove the entry [dependency-empty])");
+    QCOMPARE(messages[1].type, QtWarningMsg);
+    QCOMPARE(messages[1].text, "Name: " + m_path + R"(:3:14: "c" is listed twice [dependency-duplicate])");
+    QCOMPARE(messages[2].text, "Name: loaded " + m_path);
 }
 
 static const TestClass<ConfigurationDocumentTest> testClass;

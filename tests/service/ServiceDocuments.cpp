@@ -9,9 +9,11 @@ QByteArray ServiceDocuments::units(const QString& label)
         .toUtf8();
 }
 
-QByteArray ServiceDocuments::defaultUnits(const QString& unit)
+QByteArray ServiceDocuments::defaultUnits(const QString& note)
 {
-    return QStringLiteral(R"({"Pressure": {"@type": "Selection", "@value": "%1"}})").arg(unit).toUtf8();
+    return QStringLiteral(R"({"$comment": "%1", "Pressure": {"@type": "Selection", "@value": "Bar"}})")
+        .arg(note)
+        .toUtf8();
 }
 
 QByteArray ServiceDocuments::dependencies(const QString& dependent)

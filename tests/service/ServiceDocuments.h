@@ -10,7 +10,7 @@ namespace ServiceDocuments {
 QByteArray units(const QString& label);
 
 /// A valid default-unit document.
-QByteArray defaultUnits(const QString& unit);
+QByteArray defaultUnits(const QString& note);
 
 /// A valid dependency document.
 QByteArray dependencies(const QString& dependent);

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void largestDocumentIsServed();
     void removedDocumentStaysActive();
     void eachRefusalIsLoggedOnce();
+    void disagreementOfDocumentsIsLogged();
     void documentMayComeLater_data();
     void documentMayComeLater();
 };
@@ -46,7 +47,9 @@ void ServiceRefusalsTest::badTextIsRefused_data()
         "is larger than the limit of 1048576 bytes; see --max-size");
     row("empty", QByteArray(), "is empty");
     row("list", QByteArray("[]"), "line 1, column 1: expected \"{\" at the start of the document");
-    row("no unit type", QByteArray("{}"), "contains no unit type");
+    row("no unit type", QByteArray("{}"), "line 1, column 1: the document has no unit types");
+    row("wrong content", ServiceDocuments::units("first").replace("[1]", "[\"1,5\"]"),
+        "line 1, column 87: this is not a number; write 1.5 without quotes (and one more error)");
 }
 
 void ServiceRefusalsTest::badTextIsRefused()
@@ -116,6 +119,22 @@ void ServiceRefusalsTest::eachRefusalIsLoggedOnce()
     QVERIFY(TestFiles::replace(served.path("units.json"), "{b"));
     QCOMPARE(served.settledAnnouncements(), QStringList());
     QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count(message), 2, waitLimit);
+}
+
+void ServiceRefusalsTest::disagreementOfDocumentsIsLogged()
+{
+    ServedDirectory served;
+    QVERIFY(served.start());
+
+    const QByteArray text = R"({"Pressure": {"@type": "Selection", "@value": "Bra"}})";
+    QVERIFY(TestFiles::replace(served.path("default-units.json"), text));
+    QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::defaultUnits});
+    QCOMPARE(served.client().text(ServiceObject::defaultUnits), QString(text));
+    const QString message =
+        "configuration-file-service: warning: UnitManager/DefaultUnit: " + served.path("default-units.json") +
+        R"(:1:2: "Bra" is not a unit of "Pressure"; did you mean "Bar"? [default-unit-unknown])"
+        "\n";
+    QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count(message), 1, waitLimit);
 }
 
 void ServiceRefusalsTest::documentMayComeLater_data()

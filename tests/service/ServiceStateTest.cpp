@@ -204,7 +204,7 @@ void ServiceStateTest::refusalIsAnnounced_data()
 
     row("with place", QByteArray("{\n  \"Pressure\": {},\n}"),
         "units.json:2:17: remove the comma before \"}\"");
-    row("without place", QByteArray("{}"), "units.json: contains no unit type");
+    row("without place", QByteArray(), "units.json: is empty");
 }
 
 void ServiceStateTest::refusalIsAnnounced()
