@@ -13,7 +13,7 @@ namespace {
 
 bool isUnitReference(const QString& text)
 {
-    static const QRegularExpression pattern(QStringLiteral("^([^/]+/)*[A-Za-z][A-Za-z0-9]*$"));
+    static const QRegularExpression pattern(QStringLiteral("^([^/]+/)*[A-Za-z][A-Za-z0-9]*\\z"));
     return pattern.match(text).hasMatch();
 }
 

@@ -7,7 +7,7 @@
 
 bool UnitTypeNames::isName(const QString& text)
 {
-    static const QRegularExpression pattern(QStringLiteral("^[A-Za-z][A-Za-z0-9]*$"));
+    static const QRegularExpression pattern(QStringLiteral("^[A-Za-z][A-Za-z0-9]*\\z"));
     return pattern.match(text).hasMatch();
 }
 
