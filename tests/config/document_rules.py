@@ -2,6 +2,7 @@
 
 import json
 import math
+import re
 
 import jsonschema
 
@@ -52,8 +53,17 @@ def load(path):
     return parse(path.read_bytes())
 
 
+def pattern_errors(validator, pattern, instance, schema):
+    """Patterns of a schema as in ECMAScript, where "$" does not match before a line break at the end."""
+    if validator.is_type(instance, "string") and not re.search(re.sub(r"(?<!\\)\$", r"\\Z", pattern), instance):
+        yield jsonschema.ValidationError(f"{instance!r} does not match {pattern!r}")
+
+
+SchemaValidator = jsonschema.validators.extend(jsonschema.Draft202012Validator, {"pattern": pattern_errors})
+
+
 def schema_errors(document, schema):
-    return list(jsonschema.Draft202012Validator(schema).iter_errors(document))
+    return list(SchemaValidator(schema).iter_errors(document))
 
 
 def schema_findings(document, schema):
