@@ -119,7 +119,7 @@ const UnitNode* ConversionCheck::checkBaseUnits()
 {
     const UnitNode* first = nullptr;
     // Units that were reported already may be meant as base unit.
-    bool isPositionUnknown = m_type.units.size() < m_type.value.children().size();
+    bool isPositionUnknown = m_type.hasUnusableUnits;
     for (const UnitNode& unit : m_type.units) {
         isPositionUnknown = isPositionUnknown || !unit.displayPosition;
         if (unit.displayPosition != 0)

@@ -53,4 +53,6 @@ struct TypeNode
     QString baseUnit;
     /// The units that are objects, in document order.
     std::vector<UnitNode> units;
+    /// Whether there are others, which have been reported.
+    bool hasUnusableUnits = false;
 };

@@ -2,6 +2,8 @@
 
 #include <QtCore/QSet>
 
+#include <algorithm>
+
 #include "ConversionCheck.h"
 #include "DisplayCheck.h"
 #include "LabelCheck.h"
@@ -9,6 +11,15 @@
 #include "UnitManagerDefinitions.h"
 #include "UnitStructureCheck.h"
 #include "UnitTypeNames.h"
+
+namespace {
+
+bool isProperty(const JsonValue& member)
+{
+    return member.name().startsWith(QLatin1Char('@'));
+}
+
+} // namespace
 
 UnitsCheck::UnitsCheck(const JsonDocument& document, const UnitManager& library,
                        const DocumentChecker::Options& options, Findings& findings)
@@ -38,7 +49,7 @@ bool UnitsCheck::hasUsableName(const JsonValue& member, const QString& path)
     const QString name = member.name();
     if (UnitTypeNames::isName(name))
         return true;
-    if (name.startsWith(QLatin1Char('@'))) {
+    if (isProperty(member)) {
         m_findings.addAtName(Rule::UnknownMember, member, path,
                              DocumentProblem::quoted(name) + " is not read by any program");
         return false;
@@ -65,7 +76,7 @@ void UnitsCheck::checkType(const JsonValue& member)
         return;
     }
     const std::vector<JsonValue> members = member.children();
-    if (members.empty()) {
+    if (std::all_of(members.begin(), members.end(), isProperty)) {
         m_findings.addAtName(Rule::TypeEmpty, member, name,
                              "unit type " + DocumentProblem::quoted(name) + " has no units");
         return;
@@ -93,6 +104,8 @@ void UnitsCheck::checkType(const JsonValue& member)
         }
         structure.checkUnit(unit, type, m_library);
     }
+    const auto properties = std::count_if(members.begin(), members.end(), isProperty);
+    type.hasUnusableUnits = type.units.size() + static_cast<std::size_t>(properties) < members.size();
     ConversionCheck(type, m_options, m_findings).run();
     DisplayCheck(type, m_findings).run();
     LabelCheck(type, m_languages, m_findings).run();
@@ -107,7 +120,8 @@ TypeNode UnitsCheck::readType(const JsonValue& member) const
             member,
             QSet<QString>(accepted.begin(), accepted.end()),
             UnitTypeNames::afterLastSlash(m_library.getBaseUnit(id)),
-            {}};
+            {},
+            false};
 }
 
 /// "NoUnit" may have a position of 0 and a label that is empty in every language.
