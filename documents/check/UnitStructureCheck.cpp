@@ -47,8 +47,10 @@ QString adviceForMissingConversion(const JsonValue& unit)
 /// Whether the member is a misspelt one of those that the unit lacks.
 bool isMisspelt(const JsonValue& unit, const QString& member, const QStringList& required)
 {
-    return std::any_of(required.begin(), required.end(),
-                       [&](const QString& name) { return MemberNames::misspelling(unit, name) == member; });
+    return std::any_of(required.begin(), required.end(), [&](const QString& name) {
+        const QString misspelt = MemberNames::misspelling(unit, name);
+        return !misspelt.isEmpty() && misspelt == member;
+    });
 }
 
 /// The whole number from 0 to a maximum; no value for anything else.
@@ -108,16 +110,16 @@ void UnitStructureCheck::checkConversion(UnitNode& unit, const TypeNode& type, c
                              QStringLiteral("keep one of them"));
         return;
     }
+    const ConversionKind& kind = kinds.empty() ? conversionKinds()[0] : *kinds[0].first;
+    checkMembers(unit, kind.required, kind.optional);
     if (kinds.empty() || !isAccepted) {
         const bool isNull = !kinds.empty() && kinds[0].second.type() == JsonType::Null;
         if (!isNull)
             m_findings.addAtName(Rule::ConversionMissing, unit.value, unit.path,
                                  QStringLiteral("the library ignores the unit: it has no conversion"),
                                  adviceForMissingConversion(unit.value));
-        checkMembers(unit, conversionKinds()[0].required, {});
         return;
     }
-    checkMembers(unit, kinds[0].first->required, kinds[0].first->optional);
     if (unit.polynomial)
         checkPolynomialUnit(unit);
     else
