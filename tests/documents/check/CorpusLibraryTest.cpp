@@ -28,6 +28,8 @@ private:
     void compareType(const JsonValue& type);
     void compareUnit(const QString& typeId, const JsonValue& unit, const QString& path);
     void compareBaseUnit(const QString& typeId, const JsonValue& type);
+    void compareConversions(const UnitManager& sound);
+    bool hasWarning() const;
     bool isIgnored(const JsonValue& unit, const QString& path) const;
     bool isFound(const QString& path, std::initializer_list<Rule> rules) const;
 
@@ -93,6 +95,8 @@ void CorpusLibraryTest::agreeAfterAnyChange()
     QVERIFY(entry != entries.end());
     Finding unreadable;
     const auto sound = entry->files.front().read(unreadable);
+    UnitManager library;
+    QVERIFY(library.updateUnitConversionByJsonString(sound->text()));
     const std::vector<ChangedDocument> documents = DocumentChanges::of(sound->bytes());
     QVERIFY(documents.size() > 500);
     for (const ChangedDocument& changed : documents) {
@@ -100,6 +104,8 @@ void CorpusLibraryTest::agreeAfterAnyChange()
         const auto document = JsonDocument::read(changed.text, problem);
         QVERIFY(document);
         compare(*document);
+        if (!hasWarning())
+            compareConversions(library);
         if (QTest::currentTestFailed()) {
             qWarning() << "after the change" << changed.change;
             return;
@@ -198,6 +204,27 @@ void CorpusLibraryTest::compareBaseUnit(const QString& typeId, const JsonValue& 
     QVERIFY2(!isMissing, qPrintable(typeId));
     const QString position = type.name() + '/' + base + "/@displayPosition";
     QVERIFY2(isBase(*type.member(base)) || isFound(position, {Rule::PositionInvalid}), qPrintable(position));
+}
+
+/// A document without warnings converts as before.
+void CorpusLibraryTest::compareConversions(const UnitManager& sound)
+{
+    for (const QString& type : sound.getListofUnitTypes()) {
+        const QStringList units = m_library.getListofUnits(type);
+        for (const QString& unit : sound.getListofUnits(type)) {
+            if (!units.contains(unit))
+                continue;
+            QCOMPARE(m_library.fromBaseUnitRaw(37.5, type, unit), sound.fromBaseUnitRaw(37.5, type, unit));
+            QCOMPARE(m_library.toBaseUnitRaw(37.5, type, unit), sound.toBaseUnitRaw(37.5, type, unit));
+        }
+    }
+}
+
+bool CorpusLibraryTest::hasWarning() const
+{
+    return std::any_of(m_findings.begin(), m_findings.end(), [](const Finding& finding) {
+        return Rules::describe(finding.rule).severity != Severity::Note;
+    });
 }
 
 bool CorpusLibraryTest::isFound(const QString& path, std::initializer_list<Rule> rules) const
