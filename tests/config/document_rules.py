@@ -29,12 +29,18 @@ def finite_number(text):
     return value
 
 
+def whole_number(text):
+    finite_number(text)
+    return int(text)
+
+
 def parse(text):
     try:
         document = json.loads(
             text.decode("utf-8-sig"),
             object_pairs_hook=unique_members,
             parse_float=finite_number,
+            parse_int=whole_number,
             parse_constant=finite_number,
         )
         # Fails for half of a surrogate pair, which the parser accepts as an escape.
