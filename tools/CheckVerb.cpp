@@ -130,7 +130,7 @@ Result<ExitCode> CheckVerb::run(const QCommandLineParser& options, const QString
     if (OutputOptions::isJson(options))
         printJson(findings, *documents);
     else if (options.isSet(sarifOption))
-        Console::printLine(SarifLog::text(findings, *documents));
+        Console::printText(OutputOptions::escaped(SarifLog::text(findings, *documents)));
     else
         FindingText::print(findings, *documents);
     if (documents->hasUnreadable())

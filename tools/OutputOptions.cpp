@@ -48,16 +48,20 @@ QString OutputOptions::language(const QCommandLineParser& options)
 
 QString OutputOptions::jsonLine(const QJsonObject& object)
 {
-    const QString json = QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-    QString line;
+    return escaped(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
+}
+
+QString OutputOptions::escaped(const QString& json)
+{
+    QString text;
     for (const QChar unit : json) {
-        // Qt only escapes the first of the control characters.
-        if (unit.isSurrogate() || PrintableText::isPrintable(unit.unicode()))
-            line += unit;
+        // Qt only escapes the first of the control characters; line breaks are not part of strings.
+        if (unit == '\n' || unit.isSurrogate() || PrintableText::isPrintable(unit.unicode()))
+            text += unit;
         else
-            line += QStringLiteral("\\u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+            text += QStringLiteral("\\u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
     }
-    return line;
+    return text;
 }
 
 QJsonValue OutputOptions::jsonText(const QString& text)

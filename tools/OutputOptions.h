@@ -22,6 +22,8 @@ QString language(const QCommandLineParser& options);
 
 /// An object as one line, without line break; characters that are not printable are escaped.
 QString jsonLine(const QJsonObject& object);
+/// JSON with characters that are not printable escaped.
+QString escaped(const QString& json);
 /// The text; null if it is empty.
 QJsonValue jsonText(const QString& text);
 

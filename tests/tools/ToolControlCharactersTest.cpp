@@ -3,6 +3,8 @@
 #include <QtCore/QJsonValue>
 #include <QtTest/QTest>
 
+#include <algorithm>
+
 #include "Row.h"
 #include "TestProgram.h"
 #include "ToolProcess.h"
@@ -20,6 +22,8 @@ private Q_SLOTS:
     void replacesThemInMessages_data();
     void replacesThemInMessages();
     void replacesThemInTheLog();
+    void checkShowsNone_data();
+    void checkShowsNone();
 };
 
 namespace {
@@ -39,6 +43,16 @@ QByteArray document()
 QString decoded(const QByteArray& escaped)
 {
     return QJsonDocument::fromJson("{\"text\":\"" + escaped + "\"}").object().value("text").toString();
+}
+
+/// Whether the text has no control characters other than line breaks.
+bool isHarmless(const QByteArray& text)
+{
+    const QString characters = QString::fromUtf8(text);
+    return std::none_of(characters.begin(), characters.end(), [](QChar character) {
+        const QChar::Category category = character.category();
+        return character != '\n' && (category == QChar::Other_Control || category == QChar::Other_Format);
+    });
 }
 
 ToolRun runWithDocument(const QStringList& arguments)
@@ -141,11 +155,26 @@ void ToolControlCharactersTest::replacesThemInTheLog()
         document().replace("\"@displayPosition\": 0", "\"@displayPosition\": [\"" + hostile + "\"]");
     const ToolRun run = ToolProcess::run({"types", "--units", "/dev/stdin", "--verbose"}, units);
     QVERIFY2(run.standardError.contains("Cannot convert displayPosition"), run.standardError.constData());
-    for (const QChar character : QString::fromUtf8(run.standardError)) {
-        const bool isControl =
-            character.category() == QChar::Other_Control || character.category() == QChar::Other_Format;
-        QVERIFY2(!isControl || character == '\n', run.standardError.constData());
-    }
+    QVERIFY2(isHarmless(run.standardError), run.standardError.constData());
+}
+
+void ToolControlCharactersTest::checkShowsNone_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("text") << QStringList();
+    QTest::newRow("JSON") << QStringList("--json");
+    QTest::newRow("SARIF") << QStringList("--sarif");
+}
+
+void ToolControlCharactersTest::checkShowsNone()
+{
+    QFETCH(QStringList, options);
+    const QByteArray units = QByteArray("{\t\"A#\": {}}").replace('#', hostile);
+    const ToolRun run = ToolProcess::run(QStringList{"check", "--units", "/dev/stdin"} + options, units);
+    QCOMPARE(run.standardError, QByteArray());
+    QVERIFY2(isHarmless(run.standardOutput), run.standardOutput.constData());
+    QVERIFY2(run.standardOutput.contains("A" + harmless), run.standardOutput.constData());
+    QCOMPARE(run.exitCode, 1);
 }
 
 static const TestClass<ToolControlCharactersTest> testClass;

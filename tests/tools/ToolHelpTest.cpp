@@ -102,7 +102,7 @@ void ToolHelpTest::programHelpListsEveryVerb()
     const ToolRun run = ToolProcess::run({option});
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.standardError, QByteArray());
-    for (const char* verb : {"types", "units", "convert", "table", "label", "labels", "watch"})
+    for (const char* verb : {"types", "units", "convert", "table", "label", "labels", "check", "watch"})
         QVERIFY2(run.standardOutput.contains('\n' + QByteArray(" ") + verb + ' '), verb);
 }
 
