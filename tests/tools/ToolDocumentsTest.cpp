@@ -202,14 +202,22 @@ void ToolDocumentsTest::listsUnitsInDisplayOrder()
                               folder.file("default-units.json", "")};
     QCOMPARE(ToolProcess::run(QStringList{"units", "Length"} + options).standardOutput,
              QByteArray("Zero   base unit\nC\nD\nTenth\nA\nB\n"));
-    const QByteArray lines =
-        ToolProcess::run(QStringList{"units", "Length", "--json"} + options).standardOutput;
-    QByteArrayList units;
-    for (const QByteArray& line : lines.trimmed().split('\n'))
-        units.append(QJsonDocument::fromJson(line)["unit"].toString().toUtf8());
-    QCOMPARE(units, QByteArrayList({"Zero", "C", "D", "Tenth", "A", "B"}));
     QCOMPARE(ToolProcess::run(QStringList{"table", "5", "Length", "Zero", "--raw"} + options).standardOutput,
              QByteArray("Zero   5\nC      5\nD      5\nTenth  5\nA      5\nB      5\n"));
+    QCOMPARE(ToolProcess::run(QStringList{"labels"} + options).standardOutput,
+             QByteArray("type    unit\nLength  Zero\nLength  C\nLength  D\nLength  Tenth\nLength  A\n"
+                        "Length  B\n"));
+    QCOMPARE(ToolProcess::run(QStringList{"label", "Length", "X"} + options).standardError,
+             QByteArray("unitmanager: unknown unit \"X\" of Length; known: Zero, C, D, Tenth, A, B\n"));
+
+    for (const QStringList& verb :
+         {QStringList{"units", "Length"}, QStringList{"table", "5", "Zero"}, QStringList{"labels"}}) {
+        const QByteArray lines = ToolProcess::run(verb + QStringList("--json") + options).standardOutput;
+        QByteArrayList units;
+        for (const QByteArray& line : lines.trimmed().split('\n'))
+            units.append(QJsonDocument::fromJson(line)["unit"].toString().toUtf8());
+        QCOMPARE(units, QByteArrayList({"Zero", "C", "D", "Tenth", "A", "B"}));
+    }
 }
 
 void ToolDocumentsTest::replacesOneDocumentAlone()
