@@ -34,20 +34,26 @@ int editDistance(const QString& left, const QString& right)
 
 } // namespace
 
+std::optional<int> SimilarName::slips(const QString& name, const QString& meant)
+{
+    const int allowed = std::min({mostSlips, name.size() - 1, meant.size() - 1});
+    if (name.size() > longestName || std::abs(name.size() - meant.size()) > allowed)
+        return {};
+    const int count = editDistance(name.toLower(), meant.toLower());
+    return count <= allowed ? std::optional<int>(count) : std::nullopt;
+}
+
 QString SimilarName::of(const QString& name, const QStringList& known)
 {
+    if (known.size() > mostNames)
+        return {};
     QString nearest;
-    int fewestSlips = std::min(mostSlips, name.size() - 1) + 1;
-    if (name.size() > longestName || known.size() > mostNames)
-        return nearest;
-    const QString lowerCase = name.toLower();
+    std::optional<int> fewest;
     for (const QString& candidate : known) {
-        if (std::abs(candidate.size() - name.size()) >= fewestSlips)
-            continue;
-        const int slips = editDistance(lowerCase, candidate.toLower());
-        if (slips < fewestSlips) {
+        const std::optional<int> count = slips(name, candidate);
+        if (count && (!fewest || *count < *fewest)) {
             nearest = candidate;
-            fewestSlips = slips;
+            fewest = count;
         }
     }
     return nearest;

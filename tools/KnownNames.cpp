@@ -1,50 +1,18 @@
 #include "KnownNames.h"
 
-#include <algorithm>
-#include <cstdlib>
-#include <numeric>
 #include <optional>
 
 #include "Console.h"
+#include "SimilarName.h"
 
 namespace {
-
-/// With more wrong characters a word is a different name, not a typing error.
-const int mostSlips = 2;
-
-/// The number of insertions, deletions and replacements that turn one text into the other.
-int editDistance(const QString& left, const QString& right)
-{
-    QVector<int> row(right.size() + 1);
-    std::iota(row.begin(), row.end(), 0);
-    for (int i = 0; i < left.size(); ++i) {
-        int diagonal = row[0];
-        row[0] = i + 1;
-        for (int j = 0; j < right.size(); ++j) {
-            const int replaced = diagonal + (left[i] == right[j] ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({replaced, row[j] + 1, diagonal + 1});
-        }
-    }
-    return row.last();
-}
-
-/// The wrong characters in @p name if it stands for @p spelling; no value if it is a different name.
-std::optional<int> slips(const QString& name, const QString& spelling)
-{
-    const int allowed = std::min({mostSlips, name.size() - 1, spelling.size() - 1});
-    if (std::abs(name.size() - spelling.size()) > allowed)
-        return {};
-    const int count = editDistance(name.toLower(), spelling.toLower());
-    return count <= allowed ? std::optional<int>(count) : std::nullopt;
-}
 
 /// The wrong characters in @p name if it stands for the nearest of @p spellings.
 std::optional<int> fewestSlips(const QString& name, const QStringList& spellings)
 {
     std::optional<int> fewest;
     for (const QString& spelling : spellings) {
-        const std::optional<int> count = slips(name, spelling);
+        const std::optional<int> count = SimilarName::slips(name, spelling);
         if (count && (!fewest || *count < *fewest))
             fewest = count;
     }
@@ -54,14 +22,14 @@ std::optional<int> fewestSlips(const QString& name, const QStringList& spellings
 QStringList nearest(const QString& name, const QVector<KnownName>& known)
 {
     QStringList nearest;
-    int fewest = mostSlips;
+    std::optional<int> fewest;
     for (const KnownName& candidate : known) {
         const std::optional<int> count = fewestSlips(name, candidate.spellings);
-        if (!count || *count > fewest)
+        if (!count || (fewest && *count > *fewest))
             continue;
-        if (*count < fewest)
+        if (count != fewest)
             nearest.clear();
-        fewest = *count;
+        fewest = count;
         nearest.append(candidate.shown);
     }
     return nearest;
