@@ -32,10 +32,8 @@ QMap<QString, QString> readLabels(const JsonValue& unit)
     if (text->type() != JsonType::Object)
         return {};
     QMap<QString, QString> labels;
-    for (const JsonValue& label : text->children()) {
-        if (label.type() == JsonType::String)
-            labels.insert(label.name(), label.string());
-    }
+    for (const JsonValue& label : text->children())
+        labels.insert(label.name(), label.string());
     return labels;
 }
 

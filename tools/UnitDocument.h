@@ -26,7 +26,7 @@ public:
 private:
     struct Unit
     {
-        double displayPosition;
+        double displayPosition = 0;
         QMap<QString, QString> labels;
     };
 
