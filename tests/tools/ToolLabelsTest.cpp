@@ -14,6 +14,7 @@ private Q_SLOTS:
     void listsLabels();
     void listsShippedLabels_data();
     void listsShippedLabels();
+    void countsALabelThatIsNotAText();
     void refusesAnUnknownType();
 };
 
@@ -111,6 +112,15 @@ void ToolLabelsTest::listsShippedLabels()
     QFETCH(QStringList, arguments);
     QFETCH(QByteArray, standardOutput);
     compareAnswer(ToolProcess::run(arguments), standardOutput);
+}
+
+void ToolLabelsTest::countsALabelThatIsNotAText()
+{
+    const QByteArray units = R"({"Length": {"Meter": {"@displayPosition": 0, "DecimalPlaces": 1,
+"Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]], "UnitLabel": {"@value": {"en": "m", "de": 5}}}}})";
+    const QStringList arguments{"labels", "--units", "/dev/stdin"};
+    compareAnswer(ToolProcess::run(arguments, units), "type    unit   en  de\nLength  Meter  m\n");
+    compareAnswer(ToolProcess::run(arguments + QStringList{"--missing", "de"}, units), "");
 }
 
 void ToolLabelsTest::refusesAnUnknownType()
