@@ -200,7 +200,9 @@ void ToolVerbsTest::printsTheSameForEveryHashSeed_data()
     QTest::newRow("types") << QStringList{"types"};
     QTest::newRow("units") << QStringList{"units", "Pressure"};
     QTest::newRow("table") << QStringList{"table", "1", "Pressure", "Bar"};
+    QTest::newRow("labels") << QStringList{"labels"};
     QTest::newRow("known names") << QStringList{"units", "Nothing"};
+    QTest::newRow("several suggestions") << QStringList{"convert", "1", "xPa"};
 }
 
 void ToolVerbsTest::printsTheSameForEveryHashSeed()
