@@ -58,6 +58,17 @@ void CommonOptions::addBus(QCommandLineParser& parser)
                       QStringLiteral("BUS")});
 }
 
+void CommonOptions::addOptionalBus(QCommandLineParser& parser, const QString& purpose)
+{
+    parser.addOption({busOption, purpose + QStringLiteral(": session, system or a D-Bus address."),
+                      QStringLiteral("BUS")});
+}
+
+bool CommonOptions::isBusGiven(const QCommandLineParser& options)
+{
+    return options.isSet(busOption);
+}
+
 Result<QString> CommonOptions::bus(const QCommandLineParser& options)
 {
     const QString bus = options.isSet(busOption) ? options.value(busOption) : busOfTheDevice();

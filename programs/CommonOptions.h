@@ -20,6 +20,9 @@ Result<int> maximumSize(const QCommandLineParser& options);
 
 /// Declares --bus, whose default is the bus that the variable DEVICE_BUS names, else the session bus.
 void addBus(QCommandLineParser& parser);
+/// Declares --bus for programs that use no bus without it. @param purpose the beginning of its help
+void addOptionalBus(QCommandLineParser& parser, const QString& purpose);
+bool isBusGiven(const QCommandLineParser& options);
 /// The bus: "session", "system" or a D-Bus address. @return a failure if the given one is not valid
 Result<QString> bus(const QCommandLineParser& options);
 

@@ -4,8 +4,8 @@
 
 class UnitCatalogue;
 
-/// A verb that answers from the unit documents: the shipped ones, or those named by --units and
-/// --default-units.
+/// A verb that answers from the unit documents: the shipped ones, those named by --units and --default-units,
+/// or the active ones of the service on the bus named by --bus.
 class CatalogueVerb : public Verb
 {
 protected:

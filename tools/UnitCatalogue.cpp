@@ -13,18 +13,15 @@ namespace {
 
 using Document = std::optional<JsonDocument>;
 
-/// Reads a document; a blank one has no value.
-Result<Document> readDocument(const QString& path, int maximumSize)
+/// Parses a document; a blank one has no value.
+Result<Document> parse(const DocumentText& text)
 {
-    DocumentProblem problem;
-    const auto bytes = DocumentFile::read(path, DocumentFile::Source::FileOrStream, maximumSize, problem);
-    if (!bytes)
-        return Failure{problem.inFile(path)};
-    if (Utf8::withoutByteOrderMark(*bytes).trimmed().isEmpty())
+    if (Utf8::withoutByteOrderMark(text.bytes).trimmed().isEmpty())
         return Document();
-    const Document document = JsonDocument::read(*bytes, problem);
+    DocumentProblem problem;
+    const Document document = JsonDocument::read(text.bytes, problem);
     if (!document)
-        return Failure{problem.inFile(path)};
+        return Failure{problem.inFile(text.name)};
     return document;
 }
 
@@ -67,15 +64,23 @@ const UnitType* findType(const QVector<UnitType>& types, const QString& name)
 
 } // namespace
 
+Result<DocumentText> DocumentText::read(const QString& path, int maximumSize)
+{
+    DocumentProblem problem;
+    const auto bytes = DocumentFile::read(path, DocumentFile::Source::FileOrStream, maximumSize, problem);
+    if (!bytes)
+        return Failure{problem.inFile(path)};
+    return DocumentText{path, *bytes};
+}
+
 UnitCatalogue::UnitCatalogue() = default;
 
-Result<UnitCatalogue> UnitCatalogue::load(const QString& unitsPath, const QString& defaultUnitsPath,
-                                          int maximumSize)
+Result<UnitCatalogue> UnitCatalogue::load(const DocumentText& unitsText, const DocumentText& defaultUnitsText)
 {
-    const auto units = readDocument(unitsPath, maximumSize);
+    const auto units = parse(unitsText);
     if (!units)
         return units.error();
-    const auto defaultUnits = readDocument(defaultUnitsPath, maximumSize);
+    const auto defaultUnits = parse(defaultUnitsText);
     if (!defaultUnits)
         return defaultUnits.error();
 
@@ -83,9 +88,9 @@ Result<UnitCatalogue> UnitCatalogue::load(const QString& unitsPath, const QStrin
     // The result is ignored: it is also false for a document without labels, which is sufficient here.
     catalogue.updateUnitConversionByJsonString(textOf(*units));
     if (catalogue.getListofUnitTypes().isEmpty())
-        return Failure{unitsPath + ": contains no unit types that the library can read"};
+        return Failure{unitsText.name + ": contains no unit types that the library can read"};
     if (!catalogue.updateDefaultUnitsByJsonString(textOf(*defaultUnits)) && hasContent(*defaultUnits))
-        return Failure{defaultUnitsPath + ": contains no default units that the library can read"};
+        return Failure{defaultUnitsText.name + ": contains no default units that the library can read"};
     catalogue.m_document = UnitDocument(**units);
     return catalogue;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QByteArray>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
@@ -10,6 +11,16 @@
 #include "Result.h"
 #include "UnitDocument.h"
 #include "UnitManager.h"
+
+/// The text of a document, and what messages call it.
+struct DocumentText
+{
+    QString name;
+    QByteArray bytes;
+
+    /// Reads a file. @param maximumSize the largest file that is read, in bytes
+    static Result<DocumentText> read(const QString& path, int maximumSize);
+};
 
 /// A unit type as the user named it.
 struct UnitType
@@ -37,10 +48,8 @@ class UnitCatalogue : private UnitManager
 public:
     /// Loads the catalogue from two documents.
     ///
-    /// @param maximumSize the largest document that is read, in bytes
-    /// @return a failure that names the document if it cannot be read or is empty
-    static Result<UnitCatalogue> load(const QString& unitsPath, const QString& defaultUnitsPath,
-                                      int maximumSize);
+    /// @return a failure that names the document if it is not valid; only the default units may be blank
+    static Result<UnitCatalogue> load(const DocumentText& unitsText, const DocumentText& defaultUnitsText);
 
     /// All unit types, sorted by name.
     QVector<UnitType> unitTypes() const;

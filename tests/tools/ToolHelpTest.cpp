@@ -27,8 +27,8 @@ void addVerbs()
     QTest::addColumn<QByteArray>("usage");
     QTest::addColumn<QStringList>("content");
     const QStringList common{
-        "-h, --help",         "-v, --version", "--verbose", "--units <FILE>", "--default-units <FILE>",
-        "--max-size <BYTES>", "--json",        "Example"};
+        "-h, --help",  "-v, --version",      "--verbose", "--units <FILE>", "--default-units <FILE>",
+        "--bus <BUS>", "--max-size <BYTES>", "--json",    "Example"};
     row("types", "types", QByteArray("[options]"), common);
     row("units", "units", QByteArray("[options] TYPE"), common + QStringList{"--language", "  TYPE  "});
     row("convert", "convert", QByteArray("[options] VALUE [TYPE] FROM [TO]"),
