@@ -2,6 +2,7 @@
 
 #include <QtCore/QStringList>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -30,9 +31,14 @@ bool write(const QString& text, std::FILE* stream)
     return std::fwrite(bytes.constData(), 1, size, stream) == size;
 }
 
+bool isTerminal()
+{
+    return ::isatty(STDOUT_FILENO) == 1;
+}
+
 bool hasColors()
 {
-    return ::isatty(STDOUT_FILENO) == 1 && qEnvironmentVariableIsEmpty("NO_COLOR");
+    return isTerminal() && qEnvironmentVariableIsEmpty("NO_COLOR");
 }
 
 } // namespace
@@ -46,6 +52,22 @@ void Console::printText(const QString& text)
 {
     for (const QString& line : text.split('\n'))
         printLine(line);
+}
+
+void Console::printDocument(const QString& text)
+{
+    QString shown = text.endsWith('\n') ? text : text + '\n';
+    if (isTerminal()) {
+        QStringList lines = shown.remove('\r').split('\n');
+        for (QString& line : lines) {
+            QStringList cells = line.split('\t');
+            std::transform(cells.begin(), cells.end(), cells.begin(), PrintableText::of);
+            line = cells.join('\t');
+        }
+        shown = lines.join('\n');
+    }
+    if (writeError == 0)
+        written(write(shown, stdout));
 }
 
 void Console::printHighlighted(const QString& before, const QString& highlighted, int color,

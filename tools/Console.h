@@ -14,6 +14,9 @@ namespace Console {
 bool printLine(const QString& line);
 /// Prints a text of several lines to standard output.
 void printText(const QString& text);
+/// Prints a document unchanged, with a line break at its end. On a terminal, only tabs and line breaks remain
+/// of its control characters.
+void printDocument(const QString& text);
 /// Prints a line of three parts; on a terminal the middle one in a color, unless NO_COLOR is set.
 ///
 /// @param color the number of an ANSI color, such as 31 for red

@@ -5,6 +5,9 @@
 #include <QtDBus/QDBusError>
 #include <QtDBus/QDBusMessage>
 
+#include <algorithm>
+#include <vector>
+
 #include "DBusConnection.h"
 #include "DeviceManagerDefinitions.h"
 #include "PropertyManagerConst.h"
@@ -18,27 +21,31 @@ const QString busName = "org.freedesktop.DBus";
 /// Where the service serves a document.
 struct Place
 {
+    DocumentKind kind;
+    QString name;
     QString object;
     QString method;
     QVariantList arguments;
-    QString description;
 };
 
-Place placeOf(DocumentKind kind)
+const std::vector<Place>& places()
 {
     const QString module = "unitmanager";
-    switch (kind) {
-    case DocumentKind::Units:
-        return {'/' + DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration(), "getConfiguration",
-                QVariantList{"UnitManager/UnitType", module, ""}, "units"};
-    case DocumentKind::DefaultUnits:
-        return {"/DefaultUnitConfiguration", "getConfiguration",
-                QVariantList{"UnitManager/DefaultUnit", module, ""}, "default units"};
-    case DocumentKind::Dependencies:
-        break;
-    }
-    return {"/DependencyConfiguration", "getConfigurationDependency",
-            QVariantList{"UnitManager/Dependency", module}, "dependencies"};
+    static const std::vector<Place> table = {
+        {DocumentKind::Units, "units",
+         '/' + DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration(), "getConfiguration",
+         QVariantList{"UnitManager/UnitType", module, ""}},
+        {DocumentKind::DefaultUnits, "default-units", "/DefaultUnitConfiguration", "getConfiguration",
+         QVariantList{"UnitManager/DefaultUnit", module, ""}},
+        {DocumentKind::Dependencies, "dependencies", "/DependencyConfiguration", "getConfigurationDependency",
+         QVariantList{"UnitManager/Dependency", module}}};
+    return table;
+}
+
+const Place& placeOf(DocumentKind kind)
+{
+    return *std::find_if(places().begin(), places().end(),
+                         [kind](const Place& place) { return place.kind == kind; });
 }
 
 QString serviceName()
@@ -74,6 +81,23 @@ QDBusMessage send(const QDBusConnection& connection, QDBusMessage call, const QV
 
 } // namespace
 
+QStringList RunningService::documentNames()
+{
+    QStringList names;
+    for (const Place& place : places())
+        names.append(place.name);
+    return names;
+}
+
+std::optional<DocumentKind> RunningService::kindNamed(const QString& name)
+{
+    for (const Place& place : places()) {
+        if (place.name == name)
+            return place.kind;
+    }
+    return std::nullopt;
+}
+
 RunningService::RunningService(const QDBusConnection& connection) : m_connection(connection) {}
 
 Result<RunningService> RunningService::find(const QString& bus)
@@ -95,7 +119,7 @@ Result<RunningService> RunningService::find(const QString& bus)
 
 Result<QString> RunningService::text(DocumentKind kind) const
 {
-    const Place place = placeOf(kind);
+    const Place& place = placeOf(kind);
     const QDBusMessage reply = call(place.object, interfaceName, place.method, place.arguments);
     if (reply.type() == QDBusMessage::ReplyMessage)
         return reply.arguments().value(0).toString();
@@ -117,7 +141,7 @@ Result<RunningService::State> RunningService::state(DocumentKind kind) const
 Failure RunningService::missing(DocumentKind kind) const
 {
     const QString reason =
-        "the configuration service has no valid document of " + placeOf(kind).description + " yet";
+        "the configuration service has no valid document \"" + placeOf(kind).name + "\" yet";
     const auto known = state(kind);
     return {known && !known->lastRefusal.isEmpty() ? reason + ": " + known->lastRefusal : reason};
 }

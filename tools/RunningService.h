@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QVariantList>
 #include <QtDBus/QDBusConnection>
+
+#include <optional>
 
 #include "DocumentChecker.h"
 #include "Result.h"
@@ -21,6 +24,11 @@ public:
         QString checksum;
         QString lastRefusal;
     };
+
+    /// "units", "default-units" and "dependencies".
+    static QStringList documentNames();
+    /// @return no value for a text that is not one of the names
+    static std::optional<DocumentKind> kindNamed(const QString& name);
 
     /// Finds the service on the device's bus, which is @p bus from now on.
     ///

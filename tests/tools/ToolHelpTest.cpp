@@ -42,6 +42,9 @@ void addVerbs()
     row("labels", "labels", QByteArray("[options] [TYPE]"),
         common +
             QStringList{"--missing <LANGUAGE>", "  TYPE  ", "exit code is 0 also if a label is missing"});
+    row("get", "get", QByteArray("[options] DOCUMENT"),
+        QStringList{"-h, --help", "-v, --version", "--bus <BUS>", "DEVICE_BUS", "--state", "--json",
+                    "  DOCUMENT  ", "Example"});
     row("watch", "watch", QByteArray("[options]"),
         QStringList{"-h, --help", "-v, --version", "--verbose", "--bus <BUS>", "DEVICE_BUS", "SIGTERM",
                     "Example"});
@@ -102,7 +105,8 @@ void ToolHelpTest::programHelpListsEveryVerb()
     const ToolRun run = ToolProcess::run({option});
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.standardError, QByteArray());
-    for (const char* verb : {"types", "units", "convert", "table", "label", "labels", "check", "watch"})
+    for (const char* verb :
+         {"types", "units", "convert", "table", "label", "labels", "check", "get", "watch"})
         QVERIFY2(run.standardOutput.contains('\n' + QByteArray(" ") + verb + ' '), verb);
 }
 

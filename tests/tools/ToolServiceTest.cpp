@@ -202,7 +202,7 @@ void ToolServiceTest::missingDocumentIsReported_data()
     QTest::addColumn<QByteArray>("description");
 
     row("units", "units.json", QByteArray("units"));
-    row("default units", "default-units.json", QByteArray("default units"));
+    row("default units", "default-units.json", QByteArray("default-units"));
 }
 
 void ToolServiceTest::missingDocumentIsReported()
@@ -213,8 +213,8 @@ void ToolServiceTest::missingDocumentIsReported()
     QVERIFY(TestFiles::write(served.path(file), "{\n]"));
     QVERIFY(served.start());
     const ToolRun run = ToolProcess::run({"types", "--bus", served.bus().address()});
-    const QByteArray beginning = "unitmanager: the configuration service has no valid document of " +
-                                 description + " yet: " + served.path(file).toUtf8() + ":2:1: ";
+    const QByteArray beginning = "unitmanager: the configuration service has no valid document \"" +
+                                 description + "\" yet: " + served.path(file).toUtf8() + ":2:1: ";
     QVERIFY2(run.standardError.startsWith(beginning), run.standardError.constData());
     QCOMPARE(run.standardError.count('\n'), 1);
     QCOMPARE(run.standardOutput, QByteArray());
