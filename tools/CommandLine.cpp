@@ -5,6 +5,7 @@
 #include "CheckVerb.h"
 #include "Console.h"
 #include "ConvertVerb.h"
+#include "DiffVerb.h"
 #include "GetVerb.h"
 #include "KnownNames.h"
 #include "LabelVerb.h"
@@ -25,6 +26,7 @@ CommandLine::CommandLine()
     m_verbs.push_back(std::make_unique<LabelsVerb>());
     m_verbs.push_back(std::make_unique<CheckVerb>());
     m_verbs.push_back(std::make_unique<GetVerb>());
+    m_verbs.push_back(std::make_unique<DiffVerb>());
     m_verbs.push_back(std::make_unique<WatchVerb>());
 }
 

@@ -89,6 +89,11 @@ QStringList RunningService::documentNames()
     return names;
 }
 
+QString RunningService::documentName(DocumentKind kind)
+{
+    return placeOf(kind).name;
+}
+
 std::optional<DocumentKind> RunningService::kindNamed(const QString& name)
 {
     for (const Place& place : places()) {

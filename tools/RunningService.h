@@ -27,6 +27,7 @@ public:
 
     /// "units", "default-units" and "dependencies".
     static QStringList documentNames();
+    static QString documentName(DocumentKind kind);
     /// @return no value for a text that is not one of the names
     static std::optional<DocumentKind> kindNamed(const QString& name);
 

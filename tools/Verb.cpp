@@ -103,7 +103,8 @@ std::optional<Failure> Verb::wrongCount(const QStringList& arguments) const
     if (arguments.size() < required.size())
         return wrongUsage(required[arguments.size()] + " is missing");
     const int most = m_description.arguments.size();
-    if (arguments.size() > most)
+    const bool isLimited = most == 0 || !m_description.arguments.last().isList;
+    if (isLimited && arguments.size() > most)
         return wrongUsage("too many arguments: " + Console::quoted(arguments[most]));
     return std::nullopt;
 }
@@ -112,7 +113,8 @@ QString Verb::usageLine() const
 {
     QString line = "unitmanager " + m_description.name + " [options]";
     for (const Argument& argument : m_description.arguments)
-        line += argument.isOptional ? " [" + argument.name + ']' : ' ' + argument.name;
+        line += (argument.isOptional ? " [" + argument.name + ']' : ' ' + argument.name) +
+                (argument.isList ? "..." : "");
     return line;
 }
 

@@ -22,6 +22,8 @@ public:
         QString name;
         QString description;
         bool isOptional = false;
+        /// Whether it may be repeated; only the last one may.
+        bool isList = false;
     };
     struct Description
     {

@@ -45,6 +45,9 @@ void addVerbs()
     row("get", "get", QByteArray("[options] DOCUMENT"),
         QStringList{"-h, --help", "-v, --version", "--bus <BUS>", "DEVICE_BUS", "--state", "--json",
                     "  DOCUMENT  ", "Example"});
+    row("diff", "diff", QByteArray("[options] FILE..."),
+        QStringList{"-h, --help", "-v, --version", "--bus <BUS>", "DEVICE_BUS", "--json", "  FILE  ",
+                    "--max-size <BYTES>", "Exit codes", "Example"});
     row("watch", "watch", QByteArray("[options]"),
         QStringList{"-h, --help", "-v, --version", "--verbose", "--bus <BUS>", "DEVICE_BUS", "SIGTERM",
                     "Example"});
@@ -106,7 +109,7 @@ void ToolHelpTest::programHelpListsEveryVerb()
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.standardError, QByteArray());
     for (const char* verb :
-         {"types", "units", "convert", "table", "label", "labels", "check", "get", "watch"})
+         {"types", "units", "convert", "table", "label", "labels", "check", "get", "diff", "watch"})
         QVERIFY2(run.standardOutput.contains('\n' + QByteArray(" ") + verb + ' '), verb);
 }
 
