@@ -18,10 +18,11 @@
 namespace {
 
 const QByteArray threeUnits = R"({
-    "Pressure": { "Bar": { "@displayPosition": 0, "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]] },
-                  "Pascal": { "@displayPosition": 1, "Polynomial": [[0], [1e5]],
+    "Pressure": { "Bar": { "@displayPosition": 0, "DecimalPlaces": 3, "Polynomial": [[0], [1]],
+                           "InversePolynomial": [[0], [1]] },
+                  "Pascal": { "@displayPosition": 1, "DecimalPlaces": 0, "Polynomial": [[0], [1e5]],
                               "InversePolynomial": [[0], [1e-5]] } },
-    "Voltage": { "Volt": { "@displayPosition": 0, "UnitLabel": "V",
+    "Voltage": { "Volt": { "@displayPosition": 0, "DecimalPlaces": 1, "UnitLabel": "V",
                            "Polynomial": [[0], [1]], "InversePolynomial": [[0], [1]] } }
 })";
 /// The tool's output for a served ServiceDocuments::units().
