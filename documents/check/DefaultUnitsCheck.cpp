@@ -1,7 +1,5 @@
 #include "DefaultUnitsCheck.h"
 
-#include <QtCore/QRegularExpression>
-
 #include <algorithm>
 
 #include "MemberNames.h"
@@ -11,10 +9,10 @@
 
 namespace {
 
+/// Whether the text names a unit, alone or after sections of an identifier.
 bool isUnitReference(const QString& text)
 {
-    static const QRegularExpression pattern(QStringLiteral("^([^/]+/)*[A-Za-z][A-Za-z0-9]*\\z"));
-    return pattern.match(text).hasMatch();
+    return !text.split(QLatin1Char('/')).contains(QString());
 }
 
 } // namespace
@@ -50,10 +48,14 @@ void DefaultUnitsCheck::run()
 void DefaultUnitsCheck::checkEntry(const JsonValue& entry)
 {
     const QString name = entry.name();
+    if (UnitTypeNames::isUsable(name) && !UnitTypeNames::isUsual(name) && !name.startsWith(QLatin1Char('@')))
+        m_findings.addAtName(Rule::NameUnusual, entry, name,
+                             DocumentProblem::quoted(name) + " is not a usual name",
+                             QStringLiteral("begin with a letter, and use letters and digits only"));
     if (name.startsWith(QLatin1Char('@'))) {
         m_findings.addAtName(Rule::UnknownMember, entry, name,
                              DocumentProblem::quoted(name) + " is not read by any program");
-    } else if (!UnitTypeNames::isName(name)) {
+    } else if (!UnitTypeNames::isUsable(name)) {
         m_findings.addAtName(Rule::NameInvalid, entry, name,
                              DocumentProblem::quoted(name) + " is not the name of a unit type",
                              QStringLiteral("write the name without prefix, such as \"Pressure\""));

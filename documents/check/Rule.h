@@ -28,6 +28,7 @@ enum class Rule
     DocumentEmpty,
     DocumentRefused,
     NameInvalid,
+    NameUnusual,
     NullNode,
     TypeInvalid,
     TypeEmpty,

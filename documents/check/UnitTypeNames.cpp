@@ -1,14 +1,33 @@
 #include "UnitTypeNames.h"
 
-#include <QtCore/QRegularExpression>
+#include <algorithm>
 
 #include "UnitManager.h"
 #include "UnitManagerDefinitions.h"
 
-bool UnitTypeNames::isName(const QString& text)
+namespace {
+
+bool isLetter(QChar character)
 {
-    static const QRegularExpression pattern(QStringLiteral("^[A-Za-z][A-Za-z0-9]*\\z"));
-    return pattern.match(text).hasMatch();
+    const QChar lowerCase = character.toLower();
+    return character.unicode() < 0x80 && lowerCase >= QLatin1Char('a') && lowerCase <= QLatin1Char('z');
+}
+
+bool isLetterOrDigit(QChar character)
+{
+    return isLetter(character) || (character >= QLatin1Char('0') && character <= QLatin1Char('9'));
+}
+
+} // namespace
+
+bool UnitTypeNames::isUsable(const QString& text)
+{
+    return !text.isEmpty() && !text.contains(QLatin1Char('/'));
+}
+
+bool UnitTypeNames::isUsual(const QString& text)
+{
+    return !text.isEmpty() && isLetter(text[0]) && std::all_of(text.begin(), text.end(), isLetterOrDigit);
 }
 
 QString UnitTypeNames::identifierOf(const QString& name)

@@ -9,7 +9,9 @@ class UnitManager;
 namespace UnitTypeNames {
 
 /// Whether the text can be the name of a unit type or unit: a section of an identifier.
-bool isName(const QString& text);
+bool isUsable(const QString& text);
+/// Whether the name consists of ASCII letters and digits, and begins with a letter.
+bool isUsual(const QString& text);
 /// The library's identifier of a unit type, "UnitManager/UnitType/NAME".
 QString identifierOf(const QString& name);
 /// The text after the last "/".

@@ -14,9 +14,10 @@
 
 namespace {
 
-bool isProperty(const JsonValue& member)
+bool isPropertyOrNote(const JsonValue& member)
 {
-    return member.name().startsWith(QLatin1Char('@'));
+    const QString name = member.name();
+    return name.startsWith(QLatin1Char('@')) || name.startsWith(QLatin1Char('$'));
 }
 
 } // namespace
@@ -47,17 +48,20 @@ void UnitsCheck::run()
 bool UnitsCheck::hasUsableName(const JsonValue& member, const QString& path)
 {
     const QString name = member.name();
-    if (UnitTypeNames::isName(name))
-        return true;
-    if (isProperty(member)) {
-        m_findings.addAtName(Rule::UnknownMember, member, path,
-                             DocumentProblem::quoted(name) + " is not read by any program");
+    const QString quotedName = DocumentProblem::quoted(name);
+    if (isPropertyOrNote(member)) {
+        m_findings.addAtName(Rule::UnknownMember, member, path, quotedName + " is not read by any program");
         return false;
     }
-    m_findings.addAtName(Rule::NameInvalid, member, path,
-                         DocumentProblem::quoted(name) + " cannot be part of an identifier",
-                         QStringLiteral("begin with a letter, and use letters and digits only"));
-    return false;
+    const QString advice = QStringLiteral("begin with a letter, and use letters and digits only");
+    if (!UnitTypeNames::isUsable(name)) {
+        m_findings.addAtName(Rule::NameInvalid, member, path,
+                             quotedName + " cannot be a section of an identifier", advice);
+        return false;
+    }
+    if (!UnitTypeNames::isUsual(name))
+        m_findings.addAtName(Rule::NameUnusual, member, path, quotedName + " is not a usual name", advice);
+    return true;
 }
 
 void UnitsCheck::checkType(const JsonValue& member)
@@ -76,7 +80,7 @@ void UnitsCheck::checkType(const JsonValue& member)
         return;
     }
     const std::vector<JsonValue> members = member.children();
-    if (std::all_of(members.begin(), members.end(), isProperty)) {
+    if (std::all_of(members.begin(), members.end(), isPropertyOrNote)) {
         m_findings.addAtName(Rule::TypeEmpty, member, name,
                              "unit type " + DocumentProblem::quoted(name) + " has no units");
         return;
@@ -104,7 +108,7 @@ void UnitsCheck::checkType(const JsonValue& member)
         }
         structure.checkUnit(unit, type, m_library);
     }
-    const auto properties = std::count_if(members.begin(), members.end(), isProperty);
+    const auto properties = std::count_if(members.begin(), members.end(), isPropertyOrNote);
     type.hasUnusableUnits = type.units.size() + static_cast<std::size_t>(properties) < members.size();
     ConversionCheck(type, m_options, m_findings).run();
     DisplayCheck(type, m_findings).run();

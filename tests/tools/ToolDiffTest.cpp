@@ -262,7 +262,7 @@ void ToolDiffTest::missingDocumentIsTrouble()
     const ToolRun run = ToolProcess::run({"diff", path, "--bus", served.bus().address()});
     QCOMPARE(run.standardError,
              "unitmanager: the configuration service has no valid document \"units\" yet: " +
-                 served.path("units.json").toUtf8() + ": contains no unit type\n");
+                 served.path("units.json").toUtf8() + ":1:1: the document has no unit types\n");
     QCOMPARE(run.standardOutput, QByteArray());
     QCOMPARE(run.exitCode, 2);
 }
