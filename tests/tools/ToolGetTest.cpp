@@ -134,9 +134,9 @@ void ToolGetTest::stateIsPrinted_data()
     const QByteArray valid = ServiceDocuments::units("x");
     row("active", valid, valid, QByteArray("active"), checksum(valid), QByteArray());
     row("refused", valid, QByteArray("{}"), QByteArray("refused"), checksum(valid),
-        QByteArray("contains no unit type"));
+        QByteArray(":1:1: the document has no unit types"));
     row("missing", QByteArray("{}"), QByteArray("{}"), QByteArray("missing"), QByteArray(),
-        QByteArray("contains no unit type"));
+        QByteArray(":1:1: the document has no unit types"));
 }
 
 void ToolGetTest::stateIsPrinted()
@@ -152,7 +152,7 @@ void ToolGetTest::stateIsPrinted()
     QVERIFY(TestFiles::replace(served.path("units.json"), after));
     served.settledAnnouncements();
     if (!refusal.isEmpty())
-        refusal.prepend(served.path("units.json").toUtf8() + ": ");
+        refusal.prepend(served.path("units.json").toUtf8());
 
     const auto orNone = [](const QByteArray& value) {
         return value.isEmpty() ? "none" : value;
