@@ -205,7 +205,7 @@ void CatalogueTest::standardConditionsAreShown_data()
     row("degree Celsius", "AbsoluteTemperature", 20.04, "DegreeCelsius", 20.0);
     row("degree Fahrenheit", "AbsoluteTemperature", 20.04, "DegreeFahrenheit", 68.1);
     row("parts per million", "Ratio", 0.04213, "PartsPerMillion", 421.3);
-    row("grain per pound", "MixingRatio", 7.26, "GrainPerPound", 50.8);
+    row("grain per pound", "MixingRatio", 7.26, "GrainPerPound", 50.82);
 }
 
 void CatalogueTest::standardConditionsAreShown()
