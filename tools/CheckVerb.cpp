@@ -67,6 +67,27 @@ void printJson(const std::vector<Finding>& findings, const CheckedDocuments& doc
     }
 }
 
+void print(const std::vector<Finding>& findings, const CheckedDocuments& documents,
+           const QCommandLineParser& options)
+{
+    if (OutputOptions::isJson(options))
+        printJson(findings, documents);
+    else if (options.isSet(sarifOption))
+        Console::printText(OutputOptions::escaped(SarifLog::text(findings, documents)));
+    else if (!findings.empty() || !documents.hasUnreadable())
+        FindingText::print(findings, documents);
+}
+
+/// The findings of at least a severity.
+std::vector<Finding> withSeverity(std::vector<Finding> findings, Severity least)
+{
+    const auto isLess = [least](const Finding& finding) {
+        return Rules::describe(finding.rule).severity > least;
+    };
+    findings.erase(std::remove_if(findings.begin(), findings.end(), isLess), findings.end());
+    return findings;
+}
+
 } // namespace
 
 CheckVerb::CheckVerb()
@@ -81,7 +102,8 @@ CheckVerb::CheckVerb()
             "line was wrong.\n\n"
             "Examples:\n"
             "  unitmanager check --units units.json --default-units default-units.json\n"
-            "  unitmanager check --units units.json --languages en,de,fr --severity warning"})
+            "  unitmanager check --units units.json --languages en,de,fr --severity warning\n"
+            "  unitmanager check --bus system"})
 {}
 
 void CheckVerb::addOptions(QCommandLineParser& parser) const
@@ -117,22 +139,12 @@ Result<ExitCode> CheckVerb::run(const QCommandLineParser& options, const QString
     const auto checks = checkerOptions(options);
     if (!checks)
         return checks.error();
-    Result<CheckedDocuments> documents = CheckedDocuments::read(options);
+    const auto documents = CheckedDocuments::read(options);
     if (!documents)
         return documents.error();
 
-    std::vector<Finding> findings = documents->check(*checks);
-    findings.erase(std::remove_if(findings.begin(), findings.end(),
-                                  [&least](const Finding& finding) {
-                                      return Rules::describe(finding.rule).severity > *least;
-                                  }),
-                   findings.end());
-    if (OutputOptions::isJson(options))
-        printJson(findings, *documents);
-    else if (options.isSet(sarifOption))
-        Console::printText(OutputOptions::escaped(SarifLog::text(findings, *documents)));
-    else
-        FindingText::print(findings, *documents);
+    const std::vector<Finding> findings = withSeverity(documents->check(*checks), *least);
+    print(findings, *documents, options);
     if (documents->hasUnreadable())
         return Unreadable;
     return findings.empty() ? Succeeded : Failed;

@@ -7,6 +7,7 @@
 #include "CommonOptions.h"
 #include "Console.h"
 #include "DocumentFile.h"
+#include "RunningService.h"
 #include "ShippedDocuments.h"
 #include "Utf8.h"
 
@@ -35,6 +36,8 @@ void CheckedDocuments::addOptions(QCommandLineParser& parser)
 {
     for (const Kind& kind : kinds())
         parser.addOption({kind.option, kind.description, "FILE"});
+    CommonOptions::addOptionalBus(
+        parser, "Check the active documents of the configuration service on this bus in place of files");
     CommonOptions::addMaximumSize(parser);
 }
 
@@ -45,6 +48,9 @@ Result<CheckedDocuments> CheckedDocuments::read(const QCommandLineParser& option
         return maximumSize.error();
     const bool isAnyGiven = std::any_of(kinds().begin(), kinds().end(),
                                         [&options](const Kind& kind) { return options.isSet(kind.option); });
+    if (CommonOptions::isBusGiven(options))
+        return isAnyGiven ? wrongUsage("--bus cannot be combined with names of files")
+                          : readFromService(options);
     CheckedDocuments result;
     for (const Kind& kind : kinds()) {
         if (options.isSet(kind.option))
@@ -55,16 +61,42 @@ Result<CheckedDocuments> CheckedDocuments::read(const QCommandLineParser& option
     return result;
 }
 
+Result<CheckedDocuments> CheckedDocuments::readFromService(const QCommandLineParser& options)
+{
+    const auto bus = CommonOptions::bus(options);
+    if (!bus)
+        return bus.error();
+    CheckedDocuments result;
+    const auto service = RunningService::find(*bus);
+    if (!service) {
+        result.reportUnreadable(service.error().reason);
+        return result;
+    }
+    for (const Kind& kind : kinds()) {
+        const auto text = service->text(kind.kind);
+        if (text)
+            result.m_documents.push_back(
+                {kind.kind, "active " + RunningService::documentName(kind.kind), text->toUtf8()});
+        else
+            result.reportUnreadable(text.error().reason);
+    }
+    return result;
+}
+
 void CheckedDocuments::readFile(DocumentKind kind, const QString& path, int maximumSize)
 {
     DocumentProblem problem;
     const auto bytes = DocumentFile::read(path, DocumentFile::Source::FileOrStream, maximumSize, problem);
-    if (bytes) {
+    if (bytes)
         m_documents.push_back({kind, path, Utf8::withoutByteOrderMark(*bytes)});
-    } else {
-        Console::printError(problem.inFile(path));
-        m_hasUnreadable = true;
-    }
+    else
+        reportUnreadable(problem.inFile(path));
+}
+
+void CheckedDocuments::reportUnreadable(const QString& reason)
+{
+    Console::printError(reason);
+    m_hasUnreadable = true;
 }
 
 bool CheckedDocuments::hasUnreadable() const

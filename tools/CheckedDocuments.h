@@ -27,7 +27,7 @@ public:
     /// The findings, by document and place.
     std::vector<Finding> check(const DocumentChecker::Options& options) const;
 
-    /// The name for messages: the path of the file.
+    /// The name for messages: the path of the file, or for example "active units".
     QString name(DocumentKind kind) const;
     /// The text in UTF-8, without byte order mark.
     const QByteArray& text(DocumentKind kind) const;
@@ -40,7 +40,9 @@ private:
         QByteArray text;
     };
 
+    static Result<CheckedDocuments> readFromService(const QCommandLineParser& options);
     void readFile(DocumentKind kind, const QString& path, int maximumSize);
+    void reportUnreadable(const QString& reason);
     const Document& document(DocumentKind kind) const;
 
     std::vector<Document> m_documents;

@@ -195,8 +195,8 @@ void ConversionCheck::checkInverse(const UnitNode& unit)
     if (!isWrong && !isInaccurate)
         return;
     QString message =
-        QStringLiteral("converting to the base unit and back turns %1 into %2: off by %3 ulp, or "
-                       "%4 units of the last displayed digit")
+        QStringLiteral("converting to the base unit and back turns %1 into %2; values are off by up to %3 "
+                       "ulp, or %4 units of the last displayed digit")
             .arg(text(worst.value), text(worst.result), shortText(worst.ulps), shortText(worst.digits));
     const QString mistake = isWrong && unit.isLinear() ? mistakeIn(unit) : QString();
     if (!mistake.isEmpty())

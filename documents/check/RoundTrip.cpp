@@ -8,6 +8,7 @@ namespace {
 
 const double largestValue = 1e6;
 const int steps = 100;
+const double noticeablyWorse = 1 + 1e-9;
 
 /// The distance from a positive number to the next larger one.
 double ulpOf(double number)
@@ -15,61 +16,69 @@ double ulpOf(double number)
     return std::nextafter(number, std::numeric_limits<double>::infinity()) - number;
 }
 
-double errorOf(double value, double result)
+/// Compares the results of several values.
+class Comparison
 {
-    const double difference = std::abs(result - value);
-    // A result that is not finite is as wrong as can be.
-    return std::isfinite(difference) ? difference : std::numeric_limits<double>::infinity();
-}
+public:
+    explicit Comparison(int decimalPlaces) : m_digitsPerUnit(std::pow(10.0, decimalPlaces)) {}
 
-/// @param scale the largest number of the calculation
-RoundTrip compare(double value, double result, double scale)
-{
-    const double error = errorOf(value, result);
-    return {value, result, error / scale, error / ulpOf(scale), 0};
-}
+    /// @param scale the largest number of the calculation
+    void add(double value, double result, double scale)
+    {
+        const double difference = std::abs(result - value);
+        // A result that is not finite is as wrong as can be.
+        const double error = std::isfinite(difference) ? difference : std::numeric_limits<double>::infinity();
+        m_worst.digits = std::max(m_worst.digits, error * m_digitsPerUnit);
+        m_worst.ulps = std::max(m_worst.ulps, error / ulpOf(scale));
+        // The first one of equally wrong values is the simplest example.
+        if (error / scale > m_worst.relativeError * noticeablyWorse) {
+            m_worst.relativeError = error / scale;
+            m_worst.value = value;
+            m_worst.result = result;
+        }
+    }
 
-void keepWorse(RoundTrip& worst, const RoundTrip& other)
-{
-    if (other.relativeError > worst.relativeError)
-        worst = other;
-}
+    const RoundTrip& worst() const
+    {
+        return m_worst;
+    }
 
-/// Converts a displayed value into the base unit and back.
-RoundTrip ofDisplayedValue(const UnitNode& unit, double value)
+private:
+    const double m_digitsPerUnit;
+    RoundTrip m_worst;
+};
+
+/// The largest number in the conversion of a displayed value into the base unit and back.
+double scaleOf(const UnitNode& unit, double value)
 {
-    const double base = unit.conversion.invertValue(value);
-    const double scale = std::max({std::abs(value), std::abs(unit.coefficients[0]),
-                                   std::abs(unit.coefficients[1] * unit.inverseCoefficients[0]),
-                                   std::numeric_limits<double>::min()});
-    return compare(value, unit.conversion.convertValue(base), scale);
+    return std::max({std::abs(value), std::abs(unit.coefficients[0]),
+                     std::abs(unit.coefficients[1] * unit.inverseCoefficients[0]),
+                     std::numeric_limits<double>::min()});
 }
 
 } // namespace
 
 RoundTrip RoundTrip::ofLinear(const UnitNode& unit)
 {
-    RoundTrip worst;
-    double power = std::pow(10.0, -unit.decimalPlaces.value_or(0));
-    for (; power <= largestValue; power *= 10) {
-        for (const double digit : {1.0, 3.7, -1.0, -3.7})
-            keepWorse(worst, ofDisplayedValue(unit, digit * power));
+    const int decimalPlaces = unit.decimalPlaces.value_or(0);
+    Comparison comparison(decimalPlaces);
+    for (double power = std::pow(10.0, -decimalPlaces); power <= largestValue; power *= 10) {
+        for (const double value : {power, 3.7 * power, -power, -3.7 * power}) {
+            const double base = unit.conversion.invertValue(value);
+            comparison.add(value, unit.conversion.convertValue(base), scaleOf(unit, value));
+        }
     }
-    worst.digits = errorOf(worst.value, worst.result) * std::pow(10.0, unit.decimalPlaces.value_or(0));
-    return worst;
+    return comparison.worst();
 }
 
 RoundTrip RoundTrip::between(const UnitNode& unit, double lowest, double highest)
 {
-    const double first = unit.conversion.convertValue(lowest);
-    const double span = std::abs(unit.conversion.convertValue(highest) - first);
-    RoundTrip worst;
+    const double span =
+        std::abs(unit.conversion.convertValue(highest) - unit.conversion.convertValue(lowest));
+    Comparison comparison(unit.decimalPlaces.value_or(0));
     for (int step = 0; step <= steps; ++step) {
-        const double base = lowest + (highest - lowest) * step / steps;
-        const double value = unit.conversion.convertValue(base);
-        const double result = unit.conversion.convertValue(unit.conversion.invertValue(value));
-        keepWorse(worst, compare(value, result, span));
+        const double value = unit.conversion.convertValue(lowest + (highest - lowest) * step / steps);
+        comparison.add(value, unit.conversion.convertValue(unit.conversion.invertValue(value)), span);
     }
-    worst.digits = errorOf(worst.value, worst.result) * std::pow(10.0, unit.decimalPlaces.value_or(0));
-    return worst;
+    return comparison.worst();
 }

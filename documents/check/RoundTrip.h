@@ -2,17 +2,17 @@
 
 #include "UnitNode.h"
 
-/// The worst result of converting values of a unit there and back.
+/// The worst results of converting values of a unit there and back.
 struct RoundTrip
 {
-    /// A value, and what it becomes.
+    /// The value with the largest relative error, and what it becomes.
     double value = 0;
     double result = 0;
-    /// The error in relation to the largest number of the calculation.
+    /// The largest error in relation to the largest number of the calculation.
     double relativeError = 0;
-    /// The error in units of the last place of that number.
+    /// The largest error in units of the last place of that number.
     double ulps = 0;
-    /// The error in units of the last displayed digit.
+    /// The largest error in units of the last displayed digit.
     double digits = 0;
 
     /// Displayed values of a unit of the form c0 + c1 * x: from the last displayed digit to a million.
