@@ -66,7 +66,8 @@ std::vector<CorpusEntry> Corpus::entries()
         qFatal("expected.json: %s", qPrintable(problem.withPlace()));
     std::vector<CorpusEntry> result;
     for (const JsonValue& member : expected->root().children()) {
-        CorpusEntry entry{member.name(), filesOf(member.name()), {}};
+        CorpusEntry entry{
+            member.name(), filesOf(member.name()), {}, member.member(QStringLiteral("service"))->string()};
         for (const JsonValue& finding : member.member(QStringLiteral("findings"))->children())
             entry.findings.append(finding.string());
         result.push_back(entry);

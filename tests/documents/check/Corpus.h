@@ -27,6 +27,8 @@ struct CorpusEntry
     /// The expected findings, such as "4:5 error inverse-missing Pressure/HectoPascal"; with the file's name
     /// in front for a device.
     QStringList findings;
+    /// What the service does: "refuses", "warns" or "accepts".
+    QString service;
 
     bool isDevice() const;
 };
