@@ -106,6 +106,11 @@ QStringList UnitManager::getListofUnits(const QString& unitType) const
     return m_core.getListofUnits(unitType);
 }
 
+QStringList UnitManager::getUnitsInDisplayOrder(const QString& unitType) const
+{
+    return m_core.getUnitsInDisplayOrder(unitType);
+}
+
 QString UnitManager::getDefaultUnit(const QString& unitType) const
 {
     return m_core.getDefaultUnit(unitType);

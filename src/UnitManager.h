@@ -74,6 +74,9 @@ public:
     QStringList getListofUnitTypes() const;
     /// The units of a unit type, in no particular order; empty for an unknown unit type. Nothing is logged.
     QStringList getListofUnits(const QString& unitType) const;
+    /// The same units as they are listed in a user interface: by display position, then by name; those
+    /// without a position last, by name.
+    QStringList getUnitsInDisplayOrder(const QString& unitType) const;
     /// The name of the default unit; empty for an unknown unit type, with a warning unless it is the
     /// unit-less type.
     QString getDefaultUnit(const QString& unitType) const;

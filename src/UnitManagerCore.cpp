@@ -1,5 +1,7 @@
 #include "UnitManagerCore.h"
 
+#include <QtCore/QSet>
+
 #include <utility>
 
 #include "ConfigurationAndProcessDataDefinitions.h"
@@ -90,6 +92,21 @@ QStringList UnitManagerCore::getListofUnitTypes() const
 QStringList UnitManagerCore::getListofUnits(const QString& unitType) const
 {
     return m_conversionLookUp.getListofUnits(unitType);
+}
+
+QStringList UnitManagerCore::getUnitsInDisplayOrder(const QString& unitType) const
+{
+    const QList<QString> units = m_conversionLookUp.getListofUnits(unitType);
+    QSet<QString> others(units.begin(), units.end());
+    QStringList ordered;
+    for (const QString& unit : m_unitTexts.displayOrder(unitType)) {
+        // The texts also know units without conversion, which are not listed.
+        if (others.remove(unit))
+            ordered.append(unit);
+    }
+    QStringList unordered = others.values();
+    unordered.sort();
+    return ordered + unordered;
 }
 
 QString UnitManagerCore::getDefaultUnit(const QString& unitType) const

@@ -48,6 +48,9 @@ public:
     QStringList getListofUnitTypes() const;
     /// @return the units of the unit type; empty for an unknown unit type. Nothing is logged.
     QStringList getListofUnits(const QString& unitType) const;
+    /// @return the units of the unit type by display position, then by name; those without a position last,
+    /// by name. Empty for an unknown unit type. Nothing is logged.
+    QStringList getUnitsInDisplayOrder(const QString& unitType) const;
     /// @return the name of the default unit; empty for an unknown unit type, with a warning unless it is the
     /// unit-less type.
     QString getDefaultUnit(const QString& unitType) const;

@@ -2,6 +2,11 @@
 
 #include <QtCore/QFileInfo>
 
+#include <algorithm>
+#include <optional>
+#include <utility>
+#include <vector>
+
 #include "ConfigurationAndProcessDataDefinitions.h"
 #include "ConfigurationAndProcessDataParser.h"
 #include "ConfigurationAndProcessDataTools.h"
@@ -15,6 +20,9 @@
 namespace {
 
 const char* const sourceName = "UnitTextManagement/UnitTextHandler";
+
+/// Never part of the name of a unit.
+const QLatin1Char separator('/');
 
 /// The result without a text: empty, but not null.
 const QLatin1String noText("");
@@ -40,15 +48,21 @@ void warnUnknownUnit(const LogContext& context, const QString& unit, const QStri
     context.warning() << "Unknown unit given" << unit << "for unittype" << unitType;
 }
 
-/// Whether the unit has display position 0.
-bool isBaseUnit(const ConfigurationAndProcessDataBase& node)
+/// The position of the unit in lists; 0 for the base unit. No value, with a warning, if it is not an integer.
+std::optional<int> displayPosition(const ConfigurationAndProcessDataBase& node)
 {
     const QVariant position =
         node.getProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyDisplayPosition());
     if (position.canConvert(QVariant::Int))
-        return position.toInt() == 0;
+        return position.toInt();
     loading.warning() << "Cannot convert displayPosition to int:" << position << "!";
-    return false;
+    return {};
+}
+
+/// The key of a unit type's display order.
+QString displayOrderKey(const QString& unitType)
+{
+    return unitType + separator;
 }
 
 } // namespace
@@ -95,6 +109,7 @@ void UnitTextHandler::addUnits(const QString& unitType, const QHash<QString, Bas
 {
     const QVariant treeNodeType(ConfigurationAndProcessDataDefinitions::getKeyDataTypeTreeNode());
     QHash<QString, QVariant> texts;
+    std::vector<std::pair<int, QString>> positions;
     for (auto unit = units.begin(); unit != units.end(); ++unit) {
         const BaseClassSharedPointer& node = unit.value();
         if (!node || node->getProperty(ConfigurationAndProcessDataDefinitions::getKeyDataPropertyType()) !=
@@ -104,11 +119,24 @@ void UnitTextHandler::addUnits(const QString& unitType, const QHash<QString, Bas
             UnitManagerDefinitions::getUnitLabelUrl(), node);
         if (text.isValid())
             texts.insert(unit.key(), text);
-        if (isBaseUnit(*node))
+        const std::optional<int> position = displayPosition(*node);
+        if (position == 0)
             m_baseUnitLabels.insert(unitType, unit.key());
+        if (position)
+            positions.emplace_back(*position, unit.key());
     }
+    std::sort(positions.begin(), positions.end());
+    QStringList order;
+    for (const auto& [position, unit] : positions)
+        order.append(unit);
+    m_baseUnitLabels.insert(displayOrderKey(unitType), order.join(separator));
     if (!texts.isEmpty())
         m_unitTexts.insert(unitType, texts);
+}
+
+QStringList UnitTextHandler::displayOrder(const QString& unitType) const
+{
+    return m_baseUnitLabels.value(displayOrderKey(unitType)).split(separator, Qt::SkipEmptyParts);
 }
 
 bool UnitTextHandler::initByJsonFile(const QString& path)

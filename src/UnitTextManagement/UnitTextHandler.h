@@ -3,6 +3,7 @@
 #include <QtCore/QHash>
 #include <QtCore/QSharedPointer>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
 #include "ConfigurationAndProcessDataBase.h"
@@ -78,7 +79,12 @@ private:
     UNITMANAGER_NO_EXPORT void addUnitType(const QString& unitType, const BaseClassSharedPointer& node);
     UNITMANAGER_NO_EXPORT void addUnits(const QString& unitType,
                                         const QHash<QString, BaseClassSharedPointer>& units);
+    /// The units of a unit type that have a display position, by position, then by name.
+    UNITMANAGER_NO_EXPORT QStringList displayOrder(const QString& unitType) const;
 
     QHash<QString, QHash<QString, QVariant>> m_unitTexts;
+    /// The base unit of each unit type. Also, under the unit type followed by "/", the names of its units in
+    /// display order, joined by "/": neither can be a unit type or a unit. The members of this class are part
+    /// of the binary interface, so there is no table of its own.
     QHash<QString, QString> m_baseUnitLabels;
 };
