@@ -91,7 +91,7 @@ Result<UnitCatalogue> UnitCatalogue::load(const DocumentText& unitsText, const D
         return Failure{unitsText.name + ": contains no unit types that the library can read"};
     if (!catalogue.updateDefaultUnitsByJsonString(textOf(*defaultUnits)) && hasContent(*defaultUnits))
         return Failure{defaultUnitsText.name + ": contains no default units that the library can read"};
-    catalogue.m_document = UnitDocument(**units);
+    catalogue.m_labels = UnitLabels(**units);
     return catalogue;
 }
 
@@ -133,7 +133,7 @@ QStringList UnitCatalogue::units(const UnitType& type) const
         return {type.fixedUnit};
 
     QStringList names;
-    for (const QString& name : getListofUnits(type.id)) {
+    for (const QString& name : getUnitsInDisplayOrder(type.id)) {
         // Skip units without conversion: an entry without unit in the same type has removed them.
         if (decimalPlaces(type, name))
             names.append(name);
@@ -141,12 +141,6 @@ QStringList UnitCatalogue::units(const UnitType& type) const
     const QString base = baseUnit(type);
     if (base == UnitManagerDefinitions::getUnitTypeNoUnit())
         names.append(base);
-    names.removeDuplicates();
-    const auto rank = [this, typeName = afterLastSlash(type.id)](const QString& unit) {
-        return std::make_pair(m_document.displayPosition(typeName, unit), unit);
-    };
-    std::sort(names.begin(), names.end(),
-              [&rank](const QString& left, const QString& right) { return rank(left) < rank(right); });
     return names;
 }
 
@@ -239,12 +233,12 @@ QString UnitCatalogue::label(const UnitType& type, const QString& unit, const QS
 
 QMap<QString, QString> UnitCatalogue::labels(const UnitType& type, const QString& unit) const
 {
-    return m_document.labels(afterLastSlash(type.id), unit);
+    return m_labels.labels(afterLastSlash(type.id), unit);
 }
 
 QStringList UnitCatalogue::languages() const
 {
-    return m_document.languages();
+    return m_labels.languages();
 }
 
 std::optional<unsigned int> UnitCatalogue::decimalPlaces(const UnitType& type, const QString& unit) const

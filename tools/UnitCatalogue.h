@@ -9,7 +9,7 @@
 
 #include "KnownNames.h"
 #include "Result.h"
-#include "UnitDocument.h"
+#include "UnitLabels.h"
 #include "UnitManager.h"
 
 /// The text of a document, and what messages call it.
@@ -80,7 +80,7 @@ public:
 
     /// The unit's label. @return empty for a unit without label
     QString label(const UnitType& type, const QString& unit, const QString& language) const;
-    /// The unit's labels by language; see UnitDocument.
+    /// The unit's labels by language; see UnitLabels.
     QMap<QString, QString> labels(const UnitType& type, const QString& unit) const;
     /// The languages of all labels, "en" first.
     QStringList languages() const;
@@ -99,5 +99,5 @@ private:
     QVector<KnownName> knownNames(const UnitType& type, const QStringList& units) const;
     QStringList unitsLabelled(const UnitType& type, const QString& label) const;
 
-    UnitDocument m_document;
+    UnitLabels m_labels;
 };

@@ -1,22 +1,13 @@
-#include "UnitDocument.h"
+#include "UnitLabels.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 namespace {
 
-const double noPosition = std::numeric_limits<double>::infinity();
-
 QString keyOf(const QString& type, const QString& unit)
 {
     return type + '/' + unit;
-}
-
-double readPosition(const JsonValue& unit)
-{
-    const auto position = unit.member("@displayPosition");
-    return position && position->type() == JsonType::Number ? position->number() : noPosition;
 }
 
 QMap<QString, QString> readLabels(const JsonValue& unit)
@@ -39,29 +30,24 @@ QMap<QString, QString> readLabels(const JsonValue& unit)
 
 } // namespace
 
-UnitDocument::UnitDocument(const JsonDocument& document)
+UnitLabels::UnitLabels(const JsonDocument& document)
 {
     for (const JsonValue& type : document.root().children()) {
         for (const JsonValue& unit : type.children())
-            m_units.insert(keyOf(type.name(), unit.name()), {readPosition(unit), readLabels(unit)});
+            m_labels.insert(keyOf(type.name(), unit.name()), readLabels(unit));
     }
 }
 
-double UnitDocument::displayPosition(const QString& type, const QString& unit) const
+QMap<QString, QString> UnitLabels::labels(const QString& type, const QString& unit) const
 {
-    return m_units.value(keyOf(type, unit), {noPosition, {}}).displayPosition;
+    return m_labels.value(keyOf(type, unit));
 }
 
-QMap<QString, QString> UnitDocument::labels(const QString& type, const QString& unit) const
-{
-    return m_units.value(keyOf(type, unit)).labels;
-}
-
-QStringList UnitDocument::languages() const
+QStringList UnitLabels::languages() const
 {
     QStringList languages;
-    for (const Unit& unit : m_units)
-        languages += unit.labels.keys();
+    for (const QMap<QString, QString>& labels : m_labels)
+        languages += labels.keys();
     languages.removeDuplicates();
     std::sort(languages.begin(), languages.end(), [](const QString& left, const QString& right) {
         return std::make_pair(left != "en", left) < std::make_pair(right != "en", right);

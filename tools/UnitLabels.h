@@ -7,29 +7,23 @@
 
 #include "JsonDocument.h"
 
-/// What the library does not keep of the document of units: display positions, and the labels by language.
+/// The labels of a unit document by language. The library shows one label at a time, and does not tell in
+/// which language it is.
 ///
 /// Unit types are named without prefix.
-class UnitDocument
+class UnitLabels
 {
 public:
-    UnitDocument() = default;
-    explicit UnitDocument(const JsonDocument& document);
+    UnitLabels() = default;
+    explicit UnitLabels(const JsonDocument& document);
 
-    /// The display position; infinity for a unit without one.
-    double displayPosition(const QString& type, const QString& unit) const;
-    /// The unit's labels by language. The language of a label that is a plain text is "*", which means all.
+    /// The labels of a unit by language. The language of a label that is a plain text is "*", which means
+    /// all.
     QMap<QString, QString> labels(const QString& type, const QString& unit) const;
     /// The languages of all labels, "en" first, then by name.
     QStringList languages() const;
 
 private:
-    struct Unit
-    {
-        double displayPosition = 0;
-        QMap<QString, QString> labels;
-    };
-
     /// By "TYPE/UNIT".
-    QHash<QString, Unit> m_units;
+    QHash<QString, QMap<QString, QString>> m_labels;
 };

@@ -194,7 +194,7 @@ void ToolDocumentsTest::listsUnitsInDisplayOrder()
     };
     // By position, then by name; a unit without a usable position comes last.
     const QByteArray document =
-        "{\"Length\": {" + unit("B", "") + ',' + unit("A", R"("@displayPosition": true, )") + ',' +
+        "{\"Length\": {" + unit("B", "") + ',' + unit("A", R"("@displayPosition": null, )") + ',' +
         unit("Tenth", R"("@displayPosition": 10, )") + ',' + unit("D", R"("@displayPosition": 2, )") + ',' +
         unit("C", R"("@displayPosition": 2, )") + ',' + unit("Zero", R"("@displayPosition": 0, )") + "}}";
     const Folder folder;
