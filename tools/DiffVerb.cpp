@@ -36,29 +36,11 @@ Result<Side> readFile(const QString& path, int maximumSize)
     return Side{path, *document, *kind};
 }
 
-Result<JsonDocument> activeDocument(const RunningService& service, DocumentKind kind)
-{
-    const auto text = service.text(kind);
-    if (!text)
-        return text.error();
-    DocumentProblem problem;
-    const auto document = JsonDocument::read(text->toUtf8(), problem);
-    if (!document)
-        return Failure{problem.inFile("active " + RunningService::documentName(kind))};
-    return *document;
-}
-
 QString jsonLine(const Difference& difference, const Side& file)
 {
-    const auto orNull = [](const QJsonValue& value) {
-        return value.isUndefined() ? QJsonValue() : value;
-    };
-    return OutputOptions::jsonLine({{"file", file.name},
-                                    {"document", RunningService::documentName(file.kind)},
-                                    {"path", difference.path},
-                                    {"change", difference.change()},
-                                    {"before", orNull(difference.before)},
-                                    {"after", orNull(difference.after)}});
+    QJsonObject object = difference.toJson(RunningService::documentName(file.kind));
+    object.insert("file", file.name);
+    return OutputOptions::jsonLine(object);
 }
 
 /// Compares one file and prints the differences. @return whether there are any
@@ -67,7 +49,7 @@ Result<bool> compare(const QString& path, int maximumSize, const RunningService&
     const auto file = readFile(path, maximumSize);
     if (!file)
         return file.error();
-    const auto active = activeDocument(service, file->kind);
+    const auto active = service.document(file->kind);
     if (!active)
         return active.error();
     const auto differences = DocumentDifferences::between(*active, file->document, file->kind);

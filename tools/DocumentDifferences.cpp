@@ -234,6 +234,18 @@ QString Difference::change() const
     return after.isUndefined() ? "removed" : "changed";
 }
 
+QJsonObject Difference::toJson(const QString& document) const
+{
+    const auto orNull = [](const QJsonValue& value) {
+        return value.isUndefined() ? QJsonValue() : value;
+    };
+    return {{"document", document},
+            {"path", path},
+            {"change", change()},
+            {"before", orNull(before)},
+            {"after", orNull(after)}};
+}
+
 std::optional<DocumentKind> DocumentDifferences::kindOf(const JsonDocument& document)
 {
     std::optional<DocumentKind> kind;

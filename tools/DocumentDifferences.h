@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QJsonObject>
 #include <QtCore/QJsonValue>
 #include <QtCore/QString>
 #include <QtCore/QVector>
@@ -22,6 +23,8 @@ struct Difference
 
     /// "added", "removed" or "changed".
     QString change() const;
+    /// The members document, path, change, before and after; null in place of a missing value.
+    QJsonObject toJson(const QString& document) const;
 };
 
 /// Compares documents by meaning: numbers as doubles, members in any order, `{"@value": x}` as x. Members of

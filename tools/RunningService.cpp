@@ -15,8 +15,6 @@
 namespace {
 
 const QString interfaceName = "org.measuringdevice.ConfigurationFileHandler";
-const QString propertiesInterface = "org.freedesktop.DBus.Properties";
-const QString busName = "org.freedesktop.DBus";
 
 /// Where the service serves a document.
 struct Place
@@ -72,14 +70,46 @@ QString reasonOf(const QDBusError& error)
     return error.type() == QDBusError::Disconnected ? "it does not answer" : error.message();
 }
 
-QDBusMessage send(const QDBusConnection& connection, QDBusMessage call, const QVariantList& arguments)
+/// A call that does not start its receiver.
+QDBusMessage callTo(const QString& service, const QString& object, const QString& interface,
+                    const QString& method, const QVariantList& arguments)
 {
+    QDBusMessage call = QDBusMessage::createMethodCall(service, object, interface, method);
     call.setArguments(arguments);
     call.setAutoStartService(false);
-    return connection.call(call, QDBus::Block, callTimeout());
+    return call;
+}
+
+QDBusMessage ownerQuestion()
+{
+    const QString bus = "org.freedesktop.DBus";
+    return callTo(bus, "/org/freedesktop/DBus", bus, "NameHasOwner", {serviceName()});
+}
+
+QDBusMessage textQuestion(const Place& place)
+{
+    return callTo(serviceName(), place.object, interfaceName, place.method, place.arguments);
+}
+
+QDBusMessage stateQuestion(const Place& place)
+{
+    return callTo(serviceName(), place.object, "org.freedesktop.DBus.Properties", "GetAll", {interfaceName});
+}
+
+QDBusMessage ask(const QDBusConnection& connection, const QDBusMessage& question)
+{
+    return connection.call(question, QDBus::Block, callTimeout());
 }
 
 } // namespace
+
+QVector<DocumentKind> RunningService::documentKinds()
+{
+    QVector<DocumentKind> kinds;
+    for (const Place& place : places())
+        kinds.append(place.kind);
+    return kinds;
+}
 
 QStringList RunningService::documentNames()
 {
@@ -105,37 +135,60 @@ std::optional<DocumentKind> RunningService::kindNamed(const QString& name)
 
 RunningService::RunningService(const QDBusConnection& connection) : m_connection(connection) {}
 
-Result<RunningService> RunningService::find(const QString& bus)
+Result<RunningService> RunningService::connect(const QString& bus)
 {
     qputenv("DEVICE_BUS", bus.toLocal8Bit());
     const QDBusConnection connection = DBusConnection::getQDBusConnection();
     if (!connection.isConnected())
         return Failure{"cannot reach the bus " + bus + ": " + reasonOf(connection.lastError())};
+    return RunningService(connection);
+}
 
-    const QDBusMessage question =
-        QDBusMessage::createMethodCall(busName, "/org/freedesktop/DBus", busName, "NameHasOwner");
-    const QDBusMessage reply = send(connection, question, {serviceName()});
+Result<RunningService> RunningService::find(const QString& bus)
+{
+    const auto service = connect(bus);
+    if (!service)
+        return service.error();
+    const QDBusMessage reply = ask(service->m_connection, ownerQuestion());
     if (reply.type() != QDBusMessage::ReplyMessage)
         return Failure{"the bus " + bus + " does not answer: " + reply.errorMessage()};
-    if (!reply.arguments().value(0).toBool())
-        return Failure{"no configuration service on the bus " + bus};
-    return RunningService(connection);
+    return reply.arguments().value(0).toBool() ? service : notOnBus(bus);
 }
 
 Result<QString> RunningService::text(DocumentKind kind) const
 {
-    const Place& place = placeOf(kind);
-    const QDBusMessage reply = call(place.object, interfaceName, place.method, place.arguments);
+    const QDBusMessage reply = ask(m_connection, textQuestion(placeOf(kind)));
     if (reply.type() == QDBusMessage::ReplyMessage)
         return reply.arguments().value(0).toString();
-    if (reply.errorName() == interfaceName + ".Error.NoConfiguration")
-        return missing(kind);
-    return unanswered(reply);
+    if (reply.errorName() != interfaceName + ".Error.NoConfiguration")
+        return unanswered(reply);
+    const auto known = state(kind);
+    return missing(kind, known ? known->lastRefusal : QString());
+}
+
+Result<JsonDocument> RunningService::document(DocumentKind kind) const
+{
+    const auto served = text(kind);
+    if (!served)
+        return served.error();
+    DocumentProblem problem;
+    const auto document = JsonDocument::read(served->toUtf8(), problem);
+    return document ? Result<JsonDocument>(*document)
+                    : Failure{problem.inFile("active " + documentName(kind))};
 }
 
 Result<RunningService::State> RunningService::state(DocumentKind kind) const
 {
-    const QDBusMessage reply = call(placeOf(kind).object, propertiesInterface, "GetAll", {interfaceName});
+    return stateFrom(ask(m_connection, stateQuestion(placeOf(kind))));
+}
+
+QDBusPendingCall RunningService::requestState(DocumentKind kind) const
+{
+    return m_connection.asyncCall(stateQuestion(placeOf(kind)), callTimeout());
+}
+
+Result<RunningService::State> RunningService::stateFrom(const QDBusMessage& reply)
+{
     if (reply.type() != QDBusMessage::ReplyMessage)
         return unanswered(reply);
     const auto values = qdbus_cast<QVariantMap>(reply.arguments().value(0));
@@ -143,17 +196,14 @@ Result<RunningService::State> RunningService::state(DocumentKind kind) const
                  values.value("checksum").toString(), values.value("lastRefusal").toString()};
 }
 
-Failure RunningService::missing(DocumentKind kind) const
+Failure RunningService::notOnBus(const QString& bus)
 {
-    const QString reason =
-        "the configuration service has no valid document \"" + placeOf(kind).name + "\" yet";
-    const auto known = state(kind);
-    return {known && !known->lastRefusal.isEmpty() ? reason + ": " + known->lastRefusal : reason};
+    return {"no configuration service on the bus " + bus};
 }
 
-QDBusMessage RunningService::call(const QString& object, const QString& interface, const QString& method,
-                                  const QVariantList& arguments) const
+Failure RunningService::missing(DocumentKind kind, const QString& refusal)
 {
-    return send(m_connection, QDBusMessage::createMethodCall(serviceName(), object, interface, method),
-                arguments);
+    const QString reason =
+        "the configuration service has no valid document \"" + documentName(kind) + "\" yet";
+    return {refusal.isEmpty() ? reason : reason + ": " + refusal};
 }

@@ -49,8 +49,8 @@ void addVerbs()
         QStringList{"-h, --help", "-v, --version", "--bus <BUS>", "DEVICE_BUS", "--json", "  FILE  ",
                     "--max-size <BYTES>", "Exit codes", "Example"});
     row("watch", "watch", QByteArray("[options]"),
-        QStringList{"-h, --help", "-v, --version", "--verbose", "--bus <BUS>", "DEVICE_BUS", "SIGTERM",
-                    "Example"});
+        QStringList{"-h, --help", "-v, --version", "--verbose", "--bus <BUS>", "DEVICE_BUS", "--json",
+                    "SIGTERM", "Example"});
 }
 
 } // namespace
