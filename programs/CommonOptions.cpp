@@ -101,8 +101,8 @@ QString CommonOptions::helpText(const QCommandLineParser& parser, const QString&
 QString CommonOptions::failureText(const QString& program, const Failure& failure, const QString& usage)
 {
     const QString prefix = program + QStringLiteral(": ");
-    const QString reason = prefix + PrintableText::of(failure.reason) + QLatin1Char('\n');
-    if (failure.exitCode != WrongUsage)
-        return reason;
-    return reason + prefix + QStringLiteral("usage: ") + usage + QStringLiteral("; more with --help\n");
+    QString text = prefix + PrintableText::of(failure.reason) + QLatin1Char('\n');
+    if (failure.exitCode == WrongUsage)
+        text += prefix + QStringLiteral("usage: ") + usage + QStringLiteral("; more with --help\n");
+    return text;
 }
