@@ -2,11 +2,11 @@
 # Demonstrates the main functions with the shipped documents: examples/demo.sh BUILD_FOLDER
 set -euo pipefail
 build=${1:?usage: examples/demo.sh BUILD_FOLDER}
-unitmanager=$build/tools/unitmanager
+unitmanager=$(realpath "$build")/tools/unitmanager
 
 show() { # a command as typed by a user, and its output
     printf '\n$ unitmanager'
-    printf ' %q' "$@"
+    printf ' %s' "$@"
     printf '\n'
     "$unitmanager" "$@"
 }
@@ -32,7 +32,7 @@ show table 1 Pressure StandardAtmosphere
 echo
 echo "Units by their labels, which determine the type"
 show convert 14.5 psi bar
-show convert 90 min h
+show convert 20 °C °F
 
 echo
 echo "Labels in three languages, and of a fixed unit"
@@ -51,5 +51,14 @@ echo "Errors are explained"
 show_failing convert 1 Pressure Baar
 show_failing convert 1 Presure Bar
 show_failing convert one Pressure Bar
+
+echo
+echo "Mistakes in documents are found: a decimal comma in a coefficient"
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+sed 's/\[0.06894757293168362\]/["0,06894757293168362"]/' "$build/share/unitmanager/units.json" >"$folder/units.json"
+cd "$folder"
+show_failing check --units units.json
+cd - >/dev/null
 
 "$(dirname "${BASH_SOURCE[0]}")/live-demo.sh" "$build"
