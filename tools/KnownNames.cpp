@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The wrong characters in @p name if it stands for the nearest of @p spellings.
+/// The wrong characters in @p name if the nearest of @p spellings is meant.
 std::optional<int> fewestSlips(const QString& name, const QStringList& spellings)
 {
     std::optional<int> fewest;

@@ -10,7 +10,7 @@ LabelVerb::LabelVerb()
     : CatalogueVerb({"label",
                      "Shows the label of a unit.",
                      {{"TYPE", UnitWords::typeDescription(), true},
-                      {"UNIT", "Unit, such as Bar. TYPE alone stands for its default unit."}},
+                      {"UNIT", "Unit, such as Bar. TYPE alone means its default unit."}},
                      UnitWords::rules() + "\nA unit without label gives an empty line.\n\n"
                                           "Examples:\n"
                                           "  unitmanager label AbsoluteTemperature Kelvin --language de\n"

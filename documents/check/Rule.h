@@ -86,12 +86,12 @@ enum class Scope
 /// A rule as shown to the user.
 struct RuleDescription
 {
-    Rule rule;
-    Severity severity;
+    Rule rule = Rule::Syntax;
+    Severity severity = Severity::Error;
     /// Stable: scripts select findings by it.
-    const char* name;
+    const char* name = "";
     /// What is wrong when the rule is violated; one sentence without full stop.
-    const char* summary;
+    const char* summary = "";
     Scope scope = Scope::Document;
 };
 
