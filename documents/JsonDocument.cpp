@@ -2,7 +2,7 @@
 
 #include <QtCore/QStringList>
 
-#include <algorithm>
+#include <charconv>
 #include <utility>
 
 #include "JsonReader.h"
@@ -25,10 +25,10 @@ double JsonValue::number() const
 {
     if (type() != JsonType::Number)
         return 0.0;
-    const char* const end = std::find_if(begin(), m_tree->bytes.end(), [](char byte) {
-        return std::string_view(",]} \t\r\n").find(byte) != std::string_view::npos;
-    });
-    return QByteArray::fromRawData(begin(), static_cast<int>(end - begin())).toDouble();
+    // The number has been checked: it is valid and finite, or too small for a double.
+    double value = 0.0;
+    std::from_chars(begin(), m_tree->bytes.end(), value);
+    return value;
 }
 
 QString JsonValue::string() const
@@ -39,6 +39,10 @@ QString JsonValue::string() const
 std::vector<JsonValue> JsonValue::children() const
 {
     std::vector<JsonValue> result;
+    std::size_t count = 0;
+    for (quint32 child = m_index + 1; child != node().next; child = m_tree->nodes[child].next)
+        ++count;
+    result.reserve(count);
     for (quint32 child = m_index + 1; child != node().next; child = m_tree->nodes[child].next)
         result.push_back({*m_tree, child});
     return result;
@@ -50,8 +54,9 @@ std::optional<JsonValue> JsonValue::member(const QString& name) const
         return {};
     const QByteArray utf8 = name.toUtf8();
     for (quint32 child = m_index + 1; child != node().next; child = m_tree->nodes[child].next) {
-        if (JsonString::equals(m_tree->bytes.constData() + m_tree->nodes[child].name, utf8))
-            return JsonValue(*m_tree, child);
+        const JsonValue value(*m_tree, child);
+        if (value.isNamed(utf8))
+            return value;
     }
     return {};
 }
@@ -60,6 +65,12 @@ QString JsonValue::name() const
 {
     return node().name == JsonTree::noName ? QString()
                                            : JsonString::decoded(m_tree->bytes.constData() + node().name);
+}
+
+bool JsonValue::isNamed(const QByteArray& utf8) const
+{
+    return node().name != JsonTree::noName &&
+           JsonString::equals(m_tree->bytes.constData() + node().name, utf8);
 }
 
 TextPlace JsonValue::namePlace() const

@@ -30,6 +30,8 @@ public:
 
     /// The name of a member; empty for an element and for the root.
     QString name() const;
+    /// Whether the name of a member is @p utf8. Faster than to compare name().
+    bool isNamed(const QByteArray& utf8) const;
     /// Where the name begins, with its quote; the value's place for an element and for the root.
     TextPlace namePlace() const;
     /// Where the value begins.

@@ -11,6 +11,7 @@
 
 namespace {
 
+const int longestSurelyFinite = 300;
 const char* const notANumber = "NaN and infinity are not numbers in JSON";
 
 bool isDigit(char character)
@@ -176,14 +177,18 @@ bool JsonReader::readNumber()
     const char* const point = m_at;
     if (*m_at == '.' && !(++m_at, skipDigits()))
         return fail(point, "write a digit after the decimal point, as in 1.0");
-    if (*m_at == 'e' || *m_at == 'E') {
+    const bool hasExponent = *m_at == 'e' || *m_at == 'E';
+    if (hasExponent) {
         ++m_at;
         if (*m_at == '+' || *m_at == '-')
             ++m_at;
         if (!skipDigits())
             return fail(m_at, "write a digit in the exponent, as in 1e3");
     }
-    if (std::isinf(QByteArray::fromRawData(start, static_cast<int>(m_at - start)).toDouble()))
+    // Without exponent, only a very long number can be too large.
+    const bool mayBeTooLarge = hasExponent || m_at - start > longestSurelyFinite;
+    if (mayBeTooLarge &&
+        std::isinf(QByteArray::fromRawData(start, static_cast<int>(m_at - start)).toDouble()))
         return fail(start, "too large for a number of double precision, whose limit is about 1.8e308",
                     Kind::NumberOverflow);
     return true;

@@ -9,12 +9,6 @@
 
 namespace {
 
-const QString& english()
-{
-    static const QString language = QStringLiteral("en");
-    return language;
-}
-
 bool areLetters(const QString& text, char first, char last)
 {
     return std::all_of(text.begin(), text.end(), [first, last](QChar character) {
@@ -50,28 +44,33 @@ bool hasUnusualCharacters(const QString& text)
 
 } // namespace
 
-LabelCheck::LabelCheck(const TypeNode& type, const QStringList& languages, Findings& findings)
+LabelCheck::LabelCheck(const TypeNode& type, const std::vector<QByteArray>& languages, Findings& findings)
     : m_type(type), m_languages(languages), m_findings(findings)
 {}
 
-QStringList LabelCheck::requiredLanguages(const JsonDocument& document, const QStringList& given)
+std::vector<QByteArray> LabelCheck::requiredLanguages(const JsonDocument& document, const QStringList& given)
 {
-    QSet<QString> languages(given.begin(), given.end());
-    languages.insert(english());
+    std::vector<QByteArray> languages{QByteArrayLiteral("en")};
+    const auto add = [&languages](const JsonValue& text) {
+        const bool isNew = std::none_of(languages.begin(), languages.end(),
+                                        [&text](const QByteArray& known) { return text.isNamed(known); });
+        if (isNew && isLanguage(text.name()))
+            languages.push_back(text.name().toUtf8());
+    };
     if (given.isEmpty()) {
         for (const JsonValue& type : document.root().children()) {
             for (const JsonValue& unit : type.children()) {
                 const auto texts = textsOf(unit.member(QStringLiteral("UnitLabel")));
-                for (const JsonValue& text : texts ? texts->children() : std::vector<JsonValue>()) {
-                    if (isLanguage(text.name()))
-                        languages.insert(text.name());
-                }
+                for (const JsonValue& text : texts ? texts->children() : std::vector<JsonValue>())
+                    add(text);
             }
         }
     }
-    QStringList result(languages.begin(), languages.end());
-    result.sort();
-    return result;
+    for (const QString& language : given)
+        languages.push_back(language.toUtf8());
+    std::sort(languages.begin(), languages.end());
+    languages.erase(std::unique(languages.begin(), languages.end()), languages.end());
+    return languages;
 }
 
 void LabelCheck::run()
@@ -100,7 +99,7 @@ void LabelCheck::checkLabel(const UnitNode& unit)
         return;
     }
     for (const JsonValue& member : unit.label->children()) {
-        if (member.name() != QLatin1String("@value"))
+        if (!member.isNamed("@value"))
             m_findings.addAtName(Rule::UnknownMember, member, path + '/' + member.name(),
                                  "no program reads " + DocumentProblem::quoted(member.name()) +
                                      " of a label");
@@ -113,9 +112,14 @@ void LabelCheck::checkLabel(const UnitNode& unit)
 
 void LabelCheck::checkLanguages(const UnitNode& unit, const std::vector<JsonValue>& texts)
 {
-    QStringList missing = m_languages;
-    for (const JsonValue& text : texts)
-        missing.removeOne(text.name());
+    QStringList missing;
+    for (const QByteArray& language : m_languages) {
+        const bool isThere = std::any_of(texts.begin(), texts.end(), [&language](const JsonValue& text) {
+            return text.isNamed(language);
+        });
+        if (!isThere)
+            missing.append(QString::fromUtf8(language));
+    }
     if (!missing.isEmpty())
         m_findings.addAtName(Rule::LanguageMissing, *unit.label, unit.path + "/UnitLabel",
                              "the label lacks " + missing.join(QStringLiteral(", ")));

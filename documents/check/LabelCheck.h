@@ -10,13 +10,13 @@ class LabelCheck
 {
 public:
     /// @param languages those that every label must have; all arguments must outlive the object
-    LabelCheck(const TypeNode& type, const QStringList& languages, Findings& findings);
+    LabelCheck(const TypeNode& type, const std::vector<QByteArray>& languages, Findings& findings);
 
     void run();
 
     /// The given languages, or if none are given, all of the document; always with English, on which the
-    /// library falls back. Sorted.
-    static QStringList requiredLanguages(const JsonDocument& document, const QStringList& given);
+    /// library falls back. In UTF-8, sorted.
+    static std::vector<QByteArray> requiredLanguages(const JsonDocument& document, const QStringList& given);
 
 private:
     void checkLabel(const UnitNode& unit);
@@ -25,6 +25,6 @@ private:
     void checkDuplicates();
 
     const TypeNode& m_type;
-    const QStringList& m_languages;
+    const std::vector<QByteArray>& m_languages;
     Findings& m_findings;
 };

@@ -26,6 +26,8 @@ public:
     void add(double value, double result, double scale)
     {
         const double difference = std::abs(result - value);
+        if (difference == 0)
+            return;
         // A result that is not finite is as wrong as can be.
         const double error = std::isfinite(difference) ? difference : std::numeric_limits<double>::infinity();
         m_worst.digits = std::max(m_worst.digits, error * m_digitsPerUnit);
