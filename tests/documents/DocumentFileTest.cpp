@@ -6,6 +6,7 @@
 #include <QtTest/QTest>
 
 #include <cerrno>
+#include <cstring>
 #include <fcntl.h>
 #include <future>
 #include <sys/stat.h>
@@ -167,7 +168,7 @@ void DocumentFileTest::forbiddenFileIsAProblem()
     QVERIFY(ordinary.isEffective());
     DocumentProblem problem;
     QVERIFY(!DocumentFile::read(m_path, Source::RegularFile, 8, problem));
-    QCOMPARE(problem.withPlace(), qt_error_string(EACCES));
+    QCOMPARE(problem.withPlace(), QString::fromLocal8Bit(std::strerror(EACCES)));
 }
 
 void DocumentFileTest::endlessStreamIsAProblem()
