@@ -96,6 +96,7 @@ void UnitsCheck::checkType(const JsonValue& member)
     }
 
     TypeNode type = readType(member);
+    type.units.reserve(members.size());
     UnitStructureCheck structure(m_findings);
     for (const JsonValue& unit : members) {
         const QString path = name + '/' + unit.name();
