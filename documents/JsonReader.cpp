@@ -350,7 +350,8 @@ bool JsonReader::failExpecting(const char* expected)
                               .arg(place.line)
                               .arg(place.column));
     }
-    if (*m_at == '/' || *m_at == '#')
+    const bool isSlashComment = *m_at == '/' && (m_at[1] == '/' || m_at[1] == '*');
+    if (isSlashComment || *m_at == '#')
         return fail(m_at, "remove the comment; JSON has none");
     if (*m_at == '\'')
         return fail(m_at, "write double quotes instead of single quotes");

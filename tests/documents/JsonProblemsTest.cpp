@@ -124,6 +124,7 @@ void JsonProblemsTest::addNumbers()
     addNumber("1E-x", "1:10: write a digit in the exponent, as in 1e3");
     addNumber("1.2.3", "1:10: expected \",\" or \"}\"");
     addNumber("0x10", "1:8: expected \",\" or \"}\"");
+    addNumber("1000/60", "1:11: expected \",\" or \"}\"");
     addNumber("1,5", "1:9: expected a name in double quotes");
     for (const char* number : {"NaN", "nan", "Infinity", "-Infinity", "inf", "-inf"})
         addNumber(number, "1:7: NaN and infinity are not numbers in JSON");
