@@ -9,6 +9,7 @@
 #include "CheckedDocuments.h"
 #include "Console.h"
 #include "FindingText.h"
+#include "LabelCheck.h"
 #include "NumberText.h"
 #include "OutputOptions.h"
 #include "SarifLog.h"
@@ -27,7 +28,7 @@ Result<DocumentChecker::Options> checkerOptions(const QCommandLineParser& option
     DocumentChecker::Options result;
     if (options.isSet(languagesOption)) {
         result.languages = options.value(languagesOption).split(',');
-        if (result.languages.contains(QString()))
+        if (!std::all_of(result.languages.begin(), result.languages.end(), LabelCheck::isLanguage))
             return wrongUsage("--languages must be a list such as en,de,fr");
     }
     if (options.isSet(rangeOption)) {

@@ -9,23 +9,15 @@
 
 namespace {
 
+/// The languages that one finding lists; a document may have thousands.
+const int mostMissing = 20;
+const std::size_t mostUsual = 10;
+
 bool areLetters(const QString& text, char first, char last)
 {
     return std::all_of(text.begin(), text.end(), [first, last](QChar character) {
         return character >= QLatin1Char(first) && character <= QLatin1Char(last);
     });
-}
-
-/// Whether the text has the form of "de" or "de_AT".
-bool isLanguage(const QString& text)
-{
-    const int separator = text.indexOf(QLatin1Char('_'));
-    const QString language = text.left(separator);
-    const bool isShort = language.size() == 2 || language.size() == 3;
-    if (separator < 0 || !isShort)
-        return isShort && areLetters(language, 'a', 'z');
-    const QString country = text.mid(separator + 1);
-    return country.size() == 2 && areLetters(language, 'a', 'z') && areLetters(country, 'A', 'Z');
 }
 
 /// The object with a text per language; no value if the label is not valid.
@@ -44,18 +36,36 @@ bool hasUnusualCharacters(const QString& text)
 
 } // namespace
 
-LabelCheck::LabelCheck(const TypeNode& type, const std::vector<QByteArray>& languages, Findings& findings)
+LabelCheck::LabelCheck(const TypeNode& type, const QStringList& languages, Findings& findings)
     : m_type(type), m_languages(languages), m_findings(findings)
 {}
 
-std::vector<QByteArray> LabelCheck::requiredLanguages(const JsonDocument& document, const QStringList& given)
+bool LabelCheck::isLanguage(const QString& text)
 {
-    std::vector<QByteArray> languages{QByteArrayLiteral("en")};
-    const auto add = [&languages](const JsonValue& text) {
-        const bool isNew = std::none_of(languages.begin(), languages.end(),
-                                        [&text](const QByteArray& known) { return text.isNamed(known); });
-        if (isNew && isLanguage(text.name()))
-            languages.push_back(text.name().toUtf8());
+    const int separator = text.indexOf(QLatin1Char('_'));
+    const QString language = text.left(separator);
+    const bool isShort = language.size() == 2 || language.size() == 3;
+    if (separator < 0 || !isShort)
+        return isShort && areLetters(language, 'a', 'z');
+    const QString country = text.mid(separator + 1);
+    return country.size() == 2 && areLetters(language, 'a', 'z') && areLetters(country, 'A', 'Z');
+}
+
+QStringList LabelCheck::requiredLanguages(const JsonDocument& document, const QStringList& given)
+{
+    QSet<QString> languages(given.begin(), given.end());
+    languages.insert(QStringLiteral("en"));
+    // Most documents have a few languages, which are not decoded again and again.
+    std::vector<QByteArray> usual{QByteArrayLiteral("en")};
+    const auto add = [&languages, &usual](const JsonValue& text) {
+        const bool isUsual = std::any_of(usual.begin(), usual.end(), [&text](const QByteArray& language) {
+            return text.isNamed(language);
+        });
+        if (isUsual || !isLanguage(text.name()))
+            return;
+        languages.insert(text.name());
+        if (usual.size() < mostUsual)
+            usual.push_back(text.name().toUtf8());
     };
     if (given.isEmpty()) {
         for (const JsonValue& type : document.root().children()) {
@@ -66,11 +76,9 @@ std::vector<QByteArray> LabelCheck::requiredLanguages(const JsonDocument& docume
             }
         }
     }
-    for (const QString& language : given)
-        languages.push_back(language.toUtf8());
-    std::sort(languages.begin(), languages.end());
-    languages.erase(std::unique(languages.begin(), languages.end()), languages.end());
-    return languages;
+    QStringList result(languages.begin(), languages.end());
+    result.sort();
+    return result;
 }
 
 void LabelCheck::run()
@@ -112,13 +120,18 @@ void LabelCheck::checkLabel(const UnitNode& unit)
 
 void LabelCheck::checkLanguages(const UnitNode& unit, const std::vector<JsonValue>& texts)
 {
+    QSet<QString> present;
+    for (const JsonValue& text : texts)
+        present.insert(text.name());
     QStringList missing;
-    for (const QByteArray& language : m_languages) {
-        const bool isThere = std::any_of(texts.begin(), texts.end(), [&language](const JsonValue& text) {
-            return text.isNamed(language);
-        });
-        if (!isThere)
-            missing.append(QString::fromUtf8(language));
+    for (const QString& language : m_languages) {
+        if (present.contains(language))
+            continue;
+        if (missing.size() == mostMissing) {
+            missing.append(QStringLiteral("..."));
+            break;
+        }
+        missing.append(language);
     }
     if (!missing.isEmpty())
         m_findings.addAtName(Rule::LanguageMissing, *unit.label, unit.path + "/UnitLabel",

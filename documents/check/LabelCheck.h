@@ -10,13 +10,15 @@ class LabelCheck
 {
 public:
     /// @param languages those that every label must have; all arguments must outlive the object
-    LabelCheck(const TypeNode& type, const std::vector<QByteArray>& languages, Findings& findings);
+    LabelCheck(const TypeNode& type, const QStringList& languages, Findings& findings);
 
     void run();
 
+    /// Whether the text has the form of "de" or "de_AT".
+    static bool isLanguage(const QString& text);
     /// The given languages, or if none are given, all of the document; always with English, on which the
-    /// library falls back. In UTF-8, sorted.
-    static std::vector<QByteArray> requiredLanguages(const JsonDocument& document, const QStringList& given);
+    /// library falls back. Sorted.
+    static QStringList requiredLanguages(const JsonDocument& document, const QStringList& given);
 
 private:
     void checkLabel(const UnitNode& unit);
@@ -25,6 +27,6 @@ private:
     void checkDuplicates();
 
     const TypeNode& m_type;
-    const std::vector<QByteArray>& m_languages;
+    const QStringList& m_languages;
     Findings& m_findings;
 };

@@ -26,6 +26,6 @@ private:
     const UnitManager& m_library;
     const DocumentChecker::Options& m_options;
     /// Those that every label must have.
-    const std::vector<QByteArray> m_languages;
+    const QStringList m_languages;
     Findings& m_findings;
 };

@@ -322,6 +322,10 @@ void ToolCheckTest::rejectsWrongUsage_data()
         QByteArray("--severity must be error, warning or note"));
     row("empty language", QStringList{"--languages", "en,,de"},
         QByteArray("--languages must be a list such as en,de,fr"));
+    row("language in upper case", QStringList{"--languages", "en,DE"},
+        QByteArray("--languages must be a list such as en,de,fr"));
+    row("blank in a list of languages", QStringList{"--languages", "en, de"},
+        QByteArray("--languages must be a list such as en,de,fr"));
     const QByteArray range = "--range must be two numbers, the lower first, such as -40,180";
     row("one limit", QStringList{"--range", "5"}, range);
     row("three limits", QStringList{"--range", "1,2,3"}, range);
