@@ -2,6 +2,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QLocale>
+#include <QtCore/QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -97,6 +98,16 @@ const std::vector<Prefix>& prefixes()
     return table;
 }
 
+/// The power to which a prefix of the label is raised: 3 for "m³/h".
+int prefixPower(const QString& label)
+{
+    static const QRegularExpression power(QStringLiteral("^\\p{L}+\\^?(?:([2²])|[3³])(?![\\p{L}\\d])"));
+    const QRegularExpressionMatch match = power.match(label);
+    if (!match.hasMatch())
+        return 1;
+    return match.captured(1).isEmpty() ? 3 : 2;
+}
+
 } // namespace
 
 ConversionCheck::ConversionCheck(const TypeNode& type, const DocumentChecker::Options& options,
@@ -148,7 +159,8 @@ void ConversionCheck::checkUnit(const UnitNode& unit, bool isBase)
                              "the base unit " + DocumentProblem::quoted(unit.name) + " changes values",
                              "write " + listText(0, 1));
     } else if (!isMonotonic(unit)) {
-        const bool isMirrored = unit.coefficients.size() == 1 && unit.polynomial->children().size() == 2;
+        const bool isMirrored = unit.coefficients.size() == 1 && unit.coefficients[0] != 0 &&
+                                unit.polynomial->children().size() == 2;
         m_findings.addAtName(
             Rule::NotMonotonic, *unit.polynomial, path,
             unit.coefficients.size() == 1
@@ -219,14 +231,15 @@ void ConversionCheck::checkPrefixes()
     QSet<const UnitNode*> swapped;
     for (auto entry = unitsByLabel.cbegin(); entry != unitsByLabel.cend(); ++entry) {
         for (const Prefix& prefix : prefixes()) {
-            const UnitNode* const plain = entry.key().startsWith(prefix.text)
-                                              ? unitsByLabel.value(entry.key().mid(prefix.text.size()))
-                                              : nullptr;
+            const QString plainLabel = entry.key().mid(prefix.text.size());
+            const UnitNode* const plain =
+                entry.key().startsWith(prefix.text) ? unitsByLabel.value(plainLabel) : nullptr;
             if (plain == nullptr)
                 continue;
-            const double factor = entry.value()->coefficients[1] * std::pow(10.0, prefix.exponent);
+            const double multiple = std::pow(10.0, prefix.exponent * prefixPower(plainLabel));
+            const double factor = entry.value()->coefficients[1] * multiple;
             const double plainFactor = plain->coefficients[1];
-            const double swappedFactor = std::pow(10.0, prefix.exponent) / entry.value()->coefficients[1];
+            const double swappedFactor = multiple / entry.value()->coefficients[1];
             if (isClose(factor, plainFactor))
                 continue;
             if (isClose(swappedFactor, plainFactor))

@@ -7,6 +7,10 @@
 
 namespace {
 
+/// After so many comparisons with keys of unit types, misspelt keys are no longer searched for: a document
+/// with thousands of own keys would take minutes.
+const int mostComparisons = 500000;
+
 /// A key whose dependents are being visited.
 struct Visit
 {
@@ -16,7 +20,14 @@ struct Visit
 
 bool isKey(const QString& text)
 {
-    return !text.isEmpty() && !text.startsWith(QLatin1Char('@'));
+    return !text.isEmpty() && !text.startsWith(QLatin1Char('@')) && !UnitTypeNames::isTooLong(text);
+}
+
+QString withoutNumber(QString key)
+{
+    while (!key.isEmpty() && key.back().isDigit())
+        key.chop(1);
+    return key;
 }
 
 } // namespace
@@ -34,6 +45,8 @@ DependenciesCheck::DependenciesCheck(const JsonDocument& document, const UnitMan
 
 void DependenciesCheck::run()
 {
+    for (const JsonValue& entry : m_document.root().children())
+        m_entries.insert(entry.name());
     for (const JsonValue& entry : m_document.root().children()) {
         if (!entry.name().startsWith(QLatin1Char('$')))
             checkEntry(entry);
@@ -48,10 +61,11 @@ void DependenciesCheck::checkEntry(const JsonValue& entry)
         m_findings.addAtName(Rule::NullNode, entry, key,
                              "the list of " + DocumentProblem::quoted(key) + " is null");
     } else if (!isKey(key) || entry.type() != JsonType::Array) {
-        m_findings.addAtName(Rule::DependencyInvalid, entry, key,
-                             isKey(key) ? DocumentProblem::quoted(key) + " has no list of keys"
-                                        : QStringLiteral("a key must not be empty or begin with \"@\""),
-                             QStringLiteral("write \"KEY\": [\"KEY\"]"));
+        m_findings.addAtName(
+            Rule::DependencyInvalid, entry, key,
+            isKey(key) ? DocumentProblem::quoted(key) + " has no list of keys"
+                       : QStringLiteral("a key must have 1 to 255 characters, and not begin with \"@\""),
+            QStringLiteral("write \"KEY\": [\"KEY\"]"));
     } else {
         checkKey(entry, key, key);
         checkDependents(entry, entry.children());
@@ -84,15 +98,21 @@ void DependenciesCheck::checkDependents(const JsonValue& entry, const std::vecto
             m_findings.addAtValue(Rule::DependencyDuplicate, dependent, path,
                                   DocumentProblem::quoted(text) + " is listed twice");
         listed.insert(text);
-        checkKey(dependent, text, path);
+        // A key that has an entry leads there; a misspelt one is reported at the entry.
+        if (!m_entries.contains(text))
+            checkKey(dependent, text, path);
     }
     m_dependents.insert(key, dependents);
 }
 
-/// Reports a key that differs a little from that of a unit type. Other keys are the application's own.
+/// Reports a key that differs a little from that of a unit type. Other keys, such as "Pressure2", are the
+/// application's own.
 void DependenciesCheck::checkKey(const JsonValue& at, const QString& key, const QString& path)
 {
-    if (m_typeKeySet.contains(key))
+    if (m_typeKeySet.contains(key) || m_typeKeySet.contains(withoutNumber(key)))
+        return;
+    m_comparisons += m_typeKeys.size();
+    if (m_comparisons > mostComparisons)
         return;
     const QString suggestion = MemberNames::suggestion(key, m_typeKeys);
     if (!suggestion.isEmpty())

@@ -30,5 +30,9 @@ private:
     /// library.
     QStringList m_typeKeys;
     QSet<QString> m_typeKeySet;
+    /// How often a key was compared with one of a unit type.
+    qint64 m_comparisons = 0;
+    /// The names of the document's entries.
+    QSet<QString> m_entries;
     QHash<QString, std::vector<JsonValue>> m_dependents;
 };

@@ -26,16 +26,33 @@ QString adviceForText(QString text)
                          : QStringLiteral("write the number without quotes");
 }
 
+QString adviceForList(std::size_t columns)
+{
+    return columns == 1 ? QStringLiteral("write one list per number, as in [[0], [1000]]")
+                        : QStringLiteral("write one list per point, as in [[0, 4], [10, 20]]");
+}
+
+/// What to do about a row with the wrong number of cells.
+QString adviceForRow(const std::vector<JsonValue>& cells, std::size_t columns, bool isOnlyRow)
+{
+    if (columns != 1 || cells.size() != 2)
+        return columns == 1 ? QStringLiteral("write one number in brackets")
+                            : QStringLiteral("write two numbers in brackets");
+    const bool hasDecimalComma = !isOnlyRow && std::all_of(cells.begin(), cells.end(), isNumber);
+    return hasDecimalComma ? QStringLiteral("write a decimal point instead of the comma")
+                           : adviceForList(columns);
+}
+
 void reportList(const JsonValue& list, const QString& path, std::size_t columns, Findings& findings)
 {
     findings.addAtValue(Rule::CoefficientsInvalid, list, path,
                         list.type() == JsonType::Array ? QStringLiteral("the list is empty")
                                                        : QStringLiteral("this is not a list of lists"),
-                        columns == 1 ? QStringLiteral("write one list per number, as in [[0], [1000]]")
-                                     : QStringLiteral("write one list per point, as in [[0, 4], [10, 20]]"));
+                        adviceForList(columns));
 }
 
-void reportRow(const JsonValue& row, const QString& path, std::size_t columns, Findings& findings)
+void reportRow(const JsonValue& row, const QString& path, std::size_t columns, bool isOnlyRow,
+               Findings& findings)
 {
     const std::vector<JsonValue> cells = row.children();
     if (row.type() == JsonType::Array && cells.size() == columns) {
@@ -45,9 +62,7 @@ void reportRow(const JsonValue& row, const QString& path, std::size_t columns, F
     }
     const QString numbers = columns == 1 ? QStringLiteral("one number") : QStringLiteral("two numbers");
     findings.addAtValue(Rule::CoefficientsInvalid, row, path, "this is not a list with " + numbers,
-                        columns == 1 && cells.size() == 2
-                            ? QStringLiteral("write a decimal point instead of the comma")
-                            : "write " + numbers + " in brackets");
+                        adviceForRow(cells, columns, isOnlyRow));
 }
 
 } // namespace
@@ -64,7 +79,7 @@ bool NumberLists::check(const JsonValue& list, const QString& path, std::size_t 
     });
     if (row == rows.end())
         return true;
-    reportRow(*row, path + '/' + QString::number(row - rows.begin()), columns, findings);
+    reportRow(*row, path + '/' + QString::number(row - rows.begin()), columns, rows.size() == 1, findings);
     return false;
 }
 

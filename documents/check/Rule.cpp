@@ -28,7 +28,9 @@ const std::vector<RuleDescription>& Rules::all()
         {Rule::DocumentRefused, Severity::Error, "document-refused",
          "the library does not load the document"},
         {Rule::NameInvalid, Severity::Error, "name-invalid",
-         "a name is empty or reserved, or has a slash, which separates the sections of identifiers"},
+         "a name is empty, reserved or longer than 255 characters, or has a slash, which separates the "
+         "sections "
+         "of identifiers"},
         {Rule::NameUnusual, Severity::Warning, "name-unusual",
          "a name is not made of letters and digits, or does not begin with a letter"},
         {Rule::NullNode, Severity::Error, "null-node", "null in place of an object, list or value"},

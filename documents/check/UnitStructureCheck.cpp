@@ -1,6 +1,5 @@
 #include "UnitStructureCheck.h"
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -44,13 +43,14 @@ QString adviceForMissingConversion(const JsonValue& unit)
     return advice;
 }
 
-/// Whether the member is a misspelt one of those that the unit lacks.
-bool isMisspelt(const JsonValue& unit, const QString& member, const QStringList& required)
+/// The members that are misspelt ones of those that the unit lacks.
+QStringList misspeltMembers(const JsonValue& unit, const QStringList& required)
 {
-    return std::any_of(required.begin(), required.end(), [&](const QString& name) {
-        const QString misspelt = MemberNames::misspelling(unit, name);
-        return !misspelt.isEmpty() && misspelt == member;
-    });
+    QStringList result;
+    for (const QString& name : required)
+        result.append(MemberNames::misspelling(unit, name));
+    result.removeAll(QString());
+    return result;
 }
 
 /// The whole number from 0 to a maximum; no value for anything else.
@@ -130,13 +130,14 @@ void UnitStructureCheck::checkConversion(UnitNode& unit, const TypeNode& type, c
 void UnitStructureCheck::checkMembers(const UnitNode& unit, const QStringList& required,
                                       const QStringList& optional)
 {
+    const QStringList misspelt = misspeltMembers(unit.value, required);
     for (const JsonValue& member : unit.value.children()) {
         const QString name = member.name();
         const bool isKnown = required.contains(name) || optional.contains(name);
         if (isKnown && member.type() == JsonType::Null) {
             m_findings.addAtName(Rule::NullNode, member, unit.path + '/' + name,
                                  DocumentProblem::quoted(name) + " is null");
-        } else if (!isKnown && !isMisspelt(unit.value, name, required)) {
+        } else if (!isKnown && !misspelt.contains(name)) {
             m_findings.addAtName(Rule::UnknownMember, member, unit.path + '/' + name,
                                  "no program reads " + DocumentProblem::quoted(name) + " of this unit",
                                  MemberNames::suggestion(name, required + optional));

@@ -20,9 +20,15 @@ bool isLetterOrDigit(QChar character)
 
 } // namespace
 
+bool UnitTypeNames::isTooLong(const QString& text)
+{
+    const int longest = 255;
+    return text.size() > longest && text.toUcs4().size() > longest;
+}
+
 bool UnitTypeNames::isUsable(const QString& text)
 {
-    return !text.isEmpty() && !text.contains(QLatin1Char('/'));
+    return !text.isEmpty() && !text.contains(QLatin1Char('/')) && !isTooLong(text);
 }
 
 bool UnitTypeNames::isUsual(const QString& text)
