@@ -35,20 +35,26 @@ void DocumentLoader::update()
     Q_EMIT updated();
 }
 
-/// Logs where the active documents do not fit together, such as a default unit that does not exist.
-void DocumentLoader::logDisagreements() const
+/// Logs where the active documents do not fit together, such as a default unit that does not exist. What was
+/// logged after the last update is not repeated.
+void DocumentLoader::logDisagreements()
 {
     DocumentSet set;
-    for (const ConfigurationDocument& document : m_documents) {
+    for (const ConfigurationDocument& document : qAsConst(m_documents)) {
         DocumentProblem unused;
         set.of(document.kind()) = JsonDocument::read(document.state().text.toUtf8(), unused);
     }
+    QSet<QString> disagreements;
     for (const Finding& finding : DocumentChecker::check(set, {})) {
         if (Rules::describe(finding.rule).scope != Scope::Documents)
             continue;
-        for (const ConfigurationDocument& document : m_documents) {
+        disagreements.insert(finding.text());
+        if (m_disagreements.contains(finding.text()))
+            continue;
+        for (const ConfigurationDocument& document : qAsConst(m_documents)) {
             if (document.kind() == finding.document)
                 FindingLog::writeWarning(document.name(), document.path(), finding);
         }
     }
+    m_disagreements = disagreements;
 }

@@ -2,6 +2,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QSet>
 #include <QtCore/QString>
 
 #include <memory>
@@ -32,8 +33,10 @@ Q_SIGNALS:
     void updated();
 
 private:
-    void logDisagreements() const;
+    void logDisagreements();
 
     QList<ConfigurationDocument> m_documents;
     std::unique_ptr<DocumentWatcher> m_watcher;
+    /// Those that were logged after the last update.
+    QSet<QString> m_disagreements;
 };

@@ -135,6 +135,11 @@ void ServiceRefusalsTest::disagreementOfDocumentsIsLogged()
         R"(:1:2: "Bra" is not a unit of "Pressure"; did you mean "Bar"? [default-unit-unknown])"
         "\n";
     QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count(message), 1, waitLimit);
+
+    // It is not logged again with the next change of another document.
+    QVERIFY(TestFiles::replace(served.path("units.json"), ServiceDocuments::units("next")));
+    QCOMPARE(served.settledAnnouncements(), QStringList{ServiceAnnouncement::units});
+    QCOMPARE(served.service().log().count(message), 1);
 }
 
 void ServiceRefusalsTest::documentMayComeLater_data()
