@@ -12,9 +12,8 @@
 
 namespace {
 
-/// Beyond these errors a value is another value, not an inaccurate one.
-const double wrongLinear = 1e-4;
-const double wrongCurved = 1e-2;
+/// Beyond this relative error a value is another value, not an inaccurate one.
+const double wrongError = 1e-4;
 /// Below this error, in units of the last place, coefficients are as good as doubles can be.
 const double accurateUlps = 8;
 /// The share of one unit of the last displayed digit that is not noticed.
@@ -154,37 +153,46 @@ void ConversionCheck::checkUnit(const UnitNode& unit, bool isBase)
 {
     const QString path = unit.path + "/Polynomial";
     const std::vector<double> identity{0, 1};
+    const bool isCurve = unit.coefficients.size() > 2;
     if (isBase && unit.coefficients != identity) {
         m_findings.addAtName(Rule::BaseNotIdentity, *unit.polynomial, path,
                              "the base unit " + DocumentProblem::quoted(unit.name) + " changes values",
                              "write " + listText(0, 1));
-    } else if (!isMonotonic(unit)) {
-        const bool isMirrored = unit.coefficients.size() == 1 && unit.coefficients[0] != 0 &&
-                                unit.polynomial->children().size() == 2;
+        return;
+    }
+    if (unit.coefficients.size() == 1) {
+        checkConstant(unit);
+        return;
+    }
+    const bool isUsable = !isCurve || isMonotonic(unit);
+    if (!isUsable)
         m_findings.addAtName(
             Rule::NotMonotonic, *unit.polynomial, path,
-            unit.coefficients.size() == 1
-                ? "every value becomes " + text(unit.coefficients[0])
-                : QStringLiteral("different values between %1 and %2 in the base unit become equal")
-                      .arg(text(m_options.lowest), text(m_options.highest)),
-            isMirrored ? "the constant term comes first: write " + listText(0, unit.coefficients[0])
-                       : QString());
-    } else if (!unit.inverse) {
+            QStringLiteral("different values between %1 and %2 in the base unit become equal")
+                .arg(text(m_options.lowest), text(m_options.highest)));
+    if (!unit.inverse)
         m_findings.addAtName(
             Rule::InverseMissing, unit.value, unit.path,
             QStringLiteral("the unit has no \"InversePolynomial\": every value is stored as 0"),
-            MemberNames::adviceForMissing(
-                unit.value, QStringLiteral("InversePolynomial"),
-                unit.isLinear() ? "write \"InversePolynomial\": " + inverseText(unit) : QString()));
-    } else if (!unit.inverseCoefficients.empty()) {
+            MemberNames::adviceForMissing(unit.value, QStringLiteral("InversePolynomial"),
+                                          isCurve ? QString()
+                                                  : "write \"InversePolynomial\": " + inverseText(unit)));
+    else if (isUsable && !unit.inverseCoefficients.empty())
         checkInverse(unit);
-    }
+}
+
+void ConversionCheck::checkConstant(const UnitNode& unit)
+{
+    const double constant = unit.coefficients[0];
+    const bool isMirrored = constant != 0 && unit.polynomial->children().size() == 2;
+    m_findings.addAtName(Rule::ConversionConstant, *unit.polynomial, unit.path + "/Polynomial",
+                         "every value becomes " + text(constant),
+                         isMirrored ? "the constant term comes first: write " + listText(0, constant)
+                                    : QString());
 }
 
 bool ConversionCheck::isMonotonic(const UnitNode& unit) const
 {
-    if (unit.coefficients.size() <= 2)
-        return unit.isLinear();
     const double lowest = m_options.lowest;
     const double step = (m_options.highest - lowest) / monotonicitySteps;
     double previous = unit.conversion.convertValue(lowest);
@@ -202,7 +210,8 @@ void ConversionCheck::checkInverse(const UnitNode& unit)
 {
     const RoundTrip worst = unit.isLinear() ? RoundTrip::ofLinear(unit)
                                             : RoundTrip::between(unit, m_options.lowest, m_options.highest);
-    const bool isWrong = worst.relativeError > (unit.isLinear() ? wrongLinear : wrongCurved);
+    // Nobody knows which part of a curve a device uses, so its inverse is never called wrong.
+    const bool isWrong = unit.isLinear() && worst.relativeError > wrongError;
     const bool isInaccurate = unit.isLinear() ? worst.ulps > accurateUlps : worst.digits > invisibleDigits;
     if (!isWrong && !isInaccurate)
         return;
@@ -210,7 +219,7 @@ void ConversionCheck::checkInverse(const UnitNode& unit)
         QStringLiteral("converting to the base unit and back turns %1 into %2; values are off by up to %3 "
                        "ulp, or %4 units of the last displayed digit")
             .arg(text(worst.value), text(worst.result), shortText(worst.ulps), shortText(worst.digits));
-    const QString mistake = isWrong && unit.isLinear() ? mistakeIn(unit) : QString();
+    const QString mistake = isWrong ? mistakeIn(unit) : QString();
     if (!mistake.isEmpty())
         message += "; " + mistake;
     m_findings.addAtName(isWrong ? Rule::InverseWrong : Rule::InverseInaccurate, *unit.inverse,

@@ -19,6 +19,7 @@ public:
 private:
     const UnitNode* checkBaseUnits();
     void checkUnit(const UnitNode& unit, bool isBase);
+    void checkConstant(const UnitNode& unit);
     bool isMonotonic(const UnitNode& unit) const;
     void checkInverse(const UnitNode& unit);
     void checkPrefixes();

@@ -11,6 +11,9 @@ namespace {
 /// with thousands of own keys would take minutes.
 const int mostComparisons = 500000;
 
+/// Two wrong letters in a shorter key make another word: "Name" is not a misspelt "Time".
+const int shortestMisspelt = 6;
+
 /// A key whose dependents are being visited.
 struct Visit
 {
@@ -115,7 +118,7 @@ void DependenciesCheck::checkKey(const JsonValue& at, const QString& key, const 
     if (m_comparisons > mostComparisons)
         return;
     const QString suggestion = MemberNames::suggestion(key, m_typeKeys);
-    if (!suggestion.isEmpty())
+    if (key.size() >= shortestMisspelt && !suggestion.isEmpty())
         m_findings.addAtName(Rule::DependencyUnknown, at, path,
                              DocumentProblem::quoted(key) + " leads nowhere", suggestion);
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-const double largestValue = 1e6;
+const int largestExponent = 6;
 const int steps = 100;
 const double noticeablyWorse = 1 + 1e-9;
 
@@ -64,7 +64,8 @@ RoundTrip RoundTrip::ofLinear(const UnitNode& unit)
 {
     const int decimalPlaces = unit.decimalPlaces.value_or(0);
     Comparison comparison(decimalPlaces);
-    for (double power = std::pow(10.0, -decimalPlaces); power <= largestValue; power *= 10) {
+    double power = std::pow(10.0, -decimalPlaces);
+    for (int exponent = -decimalPlaces; exponent <= largestExponent; ++exponent, power *= 10) {
         for (const double value : {power, 3.7 * power, -power, -3.7 * power}) {
             const double base = unit.conversion.invertValue(value);
             comparison.add(value, unit.conversion.convertValue(base), scaleOf(unit, value));

@@ -44,6 +44,7 @@ enum class Rule
     InverseWrong,
     InverseInaccurate,
     ConversionSwapped,
+    ConversionConstant,
     NotMonotonic,
     BaseMissing,
     BaseAmbiguous,

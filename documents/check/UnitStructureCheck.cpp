@@ -101,7 +101,7 @@ void UnitStructureCheck::checkConversion(UnitNode& unit, const TypeNode& type, c
     std::vector<std::pair<const ConversionKind*, JsonValue>> kinds;
     for (const ConversionKind& kind : conversionKinds()) {
         if (const auto member = unit.value.member(kind.name))
-            kinds.push_back({&kind, *member});
+            kinds.emplace_back(&kind, *member);
     }
     if (kinds.size() > 1) {
         m_findings.addAtName(Rule::ConversionAmbiguous, unit.value, unit.path,
