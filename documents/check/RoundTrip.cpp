@@ -65,11 +65,12 @@ RoundTrip RoundTrip::ofLinear(const UnitNode& unit)
     const int decimalPlaces = unit.decimalPlaces.value_or(0);
     Comparison comparison(decimalPlaces);
     double power = std::pow(10.0, -decimalPlaces);
-    for (int exponent = -decimalPlaces; exponent <= largestExponent; ++exponent, power *= 10) {
+    for (int exponent = -decimalPlaces; exponent <= largestExponent; ++exponent) {
         for (const double value : {power, 3.7 * power, -power, -3.7 * power}) {
             const double base = unit.conversion.invertValue(value);
             comparison.add(value, unit.conversion.convertValue(base), scaleOf(unit, value));
         }
+        power *= 10;
     }
     return comparison.worst();
 }
