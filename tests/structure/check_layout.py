@@ -105,8 +105,9 @@ def main():
     rows, problems = read_rows(project)
     source = project.scratch / "layout-probes.cpp"
     source.write_text(probe_source(project.installed_headers, rows), encoding="utf-8")
-    dump = run([project.facts["clang"], "-std=c++17", "-fPIC", *project.package_flags("--cflags"), "-emit-llvm", "-c",
-                "-Xclang", "-fdump-vtable-layouts", "-Xclang", "-fdump-record-layouts", source, "-o", "/dev/null"])
+    dump = run([project.facts["clang"], f"--target={project.facts['architecture']}", "-std=c++17", "-fPIC",
+                *project.package_flags("--cflags"), "-emit-llvm", "-c", "-Xclang", "-fdump-vtable-layouts",
+                "-Xclang", "-fdump-record-layouts", source, "-o", "/dev/null"])
     tables, layouts = virtual_functions(dump), records(dump)
     object_slots = tables["Probe0"]
 

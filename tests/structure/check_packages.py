@@ -14,8 +14,7 @@ EXPECTED = "1.013 bar\n"
 def build_with_cmake(project, folder):
     """Builds the program as a separate CMake project that uses the package."""
     run([project.facts["cmake"], "-S", folder, "-B", folder / "build", "-G", project.facts["generator"],
-         f"-DCMAKE_CXX_COMPILER={project.facts['compiler']}", f"-DCMAKE_PREFIX_PATH={project.prefix}",
-         "-DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF"])
+         *project.cmake_options(), "-DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF"])
     run([project.facts["cmake"], "--build", folder / "build"])
     return folder / "build" / "consumer"
 

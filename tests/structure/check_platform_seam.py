@@ -1,7 +1,6 @@
 """The library builds against an installed platform package, without configuring platform/."""
 
 import json
-import os
 import re
 import sys
 
@@ -24,10 +23,9 @@ def main():
     build = project.scratch / "platform-seam"
     (build / REPLY / "query" / "codemodel-v2").mkdir(parents=True, exist_ok=True)
     run([project.facts["cmake"], "--fresh", "-S", project.source, "-B", build, "-G", project.facts["generator"],
-         f"-DCMAKE_CXX_COMPILER={project.facts['compiler']}",
-         f"-DCMAKE_CXX_COMPILER_LAUNCHER={project.facts['compilerLauncher']}", "-DCMAKE_BUILD_TYPE=",
-         "-DUNITMANAGER_PLATFORM_PACKAGE=DevicePlatform", f"-DCMAKE_PREFIX_PATH={project.prefix}",
-         "-DBUILD_TESTING=OFF", "-DUNITMANAGER_BUILD_BENCHMARKS=OFF"])
+         *project.cmake_options(), f"-DCMAKE_CXX_COMPILER_LAUNCHER={project.facts['compilerLauncher']}",
+         "-DCMAKE_BUILD_TYPE=",
+         "-DUNITMANAGER_PLATFORM_PACKAGE=DevicePlatform", "-DBUILD_TESTING=OFF", "-DUNITMANAGER_BUILD_BENCHMARKS=OFF"])
     run([project.facts["cmake"], "--build", build, "--target", "unitmanager"])
 
     targets = configured_targets(build)
@@ -42,7 +40,7 @@ def main():
     if not any(str(project.library_dir) in path.split(":") for path in re.findall(r"\(RUNPATH\).*\[(.*)\]", section)):
         problems.append("the library does not look for the package where it is installed")
 
-    flags = run(["pkg-config", "--cflags", "unitmanager"], env=dict(os.environ, PKG_CONFIG_PATH=str(build / "src")))
+    flags = project.pkg_config(build / "src", "--cflags")
     platform_include = project.include_dir / "device-platform" / "ConfigurationTree"
     if f"-I{platform_include}" not in flags.split():
         problems.append(f"pkg-config does not name {platform_include}")
