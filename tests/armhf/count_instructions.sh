@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# count_instructions.sh ROOT: prints the instructions of a conversion in the three builds release, armhf and cortex-a7.
+# Counts of two runs are subtracted, so that starting the program and loading the documents do not matter.
+set -euo pipefail
+root=$1
+counter=build/armhf-tools/instruction-counter.so
+mkdir -p "$(dirname "$counter")"
+g++ -std=c++17 -O2 -Wall -Wextra -fPIC -shared -o "$counter" "$(dirname "$0")/InstructionCounter.cpp"
+
+count() { # preset, form, number of calls
+    local emulator=(qemu-arm -L "$root")
+    [ "$1" != release ] || emulator=(qemu-x86_64 -cpu max)
+    QT_HASH_SEED=0 "${emulator[@]}" -plugin "$counter" "build/$1/tests/armhf/conversion-costs" "$2" "$3" 2>&1
+}
+
+per_thousand() { # preset, form
+    echo $(($(count "$1" "$2" 2000) - $(count "$1" "$2" 1000)))
+}
+
+printf '%-12s %22s %22s\n' build 'one raw conversion' 'a number of an array'
+for preset in release armhf cortex-a7; do
+    # An array has a thousand numbers.
+    printf '%-12s %22d %22.1f\n' "$preset" $(($(per_thousand "$preset" single) / 1000)) \
+        "$(per_thousand "$preset" run)e-6"
+done
