@@ -11,6 +11,7 @@
 #include "TestProgram.h"
 #include "TextFolder.h"
 #include "UnitManagerDefinitions.h"
+#include "UnitTypes.h"
 
 namespace {
 
@@ -20,7 +21,7 @@ static_assert(std::is_copy_constructible_v<DefaultUnitHandler> &&
 static_assert(std::is_convertible_v<const DefaultUnitHandler&, bool>);
 
 const QString sourceName = QStringLiteral("UnitConversion/DefaultUnitHandler");
-const QString pressure = QStringLiteral("UnitManager/UnitType/Pressure");
+const QString pressure = typeNamed("Pressure");
 const QString document = QStringLiteral(R"({"Pressure": {"@type": "Selection", "@value": "HectoPascal"}})");
 
 QString invalidDocument()
@@ -196,12 +197,12 @@ void DefaultUnitHandlerTest::unknownTypeWarns_data()
 {
     QTest::addColumn<QString>("unitType");
 
-    row("unknown type", "UnitManager/UnitType/Nope");
+    row("unknown type", typeNamed("Nope"));
     row("plain key", "Pressure");
-    row("other spelling", "UnitManager/UnitType/pressure");
+    row("other spelling", typeNamed("pressure"));
     row("fixed unit", pressure + "/Bar");
     row("no unit without prefix", "NoUnit");
-    row("no unit with a slash at the end", "UnitManager/UnitType/NoUnit/");
+    row("no unit with a slash at the end", typeNamed("NoUnit/"));
     row("empty text", "");
 }
 
@@ -223,7 +224,7 @@ void DefaultUnitHandlerTest::noUnitTypeIsSilent()
     QVERIFY(handler.initByJsonString(document));
     QCOMPARE(handler.getDefaultUnit(UnitManagerDefinitions::getUnitTypeUrlNoUnit()), QString());
     QVERIFY(handler.initByJsonString(R"({"NoUnit": {"@type": "Selection", "@value": "a/b"}})"));
-    QCOMPARE(handler.getDefaultUnit(UnitManagerDefinitions::getUnitTypeUrlNoUnit()), QStringLiteral("b"));
+    QCOMPARE(handler.getDefaultUnit(typeNamed("NoUnit")), QStringLiteral("b"));
     QCOMPARE(log.takeTexts(), QStringList());
 }
 

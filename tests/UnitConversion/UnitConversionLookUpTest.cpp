@@ -11,6 +11,7 @@
 #include "SourceMessages.h"
 #include "TestProgram.h"
 #include "TextFolder.h"
+#include "UnitTypes.h"
 
 namespace {
 
@@ -22,8 +23,8 @@ static_assert(std::is_convertible_v<const LookUp&, bool>);
 static_assert(std::is_convertible_v<QString, LookUp>);
 
 const QString sourceName = QStringLiteral("UnitConversion/UnitConversionLookUp");
-const QString pressure = QStringLiteral("UnitManager/UnitType/Pressure");
-const QString unread = QStringLiteral("UnitManager/UnitType/Unread");
+const QString pressure = typeNamed("Pressure");
+const QString unread = typeNamed("Unread");
 
 /// "Unread" is a unit type whose node is null.
 const QString document = QStringLiteral(R"({
@@ -101,8 +102,8 @@ void UnitConversionLookUpTest::readsDocument()
     QVERIFY(usable);
     QVERIFY(lookUp.isValid());
     QCOMPARE(sorted(lookUp.getListofUnitTypes()),
-             QStringList({"UnitManager/UnitType/Bare", "UnitManager/UnitType/NoUnit",
-                          "UnitManager/UnitType/Plain", pressure, unread, "UnitManager/UnitType/Value"}));
+             QStringList({typeNamed("Bare"), typeNamed("NoUnit"), typeNamed("Plain"), pressure, unread,
+                          typeNamed("Value")}));
     lookUp.reset();
     QVERIFY(!lookUp.isValid());
     QCOMPARE(lookUp.getListofUnitTypes(), QList<QString>());
@@ -186,7 +187,7 @@ void UnitConversionLookUpTest::laterDocumentReplacesTheEarlier()
 {
     LookUp lookUp(document);
     QVERIFY(lookUp.initByJsonString(R"({"Time": {"Seconds": {"Polynomial": [[0], [1]]}}})"));
-    QCOMPARE(lookUp.getListofUnitTypes(), QList<QString>{"UnitManager/UnitType/Time"});
+    QCOMPARE(lookUp.getListofUnitTypes(), QList<QString>{typeNamed("Time")});
     QVERIFY(lookUp.initByJsonString(document));
     QCOMPARE(lookUp.getListofUnitTypes().size(), 6);
     QCOMPARE(sorted(lookUp.getListofUnits(pressure)), QStringList({"Bar", "HectoPascal"}));
@@ -223,11 +224,11 @@ void UnitConversionLookUpTest::listsUnits_data()
     QTest::addColumn<QStringList>("units");
 
     row("known type", pressure, QStringList({"Bar", "HectoPascal"}));
-    row("type without unit", "UnitManager/UnitType/NoUnit", QStringList());
-    row("type without units", "UnitManager/UnitType/Bare", QStringList());
-    row("type that is a value", "UnitManager/UnitType/Value", QStringList());
+    row("type without unit", typeNamed("NoUnit"), QStringList());
+    row("type without units", typeNamed("Bare"), QStringList());
+    row("type that is a value", typeNamed("Value"), QStringList());
     row("type without node", unread, QStringList());
-    row("unknown type", "UnitManager/UnitType/Nope", QStringList());
+    row("unknown type", typeNamed("Nope"), QStringList());
     row("plain key", "Pressure", QStringList());
     row("fixed unit", pressure + "/Bar", QStringList());
     row("empty text", "", QStringList());
@@ -268,9 +269,9 @@ void UnitConversionLookUpTest::baseUnits_data()
     QTest::addColumn<QString>("expected");
 
     row("known type", pressure, pressure + "/Bar");
-    row("no unit at position 0", "UnitManager/UnitType/Plain", "UnitManager/UnitType/Plain/");
-    row("type without units", "UnitManager/UnitType/Bare", "UnitManager/UnitType/Bare/");
-    row("type without unit", "UnitManager/UnitType/NoUnit", "UnitManager/UnitType/NoUnit/NoUnit");
+    row("no unit at position 0", typeNamed("Plain"), typeNamed("Plain/"));
+    row("type without units", typeNamed("Bare"), typeNamed("Bare/"));
+    row("type without unit", typeNamed("NoUnit"), typeNamed("NoUnit/NoUnit"));
 }
 
 void UnitConversionLookUpTest::baseUnits()
@@ -285,13 +286,13 @@ void UnitConversionLookUpTest::failsForUnknownTypes_data()
 {
     QTest::addColumn<QString>("unitType");
 
-    row("unknown type", "UnitManager/UnitType/Nope");
+    row("unknown type", typeNamed("Nope"));
     row("plain key", "Pressure");
-    row("other spelling", "UnitManager/UnitType/pressure");
+    row("other spelling", typeNamed("pressure"));
     row("fixed unit", pressure + "/Bar");
     row("type without node", unread);
     row("no unit without prefix", "NoUnit");
-    row("prefix alone", "UnitManager/UnitType/");
+    row("prefix alone", typeNamed(""));
     row("empty text", "");
 }
 

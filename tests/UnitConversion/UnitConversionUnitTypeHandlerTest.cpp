@@ -14,6 +14,7 @@
 #include "RecordingNode.h"
 #include "Row.h"
 #include "TestProgram.h"
+#include "UnitTypes.h"
 
 namespace {
 
@@ -331,14 +332,13 @@ void UnitConversionUnitTypeHandlerTest::baseUnitName_data()
 
     const QString noUnit = QStringLiteral(R"({"NoUnit": {}})");
     row("plain name", pressure, "Pressure", "Pressure/Bar");
-    row("name with prefix", pressure, "UnitManager/UnitType/Pressure", "UnitManager/UnitType/Pressure/Bar");
+    row("name with prefix", pressure, typeNamed("Pressure"), typeNamed("Pressure/Bar"));
     row("the name in the query is used", pressure, "Other", "Other/Bar");
     row("empty name", pressure, "", "/Bar");
     row("no unit", pressure, "NoUnit", "NoUnit");
-    row("no unit with prefix", noUnit, "UnitManager/UnitType/NoUnit", "UnitManager/UnitType/NoUnit/NoUnit");
+    row("no unit with prefix", noUnit, typeNamed("NoUnit"), typeNamed("NoUnit/NoUnit"));
     row("type marked as without unit", noUnit, "Pressure", "Pressure/NoUnit");
-    row("no base unit", R"({"A": {"Polynomial": [1]}})", "UnitManager/UnitType/Plain",
-        "UnitManager/UnitType/Plain/");
+    row("no base unit", R"({"A": {"Polynomial": [1]}})", typeNamed("Plain"), typeNamed("Plain/"));
 }
 
 void UnitConversionUnitTypeHandlerTest::baseUnitName()

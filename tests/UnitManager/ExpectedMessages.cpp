@@ -2,6 +2,8 @@
 
 #include "LogCapture.h"
 #include "MessageText.h"
+#include "UnitManagerDefinitions.h"
+#include "UnitTypes.h"
 
 namespace {
 
@@ -78,6 +80,13 @@ QString Expected::noDefaultUnit(const QString& unitType)
                    "QString DefaultUnitHandler::getDefaultUnit(const QString&) const",
                    QStringLiteral("Cannot find default unit for unitType ") + quoted(unitType) +
                        QStringLiteral(" !"));
+}
+
+QStringList Expected::noDefaultUnitOfUnitLessType()
+{
+    const QString& fixedIdentifier = UnitManagerDefinitions::getUnitTypeUrlNoUnit();
+    const QString onPlatform = typeNamed("NoUnit");
+    return onPlatform == fixedIdentifier ? QStringList() : QStringList{noDefaultUnit(onPlatform)};
 }
 
 QString Expected::noConversion(Conversion conversion, const QString& unitType)

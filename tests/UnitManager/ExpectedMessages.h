@@ -19,6 +19,9 @@ enum class Conversion
 };
 
 QString noDefaultUnit(const QString& unitType);
+/// The unit-less type has no default unit. That is not reported if its identifier on the platform is the one
+/// in UnitManagerDefinitions.
+QStringList noDefaultUnitOfUnitLessType();
 QString noConversion(Conversion conversion, const QString& unitType);
 QString noConversionForDecimalPlaces(const QString& unitType);
 QString noBaseUnit(const QString& unitType);

@@ -11,7 +11,7 @@ QSharedPointer<RecordingValueNode> RecordingValueNode::number(const QVariant& va
 
 QSharedPointer<RecordingValueNode> RecordingValueNode::text(const QVariant& value, const QVariant& unitType)
 {
-    return leaf(Definitions::getKeyDataTypeText(), value, unitType);
+    return leaf(Definitions::getKeyDataTypeSelection(), value, unitType);
 }
 
 QSharedPointer<RecordingValueNode> RecordingValueNode::parentOf(const BaseClassSharedPointer& child)

@@ -13,7 +13,7 @@ public:
     /// A node of the number type; an invalid value or unit type omits that property.
     static QSharedPointer<RecordingValueNode> number(const QVariant& value,
                                                      const QVariant& unitType = QVariant());
-    /// A node of the text type, regardless of the type of its value.
+    /// A node of the selection type, which holds texts, regardless of the type of its value.
     static QSharedPointer<RecordingValueNode> text(const QVariant& value,
                                                    const QVariant& unitType = QVariant());
     /// A node without properties whose only child has the key "Value".

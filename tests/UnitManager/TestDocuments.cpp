@@ -1,5 +1,7 @@
 #include "TestDocuments.h"
 
+#include "UnitTypes.h"
+
 QString TestDocuments::units()
 {
     return QStringLiteral(R"json({
@@ -35,11 +37,11 @@ QString TestDocuments::units()
 
 QString TestDocuments::defaultUnits()
 {
-    return QStringLiteral(R"json({
+    return withPlatformPrefix(QStringLiteral(R"json({
         "Pressure": { "@type": "Selection", "@value": "HectoPascal" },
         "AbsoluteTemperature": { "@type": "Selection",
                                  "@value": "UnitManager/UnitType/AbsoluteTemperature/Celsius" }
-    })json");
+    })json"));
 }
 
 QString TestDocuments::voltage()

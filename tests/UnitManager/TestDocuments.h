@@ -2,7 +2,9 @@
 
 #include <QtCore/QString>
 
-#include <limits>
+#include "ConfigurationAndProcessDataTools.h"
+#include "DebugText.h"
+#include "UnitTypes.h"
 
 /// The documents that the tests of the unit manager load.
 namespace TestDocuments {
@@ -23,18 +25,22 @@ QString voltage();
 namespace TestValue {
 
 /// The platform's marker for values that were not entered.
-constexpr double marker = std::numeric_limits<double>::quiet_NaN();
+const double marker = ConfigurationAndProcessDataTools::getNoInputValueIndicator().toDouble();
+const float floatMarker = static_cast<float>(marker);
+/// The results of toDebugText() for them.
+const QString markerText = toDebugText(QVariant(marker));
+const QString floatMarkerText = toDebugText(QVariant(floatMarker));
 
 } // namespace TestValue
 
 /// The unit types of the documents, including their prefix.
 namespace TestUnitType {
 
-const QString pressure = QStringLiteral("UnitManager/UnitType/Pressure");
-const QString temperature = QStringLiteral("UnitManager/UnitType/AbsoluteTemperature");
-const QString ratio = QStringLiteral("UnitManager/UnitType/Ratio");
-const QString voltage = QStringLiteral("UnitManager/UnitType/Voltage");
-const QString noUnit = QStringLiteral("UnitManager/UnitType/NoUnit");
-const QString unknown = QStringLiteral("UnitManager/UnitType/Unknown");
+const QString pressure = typeNamed("Pressure");
+const QString temperature = typeNamed("AbsoluteTemperature");
+const QString ratio = typeNamed("Ratio");
+const QString voltage = typeNamed("Voltage");
+const QString noUnit = typeNamed("NoUnit");
+const QString unknown = typeNamed("Unknown");
 
 } // namespace TestUnitType

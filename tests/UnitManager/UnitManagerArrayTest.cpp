@@ -196,7 +196,9 @@ void UnitManagerArrayTest::getValueArray_data()
     row("unknown unit type", 0U, 3U, 2U, "Bar", QStringList{"double 3.5", "int 4"},
         QStringList{Expected::noConversion(Conversion::FromBase, T::unknown)});
     row("markers, also with unknown units, and texts", 1U, 0U, 5U, "Nope",
-        QStringList{"double nan", "QString abc", "double nan", "QString def", "double nan"}, none);
+        QStringList{TestValue::markerText, "QString abc", TestValue::markerText, "QString def",
+                    TestValue::markerText},
+        none);
 }
 
 void UnitManagerArrayTest::getValueArray()
@@ -232,7 +234,9 @@ void UnitManagerArrayTest::setValueArray_data()
         QStringList{old[0], "QString text", toDebugText(273.15), "int 5", old[4]}, none);
     row("markers are written also with unknown units", 0U,
         QVariantList{marker, marker, marker, marker, marker}, "Nope", true,
-        QStringList{"double nan", "double nan", "double nan", "double nan", "double nan"}, none);
+        QStringList{TestValue::markerText, TestValue::markerText, TestValue::markerText,
+                    TestValue::markerText, TestValue::markerText},
+        none);
     row("failure in the last column", 3U, QVariantList{5, 6}, "Bar", false, old,
         QStringList{Expected::noConversion(Conversion::ToBase, T::unknown)});
     row("failure in the first column", 2U, QVariantList{7, 5}, hPa, false, old,

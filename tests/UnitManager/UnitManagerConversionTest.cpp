@@ -10,6 +10,7 @@
 #include "Row.h"
 #include "TestDocuments.h"
 #include "TestProgram.h"
+#include "UnitTypes.h"
 
 class UnitManagerConversionTest : public QObject
 {
@@ -105,7 +106,7 @@ void addRowsOfBothDirections(Conversion conversion)
         notConverted(conversion, "", "Bar", "Pressure") + QStringList{notRounded("QVariant(Invalid)")});
     row("invalid value with an unknown unit", QVariant(), T::pressure, "Nope", "invalid",
         QStringList{Expected::unknownUnit(conversion, "Nope", "Pressure")});
-    row("marker", QVariant(marker), T::pressure, "HectoPascal", "double nan", none);
+    row("marker", QVariant(marker), T::pressure, "HectoPascal", TestValue::markerText, none);
 }
 
 } // namespace
@@ -132,7 +133,7 @@ void UnitManagerConversionTest::roundDouble_data()
     row("single-precision number becomes a double", QVariant(2.5F), 0U, "double 3", none);
     row("truth value becomes a double", QVariant(true), 0U, "double 1", none);
     row("text that is a number", QVariant("1.25"), 1U, toDebugText(1.3), none);
-    row("marker", QVariant(marker), 1U, "double nan", none);
+    row("marker", QVariant(marker), 1U, TestValue::markerText, none);
     row("infinity", QVariant(-infinity), 1U, "double -inf", none);
     row("largest number of places", QVariant(0.1), 4294967295U, toDebugText(0.1), none);
     row("text that is not a number", QVariant("abc"), 1U, "double 0", QStringList{notRounded(streamedAbc)});
@@ -230,7 +231,8 @@ void UnitManagerConversionTest::rawFormsDoNotRound_data()
     row("invalid value", QVariant(), T::pressure, "Bar", "invalid", "invalid",
         notConverted(Conversion::FromBase, "", "Bar", "Pressure") +
             notConverted(Conversion::ToBase, "", "Bar", "Pressure"));
-    row("marker", QVariant(marker), T::pressure, "HectoPascal", "double nan", "double nan", none);
+    row("marker", QVariant(marker), T::pressure, "HectoPascal", TestValue::markerText, TestValue::markerText,
+        none);
 }
 
 void UnitManagerConversionTest::rawFormsDoNotRound()
@@ -259,7 +261,8 @@ void UnitManagerConversionTest::everyTypeOfNumber_data()
     row("infinity, which Horner's scheme multiplies by zero", QVariant(-infinity), "double nan",
         "double nan");
     row("float", QVariant(2.5F), "double 2500", toDebugText(2.5 * 0.001));
-    row("float marker", QVariant(std::numeric_limits<float>::quiet_NaN()), "float nan", "float nan");
+    row("float marker", QVariant(TestValue::floatMarker), TestValue::floatMarkerText,
+        TestValue::floatMarkerText);
     row("int", QVariant(-2), "double -2000", toDebugText(-2 * 0.001));
     row("unsigned int", QVariant(4294967295U), "double 4294967295000", toDebugText(4294967295.0 * 0.001));
     row("long long", QVariant(-4294967296LL), "double -4294967296000", toDebugText(-4294967296.0 * 0.001));
@@ -294,7 +297,7 @@ void UnitManagerConversionTest::namesWithSeparators_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    const QString parent = QStringLiteral("UnitManager/UnitType/Gauge");
+    const QString parent = typeNamed("Gauge");
     row("none", parent, toDebugText(1.23456 * 1000.0), toDebugText(1234.6), toDebugText(1.23456 * 0.001),
         none);
     row("one is a fixed unit", parent + "/Low", toDebugText(1.23456), toDebugText(1.23456),
@@ -333,7 +336,7 @@ void UnitManagerConversionTest::getValue_data()
     row("unit", QVariant(1.23456), T::pressure, "HectoPascal", toDebugText(1.23456 * 1000.0), none);
     row("empty unit is the default unit", QVariant(2), T::pressure, "", "double 2000", none);
     row("fixed unit", QVariant(1.23456), T::pressure + "/Bar", "", toDebugText(1.23456), none);
-    row("marker", QVariant(marker), T::pressure, "HectoPascal", "double nan", none);
+    row("marker", QVariant(marker), T::pressure, "HectoPascal", TestValue::markerText, none);
     row("invalid value", QVariant(), T::pressure, "Bar", "invalid", none);
     row("invalid value of an unknown type", QVariant(), T::unknown, "", "invalid", none);
     row("text", QVariant("abc"), T::pressure, "Bar", "QString abc",

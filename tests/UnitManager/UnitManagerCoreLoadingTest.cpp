@@ -9,6 +9,7 @@
 #include "TestDocuments.h"
 #include "TestProgram.h"
 #include "TextFolder.h"
+#include "UnitTypes.h"
 
 class UnitManagerCoreLoadingTest : public QObject
 {
@@ -204,7 +205,8 @@ void UnitManagerCoreLoadingTest::defaultUnitDocument_data()
         return QStringLiteral(R"({ "Pressure": { "@type": "Selection", "@value": %1 } })").arg(value);
     };
     row("unit name", selection(R"("Bar")"), true, "Bar", none);
-    row("fixed unit", selection(R"("UnitManager/UnitType/Pressure/Bar")"), true, "Bar", none);
+    row("fixed unit", selection(withPlatformPrefix(R"("UnitManager/UnitType/Pressure/Bar")")), true, "Bar",
+        none);
     row("value that ends in a slash", selection(R"("a/b/")"), true, "", none);
     row("number as value", selection("5"), true, "5", none);
     row("list as value", selection("[1]"), false, "", unknown);

@@ -11,6 +11,7 @@
 #include "Row.h"
 #include "TestDocuments.h"
 #include "TestProgram.h"
+#include "UnitTypes.h"
 
 class UnitManagerNodeAccessTest : public QObject
 {
@@ -76,8 +77,8 @@ void UnitManagerNodeAccessTest::getValue_data()
     row("fixed unit", number(1.23456, fixedBar), "HectoPascal", toDebugText(1.23456), none);
     row("number without unit type", number(2, QVariant()), "Bar", "int 2", none);
     row("unit type that is not a text", number(2, QVariantList{1}), "Bar", "int 2", none);
-    row("marker", number(marker, T::pressure), "HectoPascal", "double nan", none);
-    row("marker with an unknown unit", number(marker, T::pressure), "Nope", "double nan", none);
+    row("marker", number(marker, T::pressure), "HectoPascal", TestValue::markerText, none);
+    row("marker with an unknown unit", number(marker, T::pressure), "Nope", TestValue::markerText, none);
     row("no value", number(QVariant(), T::pressure), "HectoPascal", "invalid", none);
     row("text", RecordingValueNode::text("abc", T::pressure), "HectoPascal", "QString abc", none);
     row("number in a text node", RecordingValueNode::text(2, T::pressure), "HectoPascal", "int 2", none);
@@ -169,11 +170,12 @@ void UnitManagerNodeAccessTest::setValue_data()
         QStringList{Expected::noDefaultUnit(T::ratio)});
     row("invalid value", number(T::pressure), QVariant(), "Bar", 2, "double 1.5", read,
         notConverted(Conversion::ToBase, "", "Bar", "Pressure"));
-    row("marker", number(T::pressure), QVariant(marker), "Bar", 0, "double nan", QStringList{written}, none);
-    row("marker with an unknown unit", number(T::pressure), QVariant(marker), "Nope", 0, "double nan",
+    row("marker", number(T::pressure), QVariant(marker), "Bar", 0, TestValue::markerText,
         QStringList{written}, none);
-    row("marker without unit type, with a unit", number(QVariant()), QVariant(marker), "Bar", 0, "double nan",
-        QStringList{written}, none);
+    row("marker with an unknown unit", number(T::pressure), QVariant(marker), "Nope", 0,
+        TestValue::markerText, QStringList{written}, none);
+    row("marker without unit type, with a unit", number(QVariant()), QVariant(marker), "Bar", 0,
+        TestValue::markerText, QStringList{written}, none);
 }
 
 // Calls and their order are visible to the node classes of other libraries.
@@ -259,7 +261,7 @@ void UnitManagerNodeAccessTest::getUnitText_data()
     row("fixed unit", number(fixedBar), "HectoPascal", "Bar", none);
     row("fixed unit without unit", number(fixedBar), "", "Bar",
         QStringList{Expected::noDefaultUnit(fixedBar)});
-    row("unit-less type", number(T::noUnit), "", "", none);
+    row("unit-less type", number(T::noUnit), "", "", Expected::noDefaultUnitOfUnitLessType());
     row("text node", RecordingValueNode::text("abc", T::pressure), "Bar", "Bar", none);
     row("no unit type", number(QVariant()), "Bar", "", QStringList{Expected::unknownTextType("")});
     row("no unit type, no unit", number(QVariant()), "", "",
@@ -281,12 +283,12 @@ void UnitManagerNodeAccessTest::getUnitText()
 void UnitManagerNodeAccessTest::parsedNodes()
 {
     const BaseClassSharedPointer root =
-        ConfigurationAndProcessDataParser().parseFromJson(QStringLiteral(R"json({
+        ConfigurationAndProcessDataParser().parseFromJson(withPlatformPrefix(QStringLiteral(R"json({
             "Pressure": { "@value": 1.5, "@unitType": "UnitManager/UnitType/Pressure" },
             "Empty": { "@type": "Number", "@value": null, "@unitType": "UnitManager/UnitType/Pressure" },
             "Name": { "@value": "pump", "@unitType": "UnitManager/UnitType/Pressure" },
             "Locked": { "@value": 1.5, "@unitType": "UnitManager/UnitType/Pressure", "@readOnly": true }
-        })json"),
+        })json")),
                                                           PropertyManagerConst::getConfigFileExtension());
     QVERIFY(root);
     const QString hectoPascal = QStringLiteral("HectoPascal");
@@ -295,7 +297,7 @@ void UnitManagerNodeAccessTest::parsedNodes()
 
     QCOMPARE(toDebugText(m_manager.getValue(pressure, root, hectoPascal)), QStringLiteral("double 1500"));
     QCOMPARE(toDebugText(m_manager.getValue(QStringLiteral("Empty"), root, hectoPascal)),
-             QStringLiteral("double nan"));
+             TestValue::markerText);
     QCOMPARE(toDebugText(m_manager.getValue(QStringLiteral("Name"), root, hectoPascal)),
              QStringLiteral("QString pump"));
 
@@ -306,7 +308,7 @@ void UnitManagerNodeAccessTest::parsedNodes()
     QCOMPARE(toDebugText(m_manager.getValue(pressure, root, QStringLiteral("Bar"))),
              QStringLiteral("double 2"));
     QCOMPARE(m_manager.setValueStatus(pressure, root, marker, hectoPascal), 0);
-    QCOMPARE(toDebugText(m_manager.getValue(pressure, root, hectoPascal)), QStringLiteral("double nan"));
+    QCOMPARE(toDebugText(m_manager.getValue(pressure, root, hectoPascal)), TestValue::markerText);
     QCOMPARE(takeMessageTexts(log), QStringList());
 }
 

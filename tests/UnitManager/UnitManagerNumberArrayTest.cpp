@@ -199,7 +199,7 @@ void UnitManagerNumberArrayTest::conversionIsLikeSingleConversions()
     std::vector<double> fromBase;
     std::vector<double> toBase;
     for (const double value : samples()) {
-        const bool isMarker = value != value;
+        const bool isMarker = ConfigurationAndProcessDataTools::isNoInputValueIndicatorSet(value);
         fromBase.push_back(isMarker ? value : conversion.convertValue(value));
         toBase.push_back(isMarker ? value : conversion.invertValue(value));
     }

@@ -15,6 +15,7 @@
 #include "LogCapture.h"
 #include "RecordingValueNode.h"
 #include "TestProgram.h"
+#include "UnitTypes.h"
 
 /// Properties that hold for every number, tested with many random numbers.
 class UnitManagerRoundTripTest : public QObject
@@ -60,7 +61,7 @@ const QVector<Unit>& units()
     return list;
 }
 
-const QString unitType = QStringLiteral("UnitManager/UnitType/Thing");
+const QString unitType = typeNamed("Thing");
 const int samples = 5000;
 
 QJsonArray asColumn(const QVector<double>& coefficients)

@@ -21,7 +21,6 @@ private Q_SLOTS:
     void tableIsEmptiedFirst();
     void emptyManagerGivesAnEmptyTable();
     void nullManagerLeavesTheTable();
-    void laterOfTwoEqualNumbersIsKept();
     void everyIdentifierIsMappedBack();
 };
 
@@ -134,21 +133,6 @@ void UnitManagerUnitTypeStringHandlingTest::nullManagerLeavesTheTable()
     Handling::updateUnitTypeHashMap(table, QSharedPointer<UnitManager>());
 
     QCOMPARE(table, old);
-}
-
-void UnitManagerUnitTypeStringHandlingTest::laterOfTwoEqualNumbersIsKept()
-{
-    // A unit type and one of its units with the same number, found by trial.
-    const QString unitType = QStringLiteral("UnitManager/UnitType/Type703");
-    const QString fixedUnit = unitType + QStringLiteral("/oc4I");
-    QCOMPARE(numberOf(unitType), numberOf(fixedUnit));
-    const auto manager = managerOf(QStringLiteral(
-        R"json({ "Type703": { "oc4I": { "@displayPosition": 0, "Polynomial": [[0], [1]], "UnitLabel": "x" } } })json"));
-    IdentifierTable table;
-
-    Handling::updateUnitTypeHashMap(table, manager);
-
-    QCOMPARE(table, (IdentifierTable{{numberOf(unitType), fixedUnit}}));
 }
 
 void UnitManagerUnitTypeStringHandlingTest::everyIdentifierIsMappedBack()

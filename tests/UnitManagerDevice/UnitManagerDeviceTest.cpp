@@ -146,7 +146,7 @@ void UnitManagerDeviceTest::goodValueIsConverted_data()
     row("base unit, more places than it shows", T::pressure, QVariant(0.00048828125), "Bar",
         "double 0.00048828125", none);
     row("integer", T::pressure, QVariant(2), "HectoPascal", "double 2000", none);
-    row("marker", T::pressure, marker, "HectoPascal", "double nan", none);
+    row("marker", T::pressure, marker, "HectoPascal", TestValue::markerText, none);
     row("fixed unit type", T::pressure + "/Bar", QVariant(1.5), "HectoPascal", "double 1.5", none);
     row("no unit type", "", QVariant(1.5), "", "double 1.5", none);
     row("unknown unit", T::pressure, QVariant(1.5), "Nope", "double 1.5",
@@ -226,7 +226,7 @@ void UnitManagerDeviceTest::goodValueIsStoredInTheBaseUnit_data()
     row("more places than the unit shows", T::pressure, QVariant(0.00048828125), "Bar",
         "double 0.00048828125");
     row("integer", T::pressure, QVariant(1500), "HectoPascal", "double 1.5");
-    row("marker of a known unit", T::pressure, marker, "HectoPascal", "double nan");
+    row("marker of a known unit", T::pressure, marker, "HectoPascal", TestValue::markerText);
     row("fixed unit type", T::pressure + "/Bar", QVariant(1.5), "HectoPascal", "double 1.5");
     row("neither unit type nor unit", "", QVariant(1.5), "", "double 1.5");
 }
@@ -311,7 +311,7 @@ void UnitManagerDeviceTest::markerOfUnknownUnitIsWrittenByNodeAccessOnly()
     QVERIFY(!m_device.setValueNoLock(processData, ProcessValue(marker, noError), "Nope"));
     QCOMPARE(toDebugText(processData->getValue().getValue()), QStringLiteral("double 2.5"));
     QCOMPARE(m_device.setValueStatus("Value", parent, marker, "Nope"), 0);
-    QCOMPARE(toDebugText(processData->getValue().getValue()), QStringLiteral("double nan"));
+    QCOMPARE(toDebugText(processData->getValue().getValue()), TestValue::markerText);
 }
 
 void UnitManagerDeviceTest::otherFieldsAreWrittenToo()

@@ -4,11 +4,12 @@
 
 #include "LogCapture.h"
 #include "UnitTextManagement/UnitTextHandler.h"
+#include "UnitTypes.h"
 
 /// The labels for the look-up tests.
 namespace TextDocument {
 
-const QString prefix = QStringLiteral("UnitManager/UnitType/");
+const QString prefix = PropertyManagerConst::getUnitTypeNamePrefix();
 const QString pressure = prefix + "Pressure";
 
 /// "Bare" has no label; "Headless" has no base unit; the base unit of "Tailless" has no label; "Unlabelled"

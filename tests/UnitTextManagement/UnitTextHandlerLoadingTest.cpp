@@ -11,11 +11,12 @@
 #include "SourceMessages.h"
 #include "TestProgram.h"
 #include "TextFolder.h"
+#include "UnitTypes.h"
 
 namespace {
 
 const QString sourceName = QStringLiteral("UnitTextManagement/UnitTextHandler");
-const QString unitType = QStringLiteral("UnitManager/UnitType/A");
+const QString unitType = typeNamed("A");
 
 QString loadingWarning(const QString& text)
 {
@@ -24,7 +25,7 @@ QString loadingWarning(const QString& text)
 
 QString noBaseUnit()
 {
-    return loadingWarning(R"(No Base unit label given for "UnitManager/UnitType/A")");
+    return loadingWarning(withPlatformPrefix(R"(No Base unit label given for "UnitManager/UnitType/A")"));
 }
 
 QString noPosition(const QString& streamed)
@@ -183,10 +184,11 @@ void UnitTextHandlerLoadingTest::everyTypeWithoutBaseUnitWarns()
                                          "NoUnit": {}, "D": {"V": {"@displayPosition": 0, "UnitLabel": "v"}}})"));
     QStringList messages = messageTexts(log.take(), LineNumbers::Any);
     messages.sort();
-    QCOMPARE(
-        messages,
-        QStringList({noBaseUnit(), loadingWarning(R"(No Base unit label given for "UnitManager/UnitType/B")"),
-                     loadingWarning(R"(No Base unit label given for "UnitManager/UnitType/NoUnit")")}));
+    QCOMPARE(messages, QStringList({noBaseUnit(),
+                                    loadingWarning(withPlatformPrefix(
+                                        R"(No Base unit label given for "UnitManager/UnitType/B")")),
+                                    loadingWarning(withPlatformPrefix(
+                                        R"(No Base unit label given for "UnitManager/UnitType/NoUnit")"))}));
 }
 
 void UnitTextHandlerLoadingTest::everyLoadDropsTheOldLabels_data()
@@ -208,7 +210,8 @@ void UnitTextHandlerLoadingTest::everyLoadDropsTheOldLabels()
     QVERIFY(!handler.initByJsonString(json));
     QVERIFY(!handler.isValid());
     QCOMPARE(handler.getUnitText(unitType, "en", "U"), QString());
-    QCOMPARE(log.takeTexts(), QStringList(R"(Unknown unit type given "UnitManager/UnitType/A")"));
+    QCOMPARE(log.takeTexts(),
+             QStringList(withPlatformPrefix(R"(Unknown unit type given "UnitManager/UnitType/A")")));
 }
 
 void UnitTextHandlerLoadingTest::baseUnitsOfAnEarlierDocumentAreForgotten()

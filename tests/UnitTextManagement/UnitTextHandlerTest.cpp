@@ -13,6 +13,7 @@
 #include "Row.h"
 #include "TestProgram.h"
 #include "TextDocument.h"
+#include "UnitTypes.h"
 
 using namespace TextDocument;
 
@@ -214,13 +215,17 @@ void UnitTextHandlerTest::textOfNode_data()
     QTest::addColumn<QStringList>("messages");
 
     const QStringList none;
-    const QString ofPressure = R"({"@value": 1, "@unitType": "UnitManager/UnitType/Pressure"})";
+    const QString ofPressure =
+        withPlatformPrefix(R"({"@value": 1, "@unitType": "UnitManager/UnitType/Pressure"})");
     row("unit type", ofPressure, "HectoPascal", "hPa", none);
     row("unit type, empty unit", ofPressure, "", "bar", none);
-    row("fixed unit", R"({"@unitType": "UnitManager/UnitType/Pressure/HectoPascal"})", "Bar", "hPa", none);
+    row("fixed unit", withPlatformPrefix(R"({"@unitType": "UnitManager/UnitType/Pressure/HectoPascal"})"),
+        "Bar", "hPa", none);
     row("no unit type", R"({"@value": 1})", "Bar", "", none);
-    row("unit type that is a list", R"({"@unitType": ["UnitManager/UnitType/Pressure"]})", "Bar", "", none);
-    row("type without unit", R"({"@unitType": "UnitManager/UnitType/NoUnit"})", "Bar", "", none);
+    row("unit type that is a list", withPlatformPrefix(R"({"@unitType": ["UnitManager/UnitType/Pressure"]})"),
+        "Bar", "", none);
+    row("type without unit", withPlatformPrefix(R"({"@unitType": "UnitManager/UnitType/NoUnit"})"), "Bar", "",
+        none);
     row("unit type that is a number", R"({"@unitType": 5})", "Bar", "",
         QStringList(textWarning(unknownType("5"))));
     row("empty unit type", R"({"@unitType": ""})", "Bar", "", QStringList(textWarning(unknownType(""))));
@@ -255,7 +260,7 @@ void UnitTextHandlerTest::textOfNullNodeIsEmpty()
     const UnitTextHandler handler = load();
     const BaseClassSharedPointer none;
     const BaseClassSharedPointer node =
-        nodeFromJson(R"({"Value": null, "@unitType": "UnitManager/UnitType/Pressure"})");
+        nodeFromJson(withPlatformPrefix(R"({"Value": null, "@unitType": "UnitManager/UnitType/Pressure"})"));
     LogCapture log;
     QVERIFY(isEmptyText(handler.getUnitText(none, "en", "Bar")));
     QVERIFY(isEmptyText(handler.getUnitText("Value", none, "en", "Bar")));

@@ -1,5 +1,7 @@
 #include "ShippedCatalogue.h"
 
+#include "UnitTypes.h"
+
 ShippedCatalogue::ShippedCatalogue()
     : m_loaded(m_manager.initByJsonFile(QStringLiteral(UNITMANAGER_SOURCE_DIR "/config/units.json"),
                                         QStringLiteral(UNITMANAGER_SOURCE_DIR "/config/default-units.json")))
@@ -17,7 +19,7 @@ const UnitManager& ShippedCatalogue::manager() const
 
 QString ShippedCatalogue::unitTypeName(const QString& key)
 {
-    return QStringLiteral("UnitManager/UnitType/") + key;
+    return typeNamed("") + key;
 }
 
 QVariant ShippedCatalogue::convert(double value, const QString& typeKey, const QString& from,
