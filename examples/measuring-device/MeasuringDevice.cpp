@@ -9,17 +9,26 @@
 #include "ProcessDataValue.h"
 #include "ProcessMeasurementAttributes.h"
 #include "PropertyManagerConst.h"
-#include "UnitManagerDefinitions.h"
 #include "UnitManagerDevice/UnitManipulatorMeasurementRange.h"
 
 namespace {
 
+/// The identifier of a unit type, or of a unit of it. Its prefix is the platform's.
+QString identifierOf(const char* name)
+{
+    return PropertyManagerConst::getUnitTypeNamePrefix() + QLatin1String(name);
+}
+
 /// The settings that a user of the device can change. The application fills the attributes of the range.
-const char* const settingsDocument = R"({
-    "AlarmLimit": { "@unitType": "UnitManager/UnitType/Pressure", "@value": 1.0 },
-    "PressureRange": { "@unitType": "UnitManager/UnitType/Pressure", "@value": 0.9,
-                       "@measurementRangeAttributes": [ { "min": 0, "max": 16 } ] }
-})";
+QString settingsDocument()
+{
+    return QStringLiteral(R"({
+        "AlarmLimit": { "@unitType": "%1", "@value": 1.0 },
+        "PressureRange": { "@unitType": "%1", "@value": 0.9,
+                           "@measurementRangeAttributes": [ { "min": 0, "max": 16 } ] }
+    })")
+        .arg(identifierOf("Pressure"));
+}
 
 const char* const dependencyDocument = R"({ "PressureUnit": ["PressureRange"] })";
 
@@ -39,15 +48,12 @@ MeasuringDevice::MeasuringDevice(const QString& language)
               QStringLiteral("DefaultUnitConfiguration"), QStringLiteral("UnitManager/DefaultUnit"), true,
               true),
       m_settings(ConfigurationAndProcessDataParser().parseFromJson(
-          QString::fromLatin1(settingsDocument), PropertyManagerConst::getConfigFileExtension()))
+          settingsDocument(), PropertyManagerConst::getConfigFileExtension()))
 {
-    addProcessValue(QStringLiteral("line pressure"), UnitManagerDefinitions::getUnitTypeUrlPressure(),
-                    1.01325);
-    addProcessValue(QStringLiteral("dew point"), UnitManagerDefinitions::getUnitTypeUrlAbsoluteTemperature(),
-                    -40.25);
-    addProcessValue(QStringLiteral("humidity"), UnitManagerDefinitions::getUnitTypeUrlRelativeHumidity(),
-                    45.678);
-    addProcessValue(QStringLiteral("supply pressure"), UnitManagerDefinitions::getUnitUrlPressureBar(), 6.5);
+    addProcessValue(QStringLiteral("line pressure"), identifierOf("Pressure"), 1.01325);
+    addProcessValue(QStringLiteral("dew point"), identifierOf("AbsoluteTemperature"), -40.25);
+    addProcessValue(QStringLiteral("humidity"), identifierOf("RelativeHumidity"), 45.678);
+    addProcessValue(QStringLiteral("supply pressure"), identifierOf("Pressure/Bar"), 6.5);
 }
 
 void MeasuringDevice::addProcessValue(const QString& name, const QString& unitType, double baseValue)
