@@ -5,6 +5,7 @@
 #include "LogCapture.h"
 #include "Row.h"
 #include "TestProgram.h"
+#include "UnitTypes.h"
 
 /// The units of a type in the order of a user interface.
 class UnitManagerDisplayOrderTest : public QObject
@@ -24,7 +25,7 @@ private Q_SLOTS:
 
 namespace {
 
-const QString typePrefix = "UnitManager/UnitType/";
+const QString typePrefix = typeNamed("");
 
 /// A unit with further members.
 QString unit(const QString& name, const QString& members)
