@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QtCore/QFileInfo>
+#include <QtCore/QString>
+
+class ConfigurationDataAndProcessDescriptionAccess
+{
+public:
+    QString getConfiguration(const QFileInfo& file) const;
+};

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QtDBus/QDBusConnection>
+
+class DBusConnection
+{
+public:
+    static QDBusConnection getQDBusConnection();
+};

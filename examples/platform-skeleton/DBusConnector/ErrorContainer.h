@@ -1,0 +1,7 @@
+#pragma once
+
+class ErrorContainer
+{
+public:
+    ErrorContainer();
+};

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QtCore/QString>
+
+class DeviceManagerDefinitions
+{
+public:
+    static const QString& getModuleName();
+    static const QString& getObjectNameUnitManagerConfiguration();
+};

@@ -1,0 +1,5 @@
+#pragma once
+
+#include <QtCore/QVariant>
+
+unsigned int hashFromString(const QVariant& text);
