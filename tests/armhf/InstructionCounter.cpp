@@ -37,7 +37,8 @@ static void countBlock(std::uint64_t /*id*/, qemu_plugin_tb* block)
 
 static void printCount(std::uint64_t /*id*/, void* /*data*/)
 {
-    std::fprintf(stderr, "%" PRIu64 "\n", instructions);
+    // The program may have left an incomplete line.
+    std::fprintf(stderr, "\n%" PRIu64 "\n", instructions);
 }
 
 int qemu_plugin_install(std::uint64_t id, const void* /*info*/, int /*argc*/, char** /*argv*/)
