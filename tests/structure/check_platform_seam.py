@@ -30,7 +30,7 @@ def main():
 
     targets = configured_targets(build)
     problems = [f"target {name} of {folder} is configured" for name, folder in sorted(targets.items())
-                if folder.startswith("platform") or name.startswith("DevicePlatform")]
+                if folder.split("/")[0] == "platform" or name.startswith("DevicePlatform")]
     if targets.get("unitmanager") != "src":
         problems.append("the library is not a target of src/")
 
