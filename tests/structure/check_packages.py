@@ -22,7 +22,7 @@ def build_with_cmake(project, folder):
 def build_with_pkg_config(project, folder):
     """Builds the program with a single command, with a run path to the library."""
     program = folder / "consumer"
-    run([project.facts["compiler"], "-std=c++17", "-fPIC", folder / "main.cpp", "-o", program,
+    run([project.facts["compiler"], "-std=c++17", folder / "main.cpp", "-o", program,
          *project.package_flags("--cflags", "--libs"), f"-Wl,-rpath,{project.library_dir}"])
     return program
 
