@@ -40,7 +40,10 @@ void declareOptions(QCommandLineParser& parser)
         QStringLiteral("Serves units.json, default-units.json and dependencies.json to the programs on a\n"
                        "bus, and announces when one of them has changed."));
     CommonOptions::addHelpAndVersion(parser);
-    parser.addOption({directoryOption, QStringLiteral("Directory of the documents."), QStringLiteral("DIR")});
+    parser.addOption({directoryOption,
+                      QStringLiteral("Directory of the documents. If given several times, each document is\n"
+                                     "read from the first of the directories that has it."),
+                      QStringLiteral("DIR")});
     CommonOptions::addBus(parser);
     CommonOptions::addMaximumSize(parser);
 }
@@ -63,8 +66,8 @@ CommandLine CommandLine::read(const QStringList& arguments)
     if (!words.isEmpty())
         return rejecting(
             wrongUsage(QStringLiteral("too many arguments: ") + DocumentProblem::quoted(words.first())));
-    const QString directory = parser.value(directoryOption);
-    if (directory.isEmpty())
+    const QStringList directories = parser.values(directoryOption);
+    if (directories.isEmpty() || directories.contains(QString()))
         return rejecting(wrongUsage(QStringLiteral("--directory is missing")));
     const auto bus = CommonOptions::bus(parser);
     if (!bus)
@@ -72,5 +75,5 @@ CommandLine CommandLine::read(const QStringList& arguments)
     const auto maximumSize = CommonOptions::maximumSize(parser);
     if (!maximumSize)
         return rejecting(maximumSize.error());
-    return {Request::Serve, {}, directory, *bus, *maximumSize};
+    return {Request::Serve, {}, directories, *bus, *maximumSize};
 }

@@ -22,8 +22,8 @@ struct CommandLine
     Request request = Request::Serve;
     /// The help, the version, or an error message; ends with a line break.
     QString text;
-    /// The directory of the documents, as given on the command line.
-    QString directory;
+    /// The directories of the documents, as given on the command line.
+    QStringList directories;
     /// "session", "system", or the address of a bus.
     QString bus;
     /// The largest document that is read, in bytes.

@@ -2,6 +2,7 @@
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QDebug>
+#include <QtCore/QFileInfo>
 
 #include <algorithm>
 
@@ -38,9 +39,9 @@ QString otherErrorsText(const std::vector<Finding>& findings)
 
 } // namespace
 
-ConfigurationDocument::ConfigurationDocument(const QString& name, DocumentKind kind, const QString& path,
+ConfigurationDocument::ConfigurationDocument(const QString& name, DocumentKind kind, const QStringList& paths,
                                              int maximumSize)
-    : m_name(name), m_kind(kind), m_path(path), m_maximumSize(maximumSize)
+    : m_name(name), m_kind(kind), m_paths(paths), m_path(paths.last()), m_maximumSize(maximumSize)
 {}
 
 const QString& ConfigurationDocument::name() const
@@ -51,6 +52,11 @@ const QString& ConfigurationDocument::name() const
 const QString& ConfigurationDocument::path() const
 {
     return m_path;
+}
+
+const QStringList& ConfigurationDocument::paths() const
+{
+    return m_paths;
 }
 
 DocumentKind ConfigurationDocument::kind() const
@@ -65,15 +71,29 @@ const DocumentState& ConfigurationDocument::state() const
 
 bool ConfigurationDocument::update()
 {
+    const QString path = existingPath();
+    const bool isOtherFile = m_path != path;
+    m_path = path;
     DocumentProblem problem;
     const auto bytes = DocumentFile::read(m_path, DocumentFile::Source::RegularFile, m_maximumSize, problem);
     const Content content(bytes, problem.reason);
-    if (m_content == content)
+    if (m_content == content && !isOtherFile)
         return false;
     m_content = content;
 
     const auto document = bytes ? check(*bytes, problem) : std::nullopt;
     return document ? accept(document->text()) : refuse(problem);
+}
+
+/// The first path that exists, else the last one. A link without target exists: it is a mistake to report.
+QString ConfigurationDocument::existingPath() const
+{
+    const auto exists = [](const QString& path) {
+        const QFileInfo file(path);
+        return file.exists() || file.isSymLink();
+    };
+    const auto found = std::find_if(m_paths.begin(), m_paths.end(), exists);
+    return found == m_paths.end() ? m_paths.last() : *found;
 }
 
 /// @return no value, and the first error as problem, for a document with errors. Logs warnings otherwise.

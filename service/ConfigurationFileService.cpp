@@ -40,6 +40,15 @@ QList<Place> places()
              DocumentKind::Dependencies}};
 }
 
+/// The absolute paths of a file in several directories.
+QStringList pathsOf(const QString& file, const QStringList& directories)
+{
+    QStringList paths;
+    for (const QString& directory : directories)
+        paths.append(QDir(QDir(directory).absolutePath()).filePath(file));
+    return paths;
+}
+
 /// The signal that clients of org.freedesktop.DBus.Properties expect.
 QDBusMessage propertiesChanged(const QString& path, const QVariantMap& changes)
 {
@@ -61,13 +70,12 @@ void releaseUnusedMemory()
 
 } // namespace
 
-ConfigurationFileService::ConfigurationFileService(const QString& directory, int maximumSize,
+ConfigurationFileService::ConfigurationFileService(const QStringList& directories, int maximumSize,
                                                    const QDBusConnection& connection, QObject* parent)
     : QObject(parent), m_connection(connection)
 {
-    const QDir absolute(QDir(directory).absolutePath());
     for (const Place& place : places()) {
-        m_documents.append({place.name, place.kind, absolute.filePath(place.file), maximumSize});
+        m_documents.append({place.name, place.kind, pathsOf(place.file, directories), maximumSize});
         auto* const object = new ConfigurationObject(place.name, place.method, this);
         object->setObjectName(place.object);
         new ConfigurationFileHandlerAdaptor(object);

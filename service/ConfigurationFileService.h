@@ -3,6 +3,7 @@
 #include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QThread>
 #include <QtCore/QVariantMap>
 #include <QtCore/QVector>
@@ -13,7 +14,7 @@
 class ConfigurationObject;
 class DocumentLoader;
 
-/// Serves the three documents of a directory on a bus and announces their changes.
+/// Serves three documents on a bus and announces their changes.
 ///
 /// A thread of its own reads the files: while a file system stalls, calls are answered with the last valid
 /// documents. Use from one thread only, whose event loop must run.
@@ -24,9 +25,10 @@ class ConfigurationFileService : public QObject
 public:
     /// Does not read the documents yet.
     ///
+    /// @param directories each document is read from the first of them that has it
     /// @param maximumSize the largest document that is read, in bytes
-    ConfigurationFileService(const QString& directory, int maximumSize, const QDBusConnection& connection,
-                             QObject* parent = nullptr);
+    ConfigurationFileService(const QStringList& directories, int maximumSize,
+                             const QDBusConnection& connection, QObject* parent = nullptr);
     /// Waits until a file that is being read has been read, see stop().
     ~ConfigurationFileService() override;
 

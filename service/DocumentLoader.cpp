@@ -13,7 +13,7 @@ void DocumentLoader::start()
 {
     QStringList files;
     for (const ConfigurationDocument& document : qAsConst(m_documents))
-        files.append(document.path());
+        files.append(document.paths());
     // Watch before reading, so that no change is missed in between.
     m_watcher = std::make_unique<DocumentWatcher>(files, DocumentWatcher::Debounce());
     connect(m_watcher.get(), &DocumentWatcher::touched, this, &DocumentLoader::update);

@@ -46,13 +46,14 @@ int serve(const CommandLine& commandLine)
     if (!connection.isConnected())
         return fail(QStringLiteral("cannot reach the bus %1: %2").arg(bus, connection.lastError().message()));
 
-    ConfigurationFileService service(commandLine.directory, commandLine.maximumSize, connection);
+    ConfigurationFileService service(commandLine.directories, commandLine.maximumSize, connection);
     const auto exitWith = [](const QString& problem) {
         QCoreApplication::exit(fail(problem));
     };
     QObject::connect(&service, &ConfigurationFileService::started, [&commandLine] {
         write(QStringLiteral("serving %1 as %2 on %3\n")
-                  .arg(commandLine.directory, ConfigurationFileService::name(), commandLine.bus),
+                  .arg(commandLine.directories.join(QLatin1String(", ")), ConfigurationFileService::name(),
+                       commandLine.bus),
               stdout);
     });
     // Queued: exit() has no effect before the event loop runs.

@@ -25,6 +25,9 @@ private Q_SLOTS:
     void refusalIsLoggedOnce();
     void returnOfTheGoodTextIsLogged();
     void warningsAreLoggedWithTheirPlaces();
+    void firstExistingFileIsRead();
+    void refusedFileHasNoFallBack_data();
+    void refusedFileHasNoFallBack();
 
 private:
     QTemporaryDir m_directory;
@@ -37,7 +40,7 @@ void ConfigurationDocumentTest::init()
 {
     m_path = m_directory.filePath("document.json");
     QVERIFY(TestFiles::write(m_path, "{\"a\": [\"b\"]}"));
-    m_document.emplace("Name", DocumentKind::Dependencies, m_path);
+    m_document.emplace("Name", DocumentKind::Dependencies, QStringList{m_path});
     m_log.emplace();
 }
 
@@ -173,6 +176,52 @@ void ConfigurationDocumentTest::warningsAreLoggedWithTheirPlaces()
     QCOMPARE(messages[1].type, QtWarningMsg);
     QCOMPARE(messages[1].text, "Name: " + m_path + R"(:3:14: "c" is listed twice [dependency-duplicate])");
     QCOMPARE(messages[2].text, "Name: loaded " + m_path);
+}
+
+void ConfigurationDocumentTest::firstExistingFileIsRead()
+{
+    const QString own = m_directory.filePath("own.json");
+    m_document.emplace("Name", DocumentKind::Dependencies, QStringList{own, m_path});
+    QCOMPARE(m_document->paths(), (QStringList{own, m_path}));
+    QVERIFY(m_document->update());
+    QCOMPARE(m_document->path(), m_path);
+    QCOMPARE(m_document->state().text, QString("{\"a\": [\"b\"]}"));
+    QCOMPARE(m_log->takeTexts(), QStringList{"Name: loaded " + m_path});
+
+    QVERIFY(TestFiles::write(own, "{\"a\": [\"own\"]}"));
+    QVERIFY(m_document->update());
+    QCOMPARE(m_document->path(), own);
+    QCOMPARE(m_document->state().text, QString("{\"a\": [\"own\"]}"));
+    QCOMPARE(m_log->takeTexts(), QStringList{"Name: loaded " + own});
+
+    QVERIFY(TestFiles::write(m_path, "{\"a\": [\"own\"]}"));
+    QVERIFY(!m_document->update());
+    QCOMPARE(m_log->takeTexts(), QStringList());
+
+    QVERIFY(QFile::remove(own));
+    QVERIFY(!m_document->update());
+    QCOMPARE(m_document->path(), m_path);
+    QCOMPARE(m_log->takeTexts(), QStringList{"Name: unchanged in " + m_path});
+}
+
+void ConfigurationDocumentTest::refusedFileHasNoFallBack_data()
+{
+    QTest::addColumn<bool>("isLink");
+
+    row("invalid", false);
+    row("link without target", true);
+}
+
+void ConfigurationDocumentTest::refusedFileHasNoFallBack()
+{
+    QFETCH(bool, isLink);
+    const QTemporaryDir directory;
+    const QString own = directory.filePath("own.json");
+    QVERIFY(isLink ? QFile::link("missing.json", own) : TestFiles::write(own, "{"));
+    m_document.emplace("Name", DocumentKind::Dependencies, QStringList{own, m_path});
+    QVERIFY(m_document->update());
+    QVERIFY(m_document->state().text.isNull());
+    QVERIFY2(m_document->state().refusal.startsWith(own), qPrintable(m_document->state().refusal));
 }
 
 static const TestClass<ConfigurationDocumentTest> testClass;

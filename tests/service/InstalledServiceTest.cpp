@@ -76,7 +76,9 @@ void InstalledServiceTest::commandIsOneOfTheProgram()
     QVERIFY(commandLine.request == CommandLine::Request::Serve);
     QCOMPARE(commandLine.bus, "system");
     const QString prefix = words.first().chopped(program.size());
-    QCOMPARE(commandLine.directory, prefix + "share/unitmanager");
+    // A product's own documents, and the shipped ones as fall-back.
+    QCOMPARE(commandLine.directories,
+             (QStringList{prefix + "etc/unitmanager", prefix + "share/unitmanager"}));
     QCOMPARE(commandLine.maximumSize, DocumentFile::defaultLimit);
 }
 

@@ -22,7 +22,7 @@ QString verdictOn(const CorpusEntry& entry)
 {
     QList<ConfigurationDocument> documents;
     for (const CorpusFile& file : entry.files)
-        documents.append(ConfigurationDocument("Name", file.kind, file.path));
+        documents.append(ConfigurationDocument("Name", file.kind, QStringList{file.path}));
     LogCapture log;
     DocumentLoader loader(documents);
     bool isRefused = false;

@@ -61,6 +61,7 @@ void ServiceProgramTest::wrongUsageIsRejected_data()
     row("nothing", Arguments{}, "--directory is missing");
     row("no directory", Arguments{"--bus", "session"}, "--directory is missing");
     row("empty directory", Arguments{"--directory", ""}, "--directory is missing");
+    row("empty second directory", Arguments{"--directory", "x", "--directory", ""}, "--directory is missing");
     row("directory without value", Arguments{"--directory"}, "missing value after \"--directory\"");
     row("empty bus", Arguments{"--directory", "x", "--bus", ""}, "\"\"" + noBus);
     row("unknown bus", Arguments{"--directory", "x", "--bus", "Session"}, "\"Session\"" + noBus);

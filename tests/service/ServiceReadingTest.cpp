@@ -1,5 +1,6 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
 #include <algorithm>
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void closedLogDoesNotEndIt();
     void largeDocumentIsServedIfAllowed();
     void missingDirectoryIsReported();
+    void documentOfTheFirstDirectoryIsServed();
 };
 
 namespace {
@@ -172,6 +174,37 @@ void ServiceReadingTest::missingDirectoryIsReported()
     QVERIFY(served.start());
     const QString message = ": no such directory: " + served.directory() + "; no document to serve\n";
     QTRY_COMPARE_WITH_TIMEOUT(served.service().log().count(message), 3, waitLimit);
+}
+
+// The first directory holds the product's own documents, the second one the shipped documents.
+void ServiceReadingTest::documentOfTheFirstDirectoryIsServed()
+{
+    ServedDirectory served;
+    QVERIFY(served.bus().start());
+    const QTemporaryDir product;
+    ServiceProcess service;
+    QVERIFY(service.start(
+        {"--directory", product.path(), "--directory", served.directory(), "--bus", served.bus().address()}));
+    QCOMPARE(service.output().section(" as ", 0, 0), "serving " + product.path() + ", " + served.directory());
+    const ServiceClient client(served.bus().address());
+    QCOMPARE(client.text(ServiceObject::units), QString(ServiceDocuments::units("first")));
+
+    QVERIFY(TestFiles::write(product.filePath("units.json"), ServiceDocuments::units("own")));
+    QTRY_COMPARE_WITH_TIMEOUT(client.text(ServiceObject::units), QString(ServiceDocuments::units("own")),
+                              waitLimit);
+    QCOMPARE(client.text(ServiceObject::defaultUnits), QString(ServiceDocuments::defaultUnits("first")));
+
+    // An upgrade changes shipped documents only.
+    QVERIFY(TestFiles::replace(served.path("units.json"), ServiceDocuments::units("upgraded")));
+    QVERIFY(
+        TestFiles::replace(served.path("default-units.json"), ServiceDocuments::defaultUnits("upgraded")));
+    QTRY_COMPARE_WITH_TIMEOUT(client.text(ServiceObject::defaultUnits),
+                              QString(ServiceDocuments::defaultUnits("upgraded")), waitLimit);
+    QCOMPARE(client.text(ServiceObject::units), QString(ServiceDocuments::units("own")));
+
+    QVERIFY(QFile::remove(product.filePath("units.json")));
+    QTRY_COMPARE_WITH_TIMEOUT(client.text(ServiceObject::units), QString(ServiceDocuments::units("upgraded")),
+                              waitLimit);
 }
 
 static const TestClass<ServiceReadingTest> testClass;

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void init();
     void findsTheDocumentsBesideItself();
     void findsTheDocumentsBesideItselfThroughALink();
+    void prefersTheDocumentsOfTheProduct();
     void namesTheMissingDocument();
     void installedProgramKnowsNoPathOfTheBuild();
 
@@ -49,6 +50,18 @@ void ToolInstallationTest::findsTheDocumentsBesideItselfThroughALink()
     const QString link = m_prefix->filePath("unit-conversion");
     QVERIFY(QFile::link(m_program, link));
     QCOMPARE(ToolProcess::runProgram(link, {"types"}).standardOutput, QByteArray("OwnType\n"));
+}
+
+void ToolInstallationTest::prefersTheDocumentsOfTheProduct()
+{
+    QVERIFY(QDir(m_prefix->path()).mkpath("etc/unitmanager"));
+    QVERIFY(TestFiles::write(m_prefix->filePath("etc/unitmanager/units.json"), "{\"ProductType\": {}}"));
+    QVERIFY(TestFiles::write(m_prefix->filePath("share/unitmanager/units.json"), "{\"OwnType\": {}}"));
+    // The product has no default units of its own.
+    QVERIFY(TestFiles::write(m_prefix->filePath("share/unitmanager/default-units.json"), "{}"));
+    const ToolRun run = ToolProcess::runProgram(m_program, {"types"});
+    QCOMPARE(run.standardError, QByteArray());
+    QCOMPARE(run.standardOutput, QByteArray("ProductType\n"));
 }
 
 void ToolInstallationTest::namesTheMissingDocument()
