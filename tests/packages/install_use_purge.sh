@@ -1,0 +1,158 @@
+#!/usr/bin/env bash
+# install_use_purge.sh PACKAGES README: installs the packages of a folder, uses them as a developer and as a device do,
+# and purges them. Runs in a root without a network that has what the packages depend on.
+set -euo pipefail
+packages=$1 readme=$2
+service=configuration-file-service
+bus_name=org.measuringdevice.DeviceManager
+documents=/usr/share/unitmanager
+own_documents=/etc/unitmanager
+
+step() {
+    echo "== packages: $*"
+}
+
+fail() {
+    echo "$*" >&2
+    exit 1
+}
+
+# wait_until COMMAND...: repeats a command until it succeeds, for at most one minute.
+wait_until() {
+    local deadline=$((SECONDS + 60))
+    until "$@" >/dev/null 2>&1; do
+        [ "$SECONDS" -lt "$deadline" ] || fail "not within one minute: $*"
+        sleep 0.1
+    done
+}
+
+# Every file with its owner and mode, the content of the configuration, and the users. Left out: what dpkg and other
+# programs keep about the past.
+state() {
+    find / -xdev \( -path /proc -o -path /sys -o -path /dev -o -path /run -o -path /tmp -o -path /mnt \
+        -o -path /var/log -o -path /var/cache -o -path /var/lib/dpkg -o -path /etc/ld.so.cache \) -prune \
+        -o -printf '%p %M %u:%g %l\n' | sort
+    find /var/lib/dpkg/info | sort
+    find /etc -type f ! -name '*-' ! -name ld.so.cache -exec sha256sum {} + | sort
+}
+
+bus_call() { # destination, object, method, arguments
+    local destination=$1 object=$2 method=$3
+    shift 3
+    dbus-send --system --print-reply=literal --dest="$destination" "$object" "$method" "$@"
+}
+
+has_owner() {
+    bus_call org.freedesktop.DBus / org.freedesktop.DBus.NameHasOwner "string:$bus_name" | grep -q 'boolean true'
+}
+
+has_no_owner() {
+    ! has_owner
+}
+
+service_process() {
+    bus_call org.freedesktop.DBus / org.freedesktop.DBus.GetConnectionUnixProcessID "string:$bus_name" |
+        sed 's/.*uint32 //'
+}
+
+# The packaged service user runs the service; everybody can read the packaged documents from it.
+service_works() {
+    wait_until has_owner
+    [ "$(stat -c %U "/proc/$(service_process)")" = measuringdevice ] || fail "another user runs the service"
+    documents_are_served
+}
+
+stop_service() {
+    kill "$(service_process)"
+    wait_until has_no_owner
+}
+
+# The documents on the bus are the product's own or else the packaged ones, for a user without any right.
+documents_are_served() {
+    local document path
+    for document in units default-units dependencies; do
+        path=$own_documents/$document.json
+        [ -e "$path" ] || path=$documents/$document.json
+        runuser -u nobody -- unitmanager get "$document" --bus system | cmp - "$path"
+    done
+}
+
+install_packages() {
+    step "install"
+    state >/tmp/before
+    dpkg --install "$packages"/*.deb >/tmp/install.log 2>&1 || { cat /tmp/install.log; exit 1; }
+    dpkg --audit
+    dpkg-query --show 'libunitmanager*' 'libdeviceplatform*' unitmanager
+}
+
+use_as_developer() {
+    step "the README's commands"
+    python3 -B "$(dirname "$0")/../structure/readme_commands.py" "$readme"
+}
+
+use_tool() {
+    step "tool"
+    [ "$(unitmanager convert 14.5 psi bar)" = "1.000 bar" ]
+    unitmanager check --units "$documents/units.json"
+}
+
+find_system_files() {
+    step "unit, user, bus policy and activation are where the system looks"
+    systemctl is-enabled "$service"
+    systemd-analyze verify "$service.service"
+    systemd-sysusers --cat-config | grep '^u measuringdevice '
+    getent passwd measuringdevice
+    systemd-sysusers --dry-run
+}
+
+use_service() {
+    local command
+    step "service on a private bus, with the packaged policy and command"
+    mkdir -p /run/dbus
+    dbus-daemon --system --fork --nopidfile
+    command=$(sed -n 's/^ExecStart=//p' "/lib/systemd/system/$service.service")
+    # shellcheck disable=SC2086 # several words on purpose
+    ! timeout 60 runuser -u nobody -- $command 2>/tmp/refused || fail "everybody may own $bus_name"
+    grep "cannot take the name $bus_name" /tmp/refused
+    # shellcheck disable=SC2086
+    runuser -u measuringdevice -- $command &
+    service_works
+    stop_service
+
+    step "service, started by the bus"
+    bus_call "$bus_name" / org.freedesktop.DBus.Peer.Ping
+    service_works
+    stop_service
+}
+
+upgrade_with_own_document() {
+    step "an upgrade leaves the product's own document as it is"
+    sed 's/"HectoPascal"/"KiloPascal"/' "$documents/default-units.json" >"$own_documents/default-units.json"
+    cp "$own_documents/default-units.json" /tmp/own.json
+    ! cmp --quiet /tmp/own.json "$documents/default-units.json" || fail "the product's document is the shipped one"
+    dpkg --install "$packages"/unitmanager_*.deb >/tmp/install.log 2>&1 || { cat /tmp/install.log; exit 1; }
+    cmp /tmp/own.json "$own_documents/default-units.json"
+    [ "$(unitmanager convert 1 Pressure Bar)" = "100.00 kPa" ] || fail "the tool uses the shipped document"
+    bus_call "$bus_name" / org.freedesktop.DBus.Peer.Ping
+    service_works
+    stop_service
+    rm "$own_documents/default-units.json"
+}
+
+purge_packages() {
+    step "purge"
+    for package in "$packages"/*.deb; do
+        dpkg-deb --field "$package" Package
+    done | xargs dpkg --purge >/tmp/purge.log 2>&1 || { cat /tmp/purge.log; exit 1; }
+    state >/tmp/after
+    diff /tmp/before /tmp/after || fail "purging leaves a difference"
+    echo "nothing is left: $(wc -l </tmp/after) facts are as before"
+}
+
+install_packages
+use_as_developer
+use_tool
+find_system_files
+use_service
+upgrade_with_own_document
+purge_packages

@@ -1,0 +1,86 @@
+#!/usr/bin/env bash
+# Builds the Debian packages for amd64 and armhf into build/packages, and checks them. Runs as root, because it installs
+# packages into roots, which are below build/packages, too.
+set -euo pipefail
+shopt -s nullglob
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+source tests/packages/roots.sh
+folder=$PWD/build/packages
+build_root=$folder/build-root
+install_root=$folder/install-root
+
+# build_in PLACE ARCHITECTURE: builds the tracked files in a folder of the root.
+build_in() {
+    local place=$1 architecture=$2
+    rm -rf "${build_root:?}$place"
+    mkdir -p "$build_root$place/unitmanager"
+    git ls-files -z | xargs -0 cp --parents -t "$build_root$place/unitmanager"
+    in_root "$build_root" "$folder" env --chdir="$place/unitmanager" DEB_BUILD_OPTIONS="parallel=$(nproc)" \
+        dpkg-buildpackage --build=binary --no-sign --host-arch="$architecture" >"$build_root$place/build.log" 2>&1 || {
+        tail -n 40 "$build_root$place/build.log"
+        return 1
+    }
+}
+
+build_packages() { # architecture
+    local architecture=$1 packages=$folder/$1 package count=0
+    echo "== packages: build for $architecture"
+    build_in /build/first "$architecture"
+    rm -rf "$packages"
+    mkdir "$packages"
+    find "$build_root/build/first" -maxdepth 1 -type f -exec cp -t "$packages" {} +
+
+    build_in /srv/in-another/folder "$architecture"
+    for package in "$packages"/*.deb; do
+        cmp "$package" "$build_root/srv/in-another/folder/${package##*/}"
+        count=$((count + 1))
+    done
+    [ "$count" -eq 8 ] || {
+        echo "$count files instead of 5 packages and 3 with debug symbols" >&2
+        return 1
+    }
+    echo "$count files are identical when built in another folder:"
+    (cd "$packages" && ls -s -1 --block-size=1 -- *.deb)
+}
+
+install_use_purge() { # architecture
+    local packages=$folder/$1 test_root=$folder/test-root
+    create_root "$install_root" "$1" cmake,g++,make,pkg-config,python3,systemd "$(dependency_hook "$packages")"
+    rm -rf "$test_root"
+    cp -a "$install_root" "$test_root"
+    mkdir "$test_root/srv/unitmanager"
+    git ls-files -z tests README.md | xargs -0 cp --parents -t "$test_root/srv/unitmanager"
+    in_root "$test_root" "$packages" /srv/unitmanager/tests/packages/install_use_purge.sh /mnt /srv/unitmanager/README.md
+    rm -rf "$test_root"
+}
+
+# dependency_hook PACKAGES: a command that installs what the packages depend on, except each other.
+dependency_hook() {
+    local package dependencies
+    dependencies=$(for package in "$1"/*.deb; do
+        dpkg-deb --field "$package" Pre-Depends Depends | sed 's/^[^:]*: //' | sed 's/, /\n/g'
+    done | grep -v -E '^(libunitmanager|libdeviceplatform|unitmanager)' | sort -u | paste -s -d ,)
+    # shellcheck disable=SC2016 # mmdebstrap sets it
+    printf 'APT_CONFIG="$MMDEBSTRAP_APT_CONFIG" apt-get satisfy --yes --no-install-recommends "%s"' "$dependencies"
+}
+
+check_packages() { # architecture
+    cp -t "$build_root/srv" tests/packages/check.sh
+    in_root "$build_root" "$folder/$1" bash /srv/check.sh /mnt
+}
+
+check_abi() { # architecture
+    local record=libunitmanager1-$1.abi.xz
+    cp -t "$build_root/srv" tests/packages/{abi.sh,"data/$record"}
+    in_root "$build_root" "$folder/$1" bash /srv/abi.sh /mnt "/srv/$record" ${UPDATE_RECORDS:+--update}
+    [ -z "${UPDATE_RECORDS:-}" ] || cp "$build_root/srv/$record" tests/packages/data/
+}
+
+create_root "$build_root" amd64,armhf "build-essential,crossbuild-essential-armhf,debhelper,cmake,ninja-build,\
+nlohmann-json3-dev,qtbase5-dev:amd64,qtbase5-dev:armhf,lintian,devscripts,abigail-tools"
+for architecture in amd64 armhf; do
+    build_packages "$architecture"
+    check_packages "$architecture"
+done
+check_abi amd64
+install_use_purge amd64
