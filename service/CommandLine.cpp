@@ -17,7 +17,7 @@ QString programName()
 
 QString usage()
 {
-    return programName() + QStringLiteral(" [options] --directory DIR");
+    return programName() + QStringLiteral(" [options] --directory DIR...");
 }
 
 CommandLine printing(const QString& text)

@@ -45,7 +45,7 @@ namespace {
 QString rejection(const QString& reason)
 {
     return "configuration-file-service: " + reason +
-           "\nconfiguration-file-service: usage: configuration-file-service [options] --directory DIR; "
+           "\nconfiguration-file-service: usage: configuration-file-service [options] --directory DIR...; "
            "more with --help\n";
 }
 
@@ -105,7 +105,7 @@ void ServiceProgramTest::helpNamesTheOptions()
     ServiceProcess service;
     QCOMPARE(service.run({option}), 0);
     const QStringList lines = service.output().split('\n');
-    QCOMPARE(lines.first(), "Usage: configuration-file-service [options] --directory DIR");
+    QCOMPARE(lines.first(), "Usage: configuration-file-service [options] --directory DIR...");
     for (const char* text : {"--directory <DIR>", "--bus <BUS>", "DEVICE_BUS", "--max-size <BYTES>",
                              "-h, --help", "-v, --version"})
         QVERIFY2(service.output().contains(text), text);
