@@ -25,14 +25,6 @@ namespace {
 
 const char* const fileNames[] = {"units.json", "default-units.json", "dependencies.json"};
 
-/// The member of the set for a kind of document.
-std::optional<JsonDocument>& documentOf(DocumentSet& documents, DocumentKind kind)
-{
-    std::optional<JsonDocument>* const members[] = {&documents.units, &documents.defaultUnits,
-                                                    &documents.dependencies};
-    return *members[static_cast<int>(kind)];
-}
-
 /// The findings in the files of an entry, as texts.
 QStringList check(const CorpusEntry& entry)
 {
@@ -40,8 +32,8 @@ QStringList check(const CorpusEntry& entry)
     std::vector<Finding> findings;
     for (const CorpusFile& file : entry.files) {
         Finding unreadable;
-        documentOf(documents, file.kind) = file.read(unreadable);
-        if (!documentOf(documents, file.kind))
+        documents.of(file.kind) = file.read(unreadable);
+        if (!documents.of(file.kind))
             findings.push_back(unreadable);
     }
     LogCapture log;
@@ -110,8 +102,8 @@ void CorpusTest::shippedDocumentsAreSound()
         const CorpusFile file{kind,
                               UNITMANAGER_SOURCE_DIR "/config/" + QString(fileNames[static_cast<int>(kind)])};
         Finding unreadable;
-        documentOf(documents, kind) = file.read(unreadable);
-        QVERIFY2(documentOf(documents, kind), qPrintable(unreadable.message));
+        documents.of(kind) = file.read(unreadable);
+        QVERIFY2(documents.of(kind), qPrintable(unreadable.message));
     }
     DocumentChecker::Options options;
     options.languages = QStringList{"en", "de", "fr"};
