@@ -10,6 +10,8 @@ QProcessEnvironment ToolProcess::plainEnvironment()
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove("QT_HASH_SEED");
     environment.insert("LANGUAGE", "en");
+    // For the leak check of an instrumented program.
+    environment.insert("LSAN_OPTIONS", "suppressions=" + testData("leaks.supp") + ":print_suppressions=0");
     return environment;
 }
 
