@@ -186,6 +186,7 @@ QList<Check> sourceChecks()
          {"DBusReply::DBusReply()", "DBusReply::isError() const"},
          emptyReplyIsAnError},
         {"source: texts are read without blocking",
+         // NOLINTNEXTLINE(bugprone-suspicious-missing-comma): one long name
          {"ConfigurationFileHandlerDBusConnector::getConfigurationAsynchron(QString const&, QString const&, "
           "QString const&) const",
           "ConfigurationFileHandlerDBusConnector::getConfigurationDependencyAsynchron(QString const&, "

@@ -170,6 +170,7 @@ QList<Check> stateMachineChecks()
          eventsCarryData},
         {"states: selected states are entered",
          {"StateMachineBase::StateMachineBase(QObject*, bool)",
+          // NOLINTNEXTLINE(bugprone-suspicious-missing-comma): one long name
           "StateMachineBase::doLogEntryStateChanged(QSharedPointer<StateMachineStateBase>, "
           "QSharedPointer<StateMachineStateBase>)",
           "StateMachineBase::doLogEntryStateInitialized(QSharedPointer<StateMachineStateBase>)",

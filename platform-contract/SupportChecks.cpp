@@ -13,7 +13,8 @@ namespace {
 void namesAreConstant(Faults& faults)
 {
     const auto isConstant = [](const QString& (*getter)()) {
-        return !getter().isEmpty() && &getter() == &getter();
+        const QString& first = getter();
+        return !first.isEmpty() && &first == &getter();
     };
     faults.expect(isConstant(DeviceManagerDefinitions::getModuleName), "the module has a constant name");
     faults.expect(isConstant(DeviceManagerDefinitions::getObjectNameUnitManagerConfiguration),
