@@ -2,29 +2,12 @@
 # install_use_purge.sh PACKAGES README: installs the packages of a folder, uses them as a developer and as a device do,
 # and purges them. Runs in a root without a network that has what the packages depend on.
 set -euo pipefail
+source "$(dirname "$0")/steps.sh"
 packages=$1 readme=$2
 service=configuration-file-service
 bus_name=org.measuringdevice.DeviceManager
 documents=/usr/share/unitmanager
 own_documents=/etc/unitmanager
-
-step() {
-    echo "== packages: $*"
-}
-
-fail() {
-    echo "$*" >&2
-    exit 1
-}
-
-# wait_until COMMAND...: repeats a command until it succeeds, for at most one minute.
-wait_until() {
-    local deadline=$((SECONDS + 60))
-    until "$@" >/dev/null 2>&1; do
-        [ "$SECONDS" -lt "$deadline" ] || fail "not within one minute: $*"
-        sleep 0.1
-    done
-}
 
 # Every file with its owner and mode, the content of the configuration, and the users. Left out: what dpkg and other
 # programs keep about the past.

@@ -45,7 +45,7 @@ build_packages() { # architecture
 
 install_use_purge() { # architecture
     local packages=$folder/$1 test_root=$folder/test-root
-    create_root "$install_root" "$1" cmake,g++,make,pkg-config,python3,systemd "$(dependency_hook "$packages")"
+    create_root "$install_root" apt "$1" cmake,g++,make,pkg-config,python3,systemd "$(dependency_hook "$packages")"
     rm -rf "$test_root"
     cp -a "$install_root" "$test_root"
     mkdir "$test_root/srv/unitmanager"
@@ -54,14 +54,38 @@ install_use_purge() { # architecture
     rm -rf "$test_root"
 }
 
-# dependency_hook PACKAGES: a command that installs what the packages depend on, except each other.
-dependency_hook() {
-    local package dependencies
-    dependencies=$(for package in "$1"/*.deb; do
+# Packages of another architecture are unpacked, and run under QEMU, which would take too long for their scripts.
+use_unpacked() { # architecture
+    local packages=$folder/$1 root=$folder/$1-root names package
+    names=$(dependencies "$packages" | sed 's/[ :].*//' | sort -u | paste -s -d ,)
+    # The bus asks for the name of its user.
+    # shellcheck disable=SC2016 # mmdebstrap expands it
+    create_root "$root" extract "$1" "bash,coreutils,diffutils,dbus-daemon,$names" \
+        'echo root:x:0:0:root:/root:/bin/bash >"$1/etc/passwd"'
+    for package in "$packages"/*.deb; do
+        dpkg-deb --extract "$package" "$root"
+    done
+    mkdir -p "$root/srv/unitmanager"
+    cp tests/packages/{steps,use_unpacked}.sh "$root/srv/unitmanager"
+    # shellcheck disable=SC2016 # the inner shell expands it
+    tests/armhf/emulate.sh "$root" unshare --user --map-root-user --mount bash -c '
+        mount --rbind /dev "$0/dev" && mount --rbind /proc "$0/proc" && exec chroot "$0" "$@"
+    ' "$root" env -i PATH=/usr/bin:/bin LC_ALL=C.UTF-8 /srv/unitmanager/use_unpacked.sh
+}
+
+# dependencies PACKAGES: what the packages of a folder depend on, except each other, one relation per line.
+dependencies() {
+    local package
+    for package in "$1"/*.deb; do
         dpkg-deb --field "$package" Pre-Depends Depends | sed 's/^[^:]*: //' | sed 's/, /\n/g'
-    done | grep -v -E '^(libunitmanager|libdeviceplatform|unitmanager)' | sort -u | paste -s -d ,)
+    done | grep -v -E '^(libunitmanager|libdeviceplatform|unitmanager)' | sort -u
+}
+
+# dependency_hook PACKAGES: a command that installs what the packages depend on.
+dependency_hook() {
     # shellcheck disable=SC2016 # mmdebstrap sets it
-    printf 'APT_CONFIG="$MMDEBSTRAP_APT_CONFIG" apt-get satisfy --yes --no-install-recommends "%s"' "$dependencies"
+    printf 'APT_CONFIG="$MMDEBSTRAP_APT_CONFIG" apt-get satisfy --yes --no-install-recommends "%s"' \
+        "$(dependencies "$1" | paste -s -d ,)"
 }
 
 check_packages() { # architecture
@@ -76,7 +100,7 @@ check_abi() { # architecture
     [ -z "${UPDATE_RECORDS:-}" ] || cp "$build_root/srv/$record" tests/packages/data/
 }
 
-create_root "$build_root" amd64,armhf "build-essential,crossbuild-essential-armhf,debhelper,cmake,ninja-build,\
+create_root "$build_root" apt amd64,armhf "build-essential,crossbuild-essential-armhf,debhelper,cmake,ninja-build,\
 nlohmann-json3-dev,qtbase5-dev:amd64,qtbase5-dev:armhf,lintian,devscripts,abigail-tools"
 for architecture in amd64 armhf; do
     build_packages "$architecture"
@@ -84,3 +108,4 @@ for architecture in amd64 armhf; do
 done
 check_abi amd64
 install_use_purge amd64
+use_unpacked armhf
