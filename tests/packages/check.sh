@@ -12,7 +12,8 @@ lintian --allow-root --no-override --fail-on error --tag-display-limit 0 "$folde
 
 echo "== packages: hardening-check"
 # Calls whose sizes the compiler does not know look unprotected in the files, so the log shows that all are fortified.
-# Debian 12's own start files lack control-flow protection, so no program can have it.
+# Debian 12's own start files lack control-flow protection, so no program can have it. For ARM, stack-clash protection is
+# not checked: it is recognised in disassembled x86 code only.
 compiled=$(grep -c -e ' -c ' "$folder/build.log")
 fortified=$(grep -e ' -c ' "$folder/build.log" | grep -c -e '-D_FORTIFY_SOURCE=2')
 [ "$compiled" -eq "$fortified" ] || {
@@ -24,7 +25,7 @@ for package in "$folder"/*.deb; do
 done
 count=0
 while read -r file; do
-    hardening-check --quiet --nofortify --nocfprotection "$file"
+    hardening-check --quiet --nofortify --nocfprotection "$file" 2> >(sed "/can't disassemble/d; /^$/d" >&2)
     count=$((count + 1))
 done < <(find "$scratch" -type f -exec sh -c 'head -c 4 "$1" | grep -q ELF' sh {} \; -print)
 [ "$count" -ge 9 ] || {

@@ -45,7 +45,8 @@ build_packages() { # architecture
 
 install_use_purge() { # architecture
     local packages=$folder/$1 test_root=$folder/test-root
-    create_root "$install_root" apt "$1" cmake,g++,make,pkg-config,python3,systemd "$(dependency_hook "$packages")"
+    create_root "$install_root" apt "$1" \
+        "cmake,g++,make,pkg-config,python3,systemd,$(dependency_names "$packages")"
     rm -rf "$test_root"
     cp -a "$install_root" "$test_root"
     mkdir "$test_root/srv/unitmanager"
@@ -56,12 +57,10 @@ install_use_purge() { # architecture
 
 # Packages of another architecture are unpacked, and run under QEMU, which would take too long for their scripts.
 use_unpacked() { # architecture
-    local packages=$folder/$1 root=$folder/$1-root names package
-    names=$(dependencies "$packages" | sed 's/[ :].*//' | sort -u | paste -s -d ,)
+    local packages=$folder/$1 root=$folder/$1-root package
+    create_root "$root" extract "$1" "bash,coreutils,diffutils,dbus-daemon,libc-bin,$(dependency_names "$packages")"
     # The bus asks for the name of its user.
-    # shellcheck disable=SC2016 # mmdebstrap expands it
-    create_root "$root" extract "$1" "bash,coreutils,diffutils,dbus-daemon,$names" \
-        'echo root:x:0:0:root:/root:/bin/bash >"$1/etc/passwd"'
+    echo root:x:0:0:root:/root:/bin/bash >"$root/etc/passwd"
     for package in "$packages"/*.deb; do
         dpkg-deb --extract "$package" "$root"
     done
@@ -73,19 +72,13 @@ use_unpacked() { # architecture
     ' "$root" env -i PATH=/usr/bin:/bin LC_ALL=C.UTF-8 /srv/unitmanager/use_unpacked.sh
 }
 
-# dependencies PACKAGES: what the packages of a folder depend on, except each other, one relation per line.
-dependencies() {
+# dependency_names PACKAGES: the names of the packages that the packages of a folder depend on, except each other. Where
+# several would do, the first one.
+dependency_names() {
     local package
     for package in "$1"/*.deb; do
-        dpkg-deb --field "$package" Pre-Depends Depends | sed 's/^[^:]*: //' | sed 's/, /\n/g'
-    done | grep -v -E '^(libunitmanager|libdeviceplatform|unitmanager)' | sort -u
-}
-
-# dependency_hook PACKAGES: a command that installs what the packages depend on.
-dependency_hook() {
-    # shellcheck disable=SC2016 # mmdebstrap sets it
-    printf 'APT_CONFIG="$MMDEBSTRAP_APT_CONFIG" apt-get satisfy --yes --no-install-recommends "%s"' \
-        "$(dependencies "$1" | paste -s -d ,)"
+        dpkg-deb --field "$package" Pre-Depends Depends | sed 's/^[^:]*: //' | sed 's/, /\n/g' | sed 's/[ :].*//'
+    done | grep -v -E '^(libunitmanager|libdeviceplatform|unitmanager)' | sort -u | paste -s -d ,
 }
 
 check_packages() { # architecture
@@ -95,9 +88,9 @@ check_packages() { # architecture
 
 check_abi() { # architecture
     local record=libunitmanager1-$1.abi.xz
-    cp -t "$build_root/srv" tests/packages/{abi.sh,"data/$record"}
-    in_root "$build_root" "$folder/$1" bash /srv/abi.sh /mnt "/srv/$record" ${UPDATE_RECORDS:+--update}
-    [ -z "${UPDATE_RECORDS:-}" ] || cp "$build_root/srv/$record" tests/packages/data/
+    cp -r -t "$build_root/srv" tests/packages/{abi.sh,data}
+    in_root "$build_root" "$folder/$1" bash /srv/abi.sh /mnt "/srv/data/$record" ${UPDATE_RECORDS:+--update}
+    [ -z "${UPDATE_RECORDS:-}" ] || cp "$build_root/srv/data/$record" tests/packages/data/
 }
 
 create_root "$build_root" apt amd64,armhf "build-essential,crossbuild-essential-armhf,debhelper,cmake,ninja-build,\
@@ -105,7 +98,7 @@ nlohmann-json3-dev,qtbase5-dev:amd64,qtbase5-dev:armhf,lintian,devscripts,abigai
 for architecture in amd64 armhf; do
     build_packages "$architecture"
     check_packages "$architecture"
+    check_abi "$architecture"
 done
-check_abi amd64
 install_use_purge amd64
 use_unpacked armhf

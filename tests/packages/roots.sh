@@ -2,13 +2,12 @@
 # Functions for roots: folders with a small Debian system.
 source tests/support/debian_root.sh
 
-# create_root FOLDER VARIANT ARCHITECTURES PACKAGES [HOOK]: creates a root, unless one with the same content exists. HOOK is
-# a shell command that may add more.
+# create_root FOLDER VARIANT ARCHITECTURES PACKAGES: creates a root, unless one with the same packages exists.
 create_root() {
-    local folder=$1 hook=${5:-true}
-    [ "$(cat "$folder.content" 2>/dev/null)" != "$4 $hook" ] || return 0
-    debian_root "${@:1:4}" --dpkgopt=force-unsafe-io --aptopt='APT::Install-Recommends "false"' --customize-hook="$hook"
-    echo "$4 $hook" >"$folder.content"
+    local folder=$1 packages=$4
+    [ "$(cat "$folder.content" 2>/dev/null)" != "$packages" ] || return 0
+    debian_root "$@" --dpkgopt=force-unsafe-io --aptopt='APT::Install-Recommends "false"'
+    echo "$packages" >"$folder.content"
 }
 
 # in_root FOLDER SHARED COMMAND...: runs a command in a root, without a network. It sees the folder SHARED as /mnt. Its

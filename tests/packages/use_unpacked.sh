@@ -23,6 +23,7 @@ unitmanager check --units "$documents/units.json" --default-units "$documents/de
 
 step "service, unpacked on $(uname -m), on a private bus"
 dbus-daemon --session --nofork --address="$DBUS_SESSION_BUS_ADDRESS" &
+wait_until test -S /tmp/bus
 configuration-file-service --directory /etc/unitmanager --directory "$documents" &
 is_served() { # document
     unitmanager get "$1" | cmp - "$documents/$1.json"
