@@ -41,7 +41,7 @@ void declareOptions(QCommandLineParser& parser)
                        "bus, and announces when one of them has changed."));
     CommonOptions::addHelpAndVersion(parser);
     parser.addOption({directoryOption,
-                      QStringLiteral("Directory of the documents. If given several times, each document is\n"
+                      QStringLiteral("Directory of the documents. If given several times, each document is "
                                      "read from the first of the directories that has it."),
                       QStringLiteral("DIR")});
     CommonOptions::addBus(parser);
