@@ -18,7 +18,7 @@ QString ValueArguments::rules()
            "unit and become nan in any other; a result outside the range of a double is inf\n"
            "or -inf.\n\n" +
            UnitWords::rules() +
-           "Values of a fixed unit, such as Pressure/Bar, and of NoUnit are never converted;\n"
+           "\nValues of a fixed unit, such as Pressure/Bar, and of NoUnit are never converted;\n"
            "FROM may then be left out.\n\n";
 }
 
