@@ -30,6 +30,7 @@ QString unitOf(const QString& fixedUnit);
 class Parts
 {
 public:
+    /// Splits @p fixedUnit at its last "/".
     explicit Parts(const QString& fixedUnit);
     Parts(const Parts&) = delete;
     Parts& operator=(const Parts&) = delete;
@@ -37,10 +38,12 @@ public:
     /// Whether there is a "/" to split at.
     bool areValid() const;
 
+    /// The part before the last "/".
     const QString& unitType() const
     {
         return m_unitType;
     }
+    /// The part after the last "/".
     const QString& unit() const
     {
         return m_unit;

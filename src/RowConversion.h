@@ -15,6 +15,7 @@ class UnitManagerCore;
 class RowConversion
 {
 public:
+    /// For the rows of one operation; an empty @p unit means the default unit of each column's unit type.
     RowConversion(const UnitManagerCore& core, const QString& unit, ConversionDirection direction);
 
     /// Converts @p cell in place. A cell of a column without a unit type and the no-input marker stay

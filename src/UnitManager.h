@@ -68,6 +68,7 @@ public:
     bool updateDefaultUnitsByJsonFile(const QString& path);
     /// Whether units and labels are loaded. Default units are not required.
     bool isValid() const;
+    /// Same as isValid().
     operator bool() const;
 
     /// The unit types, with their prefix, in no particular order.
@@ -89,7 +90,9 @@ public:
     bool extractUnitTypeAndUnit(const QString& fixedUnit, QString& unitType, QString& unit) const;
     /// The label of a unit; empty, with a warning, for an unknown unit type or unit.
     ///
+    /// @param unitType unit type with its prefix, or a fixed unit
     /// @param language language of the text; if it is missing, another language is used
+    /// @param unit name of a unit; empty for the default unit
     QString getUnitText(const QString& unitType, const QString& language, const QString& unit) const;
     /// The label, in all languages, of a fixed unit or of the base unit of a unit type; invalid when there is
     /// none.
@@ -207,7 +210,12 @@ public:
                                   const QString& unit) const;
     /// Writes @p values to a range of one row, each converted from @p unit to its column's base unit.
     ///
+    /// @param array receives the values
+    /// @param row index of the row
+    /// @param firstColumn index of the first column of the range
+    /// @param columnCount number of columns in the range
     /// @param values at least @p columnCount values; fewer is a programming error
+    /// @param unit unit of the values; empty for the default unit of each column's unit type
     /// @return false, with the array unchanged, when the range is not within it or a value cannot be
     /// converted; otherwise the result of the array's write.
     bool setValueArray(Array2dDataTypeWrapper& array, unsigned int row, unsigned int firstColumn,

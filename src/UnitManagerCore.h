@@ -112,6 +112,7 @@ public:
 
     /// Whether conversions and labels are loaded. Default units are not required.
     bool isValid() const;
+    /// Same as isValid().
     operator bool() const;
 
 private:

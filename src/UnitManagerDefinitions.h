@@ -30,25 +30,46 @@ public:
 
     /// @name Identifiers of unit types (`getUnitTypeUrl...`) and of units of them (`getUnitUrl...`)
     /// @{
+
+    /// "UnitManager/UnitType/Resistance"
     static const QString& getUnitTypeUrlResistance();
+    /// "UnitManager/UnitType/AbsoluteTemperature"
     static const QString& getUnitTypeUrlAbsoluteTemperature();
+    /// "UnitManager/UnitType/Pressure"
     static const QString& getUnitTypeUrlPressure();
+    /// "UnitManager/UnitType/Pressure/Bar"
     static const QString& getUnitUrlPressureBar();
+    /// "UnitManager/UnitType/Pressure/HectoPascal"
     static const QString& getUnitUrlPressureHectoPascal();
+    /// "UnitManager/UnitType/Pressure/MilliBar"
     static const QString& getUnitUrlPressureMilliBar();
+    /// "UnitManager/UnitType/Ratio"
     static const QString& getUnitTypeUrlRatio();
+    /// "UnitManager/UnitType/Ratio/Percentage"
     static const QString& getUnitUrlRatioPercentage();
+    /// "UnitManager/UnitType/Ratio/PartsPerMillion"
     static const QString& getUnitUrlRatioPartsPerMillion();
+    /// "UnitManager/UnitType/MixingRatio"
     static const QString& getUnitTypeUrlMixingRatio();
+    /// "UnitManager/UnitType/MixingRatio/GramPerKiloGram"
     static const QString& getUnitUrlMixingRatioGramPerKiloGram();
+    /// "UnitManager/UnitType/RelativeHumidity"
     static const QString& getUnitTypeUrlRelativeHumidity();
+    /// "UnitManager/UnitType/RelativeHumidity/RelHumidity"
     static const QString& getUnitUrlRelativeHumidityRelHumidity();
+    /// "UnitManager/UnitType/AbsoluteHumidity"
     static const QString& getUnitTypeUrlAbsoluteHumidity();
+    /// "UnitManager/UnitType/AbsoluteHumidity/GramPerCubicMeter"
     static const QString& getUnitUrlAbsoluteHumidityGramPerCubicMeter();
+    /// "UnitManager/UnitType/Voltage"
     static const QString& getUnitTypeUrlVoltage();
+    /// "UnitManager/UnitType/Time"
     static const QString& getUnitTypeUrlTime();
+    /// "UnitManager/UnitType/Time/Seconds"
     static const QString& getUnitUrlTimeSeconds();
+    /// "UnitManager/UnitType/SpecificEnthalpy"
     static const QString& getUnitTypeUrlSpecificEnthalpy();
+    /// "UnitManager/UnitType/SpecificEnthalpy/KiloJoulePerKiloGram"
     static const QString& getUnitUrlSpecificEnthalpyKiloJoulePerKiloGram();
     /// @}
 

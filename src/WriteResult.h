@@ -4,9 +4,9 @@
 /// failure.
 namespace WriteResult {
 
-constexpr int changed = 0;
+constexpr int changed = 0;   ///< written, and different from the previous value
 constexpr int unchanged = 1; ///< written, but equal to the previous value
-constexpr int failed = 2;
+constexpr int failed = 2;    ///< not written
 
 /// Whether a write with this status stored the value.
 constexpr bool isSuccess(int status)

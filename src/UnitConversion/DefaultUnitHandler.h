@@ -34,6 +34,7 @@ public:
 
     /// Whether there is at least one default unit.
     bool isValid() const;
+    /// Same as isValid().
     operator bool() const;
 
 private:

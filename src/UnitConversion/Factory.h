@@ -13,6 +13,7 @@ namespace VESKFactories {
 /// Hash of a registry key: qHash() without the per-process seed.
 struct KeyHasher
 {
+    /// The hash, the same in every process.
     std::size_t operator()(const QString& key) const
     {
         return qHash(key, 0);

@@ -18,9 +18,11 @@ enum class ConversionDirection
 /// is valid until the next load.
 struct FoundConversion
 {
+    /// The unit type of the unit; null without a conversion.
     const UnitConversionUnitTypeHandler* unitType = nullptr;
     /// Null when values stay unchanged.
     const ValueConversionWrapper* conversion = nullptr;
+    /// The direction in which convert() and its relatives work.
     ConversionDirection direction = ConversionDirection::FromBaseUnit;
     /// False after a failure, which has been logged. Values then stay unchanged.
     bool isKnown = false;
@@ -40,8 +42,10 @@ struct FoundConversion
     /// Converts a number. Callers must not pass the no-input marker.
     double convertNumber(double number) const;
 
-    /// Converts @p count numbers; no-input markers keep all their bits.
+    /// Converts an array of numbers; no-input markers keep all their bits.
     ///
+    /// @param values the numbers
     /// @param results room for @p count numbers; may be equal to @p values, but must not overlap it otherwise
+    /// @param count number of values
     void convertArray(const double* values, double* results, std::size_t count) const;
 };

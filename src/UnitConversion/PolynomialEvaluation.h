@@ -23,9 +23,9 @@ using EvaluateArray = void (*)(const double* coefficients, std::size_t coefficie
 /// Both functions, compiled for one kind of processor.
 struct Variant
 {
-    const char* name;
-    Evaluate evaluate;
-    EvaluateArray evaluateArray;
+    const char* name;            ///< of the kind of processor, for tests and benchmarks
+    Evaluate evaluate;           ///< one number
+    EvaluateArray evaluateArray; ///< many numbers
 };
 
 /// The variants that this processor supports, fastest first. The last one runs on every processor.

@@ -36,8 +36,10 @@ public:
 
     /// Whether there is at least one unit type.
     bool isValid() const;
+    /// Same as isValid().
     operator bool() const;
 
+    /// The unit types, with their prefix, in no particular order.
     QList<QString> getListofUnitTypes() const;
 
     /// @return the units of the unit type; empty for an unknown unit type. Nothing is logged.

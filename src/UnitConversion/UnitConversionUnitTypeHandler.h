@@ -22,6 +22,7 @@ public:
     UnitConversionUnitTypeHandler();
     /// Creates the handler of the unit type that @p node describes.
     ///
+    /// @param node the unit type's node in the document
     /// @param unitTypeName the unit type's key in the document; used in messages
     UnitConversionUnitTypeHandler(const BaseClassSharedPointer& node, const QString& unitTypeName);
     virtual ~UnitConversionUnitTypeHandler();
@@ -59,6 +60,7 @@ public:
 
     /// Whether a node has been read, with or without units.
     bool isValid() const;
+    /// Same as isValid().
     operator bool() const;
 
 private:

@@ -47,6 +47,7 @@ public:
     /// @param values @p count numbers in the base unit
     /// @param results room for @p count numbers in this unit; may be equal to @p values, but must not overlap
     /// it otherwise
+    /// @param count number of values
     void convertValues(const double* values, double* results, std::size_t count) const;
 
     /// Converts each number of an array like invertValue(); for parameters and NaN see convertValues(), with
@@ -60,6 +61,7 @@ public:
 
     /// Whether there is a converter.
     bool isValid() const;
+    /// Same as isValid().
     operator bool() const;
 
 private:

@@ -25,6 +25,6 @@ public:
     double invertValue(double x) const override;
 
 protected:
-    ConversionTable table;
-    ConversionTable inverseTable;
+    ConversionTable table;        ///< from the base unit
+    ConversionTable inverseTable; ///< to the base unit
 };

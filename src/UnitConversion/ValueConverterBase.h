@@ -16,16 +16,16 @@ public:
     /// One row of a conversion table.
     struct ConversionTableEntry
     {
-        double x = 0.0;
-        double y = 0.0;
+        double x = 0.0; ///< abscissa, the value to convert
+        double y = 0.0; ///< ordinate, the converted value
     };
 
     /// Rows in input order, with the rows of the largest and the smallest x (the first such row on ties).
     struct ConversionTable
     {
-        QVector<ConversionTableEntry> entries;
-        ConversionTableEntry maxEntry;
-        ConversionTableEntry minEntry;
+        QVector<ConversionTableEntry> entries; ///< the rows
+        ConversionTableEntry maxEntry;         ///< the row of the largest x
+        ConversionTableEntry minEntry;         ///< the row of the smallest x
     };
 
     ValueConverterBase() = default;
@@ -52,5 +52,5 @@ public:
     bool loadTable(const QList<QVariant>& data, ConversionTable& table);
 
 protected:
-    unsigned int decimalPlaces = 0;
+    unsigned int decimalPlaces = 0; ///< see getDecimalPlaces()
 };

@@ -36,8 +36,8 @@ public:
     double invertValue(double x) const override;
 
 protected:
-    ConversionTable table;
-    double distance = 0.0;
-    ConversionTable inverseTable;
-    double inverseDistance = 0.0;
+    ConversionTable table;        ///< from the base unit; only ordinates
+    double distance = 0.0;        ///< between two abscissae of the table
+    ConversionTable inverseTable; ///< to the base unit; only ordinates
+    double inverseDistance = 0.0; ///< between two abscissae of the inverse table
 };

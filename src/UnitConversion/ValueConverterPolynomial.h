@@ -27,6 +27,7 @@ public:
     /// @return true.
     bool resetPolynom(const QList<QVariant>& coefficients, const QList<QVariant>& inverseCoefficients);
 
+    /// @param x the number to evaluate at
     /// @param coefficients highest power first
     /// @return the value of the polynomial at @p x, by Horner's scheme with fused multiply-add; 0.0 without
     /// coefficients.
@@ -41,6 +42,7 @@ public:
     /// @param values @p count numbers in the base unit
     /// @param results room for @p count numbers in this unit; may be equal to @p values, but must not overlap
     /// it otherwise
+    /// @param count number of values
     void convertValues(const double* values, double* results, std::size_t count) const;
 
     /// Converts each number of an array like invertValue(); for parameters and NaN see convertValues(), with
@@ -48,8 +50,8 @@ public:
     void invertValues(const double* values, double* results, std::size_t count) const;
 
 protected:
-    QVector<double> polynomial; ///< highest power first
-    int polynomialDegree = 0;
+    QVector<double> polynomial;        ///< highest power first
+    int polynomialDegree = 0;          ///< degree of the polynomial
     QVector<double> inversePolynomial; ///< highest power first
-    int inversePolynomialDegree = 0;
+    int inversePolynomialDegree = 0;   ///< degree of the polynomial
 };

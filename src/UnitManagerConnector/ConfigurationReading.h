@@ -22,8 +22,11 @@ QSharedPointer<ConfigurationFileHandlerDBusConnector>
 connectorOf(UnitManagerConnectionData& data, UnitManagerConnectorDefinitions::ConnectorType type,
             const LogContext& context);
 
+/// Logs that a source has a kind that no read call serves.
 void warnUnknownKind(const LogContext& context, const QString& kind);
+/// Logs that a read call failed; the warning names the source.
 void warnNoReply(const LogContext& context, const QStringList& settings);
+/// Logs that a read call returned an empty text; the warning names the source.
 void warnEmpty(const LogContext& context, const QStringList& settings);
 
 } // namespace ConfigurationReading

@@ -25,7 +25,9 @@ class UNITMANAGER_EXPORT DBusConfigurationChangeSignalHandling : public QObject
     Q_OBJECT
 
 public:
+    /// Short name of the type.
     using ConnectorType = UnitManagerConnectorDefinitions::ConnectorType;
+    /// Short name of the type.
     using ConnectionStatus = UnitManagerConnectorDefinitions::ConnectionStatus;
 
     /// @param useSignalPolling whether signals are polled instead of delivered by the event loop
@@ -39,11 +41,13 @@ public:
     /// @return the result of closeDbusConnections().
     bool init(const QMap<ConnectorType, QStringList>& settings);
 
-    /// Subscribes to the changes of one source.
+    /// Subscribes to the changes of the units.
     ///
     /// @return ConnectionFailed, with a warning that names the source, when the subscription fails.
     ConnectionStatus connectUnitSwitchChangeFlag();
+    /// Subscribes to the changes of the dependencies; see connectUnitSwitchChangeFlag().
     ConnectionStatus connectDependencyFileChangeFlag();
+    /// Subscribes to the changes of the default units; see connectUnitSwitchChangeFlag().
     ConnectionStatus connectDefaultUnitChangeFlag();
 
     /// Processes polled signals.
@@ -62,10 +66,12 @@ public:
     bool closeDbusConnections();
 
 public Q_SLOTS:
-    /// Called when a source reports a change of the configuration @p instanceName. If it is the configured
+    /// Called when the units report a change of the configuration @p instanceName. If it is the configured
     /// name, the change is recorded and a debug message logged; other names are ignored.
     void unitSwitchConfigurationFileChange(const QString& instanceName);
+    /// The same for the default units; see unitSwitchConfigurationFileChange().
     void defaultUnitFileChange(const QString& instanceName);
+    /// The same for the dependencies; see unitSwitchConfigurationFileChange().
     void dependencyFileChanged(const QString& instanceName);
 
 private:

@@ -25,13 +25,21 @@ class UNITMANAGER_EXPORT UnitManagerConnectionData : public QObject
     Q_OBJECT
 
 public:
+    /// Short name of the type.
     using ConnectorType = UnitManagerConnectorDefinitions::ConnectorType;
+    /// Short name of the type.
     using ConnectionStatus = UnitManagerConnectorDefinitions::ConnectionStatus;
 
     /// @param parent ignored: the holder owns the object
     /// @param useSignalPolling whether change signals are polled instead of delivered by the event loop
     /// @param useAsynchronInterface whether configurations are read without blocking
     /// @param ignoredFlag has no effect
+    /// @param dependencyService module name of the service of the dependencies
+    /// @param dependencyObject name of their object
+    /// @param dependencyConfiguration name of their configuration
+    /// @param defaultUnitService module name of the service of the default units
+    /// @param defaultUnitObject name of their object
+    /// @param defaultUnitConfiguration name of their configuration
     UnitManagerConnectionData(QObject* parent, bool useSignalPolling, bool useAsynchronInterface,
                               bool ignoredFlag, const QString& dependencyService,
                               const QString& dependencyObject, const QString& dependencyConfiguration,
@@ -81,10 +89,13 @@ public:
     /// Shares the built dependency walker. @return false, with @p out unchanged, when none has been built.
     bool initializeDependencyWalker(QSharedPointer<DependencyWalker>& out);
 
-    /// Data that the states read and write.
+    /// The connector of each source; null when it is not open. The states read and write it.
     QMap<ConnectorType, QSharedPointer<ConfigurationFileHandlerDBusConnector>>& connectors();
+    /// The settings of each source, see ConnectorSettings.
     QMap<ConnectorType, QStringList>& connectorSettings();
+    /// The reply that is outstanding for each source; null when there is none.
     QMap<ConnectorType, QSharedPointer<DBusPendingReply>>& pendingReplies();
+    /// The text fetched from each source, from which updateObjects() builds.
     QMap<ConnectorType, QString>& configurations();
 
 private:

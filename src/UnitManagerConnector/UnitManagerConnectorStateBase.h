@@ -21,6 +21,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateBase : public StateMachineStat
     Q_OBJECT
 
 public:
+    /// Short name of the type.
     using ConnectorType = UnitManagerConnectorDefinitions::ConnectorType;
 
     /// @param parent the wrapper; any other object results in a state without a wrapper. It does not become
@@ -30,6 +31,7 @@ public:
 
     /// Whether there is no wrapper.
     bool isValid();
+    /// Same as isValid().
     operator bool();
 
 protected:
@@ -55,5 +57,5 @@ protected:
     /// @return whether there was at least one source, and @p action succeeded for all of them.
     static bool forEachType(const StateMachineEvent& event, const std::function<bool(ConnectorType)>& action);
 
-    UnitManagerStateMachineWrapper* m_wrapper;
+    UnitManagerStateMachineWrapper* m_wrapper; ///< null for a state without a wrapper
 };

@@ -11,6 +11,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateError : public UnitManagerConn
     Q_OBJECT
 
 public:
+    /// For the parent see UnitManagerConnectorStateBase().
     UnitManagerConnectorStateError(QObject* parent);
     ~UnitManagerConnectorStateError() override;
 

@@ -11,6 +11,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateIdle : public UnitManagerConne
     Q_OBJECT
 
 public:
+    /// For the parent see UnitManagerConnectorStateBase().
     UnitManagerConnectorStateIdle(QObject* parent);
     ~UnitManagerConnectorStateIdle() override;
 

@@ -11,6 +11,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateInitial : public UnitManagerCo
     Q_OBJECT
 
 public:
+    /// For the parent see UnitManagerConnectorStateBase().
     UnitManagerConnectorStateInitial(QObject* parent);
     ~UnitManagerConnectorStateInitial() override;
 

@@ -12,6 +12,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateReadConfigurationASynchron
     Q_OBJECT
 
 public:
+    /// For the parent see UnitManagerConnectorStateBase().
     UnitManagerConnectorStateReadConfigurationASynchron(QObject* parent);
     ~UnitManagerConnectorStateReadConfigurationASynchron() override;
 

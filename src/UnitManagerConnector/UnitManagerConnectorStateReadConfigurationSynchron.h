@@ -12,6 +12,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateReadConfigurationSynchron
     Q_OBJECT
 
 public:
+    /// For the parent see UnitManagerConnectorStateBase().
     UnitManagerConnectorStateReadConfigurationSynchron(QObject* parent);
     ~UnitManagerConnectorStateReadConfigurationSynchron() override;
 

@@ -11,6 +11,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateUpdate : public UnitManagerCon
     Q_OBJECT
 
 public:
+    /// For the parent see UnitManagerConnectorStateBase().
     UnitManagerConnectorStateUpdate(QObject* parent);
     ~UnitManagerConnectorStateUpdate() override;
 

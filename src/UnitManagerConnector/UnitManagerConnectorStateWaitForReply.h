@@ -15,6 +15,7 @@ class UNITMANAGER_EXPORT UnitManagerConnectorStateWaitForReply : public UnitMana
     Q_OBJECT
 
 public:
+    /// For the parent see UnitManagerConnectorStateBase().
     UnitManagerConnectorStateWaitForReply(QObject* parent);
     ~UnitManagerConnectorStateWaitForReply() override;
 

@@ -24,10 +24,17 @@ public:
     using StepResult = decltype(std::declval<UnitManagerConnectorStateMachine&>().postEvent(
         std::declval<const StateMachineEvent&>()));
 
-    /// Selects the initial state. The six names are service, object and configuration of the dependency file
-    /// and of the default units; a source with an empty name is not configured.
+    /// Selects the initial state. A source with an empty name is not configured.
     ///
     /// @param parent ignored: the holder owns the object
+    /// @param useSignalPolling whether change signals are polled instead of delivered by the event loop
+    /// @param useAsynchronInterface whether configurations are read without blocking
+    /// @param dependencyService module name of the service of the dependencies
+    /// @param dependencyObject name of their object
+    /// @param dependencyConfiguration name of their configuration
+    /// @param defaultUnitService module name of the service of the default units
+    /// @param defaultUnitObject name of their object
+    /// @param defaultUnitConfiguration name of their configuration
     UnitManagerStateMachineWrapper(QObject* parent, bool useSignalPolling, bool useAsynchronInterface,
                                    const QString& dependencyService, const QString& dependencyObject,
                                    const QString& dependencyConfiguration, const QString& defaultUnitService,

@@ -19,6 +19,7 @@ public:
     UnitManagerDevice();
     ~UnitManagerDevice() override;
 
+    /// @param processDataValue the live value, which the caller has locked
     /// @param unit unit of the result; empty for the default unit
     /// @return the value converted from the base unit, or unchanged if it carries an error; error type 3 for
     /// a null @p processDataValue.
@@ -27,6 +28,8 @@ public:
 
     /// Writes @p value converted to the base unit; a value that carries an error is written unchanged.
     ///
+    /// @param processDataValue the live value, which the caller has locked
+    /// @param value the new value with its error type
     /// @param unit unit of @p value; empty for the default unit
     /// @return false, with nothing written, for a null @p processDataValue and a value that cannot be
     /// converted.

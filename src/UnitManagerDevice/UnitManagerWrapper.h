@@ -40,18 +40,21 @@ class UnitManagerDevice;
 class UNITMANAGER_EXPORT UnitManagerWrapper
 {
 public:
-    /// Units only. Change signals are always delivered by the event loop with this constructor;
-    /// @p useSignalPolling only suppresses the first attempt.
+    /// Units only. Change signals are always delivered by the event loop with this constructor.
     ///
     /// @param useAsynchronInterface whether configurations are read without blocking
+    /// @param useSignalPolling only suppresses the first attempt
     UnitManagerWrapper(bool useAsynchronInterface, bool useSignalPolling);
 
     /// Deleted: two string literals would be converted to the two flags.
     template <typename Character>
     UnitManagerWrapper(const Character*, const Character*) = delete;
 
-    /// Units and default units; the names are service, object and configuration of the default units.
+    /// Units and default units.
     ///
+    /// @param defaultUnitService module name of the service of the default units, "DeviceManager"
+    /// @param defaultUnitObject name of their object, "DefaultUnitConfiguration"
+    /// @param defaultUnitConfiguration name of their configuration, "UnitManager/DefaultUnit"
     /// @param useAsynchronInterface whether configurations are read without blocking
     /// @param useSignalPolling whether change signals are polled; also suppresses the first attempt, so that
     /// the constructor reads nothing
@@ -141,6 +144,8 @@ public:
 
     /// Visits everything that depends on @p key.
     ///
+    /// @param key key of the value that has changed
+    /// @param node start node when there is no other one
     /// @param otherNode start node; if null, @p node is used
     /// @return true.
     bool resolveDependency(const QString& key, const QSharedPointer<ConfigurationAndProcessDataBase>& node,

@@ -26,6 +26,8 @@ public:
     /// Logs a warning, and changes nothing, while the wrapper is not initialised. A null node and a node
     /// without measurement-range attributes stay unchanged.
     ///
+    /// @param node the node to write to
+    /// @param unitType unit type with its prefix, or a fixed unit
     /// @param handled set to true when the node was written; never set to false
     /// @param changed set to true when that changed the node; never set to false
     void manipulate(const QSharedPointer<ConfigurationAndProcessDataBase>& node, const QString& unitType,

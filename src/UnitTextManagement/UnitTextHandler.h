@@ -68,6 +68,7 @@ public:
 
     /// Whether there is at least one label.
     bool isValid() const;
+    /// Same as isValid().
     operator bool() const;
 
 private:
