@@ -14,7 +14,7 @@ def main():
     project = Project(sys.argv[1])
     build = project.scratch / "skeleton"
     run([project.facts["cmake"], "--fresh", "-S", project.source / "examples" / "platform-skeleton", "-B", build,
-         "-G", project.facts["generator"], f"-DCMAKE_CXX_COMPILER={project.facts['compiler']}",
+         "-G", project.facts["generator"], *project.cmake_options(),
          f"-DCMAKE_CXX_COMPILER_LAUNCHER={project.facts['compilerLauncher']}",
          "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror"])
     run([project.facts["cmake"], "--build", build])
