@@ -1,0 +1,177 @@
+"""Everything that the pages show is true: their files compile, their commands run, and print what the page shows.
+
+    python3 pages_test.py INSTALLED [PAGE...]
+
+INSTALLED is the prefix of an installation. The blocks of a page are used in order, in one folder, see blocks_of().
+Blocks of files are written there: a file that is shown once exists from the start, one that is shown several times
+changes on the way. A line "…" in an output stands for lines that are left out. Commands that cannot be run are listed.
+With UPDATE_RECORDS=1 in the environment, the pages receive the outputs of their commands.
+"""
+
+import configparser
+import os
+import re
+import sys
+import tempfile
+from collections import Counter
+from pathlib import Path
+
+from not_run import NotRun
+from page import blocks_of
+from session import Session
+
+ROOT = Path(__file__).resolve().parents[2]
+FILE_LANGUAGES = {"cmake", "cpp", "ini", "json", "qml", "xml"}
+UPDATE = os.environ.get("UPDATE_RECORDS") == "1"
+
+
+def all_pages():
+    pages = [ROOT / "README.md", *sorted((ROOT / "docs").glob("*.md")), ROOT / "config/README.md"]
+    return [page.relative_to(ROOT) for page in pages]
+
+
+def environment_of(installed):
+    libraries = next(installed.glob("**/libunitmanager.so")).parent
+    return {
+        "PATH": f"{installed / 'bin'}:{os.environ['PATH']}",
+        "LD_LIBRARY_PATH": str(libraries),
+        "PKG_CONFIG_PATH": str(libraries / "pkgconfig"),
+        "CMAKE_PREFIX_PATH": str(installed),
+        "CMAKE_GENERATOR": "Ninja",
+        "QML2_IMPORT_PATH": str(libraries / "qt5/qml"),
+        "QT_QPA_PLATFORM": "offscreen",
+        "QT_QUICK_BACKEND": "software",
+        "LC_ALL": "C.UTF-8",
+    }
+
+
+def matches(expected, actual):
+    """Whether the lines are those expected, where "…" stands for any."""
+    pattern = "".join("(.*\n)*?" if line == "…\n" else re.escape(line) for line in expected.splitlines(keepends=True))
+    return re.fullmatch(pattern, actual) is not None
+
+
+class PageTest:
+    """The blocks of one page."""
+
+    def __init__(self, page, installed):
+        self.page = page
+        self.blocks = blocks_of(page, ROOT)
+        self.not_run = NotRun(ROOT, installed)
+        self.environment = environment_of(installed)
+        self.problems = []
+        self.results = Counter()
+
+    def run(self):
+        """Prints what was done with each block."""
+        for block in self.blocks:
+            if block.language != "console" and block.language not in FILE_LANGUAGES:
+                self.fail(block.place, f"unknown language {block.language!r}")
+        if not self.problems and self.blocks:
+            with tempfile.TemporaryDirectory() as name:
+                self.use_blocks(Path(name).resolve())
+        self.check_files_are_used()
+
+    def fail(self, place, problem):
+        self.problems.append(f"{place}: {problem}")
+        print(f"{place}: FAILED: {problem}")
+
+    def report(self, place, result, detail):
+        self.results[result] += 1
+        print(f"{place}: {result}: {detail}")
+
+    def use_blocks(self, folder):
+        counts = Counter(block.file for block in self.blocks)
+        for block in self.blocks:
+            if block.file and counts[block.file] == 1:
+                self.write(folder, block)
+        session = Session(folder, self.environment)
+        try:
+            for block in self.blocks:
+                if block.language != "console":
+                    self.use_file(folder, block)
+                for command in block.commands:
+                    self.use_command(session, block, command)
+        finally:
+            session.close()
+
+    def write(self, folder, block):
+        path = folder / block.file
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(block.content, encoding="utf-8")
+
+    def use_file(self, folder, block):
+        if not block.file:
+            self.fail(block.place, "the text before the block names no file")
+            return
+        self.write(folder, block)
+        self.report(block.place, "written", block.file)
+        if block.language == "ini":
+            self.check_settings(block)
+
+    def check_settings(self, block):
+        settings = configparser.ConfigParser(strict=False, interpolation=None)
+        settings.read_string(block.content)
+        command = settings.get("Service", "ExecStart", fallback="")
+        service = (ROOT / "service/system/configuration-file-service.service.in").read_text(encoding="utf-8")
+        for option in re.findall(r"--[\w-]+", command):
+            if option not in ("--directory", "--bus", "--max-size"):
+                self.fail(block.place, f"the service has no option {option}")
+        if f"[{settings.sections()[0]}]" not in service:
+            self.fail(block.place, f"unknown section {settings.sections()[0]}")
+
+    def use_command(self, session, block, command):
+        place = f"{self.page}:{command.line}"
+        text = command.text.replace("\\\n", " ")
+        try:
+            reason = self.not_run.reason(text)
+        except Exception as problem:  # a wrong command, whatever is wrong with it
+            self.fail(place, f"$ {command.text}: {problem}")
+            return
+        if reason:
+            self.report(place, "not run", f"$ {command.text} ({reason})")
+            return
+        exit_code, output = session.run(text, command.output.count("\n"))
+        if UPDATE and command.output and "…\n" not in command.output:
+            command.output = output
+        if command.output and not matches(command.output, output):
+            self.fail(place, f"$ {command.text}\nprinted\n{output}instead of\n{command.output}")
+        elif exit_code != 0 and not command.output:
+            self.fail(place, f"$ {command.text}\nended with exit code {exit_code}\n{output}")
+        else:
+            self.report(place, "ran", f"$ {command.text}")
+
+    def check_files_are_used(self):
+        commands = "\n".join(command.text for block in self.blocks for command in block.commands)
+        for block in self.blocks:
+            stem = Path(block.file).stem
+            if block.language in ("cpp", "qml", "json") and not re.search(rf"\b{re.escape(stem)}\b", commands):
+                self.fail(block.place, f"no command of the page uses {block.file}")
+
+    def update(self):
+        text = (ROOT / self.page).read_text(encoding="utf-8")
+        for block in self.blocks:
+            content = "".join(f"$ {command.text}\n{command.output}" for command in block.commands)
+            if content:
+                text = text.replace(f"```console\n{block.content}```", f"```console\n{content}```", 1)
+        (ROOT / self.page).write_text(text, encoding="utf-8")
+
+
+def main():
+    installed = Path(sys.argv[1]).resolve()
+    problems = []
+    results = Counter()
+    for page in [Path(name) for name in sys.argv[2:]] or all_pages():
+        test = PageTest(page, installed)
+        test.run()
+        if UPDATE:
+            test.update()
+        problems += test.problems
+        results += test.results
+    print(", ".join(f"{result}: {count}" for result, count in sorted(results.items())))
+    print("\n".join(problems))
+    return 1 if problems else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
