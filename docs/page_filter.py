@@ -13,7 +13,8 @@ ROOT = Path(__file__).resolve().parent.parent
 MAIN_PAGE = ROOT / "README.md"
 FENCE = re.compile(r"^(```.*?^```$)", re.MULTILINE | re.DOTALL)
 HEADING = re.compile(r"^(#+) (.+)$", re.MULTILINE)
-LINK = re.compile(r"(?<!!)\[([^\]]+)\]\(([^)\s]+)\)")
+ANY_LINK = re.compile(r"\[([^\]]+)\]\(([^)\s]+)\)")
+LINK = re.compile(r"(?<!!)" + ANY_LINK.pattern)
 
 
 def is_page(path):

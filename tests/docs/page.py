@@ -33,6 +33,9 @@ class Block:
 
 
 def commands_of(content, first_line):
+    # The demonstration prints commands of its own.
+    if content.startswith("$ ./dev demo\n"):
+        return [Command("./dev demo", content.partition("\n")[2], first_line)]
     return [
         Command(found[1], found[2], first_line + content.count("\n", 0, found.start()))
         for found in COMMAND.finditer(content)

@@ -1,10 +1,10 @@
 """Everything that the pages show is true: their files compile, their commands run, and print what the page shows.
 
-    python3 pages_test.py INSTALLED [PAGE...]
+    python3 pages_test.py BUILD INSTALLED [PAGE...]
 
-INSTALLED is the prefix of an installation. The blocks of a page are used in order, in one folder, see blocks_of().
+BUILD is the build folder, INSTALLED the prefix of an installation of it. The blocks of a page are used in order, in one folder, see blocks_of().
 Blocks of files are written there: a file that is shown once exists from the start, one that is shown several times
-changes on the way. A line "…" in an output stands for lines that are left out. Commands that cannot be run are listed.
+changes on the way. "…" in an output stands for what is left out. Commands that cannot be run are listed.
 With UPDATE_RECORDS=1 in the environment, the pages receive the outputs of their commands.
 """
 
@@ -46,16 +46,19 @@ def environment_of(installed):
 
 
 def matches(expected, actual):
-    """Whether the lines are those expected, where "…" stands for any."""
-    pattern = "".join("(.*\n)*?" if line == "…\n" else re.escape(line) for line in expected.splitlines(keepends=True))
+    """Whether the output is the expected one, where "…" stands for any lines, or for a part of a line."""
+    lines = expected.splitlines(keepends=True)
+    pattern = "".join("(.*\n)*?" if line == "…\n" else re.escape(line).replace("…", ".*") for line in lines)
     return re.fullmatch(pattern, actual) is not None
 
 
 class PageTest:
     """The blocks of one page."""
 
-    def __init__(self, page, installed):
+    def __init__(self, page, build, installed):
         self.page = page
+        # The demonstration of a build that exists already.
+        self.substitutes = {"./dev demo": f"{ROOT / 'examples/demo.sh'} {build}"}
         self.blocks = blocks_of(page, ROOT)
         self.not_run = NotRun(ROOT, installed)
         self.environment = environment_of(installed)
@@ -128,11 +131,13 @@ class PageTest:
         except Exception as problem:  # a wrong command, whatever is wrong with it
             self.fail(place, f"$ {command.text}: {problem}")
             return
-        if reason:
+        if reason and text not in self.substitutes:
             self.report(place, "not run", f"$ {command.text} ({reason})")
             return
-        exit_code, output = session.run(text, command.output.count("\n"))
-        if UPDATE and command.output and "…\n" not in command.output:
+        exit_code, output = session.run(self.substitutes.get(text, text), command.output.count("\n"))
+        if output and not output.endswith("\n"):
+            output += "\n"
+        if UPDATE and command.output and "…" not in command.output:
             command.output = output
         if command.output and not matches(command.output, output):
             self.fail(place, f"$ {command.text}\nprinted\n{output}instead of\n{command.output}")
@@ -142,11 +147,12 @@ class PageTest:
             self.report(place, "ran", f"$ {command.text}")
 
     def check_files_are_used(self):
-        commands = "\n".join(command.text for block in self.blocks for command in block.commands)
         for block in self.blocks:
-            stem = Path(block.file).stem
-            if block.language in ("cpp", "qml", "json") and not re.search(rf"\b{re.escape(stem)}\b", commands):
-                self.fail(block.place, f"no command of the page uses {block.file}")
+            users = [command.text for other in self.blocks for command in other.commands]
+            users += [other.content for other in self.blocks if other.file and other.file != block.file]
+            stem = re.escape(Path(block.file).stem)
+            if block.language in ("cpp", "qml", "json") and not re.search(rf"\b{stem}\b", "\n".join(users)):
+                self.fail(block.place, f"nothing on the page uses {block.file}")
 
     def update(self):
         text = (ROOT / self.page).read_text(encoding="utf-8")
@@ -158,11 +164,11 @@ class PageTest:
 
 
 def main():
-    installed = Path(sys.argv[1]).resolve()
+    build, installed = (Path(name).resolve() for name in sys.argv[1:3])
     problems = []
     results = Counter()
-    for page in [Path(name) for name in sys.argv[2:]] or all_pages():
-        test = PageTest(page, installed)
+    for page in [Path(name) for name in sys.argv[3:]] or all_pages():
+        test = PageTest(page, build, installed)
         test.run()
         if UPDATE:
             test.update()

@@ -39,7 +39,7 @@ def main():
             sys.exit(f"no command contains {needed!r}")
     with tempfile.TemporaryDirectory() as temporary:
         folder = Path(temporary)
-        (folder / "app.cpp").write_text(only(blocks, "cpp", "int main()"), encoding="utf-8")
+        (folder / "app.cpp").write_text(only(blocks, "cpp", "int main("), encoding="utf-8")
         (folder / "CMakeLists.txt").write_text(only(blocks, "cmake", "find_package"), encoding="utf-8")
         for command, expected in commands:
             # The program logs its results, as Qt's applications do.
