@@ -63,13 +63,18 @@ void CatalogueVerb::addOptions(QCommandLineParser& parser) const
     CommonOptions::addMaximumSize(parser);
 }
 
-Result<ExitCode> CatalogueVerb::run(const QCommandLineParser& options, const QStringList& arguments)
+Result<UnitCatalogue> CatalogueVerb::loadCatalogue(const QCommandLineParser& options)
 {
     const auto maximumSize = CommonOptions::maximumSize(options);
     if (!maximumSize)
         return maximumSize.error();
-    const auto catalogue =
-        CommonOptions::isBusGiven(options) ? loadFromService(options) : loadFromFiles(options, *maximumSize);
+    return CommonOptions::isBusGiven(options) ? loadFromService(options)
+                                              : loadFromFiles(options, *maximumSize);
+}
+
+Result<ExitCode> CatalogueVerb::run(const QCommandLineParser& options, const QStringList& arguments)
+{
+    const auto catalogue = loadCatalogue(options);
     if (!catalogue)
         return catalogue.error();
     return answer(*catalogue, options, arguments);

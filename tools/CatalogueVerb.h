@@ -8,6 +8,10 @@ class UnitCatalogue;
 /// or the active ones of the service on the bus named by --bus.
 class CatalogueVerb : public Verb
 {
+public:
+    /// Loads the documents that the options name. @param options those of a verb that declares addOptions()
+    static Result<UnitCatalogue> loadCatalogue(const QCommandLineParser& options);
+
 protected:
     using Verb::Verb;
 

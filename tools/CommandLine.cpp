@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "CheckVerb.h"
+#include "CompleteVerb.h"
 #include "Console.h"
 #include "ConvertVerb.h"
 #include "DiffVerb.h"
@@ -28,6 +29,7 @@ CommandLine::CommandLine()
     m_verbs.push_back(std::make_unique<GetVerb>());
     m_verbs.push_back(std::make_unique<DiffVerb>());
     m_verbs.push_back(std::make_unique<WatchVerb>());
+    m_verbs.push_back(std::make_unique<CompleteVerb>(m_verbs));
 }
 
 ExitCode CommandLine::run(const QStringList& words) const

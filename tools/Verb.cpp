@@ -73,11 +73,21 @@ void Verb::declare(QCommandLineParser& parser) const
         parser.addPositionalArgument(argument.name, argument.description);
 }
 
+bool Verb::parse(QCommandLineParser& parser, const QStringList& words) const
+{
+    declare(parser);
+    return parser.parse(QStringList("unitmanager") + withShieldedNumbers(words));
+}
+
+QStringList Verb::argumentsOf(const QCommandLineParser& parser)
+{
+    return withoutShields(parser.positionalArguments());
+}
+
 Result<ExitCode> Verb::answer(const QStringList& words)
 {
     QCommandLineParser parser;
-    declare(parser);
-    const bool isUnderstood = parser.parse(QStringList("unitmanager") + withShieldedNumbers(words));
+    const bool isUnderstood = parse(parser, words);
     if (parser.isSet("help"))
         return show(helpText(parser));
     if (parser.isSet("version"))
@@ -85,7 +95,7 @@ Result<ExitCode> Verb::answer(const QStringList& words)
     if (!isUnderstood)
         return CommonOptions::parserFailure(parser);
 
-    const QStringList arguments = withoutShields(parser.positionalArguments());
+    const QStringList arguments = argumentsOf(parser);
     if (const auto failure = wrongCount(arguments))
         return *failure;
     if (parser.isSet("verbose"))

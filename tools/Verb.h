@@ -45,6 +45,14 @@ public:
 
     const Description& about() const;
 
+    /// Declares the verb's options and arguments, and reads @p words, the command line after the verb. Words
+    /// that are not understood are skipped.
+    ///
+    /// @return false if there are such words
+    bool parse(QCommandLineParser& parser, const QStringList& words) const;
+    /// The arguments that parse() has read.
+    static QStringList argumentsOf(const QCommandLineParser& parser);
+
     /// Executes the verb with @p words, the command line after the verb. Handles --help and --version.
     ///
     /// @return the exit code; a failure has already been printed

@@ -48,6 +48,8 @@ void addVerbs()
     row("diff", "diff", QByteArray("[options] FILE..."),
         QStringList{"-h, --help", "-v, --version", "--bus <BUS>", "DEVICE_BUS", "--json", "  FILE  ",
                     "--max-size <BYTES>", "Exit codes", "Example"});
+    row("complete", "complete", QByteArray("[options] WORD..."),
+        QStringList{"-h, --help", "-v, --version", "--verbose", "  WORD  ", "a tab", "Example"});
     row("watch", "watch", QByteArray("[options]"),
         QStringList{"-h, --help", "-v, --version", "--verbose", "--bus <BUS>", "DEVICE_BUS", "--json",
                     "SIGTERM", "Example"});
@@ -108,8 +110,8 @@ void ToolHelpTest::programHelpListsEveryVerb()
     const ToolRun run = ToolProcess::run({option});
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.standardError, QByteArray());
-    for (const char* verb :
-         {"types", "units", "convert", "table", "label", "labels", "check", "get", "diff", "watch"})
+    for (const char* verb : {"types", "units", "convert", "table", "label", "labels", "check", "get", "diff",
+                             "watch", "complete"})
         QVERIFY2(run.standardOutput.contains('\n' + QByteArray(" ") + verb + ' '), verb);
 }
 

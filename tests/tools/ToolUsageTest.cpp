@@ -133,7 +133,8 @@ void ToolUsageTest::needsAVerb_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("message");
-    const QByteArray known = "; known: check, convert, diff, get, label, labels, table, types, units, watch";
+    const QByteArray known =
+        "; known: check, complete, convert, diff, get, label, labels, table, types, units, watch";
     row("nothing", QStringList{}, "VERB is missing" + known);
     row("unknown verb", QStringList{"invert"}, "unknown verb \"invert\"" + known + "; did you mean convert?");
     row("option before the verb", QStringList{"--json", "types"}, "unknown verb \"--json\"" + known);
