@@ -16,7 +16,7 @@ UnitSource::UnitSource(QObject* parent)
     // Connected before any binding, so that bindings read the new number.
     connect(this, &UnitSource::revisionChanged, this, [this] { ++m_revision; });
     connect(&m_timer, &QTimer::timeout, this, &UnitSource::poll);
-    m_timer.start(50);
+    m_timer.start(100);
 }
 
 void UnitSource::poll()

@@ -1,0 +1,363 @@
+#include <QtGui/QGuiApplication>
+#include <QtGui/QImage>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include <memory>
+
+#include "DrivenPanel.h"
+#include "Row.h"
+#include "ShippedService.h"
+
+/// The device panel as a person sees and uses it, with the running service and the shipped documents.
+class PanelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void showsValues_data();
+    void showsValues();
+    void choosesUnit();
+    void closesChooserWithoutChoice();
+    void movesWithProcess();
+    void relabelsAxis();
+    void writesTypedValue_data();
+    void writesTypedValue();
+    void refusesTypedText_data();
+    void refusesTypedText();
+    void keepsUneditedValue();
+    void keepsValueWhenTextIsRestored();
+    void keepsUnitOfEditing();
+    void discardsEditing();
+    void waitsForService();
+    void adoptsDocument();
+    void reportsRefusedDocument();
+    void forgetsChosenUnitThatIsGone();
+    void savesPictures_data();
+    void savesPictures();
+
+private:
+    std::unique_ptr<ShippedService> m_service;
+    std::unique_ptr<DrivenPanel> m_panel;
+};
+
+void PanelTest::init()
+{
+    m_service = std::make_unique<ShippedService>();
+    QVERIFY(m_service->startBus());
+    QVERIFY(m_service->start());
+    m_panel = std::make_unique<DrivenPanel>();
+    QVERIFY(m_panel->waitFor("state", "Connected"));
+}
+
+void PanelTest::cleanup()
+{
+    m_panel.reset();
+    m_service.reset();
+}
+
+void PanelTest::showsValues_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QStringList>("numbers");
+    QTest::addColumn<QStringList>("units");
+
+    const QStringList numbers{"1013.3", "-40.3", "45.7", "6.500", "1042.1"};
+    const QStringList numbersWithComma{"1013,3", "-40,3", "45,7", "6,500", "1042,1"};
+    row("English", QString("en"), QString("Measuring device"), numbers,
+        QStringList{"hPa", "°C", "%RH", "bar", "hPa"});
+    row("German", QString("de"), QString("Messgerät"), numbersWithComma,
+        QStringList{"hPa", "°C", "% r.F.", "bar", "hPa"});
+    row("French", QString("fr"), QString("Appareil de mesure"), numbersWithComma,
+        QStringList{"hPa", "°C", "% HR", "bar", "hPa"});
+}
+
+void PanelTest::showsValues()
+{
+    QFETCH(QString, language);
+    m_panel->click("language-" + language);
+    QTEST(m_panel->text("title"), "title");
+    QStringList numbers;
+    QStringList units;
+    for (const QString row : {"linePressure", "dewPoint", "humidity", "supplyPressure"}) {
+        numbers.append(m_panel->text(row + "Number"));
+        units.append(m_panel->text(row + "Unit"));
+    }
+    numbers.append(m_panel->text("alarmLimitInput"));
+    units.append(m_panel->text("alarmLimitUnit"));
+    QTEST(numbers, "numbers");
+    QTEST(units, "units");
+}
+
+void PanelTest::choosesUnit()
+{
+    m_panel->click("dewPointUnit");
+    QCOMPARE(m_panel->texts("choose"), QStringList({"°C", "°F", "K", "°R"}));
+    m_panel->click("chooseDegreeFahrenheit");
+    QVERIFY(!m_panel->isVisible("chooseDegreeFahrenheit"));
+    QCOMPARE(m_panel->text("dewPointNumber"), QString("-40.5"));
+    QCOMPARE(m_panel->text("dewPointUnit"), QString("°F"));
+    QCOMPARE(m_panel->text("linePressureUnit"), QString("hPa"));
+
+    m_panel->click("linePressureUnit");
+    m_panel->click("chooseBar");
+    QCOMPARE(m_panel->text("linePressureNumber"), QString("1.013"));
+    QCOMPARE(m_panel->text("alarmLimitInput"), QString("1.042"));
+    QCOMPARE(m_panel->text("alarmLimitUnit"), QString("bar"));
+    QCOMPARE(m_panel->text("dewPointUnit"), QString("°F"));
+}
+
+void PanelTest::closesChooserWithoutChoice()
+{
+    m_panel->click("linePressureUnit");
+    QVERIFY(m_panel->isVisible("chooseBar"));
+    m_panel->press(Qt::Key_Escape);
+    QVERIFY(!m_panel->isVisible("chooseBar"));
+    // Neither has a choice: only one unit, and a fixed unit.
+    m_panel->click("humidityUnit");
+    m_panel->click("supplyPressureUnit");
+    QCOMPARE(m_panel->texts("choose"), QStringList());
+    QCOMPARE(m_panel->text("linePressureNumber"), QString("1013.3"));
+}
+
+void PanelTest::movesWithProcess()
+{
+    for (int period = 0; period < m_panel->process().historyLength() / 4; ++period)
+        m_panel->process().advance();
+    // A quarter of the cycle of the dew point, the quarter of three cycles of the supply pressure.
+    QCOMPARE(m_panel->text("dewPointNumber"), QString("-38.8"));
+    QCOMPARE(m_panel->text("supplyPressureNumber"), QString("6.480"));
+}
+
+void PanelTest::relabelsAxis()
+{
+    QCOMPARE(m_panel->text("chartTitle"), QString("Line pressure (hPa)"));
+    QCOMPARE(m_panel->texts("tick"), QStringList({"1060.0", "1040.0", "1020.0", "1000.0", "980.0"}));
+    m_panel->click("linePressureUnit");
+    m_panel->click("chooseMegaPascal");
+    QCOMPARE(m_panel->text("chartTitle"), QString("Line pressure (MPa)"));
+    QCOMPARE(m_panel->texts("tick"), QStringList({"0.1060", "0.1040", "0.1020", "0.1000", "0.0980"}));
+    m_panel->click("language-de");
+    QCOMPARE(m_panel->text("chartTitle"), QString("Leitungsdruck (MPa)"));
+    QCOMPARE(m_panel->texts("tick"), QStringList({"0,1060", "0,1040", "0,1020", "0,1000", "0,0980"}));
+}
+
+void PanelTest::writesTypedValue_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<double>("stored");
+
+    row("point", QString("en"), QString("1050.25"), QString("1050.3"), 1.05025);
+    row("comma", QString("de"), QString("1050,25"), QString("1050,3"), 1.05025);
+    row("French comma", QString("fr"), QString("0,5"), QString("0,5"), 0.0005);
+    row("groups", QString("de"), QString("1.050,25"), QString("1050,3"), 1.05025);
+}
+
+void PanelTest::writesTypedValue()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, typed);
+    m_panel->click("language-" + language);
+    m_panel->click("alarmLimitInput");
+    m_panel->type(typed);
+    QCOMPARE(m_panel->text("alarmLimitInput"), typed);
+    QCOMPARE(m_panel->process().property("alarmLimit").toDouble(), 1.0421337);
+    m_panel->press(Qt::Key_Return);
+    QTEST(m_panel->process().property("alarmLimit").toDouble(), "stored");
+    QTEST(m_panel->text("alarmLimitInput"), "shown");
+    QVERIFY(!m_panel->isVisible("editError"));
+}
+
+void PanelTest::refusesTypedText_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("error");
+
+    row("point for a comma", QString("de"), QString("1050.2"),
+        QString("Das Dezimalzeichen ist „,“: 1050,2 eingeben."));
+    row("ambiguous", QString("de"), QString("1.050"),
+        QString("„1.050“ ist mehrdeutig: 1050 oder 1,050 eingeben."));
+    row("ambiguous in English", QString("en"), QString("1,050"),
+        QString("\"1,050\" is ambiguous: write 1050 or 1.050."));
+    row("word", QString("fr"), QString("deux"), QString("« deux » n’est pas un nombre."));
+    row("blank", QString("en"), QString(" "), QString("Enter a number."));
+}
+
+void PanelTest::refusesTypedText()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, typed);
+    m_panel->click("language-" + language);
+    m_panel->click("alarmLimitInput");
+    m_panel->type(typed);
+    m_panel->press(Qt::Key_Return);
+    QTEST(m_panel->text("editError"), "error");
+    QCOMPARE(m_panel->clippedTexts().join('\n'), QString());
+    QCOMPARE(m_panel->text("alarmLimitInput"), typed);
+    QCOMPARE(m_panel->process().property("alarmLimit").toDouble(), 1.0421337);
+
+    m_panel->press(Qt::Key_Escape);
+    QVERIFY(!m_panel->isVisible("editError"));
+    QCOMPARE(m_panel->text("alarmLimitInput"), QString(language == "en" ? "1042.1" : "1042,1"));
+}
+
+void PanelTest::keepsUneditedValue()
+{
+    QSignalSpy written(&m_panel->process(), &ProcessValues::alarmLimitChanged);
+    m_panel->click("alarmLimitInput");
+    m_panel->press(Qt::Key_Return);
+    m_panel->click("alarmLimitInput");
+    m_panel->click("title");
+    m_panel->click("language-de");
+    m_panel->click("alarmLimitInput");
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(written.count(), 0);
+    QCOMPARE(m_panel->text("alarmLimitInput"), QString("1042,1"));
+}
+
+void PanelTest::keepsValueWhenTextIsRestored()
+{
+    QSignalSpy written(&m_panel->process(), &ProcessValues::alarmLimitChanged);
+    m_panel->click("alarmLimitInput");
+    m_panel->press(Qt::Key_End);
+    m_panel->type("7");
+    m_panel->press(Qt::Key_Backspace);
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(written.count(), 0);
+    // The field follows the unit again.
+    m_panel->click("alarmLimitUnit");
+    m_panel->click("chooseKiloPascal");
+    QCOMPARE(m_panel->text("alarmLimitInput"), QString("104.21"));
+}
+
+void PanelTest::keepsUnitOfEditing()
+{
+    m_panel->click("alarmLimitInput");
+    m_panel->type("1050");
+    QVERIFY(m_service->change("default-units.json", "HectoPascal", "KiloPascal"));
+    QVERIFY(m_panel->waitFor("linePressureUnit", "kPa"));
+    QCOMPARE(m_panel->text("alarmLimitUnit"), QString("hPa"));
+    QCOMPARE(m_panel->text("alarmLimitInput"), QString("1050"));
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(m_panel->process().property("alarmLimit").toDouble(), 1.05);
+    QCOMPARE(m_panel->text("alarmLimitInput"), QString("105.00"));
+    QCOMPARE(m_panel->text("alarmLimitUnit"), QString("kPa"));
+}
+
+void PanelTest::discardsEditing()
+{
+    QSignalSpy written(&m_panel->process(), &ProcessValues::alarmLimitChanged);
+    m_panel->click("alarmLimitInput");
+    m_panel->type("3");
+    m_panel->press(Qt::Key_Escape);
+    QCOMPARE(m_panel->text("alarmLimitInput"), QString("1042.1"));
+    // The refused text would be another number in the other language.
+    m_panel->click("alarmLimitInput");
+    m_panel->type("1,050");
+    m_panel->click("language-de");
+    QCOMPARE(m_panel->text("alarmLimitInput"), QString("1042,1"));
+    QVERIFY(!m_panel->isVisible("editError"));
+    QCOMPARE(written.count(), 0);
+}
+
+void PanelTest::waitsForService()
+{
+    cleanup();
+    m_service = std::make_unique<ShippedService>();
+    QVERIFY(m_service->startBus());
+    m_panel = std::make_unique<DrivenPanel>();
+    QCOMPARE(m_panel->text("state"), QString("Waiting for the service"));
+    QCOMPARE(m_panel->text("linePressureNumber"), QString("–"));
+    QCOMPARE(m_panel->text("linePressureUnit"), QString());
+    QCOMPARE(m_panel->texts("tick"), QStringList());
+
+    QVERIFY(m_service->start());
+    QVERIFY(m_panel->waitFor("state", "Connected"));
+    QCOMPARE(m_panel->text("linePressureNumber"), QString("1013.3"));
+    QVERIFY(!m_panel->isVisible("banner"));
+}
+
+void PanelTest::adoptsDocument()
+{
+    QVERIFY(!m_panel->isVisible("banner"));
+    QVERIFY(m_service->change("units.json", R"("en": "%RH")", R"("en": "% rel")"));
+    QVERIFY(m_panel->waitFor("humidityUnit", "% rel"));
+    QVERIFY(m_panel->waitFor("banner", "New configuration adopted"));
+    QVERIFY(m_panel->waitFor("state", "Connected"));
+    QVERIFY(m_panel->save(PANEL_PICTURES "/adopted.png"));
+}
+
+void PanelTest::reportsRefusedDocument()
+{
+    QVERIFY(m_service->change("units.json", R"("RelHumidity": {)", R"("RelHumidity": )"));
+    const QString reason = R"(units.json:157:25: expected "," or "}")";
+    QVERIFY(m_panel->waitFor("banner", "Configuration refused: " + reason));
+    QCOMPARE(m_panel->text("state"), QString("Connected"));
+    QCOMPARE(m_panel->text("humidityNumber"), QString("45.7"));
+    QCOMPARE(m_panel->clippedTexts().join('\n'), QString());
+    QVERIFY(m_panel->save(PANEL_PICTURES "/refused.png"));
+    m_panel->click("language-fr");
+    QCOMPARE(m_panel->text("banner"), "Configuration refusée : " + reason);
+    QCOMPARE(m_panel->clippedTexts().join('\n'), QString());
+
+    QVERIFY(m_service->change("units.json", R"("fr": "% HR")", R"("fr": "% rel")"));
+    QVERIFY(m_panel->waitFor("humidityUnit", "% rel"));
+    QVERIFY(m_panel->waitFor("banner", "Nouvelle configuration adoptée"));
+}
+
+void PanelTest::forgetsChosenUnitThatIsGone()
+{
+    m_panel->click("linePressureUnit");
+    m_panel->click("chooseTorr");
+    QCOMPARE(m_panel->text("linePressureUnit"), QString("Torr"));
+    QVERIFY(m_service->change("units.json", R"("Torr": {)", R"("OtherTorr": {)"));
+    QVERIFY(m_panel->waitFor("linePressureUnit", "hPa"));
+    QCOMPARE(m_panel->text("linePressureNumber"), QString("1013.3"));
+}
+
+void PanelTest::savesPictures_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QString>("language");
+    for (const QSize size : {QSize(800, 480), QSize(1920, 1080)}) {
+        for (const QString language : {"en", "de", "fr"})
+            QTest::addRow("%dx%d-%s", size.width(), size.height(), qPrintable(language)) << size << language;
+    }
+}
+
+void PanelTest::savesPictures()
+{
+    QFETCH(QSize, size);
+    QFETCH(QString, language);
+    m_panel.reset();
+    m_panel = std::make_unique<DrivenPanel>(size);
+    QVERIFY(m_panel->waitFor("state", "Connected"));
+    m_panel->click("language-" + language);
+    QCOMPARE(m_panel->clippedTexts().join('\n'), QString());
+    const QString file = QString(PANEL_PICTURES "/%1.png").arg(QTest::currentDataTag());
+    QVERIFY(m_panel->save(file));
+    QCOMPARE(QImage(file).size(), size);
+
+    m_panel->click("linePressureUnit");
+    QCOMPARE(m_panel->texts("choose").size(), 14);
+    QCOMPARE(m_panel->clippedTexts().join('\n'), QString());
+    QVERIFY(m_panel->save(QString(PANEL_PICTURES "/chooser-%1.png").arg(QTest::currentDataTag())));
+}
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    Panel::useSoftwareRenderer();
+    QGuiApplication application(argc, argv);
+    PanelTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "PanelTest.moc"
