@@ -35,7 +35,7 @@ Units {
 
 LoadedUnits::LoadedUnits()
 {
-    m_engine.addImportPath(UNITMANAGER_QML_DIR);
+    m_engine.addImportPath(qEnvironmentVariable("UNITMANAGER_QML_DIR", UNITMANAGER_QML_DIR));
     QQmlComponent component(&m_engine);
     component.setData(source, QUrl());
     m_units.reset(component.create());

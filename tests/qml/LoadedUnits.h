@@ -12,7 +12,8 @@
 class LoadedUnits
 {
 public:
-    /// Ends the program if the module cannot be loaded.
+    /// Loads the module of the build, or that of the folder that UNITMANAGER_QML_DIR names in the
+    /// environment. Ends the program if it cannot be loaded.
     LoadedUnits();
 
     /// The value of a JavaScript expression in the scope of the object; the text of an exception.
