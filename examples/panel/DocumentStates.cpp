@@ -39,7 +39,8 @@ QString DocumentStates::refusal() const
 
 void DocumentStates::read()
 {
-    for (const char* object : {"/UnitManagerConfiguration", "/DefaultUnitConfiguration"}) {
+    for (const char* object :
+         {"/UnitManagerConfiguration", "/DefaultUnitConfiguration", "/DependencyConfiguration"}) {
         QDBusMessage call = QDBusMessage::createMethodCall(service(), object, properties, "Get");
         call.setArguments({QString(configurations), QString("lastRefusal")});
         call.setAutoStartService(false);

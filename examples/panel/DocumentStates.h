@@ -8,7 +8,7 @@
 class QDBusPendingCallWatcher;
 
 /// What the configuration service publishes about its documents. Reads it again whenever the service starts
-/// or announces a change.
+/// or announces a change. The bus must be running before; its restart is not detected.
 class DocumentStates : public QObject
 {
     Q_OBJECT

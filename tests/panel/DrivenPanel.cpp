@@ -1,6 +1,5 @@
 #include "DrivenPanel.h"
 
-#include <QtCore/QRectF>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
@@ -99,6 +98,18 @@ bool DrivenPanel::isVisible(const QString& name) const
     return find(name);
 }
 
+QColor DrivenPanel::color(const QString& name) const
+{
+    const QQuickItem* item = find(name);
+    return item ? item->property("color").value<QColor>() : QColor();
+}
+
+QRect DrivenPanel::place(const QString& name) const
+{
+    const QQuickItem* item = find(name);
+    return item ? item->mapRectToScene(item->boundingRect()).toRect() : QRect();
+}
+
 bool DrivenPanel::waitFor(const QString& name, const QString& text) const
 {
     return QTest::qWaitFor([&] { return this->text(name) == text; }, waitLimit);
@@ -126,9 +137,9 @@ ProcessValues& DrivenPanel::process()
     return *m_panel.process();
 }
 
-bool DrivenPanel::save(const QString& file) const
+QImage DrivenPanel::picture() const
 {
     const auto picture = m_panel.picture();
     QSignalSpy ready(picture.data(), &QQuickItemGrabResult::ready);
-    return ready.wait(waitLimit) && picture->saveToFile(file);
+    return ready.wait(waitLimit) ? picture->image() : QImage();
 }

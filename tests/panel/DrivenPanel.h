@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QtCore/QRect>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+#include <QtGui/QColor>
+#include <QtGui/QImage>
 #include <QtQuick/QQuickItem>
 
 #include "Panel.h"
@@ -24,14 +27,17 @@ public:
     /// The texts of all visible items whose names begin with @p prefix, from top to bottom.
     QStringList texts(const QString& prefix) const;
     bool isVisible(const QString& name) const;
+    QColor color(const QString& name) const;
+    /// The place of an item in the panel; empty if there is no such item.
+    QRect place(const QString& name) const;
     /// Runs the event loop until an item displays the text. @return false if it does not within a minute
     bool waitFor(const QString& name, const QString& text) const;
     /// The names of all visible items with a text that is cut off or exceeds its item.
     QStringList clippedTexts() const;
 
     ProcessValues& process();
-    /// Saves a picture. @return whether it was saved.
-    bool save(const QString& file) const;
+    /// @return a null image if the panel cannot be drawn
+    QImage picture() const;
 
 private:
     /// Returns when the panel is drawn, and thus all items are in their places.

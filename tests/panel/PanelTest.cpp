@@ -24,6 +24,8 @@ private Q_SLOTS:
     void closesChooserWithoutChoice();
     void movesWithProcess();
     void relabelsAxis();
+    void drawsChart();
+    void marksAlarm();
     void writesTypedValue_data();
     void writesTypedValue();
     void refusesTypedText_data();
@@ -144,6 +146,40 @@ void PanelTest::relabelsAxis()
     m_panel->click("language-de");
     QCOMPARE(m_panel->text("chartTitle"), QString("Leitungsdruck (MPa)"));
     QCOMPARE(m_panel->texts("tick"), QStringList({"0,1060", "0,1040", "0,1020", "0,1000", "0,0980"}));
+}
+
+void PanelTest::drawsChart()
+{
+    // The last value, 1013.25 hPa, is at the right edge, about two thirds above 1000 hPa.
+    const QPoint lower = m_panel->place("tick1").center();
+    const QPoint upper = m_panel->place("tick2").center();
+    QCOMPARE(m_panel->texts("tick").mid(2, 2), QStringList({"1020.0", "1000.0"}));
+    const int expected = lower.y() - qRound((1013.25 - 1000.0) / 20.0 * (lower.y() - upper.y()));
+    const QImage picture = m_panel->picture();
+    const int right = m_panel->place("limitLine").right();
+    // The only bluish colour from the top to the time axis.
+    QList<int> rows;
+    for (int y = 0; y < picture.height(); ++y) {
+        if (picture.pixelColor(right, y).blue() > 160)
+            rows.append(y);
+    }
+    QVERIFY(!rows.isEmpty());
+    QVERIFY2(qAbs(rows.first() - expected) <= 2, qPrintable(QString::number(rows.first() - expected)));
+}
+
+void PanelTest::marksAlarm()
+{
+    const QColor usual = m_panel->color("linePressureNumber");
+    QCOMPARE(m_panel->color("dewPointNumber"), usual);
+    m_panel->click("alarmLimitInput");
+    m_panel->type("1013");
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(m_panel->color("linePressureNumber"), m_panel->color("limitLine"));
+    QCOMPARE(m_panel->color("dewPointNumber"), usual);
+    m_panel->click("alarmLimitInput");
+    m_panel->type("1014");
+    m_panel->press(Qt::Key_Return);
+    QCOMPARE(m_panel->color("linePressureNumber"), usual);
 }
 
 void PanelTest::writesTypedValue_data()
@@ -291,7 +327,7 @@ void PanelTest::adoptsDocument()
     QVERIFY(m_panel->waitFor("humidityUnit", "% rel"));
     QVERIFY(m_panel->waitFor("banner", "New configuration adopted"));
     QVERIFY(m_panel->waitFor("state", "Connected"));
-    QVERIFY(m_panel->save(PANEL_PICTURES "/adopted.png"));
+    QVERIFY(m_panel->picture().save(PANEL_PICTURES "/adopted.png"));
 }
 
 void PanelTest::reportsRefusedDocument()
@@ -302,7 +338,7 @@ void PanelTest::reportsRefusedDocument()
     QCOMPARE(m_panel->text("state"), QString("Connected"));
     QCOMPARE(m_panel->text("humidityNumber"), QString("45.7"));
     QCOMPARE(m_panel->clippedTexts().join('\n'), QString());
-    QVERIFY(m_panel->save(PANEL_PICTURES "/refused.png"));
+    QVERIFY(m_panel->picture().save(PANEL_PICTURES "/refused.png"));
     m_panel->click("language-fr");
     QCOMPARE(m_panel->text("banner"), "Configuration refusée : " + reason);
     QCOMPARE(m_panel->clippedTexts().join('\n'), QString());
@@ -342,13 +378,13 @@ void PanelTest::savesPictures()
     m_panel->click("language-" + language);
     QCOMPARE(m_panel->clippedTexts().join('\n'), QString());
     const QString file = QString(PANEL_PICTURES "/%1.png").arg(QTest::currentDataTag());
-    QVERIFY(m_panel->save(file));
+    QVERIFY(m_panel->picture().save(file));
     QCOMPARE(QImage(file).size(), size);
 
     m_panel->click("linePressureUnit");
     QCOMPARE(m_panel->texts("choose").size(), 14);
     QCOMPARE(m_panel->clippedTexts().join('\n'), QString());
-    QVERIFY(m_panel->save(QString(PANEL_PICTURES "/chooser-%1.png").arg(QTest::currentDataTag())));
+    QVERIFY(m_panel->picture().save(QString(PANEL_PICTURES "/chooser-%1.png").arg(QTest::currentDataTag())));
 }
 
 int main(int argc, char** argv)
