@@ -11,6 +11,7 @@ With UPDATE_RECORDS=1 in the environment, the pages receive the outputs of their
 import configparser
 import os
 import re
+import shlex
 import sys
 import tempfile
 from collections import Counter
@@ -22,6 +23,12 @@ from session import Session
 
 ROOT = Path(__file__).resolve().parents[2]
 FILE_LANGUAGES = {"cmake", "cpp", "ini", "json", "qml", "xml"}
+# How a person uses the programs with a window; see WindowDriver.cpp.
+WINDOWS = {
+    "build/widgets": ["text 1013.3 hPa", "choose 0", "text 1.013 bar"],
+    "build/quick": ["text 1013,3 hPa", "choose 0", "text 1,013 bar", "type 0,9505", "text 0,951 bar", "type 0.95",
+                    'text The decimal separator is ",": write 0,95.'],
+}
 UPDATE = os.environ.get("UPDATE_RECORDS") == "1"
 
 
@@ -59,6 +66,10 @@ class PageTest:
         self.page = page
         # The demonstration of a build that exists already.
         self.substitutes = {"./dev demo": f"{ROOT / 'examples/demo.sh'} {build}"}
+        for program, steps in WINDOWS.items():
+            script = shlex.quote("\n".join(steps))
+            variables = f"LD_PRELOAD={build}/tests/docs/libWindowDriver.so WINDOW_STEPS={script}"
+            self.substitutes[program] = f"{variables} {program}"
         self.blocks = blocks_of(page, ROOT)
         self.not_run = NotRun(ROOT, installed)
         self.environment = environment_of(installed)
