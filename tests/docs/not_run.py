@@ -18,7 +18,7 @@ class NotRun:
             (r"(cmake|ctest)\b.*\bbuild/(release|library|platform|contract)\b", "builds the project", self.check_cmake),
             (r"cmake --preset\b", "builds the project", self.check_preset),
             (r"cmake --build --preset\b", "builds the project", self.check_preset),
-            (r"(build/(release|library|contract)|benchmarks)/", "needs a complete build", self.check_program),
+            (r"(build/(release|library|contract)|benchmarks|tests/armhf)/", "needs a complete build", self.check_program),
             (r"readelf\b.*build/library/", "needs a complete build", self.check_program),
         ]
 

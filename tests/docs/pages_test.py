@@ -15,6 +15,7 @@ import shlex
 import sys
 import tempfile
 from collections import Counter
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 from not_run import NotRun
@@ -22,6 +23,7 @@ from page import blocks_of
 from session import Session
 
 ROOT = Path(__file__).resolve().parents[2]
+FENCES = re.compile(r"^\s*(?:>\s*)?(?:```|~~~)", re.MULTILINE)
 FILE_LANGUAGES = {"cmake", "cpp", "ini", "json", "qml", "xml"}
 # How a person uses the programs with a window; see WindowDriver.cpp.
 WINDOWS = {
@@ -74,25 +76,35 @@ class PageTest:
         self.not_run = NotRun(ROOT, installed)
         self.environment = environment_of(installed)
         self.problems = []
+        self.lines = []
         self.results = Counter()
 
     def run(self):
-        """Prints what was done with each block."""
-        for block in self.blocks:
-            if block.language != "console" and block.language not in FILE_LANGUAGES:
-                self.fail(block.place, f"unknown language {block.language!r}")
+        """Does what the blocks show. The lines tell what was done with each."""
+        self.check_blocks()
         if not self.problems and self.blocks:
             with tempfile.TemporaryDirectory() as name:
                 self.use_blocks(Path(name).resolve())
         self.check_files_are_used()
 
+    def check_blocks(self):
+        fences = FENCES.findall((ROOT / self.page).read_text(encoding="utf-8"))
+        if len(fences) != 2 * len(self.blocks):
+            self.fail(self.page, "a block is indented, not closed, or not marked by ```")
+        for block in self.blocks:
+            commands = "".join(f"$ {command.text}\n{command.output}" for command in block.commands)
+            if block.language == "console" and commands != block.content:
+                self.fail(block.place, "the block does not begin with a command")
+            elif block.language != "console" and block.language not in FILE_LANGUAGES:
+                self.fail(block.place, f"unknown language {block.language!r}")
+
     def fail(self, place, problem):
         self.problems.append(f"{place}: {problem}")
-        print(f"{place}: FAILED: {problem}")
+        self.lines.append(f"{place}: FAILED: {problem}")
 
     def report(self, place, result, detail):
         self.results[result] += 1
-        print(f"{place}: {result}: {detail}")
+        self.lines.append(f"{place}: {result}: {detail}")
 
     def use_blocks(self, folder):
         counts = Counter(block.file for block in self.blocks)
@@ -152,7 +164,7 @@ class PageTest:
             command.output = output
         if command.output and not matches(command.output, output):
             self.fail(place, f"$ {command.text}\nprinted\n{output}instead of\n{command.output}")
-        elif exit_code != 0 and not command.output:
+        elif exit_code != 0 and not (command.output and text.startswith("unitmanager ")):
             self.fail(place, f"$ {command.text}\nended with exit code {exit_code}\n{output}")
         else:
             self.report(place, "ran", f"$ {command.text}")
@@ -176,13 +188,16 @@ class PageTest:
 
 def main():
     build, installed = (Path(name).resolve() for name in sys.argv[1:3])
+    tests = [PageTest(page, build, installed) for page in [Path(name) for name in sys.argv[3:]] or all_pages()]
+    # Each has a folder and a bus of its own.
+    with ThreadPoolExecutor(os.cpu_count()) as executor:
+        list(executor.map(PageTest.run, tests))
     problems = []
     results = Counter()
-    for page in [Path(name) for name in sys.argv[3:]] or all_pages():
-        test = PageTest(page, build, installed)
-        test.run()
+    for test in tests:
         if UPDATE:
             test.update()
+        print("\n".join(test.lines))
         problems += test.problems
         results += test.results
     print(", ".join(f"{result}: {count}" for result, count in sorted(results.items())))

@@ -28,6 +28,7 @@ class Session:
             ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address", f"--address={address}"],
             stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, start_new_session=True)
         bus.stdout.readline()
+        bus.stdout.close()
         self.processes.append(bus)
 
     def close(self):
@@ -57,8 +58,9 @@ class Session:
         return exit_code, "".join(self.lines(line_count))
 
     def forward(self, stream):
-        for line in stream:
-            self.output.put(line.decode("utf-8"))
+        with stream:
+            for line in stream:
+                self.output.put(line.decode("utf-8"))
 
     def lines(self, count):
         deadline = time.monotonic() + WAIT_LIMIT
