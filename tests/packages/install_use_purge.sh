@@ -45,6 +45,25 @@ service_works() {
     documents_are_served
 }
 
+qml_shows_units() {
+    local text
+    cat >/tmp/units.qml <<'QML'
+import QtQuick.Window 2.15
+import UnitManager 1.0
+
+Window {
+    property Units units: Units {
+        onConfigurationAdopted: {
+            console.log(text(1.01325, "UnitManager/UnitType/Pressure", "HectoPascal"))
+            Qt.quit()
+        }
+    }
+}
+QML
+    DEVICE_BUS=system QT_QPA_PLATFORM=offscreen QML_DISABLE_DISK_CACHE=1 timeout 60 /usr/lib/qt5/bin/qml /tmp/units.qml >/tmp/qml.log 2>&1 || true
+    grep -x 'qml: 1013.3 hPa' /tmp/qml.log || fail "the QML module shows: $(cat /tmp/qml.log)"
+}
+
 stop_service() {
     kill "$(service_process)"
     wait_until has_no_owner
@@ -65,7 +84,7 @@ install_packages() {
     state >/tmp/before
     dpkg --install "$packages"/*.deb >/tmp/install.log 2>&1 || { cat /tmp/install.log; exit 1; }
     dpkg --audit
-    dpkg-query --show 'libunitmanager*' 'libdeviceplatform*' unitmanager
+    dpkg-query --show 'libunitmanager*' 'libdeviceplatform*' 'unitmanager*' 'qml-module-unitmanager*'
 }
 
 use_as_developer() {
@@ -77,6 +96,15 @@ use_tool() {
     step "tool"
     [ "$(unitmanager convert 14.5 psi bar)" = "1.000 bar" ]
     unitmanager check --units "$documents/units.json"
+}
+
+find_pages_and_completion() {
+    step "manual pages and completion are where the shells look"
+    for page in 'unitmanager.1' 'configuration-file-service.8' 'unitmanager-documents.5'; do
+        [ -e "/usr/share/man/man${page##*.}/$page.gz" ] || fail "no manual page $page"
+    done
+    [ -e /usr/share/bash-completion/completions/unitmanager ] || fail "no completion for bash"
+    [ -e /usr/share/zsh/vendor-completions/_unitmanager ] || fail "no completion for zsh"
 }
 
 find_system_files() {
@@ -100,6 +128,7 @@ use_service() {
     # shellcheck disable=SC2086
     runuser -u measuringdevice -- $command &
     service_works
+    qml_shows_units
     stop_service
 
     step "service, started by the bus"
@@ -135,6 +164,7 @@ purge_packages() {
 install_packages
 use_as_developer
 use_tool
+find_pages_and_completion
 find_system_files
 use_service
 upgrade_with_own_document

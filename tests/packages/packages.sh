@@ -9,21 +9,24 @@ folder=$PWD/build/packages
 build_root=$folder/build-root
 install_root=$folder/install-root
 
-# build_in PLACE ARCHITECTURE: builds the tracked files in a folder of the root.
+# build_in PLACE ARCHITECTURE: builds the tracked files in a folder of the root. The package for all architectures is built
+# with the machine's own.
 build_in() {
-    local place=$1 architecture=$2
+    local place=$1 architecture=$2 kind=any
+    [ "$architecture" != amd64 ] || kind=binary
     rm -rf "${build_root:?}$place"
     mkdir -p "$build_root$place/unitmanager"
     git ls-files -z | xargs -0 cp --parents -t "$build_root$place/unitmanager"
     in_root "$build_root" "$folder" env --chdir="$place/unitmanager" DEB_BUILD_OPTIONS="parallel=$(nproc)" \
-        dpkg-buildpackage --build=binary --no-sign --host-arch="$architecture" >"$build_root$place/build.log" 2>&1 || {
+        dpkg-buildpackage --build=$kind --no-sign --host-arch="$architecture" >"$build_root$place/build.log" 2>&1 || {
         tail -n 40 "$build_root$place/build.log"
         return 1
     }
 }
 
 build_packages() { # architecture
-    local architecture=$1 packages=$folder/$1 package count=0
+    local architecture=$1 packages=$folder/$1 package count=0 expected=10
+    [ "$architecture" != amd64 ] || expected=11
     echo "== packages: build for $architecture"
     build_in /build/first "$architecture"
     rm -rf "$packages"
@@ -35,8 +38,8 @@ build_packages() { # architecture
         cmp "$package" "$build_root/srv/in-another/folder/${package##*/}"
         count=$((count + 1))
     done
-    [ "$count" -eq 8 ] || {
-        echo "$count files instead of 5 packages and 3 with debug symbols" >&2
+    [ "$count" -eq "$expected" ] || {
+        echo "$count packages, including those with debug symbols, instead of $expected" >&2
         return 1
     }
     echo "$count files are identical when built in another folder:"
@@ -46,7 +49,7 @@ build_packages() { # architecture
 install_use_purge() { # architecture
     local packages=$folder/$1 test_root=$folder/test-root
     create_root "$install_root" apt "$1" \
-        "cmake,g++,make,pkg-config,python3,systemd,$(dependency_names "$packages")"
+        "cmake,g++,make,pkg-config,python3,qml,qml-module-qtquick-window2,systemd,$(dependency_names "$packages")"
     rm -rf "$test_root"
     cp -a "$install_root" "$test_root"
     mkdir "$test_root/srv/unitmanager"
@@ -78,7 +81,7 @@ dependency_names() {
     local package
     for package in "$1"/*.deb; do
         dpkg-deb --field "$package" Pre-Depends Depends | sed 's/^[^:]*: //' | sed 's/, /\n/g' | sed 's/[ :].*//'
-    done | grep -v -E '^(libunitmanager|libdeviceplatform|unitmanager)' | sort -u | paste -s -d ,
+    done | grep -v -E '^(libunitmanager|libdeviceplatform|unitmanager|qml-module-unitmanager)' | sort -u | paste -s -d ,
 }
 
 check_packages() { # architecture
@@ -94,7 +97,8 @@ check_abi() { # architecture
 }
 
 create_root "$build_root" apt amd64,armhf "build-essential,crossbuild-essential-armhf,debhelper,cmake,ninja-build,\
-nlohmann-json3-dev,qtbase5-dev:amd64,qtbase5-dev:armhf,lintian,devscripts,abigail-tools"
+nlohmann-json3-dev,qtbase5-dev:amd64,qtbase5-dev:armhf,qtdeclarative5-dev:amd64,qtdeclarative5-dev:armhf,doxygen,graphviz,\
+python3,lintian,devscripts,abigail-tools"
 for architecture in amd64 armhf; do
     build_packages "$architecture"
     check_packages "$architecture"
