@@ -124,6 +124,7 @@ void CheckVerb::addOptions(QCommandLineParser& parser) const
     parser.addOption({rulesOption, "List the rules instead."});
     OutputOptions::addJson(parser, "file, line, column, path, severity, rule, message, advice");
     parser.addOption({sarifOption, "Print a SARIF 2.1.0 log."});
+    OutputOptions::addColor(parser);
 }
 
 Result<ExitCode> CheckVerb::run(const QCommandLineParser& options, const QStringList& /*arguments*/)
@@ -137,6 +138,10 @@ Result<ExitCode> CheckVerb::run(const QCommandLineParser& options, const QString
     const auto least = Rules::severityFromName(options.value(severityOption));
     if (!least)
         return wrongUsage("--severity must be error, warning or note");
+    const auto color = OutputOptions::color(options);
+    if (!color)
+        return color.error();
+    Console::setColor(*color);
     const auto checks = checkerOptions(options);
     if (!checks)
         return checks.error();

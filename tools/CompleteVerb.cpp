@@ -8,6 +8,7 @@
 #include "CommonOptions.h"
 #include "Console.h"
 #include "DeclaredOptions.h"
+#include "OutputOptions.h"
 #include "PrintableText.h"
 #include "Rule.h"
 #include "RunningService.h"
@@ -134,6 +135,8 @@ private:
             return Completion{plain(RunningService::documentNames(), "active document")};
         if (name == "SEVERITY")
             return Completion{severities()};
+        if (name == "WHEN")
+            return Completion{plain(OutputOptions::colorNames(), "when to print colors")};
         if (name == "LANGUAGE" || name == "LIST")
             return languages(name == "LIST" ? text : QString());
         return Completion();

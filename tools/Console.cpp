@@ -36,12 +36,21 @@ bool isTerminal()
     return ::isatty(STDOUT_FILENO) == 1;
 }
 
+Console::Color chosenColor = Console::Color::Auto;
+
 bool hasColors()
 {
+    if (chosenColor != Console::Color::Auto)
+        return chosenColor == Console::Color::Always;
     return isTerminal() && qEnvironmentVariableIsEmpty("NO_COLOR");
 }
 
 } // namespace
+
+void Console::setColor(Color color)
+{
+    chosenColor = color;
+}
 
 bool Console::printLine(const QString& line)
 {

@@ -8,6 +8,17 @@
 /// by PrintableText. For one thread only.
 namespace Console {
 
+/// When output is colored.
+enum class Color
+{
+    /// On a terminal, unless the environment variable NO_COLOR is set.
+    Auto,
+    Always,
+    Never
+};
+/// Selects when output is colored; Color::Auto at first.
+void setColor(Color color);
+
 /// Prints a line to standard output, which is buffered.
 ///
 /// @return false once writing has failed: no further output will arrive
@@ -17,7 +28,7 @@ void printText(const QString& text);
 /// Prints a document unchanged, with a line break at its end. On a terminal, only tabs and line breaks remain
 /// of its control characters.
 void printDocument(const QString& text);
-/// Prints a line of three parts; on a terminal the middle one in a color, unless NO_COLOR is set.
+/// Prints a line of three parts, the middle one in a color; see setColor().
 ///
 /// @param color the number of an ANSI color, such as 31 for red
 void printHighlighted(const QString& before, const QString& highlighted, int color, const QString& after);

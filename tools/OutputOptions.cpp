@@ -10,6 +10,7 @@ namespace {
 
 const char* const jsonName = "json";
 const char* const rawName = "raw";
+const char* const colorName = "color";
 const char* const languageName = "language";
 
 } // namespace
@@ -29,6 +30,28 @@ void OutputOptions::addLanguage(QCommandLineParser& parser)
 {
     parser.addOption(
         {languageName, "Language of labels, such as de or de_AT; en when not given.", "LANGUAGE", "en"});
+}
+
+void OutputOptions::addColor(QCommandLineParser& parser)
+{
+    parser.addOption({colorName,
+                      "When to print colors: auto (on a terminal, unless the variable NO_COLOR is set; the "
+                      "default), always or never.",
+                      "WHEN", "auto"});
+}
+
+QStringList OutputOptions::colorNames()
+{
+    // In the order of the enumeration.
+    return {"auto", "always", "never"};
+}
+
+Result<Console::Color> OutputOptions::color(const QCommandLineParser& options)
+{
+    const int index = colorNames().indexOf(options.value(colorName));
+    if (index < 0)
+        return wrongUsage("--color must be auto, always or never");
+    return static_cast<Console::Color>(index);
 }
 
 bool OutputOptions::isJson(const QCommandLineParser& options)

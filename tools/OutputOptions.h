@@ -1,6 +1,10 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include "Console.h"
+#include "Result.h"
 
 class QCommandLineParser;
 class QJsonObject;
@@ -15,6 +19,13 @@ void addJson(QCommandLineParser& parser, const QString& content);
 void addRaw(QCommandLineParser& parser);
 /// Declares --language.
 void addLanguage(QCommandLineParser& parser);
+
+/// Declares --color.
+void addColor(QCommandLineParser& parser);
+/// The values of --color.
+QStringList colorNames();
+/// When output is colored. @return a failure if the value of --color is not valid
+Result<Console::Color> color(const QCommandLineParser& options);
 
 bool isJson(const QCommandLineParser& options);
 bool isRaw(const QCommandLineParser& options);

@@ -33,7 +33,6 @@ private Q_SLOTS:
     void shippedDocumentsHaveNoFindings();
     void activeDocumentsAreChecked();
     void unreadableDocumentIsTrouble();
-    void colorsAreForTerminalsOnly();
     void rulesAreListed();
     void manyUnitsAreChecked();
     void rejectsWrongUsage_data();
@@ -274,19 +273,6 @@ void ToolCheckTest::unreadableDocumentIsTrouble()
     QCOMPARE(other.exitCode, 2);
 }
 
-void ToolCheckTest::colorsAreForTerminalsOnly()
-{
-    const QString command = ToolProcess::path() + " check --units " + m_units + " --severity error";
-    const QStringList onTerminal{"-qec", command, "/dev/null"};
-    const ToolRun colored = ToolProcess::runProgram("script", onTerminal);
-    QVERIFY(colored.standardOutput.contains(":6:7: \033[1;31merror\033[0m: converting"));
-
-    QProcessEnvironment environment = ToolProcess::plainEnvironment();
-    environment.insert("NO_COLOR", "1");
-    const ToolRun plain = ToolProcess::runProgram("script", onTerminal, {}, environment);
-    QVERIFY(plain.standardOutput.contains(":6:7: error: converting"));
-}
-
 void ToolCheckTest::rulesAreListed()
 {
     const ToolRun run = ToolProcess::run({"check", "--rules"});
@@ -326,6 +312,10 @@ void ToolCheckTest::rejectsWrongUsage_data()
         QByteArray("--languages must be a list such as en,de,fr"));
     row("blank in a list of languages", QStringList{"--languages", "en, de"},
         QByteArray("--languages must be a list such as en,de,fr"));
+    row("unknown choice of colors", QStringList{"--color", "sometimes"},
+        QByteArray("--color must be auto, always or never"));
+    row("empty choice of colors", QStringList{"--color="},
+        QByteArray("--color must be auto, always or never"));
     const QByteArray range = "--range must be two numbers, the lower first, such as -40,180";
     row("one limit", QStringList{"--range", "5"}, range);
     row("three limits", QStringList{"--range", "1,2,3"}, range);

@@ -83,6 +83,7 @@ void ToolCompleteTest::listsWords_data()
         QStringList{});
     row("documents", QStringList{"get", ""}, QStringList{"units", "default-units", "dependencies"});
     row("severities", QStringList{"check", "--severity", ""}, QStringList{"error", "warning", "note"});
+    row("choices of colors", QStringList{"check", "--color", ""}, QStringList{"auto", "always", "never"});
     row("severities after an equals sign", QStringList{"check", "--severity="},
         QStringList{"--severity=error", "--severity=warning", "--severity=note"});
     row("languages", QStringList{"label"} + documents + QStringList{"--language", ""},
