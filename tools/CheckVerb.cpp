@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "CheckedDocuments.h"
 #include "Console.h"
@@ -12,6 +13,7 @@
 #include "LabelCheck.h"
 #include "NumberText.h"
 #include "OutputOptions.h"
+#include "ProgressLine.h"
 #include "SarifLog.h"
 
 namespace {
@@ -145,11 +147,13 @@ Result<ExitCode> CheckVerb::run(const QCommandLineParser& options, const QString
     const auto checks = checkerOptions(options);
     if (!checks)
         return checks.error();
+    std::optional<ProgressLine> progress([] { return QString("checking"); });
     const auto documents = CheckedDocuments::read(options);
     if (!documents)
         return documents.error();
 
     const std::vector<Finding> findings = withSeverity(documents->check(*checks), *least);
+    progress.reset();
     print(findings, *documents, options);
     if (documents->hasUnreadable())
         return Unreadable;

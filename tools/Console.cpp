@@ -6,6 +6,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <mutex>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "CommonOptions.h"
@@ -14,14 +16,14 @@
 
 namespace {
 
-/// The error number of the first failed write; 0 if none has failed.
-int writeError = 0;
+/// The error number of the first failed write to standard output; 0 if none has failed.
+int outputError = 0;
 
 bool written(bool success)
 {
-    if (!success && writeError == 0)
-        writeError = errno;
-    return writeError == 0;
+    if (!success && outputError == 0)
+        outputError = errno;
+    return outputError == 0;
 }
 
 bool write(const QString& text, std::FILE* stream)
@@ -31,9 +33,15 @@ bool write(const QString& text, std::FILE* stream)
     return std::fwrite(bytes.constData(), 1, size, stream) == size;
 }
 
-bool isTerminal()
+bool isTerminal(int descriptor)
 {
-    return ::isatty(STDOUT_FILENO) == 1;
+    return ::isatty(descriptor) == 1;
+}
+
+bool isPipe(int descriptor)
+{
+    struct stat status = {};
+    return ::fstat(descriptor, &status) == 0 && (S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode));
 }
 
 Console::Color chosenColor = Console::Color::Auto;
@@ -42,7 +50,21 @@ bool hasColors()
 {
     if (chosenColor != Console::Color::Auto)
         return chosenColor == Console::Color::Always;
-    return isTerminal() && qEnvironmentVariableIsEmpty("NO_COLOR");
+    return isTerminal(STDOUT_FILENO) && qEnvironmentVariableIsEmpty("NO_COLOR");
+}
+
+/// Guards standard error and the length of the progress line on it.
+std::mutex errorMutex;
+int progressLength = 0;
+
+/// Writes to standard error in place of the progress line.
+void writeError(const QString& text)
+{
+    const std::lock_guard<std::mutex> lock(errorMutex);
+    if (progressLength > 0)
+        write('\r' + QString(progressLength, ' ') + '\r', stderr);
+    progressLength = 0;
+    write(text, stderr);
 }
 
 } // namespace
@@ -54,7 +76,7 @@ void Console::setColor(Color color)
 
 bool Console::printLine(const QString& line)
 {
-    return writeError == 0 && written(write(PrintableText::of(line) + '\n', stdout));
+    return outputError == 0 && written(write(PrintableText::of(line) + '\n', stdout));
 }
 
 void Console::printText(const QString& text)
@@ -66,7 +88,7 @@ void Console::printText(const QString& text)
 void Console::printDocument(const QString& text)
 {
     QString shown = text.endsWith('\n') ? text : text + '\n';
-    if (isTerminal()) {
+    if (isOutputTerminal()) {
         QStringList lines = shown.remove('\r').split('\n');
         for (QString& line : lines) {
             QStringList cells = line.split('\t');
@@ -75,7 +97,7 @@ void Console::printDocument(const QString& text)
         }
         shown = lines.join('\n');
     }
-    if (writeError == 0)
+    if (outputError == 0)
         written(write(shown, stdout));
 }
 
@@ -86,31 +108,59 @@ void Console::printHighlighted(const QString& before, const QString& highlighted
     if (hasColors())
         middle = "\033[1;" + QString::number(color) + 'm' + middle + "\033[0m";
     const QString line = PrintableText::of(before) + middle + PrintableText::of(after) + '\n';
-    if (writeError == 0)
+    if (outputError == 0)
         written(write(line, stdout));
 }
 
 bool Console::flush()
 {
-    return writeError == 0 && written(std::fflush(stdout) == 0);
+    return outputError == 0 && written(std::fflush(stdout) == 0);
+}
+
+bool Console::isInputTerminal()
+{
+    return isTerminal(STDIN_FILENO);
+}
+
+bool Console::isOutputTerminal()
+{
+    return isTerminal(STDOUT_FILENO);
+}
+
+bool Console::canShowProgress()
+{
+    return isTerminal(STDERR_FILENO) && !isPipe(STDOUT_FILENO);
+}
+
+void Console::showProgress(const QString& text)
+{
+    const QString line = "unitmanager: " + PrintableText::of(text);
+    const std::lock_guard<std::mutex> lock(errorMutex);
+    write('\r' + line.leftJustified(progressLength), stderr);
+    progressLength = line.size();
+}
+
+void Console::eraseProgress()
+{
+    writeError({});
 }
 
 void Console::printError(const QString& message)
 {
-    write("unitmanager: " + PrintableText::of(message) + '\n', stderr);
+    writeError("unitmanager: " + PrintableText::of(message) + '\n');
 }
 
 ExitCode Console::report(const Failure& failure, const QString& usage)
 {
-    write(CommonOptions::failureText("unitmanager", failure, usage), stderr);
+    writeError(CommonOptions::failureText("unitmanager", failure, usage));
     return failure.exitCode;
 }
 
 int Console::finish(int exitCode)
 {
-    if (flush() || writeError == EPIPE)
+    if (flush() || outputError == EPIPE)
         return exitCode;
-    printError(QString("cannot write: %1").arg(QString::fromLocal8Bit(std::strerror(writeError))));
+    printError(QString("cannot write: %1").arg(QString::fromLocal8Bit(std::strerror(outputError))));
     return Failed;
 }
 

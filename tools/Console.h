@@ -5,7 +5,7 @@
 #include "Result.h"
 
 /// The program's standard output and standard error, always in UTF-8. Every line is made safe for terminals
-/// by PrintableText. For one thread only.
+/// by PrintableText. For one thread only, except showProgress().
 namespace Console {
 
 /// When output is colored.
@@ -34,7 +34,18 @@ void printDocument(const QString& text);
 void printHighlighted(const QString& before, const QString& highlighted, int color, const QString& after);
 /// Writes the buffered output. @return false once writing has failed
 bool flush();
-/// Prints "unitmanager: " and a message to standard error.
+/// Whether standard input, or standard output, is a terminal.
+bool isInputTerminal();
+bool isOutputTerminal();
+
+/// Whether nothing else is shown on the terminal of standard error while a result is awaited: standard output
+/// is not a pipe, whose reader may use the same terminal. @return false if standard error is not a terminal
+bool canShowProgress();
+/// Replaces the progress line on standard error, which has no line break. For any thread.
+void showProgress(const QString& text);
+/// Erases the progress line, if there is one.
+void eraseProgress();
+/// Prints "unitmanager: " and a message to standard error, in place of the progress line.
 void printError(const QString& message);
 /// Prints the reason of a failure and, if the command line was wrong, the correct usage.
 ///

@@ -1,5 +1,6 @@
 #include "ConvertVerb.h"
 
+#include <atomic>
 #include <functional>
 #include <iostream>
 #include <optional>
@@ -7,6 +8,7 @@
 #include "Console.h"
 #include "LineReader.h"
 #include "NumberText.h"
+#include "ProgressLine.h"
 #include "ValueArguments.h"
 #include "ValueFormat.h"
 
@@ -25,8 +27,14 @@ Result<ExitCode> convertLines(const std::function<QString(std::optional<double>)
 {
     std::ios::sync_with_stdio(false);
     LineReader reader(std::cin);
+    std::atomic<qint64> lineCount = 0;
+    std::optional<ProgressLine> progress;
+    // Someone who types lines, or sees the results, needs no other progress.
+    if (!Console::isInputTerminal() && !Console::isOutputTerminal())
+        progress.emplace([&lineCount] { return QString("%1 lines").arg(lineCount.load()); });
     ExitCode exitCode = Succeeded;
     while (reader.next()) {
+        lineCount.store(reader.number(), std::memory_order_relaxed);
         const QString text = reader.text();
         const auto value = NumberText::parse(text);
         if (!Console::printLine(outputLine(value)))
