@@ -24,9 +24,13 @@ OTHER_TEXTS = {
     '"\\/bfnrt': "the characters after a backslash",
     "Usage: ": "the beginning of the help",
     "%{appname}: %{if-warning}warning: %{endif}%{message}": "the form of the log",
+    "least severity": "shown beside a word that a shell completes",
+    "active document": "shown beside a word that a shell completes",
     "device-bus ": "name of a connection",
     "device-bus-greeting ": "name of a connection",
 }
+
+used_texts = set()
 
 
 def squeezed(text):
@@ -73,6 +77,11 @@ def help_texts(tool, service):
     return squeezed(" ".join(subprocess.check_output(command, text=True) for command in outputs))
 
 
+def is_pattern(text):
+    """Whether the text is a regular expression."""
+    return text.startswith("^") and text.endswith("$")
+
+
 def is_help(statement, text, helps):
     """Whether the programs' help has the text. A short text may be there by chance, as may be that of a finding."""
     may_be_help = statement.file.name == "Rule.cpp" or statement.file.parts[0] in ("programs", "tools", "service")
@@ -87,7 +96,9 @@ def message_texts(statement, helps):
         texts = texts[1:]  # the first one is the source
     found = []
     for text in texts:
-        if text not in OTHER_TEXTS and not text.startswith("/") and not is_help(statement, text, helps):
+        if text in OTHER_TEXTS:
+            used_texts.add(text)
+        elif not text.startswith("/") and not is_pattern(text) and not is_help(statement, text, helps):
             found += parts(text)
     return found
 
@@ -114,6 +125,7 @@ def main():
             problems.append(f"{statement.place}: no entry in {PAGE.name} for {texts}")
         for entry in matching:
             entry.is_used = True
+    problems += [f"OTHER_TEXTS: no source has {text!r}" for text in OTHER_TEXTS if text not in used_texts]
     problems += [f"{PAGE.name}:{entry.line}: no source has {entry.messages}"
                  for entry in known if entry.line and not entry.is_used]
     print(f"{count} statements with messages, {len(known)} entries")
