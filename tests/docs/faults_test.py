@@ -29,6 +29,7 @@ PAGES = {
     "a file without a name": ("Text:\n\n```json\n{}\n```\n", "names no file"),
     "a word that ./dev does not have": ("```console\n$ ./dev bild\n```\n", "./dev has no word bild"),
     "a package that does not exist": ("```console\n$ sudo apt install ./unitmanger_*.deb\n```\n", "no package unitmanger"),
+    "a folder that no program reads": ("```console\n$ sudo cp units.json /etc/unitmanger/\n```\n", "no program reads"),
     "a unit that does not exist": ("```console\n$ sudo systemctl start configuration-file-servic\n```\n", "no known unit"),
     "an option that no project reads": ("```console\n$ cmake -S UNITMANAGER -B build/library -DUNITMANAGER_X=1\n```\n",
                                         "no project reads UNITMANAGER_X"),

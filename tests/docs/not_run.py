@@ -4,6 +4,8 @@ import re
 import shlex
 import subprocess
 
+SYSTEMCTL_VERBS = {"daemon-reload", "edit", "enable", "reload", "restart", "start", "stop"}
+
 
 class NotRun:
     """Finds the rule for a command, and applies its check."""
@@ -51,11 +53,15 @@ class NotRun:
             for name in re.findall(r"\./([\w-]+?)_\S*\.deb", " ".join(arguments)):
                 self.require(name in packages, f"there is no package {name}")
         elif program == "systemctl":
+            self.require(arguments[0] in SYSTEMCTL_VERBS, f"systemctl has no verb {arguments[0]}")
             self.check_units(arguments)
         elif program == "cmake":
             self.check_cmake([program, *arguments])
-        elif program not in ("install", "systemd-sysusers", "mkdir", "cp", "mv"):
-            raise AssertionError(f"no check for sudo {program}")
+        elif program in ("install", "cp"):
+            folder = re.search(r"SYSCONFDIR}(/\w+)", self.source("service/CMakeLists.txt"))[1]
+            self.require(arguments[-1].rstrip("/") == "/etc" + folder, f"no program reads {arguments[-1]}")
+        else:
+            self.require(words == ["sudo", "systemd-sysusers"], f"no check for sudo {program}")
 
     def check_units(self, words):
         units = [word for word in words if word.startswith("configuration-file-service")]
