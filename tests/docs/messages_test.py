@@ -26,6 +26,7 @@ OTHER_TEXTS = {
     "%{appname}: %{if-warning}warning: %{endif}%{message}": "the form of the log",
     "least severity": "shown beside a word that a shell completes",
     "active document": "shown beside a word that a shell completes",
+    "when to print colors": "shown beside a word that a shell completes",
     "device-bus ": "name of a connection",
     "device-bus-greeting ": "name of a connection",
 }
