@@ -9,7 +9,15 @@ import threading
 import time
 from pathlib import Path
 
+# Seconds until an output arrives, and until a command ends, which may be a build on a busy machine.
 WAIT_LIMIT = 60
+COMMAND_LIMIT = 400
+
+
+def end(process):
+    """Ends a process and those that it has started."""
+    os.killpg(process.pid, signal.SIGKILL)
+    process.wait()
 
 
 class Session:
@@ -33,8 +41,7 @@ class Session:
 
     def close(self):
         for process in reversed(self.processes):
-            os.killpg(process.pid, signal.SIGKILL)
-            process.wait()
+            end(process)
         self.private.cleanup()
 
     def run(self, command, line_count):
@@ -53,7 +60,11 @@ class Session:
         if in_background:
             self.processes.append(process)
         else:
-            exit_code = process.wait(timeout=WAIT_LIMIT)
+            try:
+                exit_code = process.wait(timeout=COMMAND_LIMIT)
+            except subprocess.TimeoutExpired:
+                end(process)
+                exit_code = process.returncode
             reader.join(WAIT_LIMIT)
         return exit_code, "".join(self.lines(line_count))
 
