@@ -91,10 +91,9 @@ public:
         const int equals = m_current.indexOf('=');
         if (equals < 0)
             return Completion{optionNames(m_options)};
-        const Result<Completion> result =
-            value(valueNameOf(m_current.left(equals)), m_current.mid(equals + 1));
+        const auto result = value(valueNameOf(m_current.left(equals)), m_current.mid(equals + 1));
         if (!result)
-            return result;
+            return result.error();
         return Completion{withPrefix(m_current.left(equals + 1), result->candidates), result->isFile};
     }
 

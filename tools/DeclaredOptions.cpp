@@ -6,7 +6,7 @@
 // The help is the only place where Qt's parser lists its options.
 QVector<DeclaredOption> DeclaredOptions::of(const QCommandLineParser& parser)
 {
-    static const QRegularExpression entry("^  (-[^<\\n]*?)(?: <([^>]+)>)?  +(\\S.*(?:\\n {4,}\\S.*)*)$",
+    static const QRegularExpression entry(R"(^  (-[^<\n]*?)(?: <([^>]+)>)?  +(\S.*(?:\n {4,}\S.*)*)$)",
                                           QRegularExpression::MultilineOption);
     QVector<DeclaredOption> options;
     auto matches = entry.globalMatch(parser.helpText());
