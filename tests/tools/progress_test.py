@@ -4,6 +4,7 @@ Argument: the program unitmanager.
 """
 
 import contextlib
+import os
 import pathlib
 import re
 import subprocess
@@ -16,6 +17,8 @@ sys.path.append(str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 from terminal import Terminal  # noqa: E402 (needs the path above)
 
 TOOL = sys.argv.pop(1)
+# Qt would print a message about a fixed hash seed.
+ENVIRONMENT = {name: value for name, value in os.environ.items() if name != "QT_HASH_SEED"}
 CONVERT = [TOOL, "convert", "-", "Pressure", "HectoPascal", "Bar"]
 CHECK = [TOOL, "check", "--units", "/dev/stdin"]
 CONVERT_PROGRESS = re.compile(rb"\runitmanager: \d+ lines, \d+ s")
@@ -52,7 +55,7 @@ class ProgressTest(unittest.TestCase):
 
     def start(self, command, **streams):
         """Starts the program on a terminal. Its input is a pipe."""
-        terminal = Terminal(command, **{"stdin": subprocess.PIPE, **streams})
+        terminal = Terminal(command, env=ENVIRONMENT, **{"stdin": subprocess.PIPE, **streams})
         self.addCleanup(terminal.close)
         self.addCleanup(terminal.process.stdin.close)
         return terminal
@@ -121,7 +124,7 @@ class ProgressTest(unittest.TestCase):
                 "errors of a check in a pipe": self.start(CHECK, stderr=subprocess.PIPE),
             }
             with open(self.results.with_suffix(".typed"), "wb") as typed_results:
-                typed = Terminal(CONVERT, stdout=typed_results)
+                typed = Terminal(CONVERT, env=ENVIRONMENT, stdout=typed_results)
             self.addCleanup(typed.close)
             self.feed_until(self.start_conversion(), CONVERT_PROGRESS)
             slow = self.start(CHECK)
