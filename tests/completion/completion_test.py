@@ -111,6 +111,14 @@ class CompletionTest(unittest.TestCase):
 
         self.for_each_locale(check)
 
+    def test_typed_characters_may_be_longer_than_a_byte(self):
+        shell = self.shells[LOCALES.index({"LC_ALL": "C.UTF-8"})]
+        for line, words in {"convert 1 µ": ["convert", "1", "µV"],
+                            "label '°C": ["label", "°C"],
+                            "convert 5 'lb/10⁶ ft³' mg/": ["convert", "5", "lb/10⁶ ft³", "mg/m³"]}.items():
+            with self.subTest(line):
+                self.assertEqual(shell.words_after(f"unitmanager {line}\t"), words)
+
     def test_a_complete_word_is_followed_by_a_blank(self):
         def check(shell):
             self.assertEqual(shell.line_after("unitmanager conv\t1"), b"unitmanager convert 1")
@@ -145,6 +153,7 @@ class CompletionTest(unittest.TestCase):
             self.assertEqual(shell.words_after(keys), ["label", "Pressure", "Bar"])
             self.assertEqual(shell.line_after("echo 1 | unitmanager conv\t"), b"echo 1 | unitmanager convert ")
             self.assertEqual(shell.line_after("A=1 unitmanager conv\t"), b"A=1 unitmanager convert ")
+            self.assertEqual(shell.line_after("true && unitmanager conv\t"), b"true && unitmanager convert ")
 
         self.for_each_locale(check)
 
