@@ -6,8 +6,8 @@
 #include "UnitManagerDevice/UnitManagerDevice.h"
 #include "UnitManagerDevice/UnitManagerWrapper.h"
 
-/// What Units.qml adds its functions to, which describe the operations: polls the unit manager of the
-/// configuration service, and writes and reads numbers in the default locale.
+/// The C++ part of Units.qml, which describes the operations. Polls the unit manager of the configuration
+/// service, and writes and reads numbers in the default locale.
 class UnitSource : public QObject
 {
     Q_OBJECT
