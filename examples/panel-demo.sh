@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Demonstrates the device panel: examples/panel-demo.sh BUILD_FOLDER
-# Starts and stops a private bus, the service and the panel; does not use the user's bus. Without a display, saves
-# pictures of the panel in BUILD_FOLDER/panel.
+# Starts and stops a private bus, the service and the panel; does not use the user's bus. PANEL_SIZE is the size of its
+# window, 800x480 by default. Without a display, saves pictures of the panel in BUILD_FOLDER/panel.
 set -euo pipefail
 build=$(realpath "${1:?usage: examples/panel-demo.sh BUILD_FOLDER}")
 config=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../config")

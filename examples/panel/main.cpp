@@ -2,8 +2,6 @@
 #include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
 
-#include <cstdio>
-
 #include "Panel.h"
 
 namespace {
@@ -38,7 +36,7 @@ int main(int argc, char* argv[])
     parser.addOptions({language, size, screenshot});
     parser.process(application);
     if (!sizeFrom(parser.value(size)).isValid() || sizeFrom(parser.value(size)).isEmpty()) {
-        std::fputs("panel: --size is not WIDTHxHEIGHT, such as 800x480\n", stderr);
+        qCritical("panel: --size is not WIDTHxHEIGHT, such as 800x480");
         return 2;
     }
 
