@@ -1,65 +1,49 @@
-#include <QtGui/QGuiApplication>
+#include "PanelFixture.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QRegularExpression>
 #include <QtGui/QImage>
-#include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
 #include <memory>
 
-#include "DrivenPanel.h"
 #include "Row.h"
-#include "ShippedService.h"
+
+namespace {
+
+QByteArray contentOf(const QString& name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
 
 /// The device panel as a person sees and uses it, with the running service and the shipped documents.
-class PanelTest : public QObject
+class PanelTest : public PanelFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void showsValues_data();
     void showsValues();
+    void translatesEveryText();
     void choosesUnit();
     void closesChooserWithoutChoice();
     void movesWithProcess();
     void relabelsAxis();
     void drawsChart();
     void marksAlarm();
-    void writesTypedValue_data();
-    void writesTypedValue();
-    void refusesTypedText_data();
-    void refusesTypedText();
-    void keepsUneditedValue();
-    void keepsValueWhenTextIsRestored();
-    void keepsUnitOfEditing();
-    void discardsEditing();
     void waitsForService();
     void adoptsDocument();
     void reportsRefusedDocument();
     void forgetsChosenUnitThatIsGone();
     void savesPictures_data();
     void savesPictures();
-
-private:
-    std::unique_ptr<ShippedService> m_service;
-    std::unique_ptr<DrivenPanel> m_panel;
 };
-
-void PanelTest::init()
-{
-    m_service = std::make_unique<ShippedService>();
-    QVERIFY(m_service->startBus());
-    QVERIFY(m_service->start());
-    m_panel = std::make_unique<DrivenPanel>();
-    QVERIFY(m_panel->waitFor("state", "Connected"));
-}
-
-void PanelTest::cleanup()
-{
-    m_panel.reset();
-    m_service.reset();
-}
 
 void PanelTest::showsValues_data()
 {
@@ -93,6 +77,24 @@ void PanelTest::showsValues()
     units.append(m_panel->text("alarmLimitUnit"));
     QTEST(numbers, "numbers");
     QTEST(units, "units");
+}
+
+void PanelTest::translatesEveryText()
+{
+    const QJsonObject languages = QJsonDocument::fromJson(contentOf(":/panel/texts.json")).object();
+    QCOMPARE(languages.keys(), QStringList({"de", "fr"}));
+    QCOMPARE(languages["de"].toObject().keys(), languages["fr"].toObject().keys());
+
+    const QRegularExpression translated("qsTr\\(\"([^\"]*)\"\\)");
+    QStringList texts;
+    for (const QString& file : QDir(":/panel").entryList({"*.qml"})) {
+        QRegularExpressionMatchIterator match = translated.globalMatch(contentOf(":/panel/" + file));
+        while (match.hasNext())
+            texts.append(match.next().captured(1));
+    }
+    QVERIFY(texts.contains("Dew point"));
+    for (const QString& text : texts)
+        QVERIFY2(languages["de"].toObject().contains(text), qPrintable(text));
 }
 
 void PanelTest::choosesUnit()
@@ -182,130 +184,9 @@ void PanelTest::marksAlarm()
     QCOMPARE(m_panel->color("linePressureNumber"), usual);
 }
 
-void PanelTest::writesTypedValue_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<double>("stored");
-
-    row("point", QString("en"), QString("1050.25"), QString("1050.3"), 1.05025);
-    row("comma", QString("de"), QString("1050,25"), QString("1050,3"), 1.05025);
-    row("French comma", QString("fr"), QString("0,5"), QString("0,5"), 0.0005);
-    row("groups", QString("de"), QString("1.050,25"), QString("1050,3"), 1.05025);
-}
-
-void PanelTest::writesTypedValue()
-{
-    QFETCH(QString, language);
-    QFETCH(QString, typed);
-    m_panel->click("language-" + language);
-    m_panel->click("alarmLimitInput");
-    m_panel->type(typed);
-    QCOMPARE(m_panel->text("alarmLimitInput"), typed);
-    QCOMPARE(m_panel->process().property("alarmLimit").toDouble(), 1.0421337);
-    m_panel->press(Qt::Key_Return);
-    QTEST(m_panel->process().property("alarmLimit").toDouble(), "stored");
-    QTEST(m_panel->text("alarmLimitInput"), "shown");
-    QVERIFY(!m_panel->isVisible("editError"));
-}
-
-void PanelTest::refusesTypedText_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("error");
-
-    row("point for a comma", QString("de"), QString("1050.2"),
-        QString("Das Dezimalzeichen ist „,“: 1050,2 eingeben."));
-    row("ambiguous", QString("de"), QString("1.050"),
-        QString("„1.050“ ist mehrdeutig: 1050 oder 1,050 eingeben."));
-    row("ambiguous in English", QString("en"), QString("1,050"),
-        QString("\"1,050\" is ambiguous: write 1050 or 1.050."));
-    row("word", QString("fr"), QString("deux"), QString("« deux » n’est pas un nombre."));
-    row("blank", QString("en"), QString(" "), QString("Enter a number."));
-}
-
-void PanelTest::refusesTypedText()
-{
-    QFETCH(QString, language);
-    QFETCH(QString, typed);
-    m_panel->click("language-" + language);
-    m_panel->click("alarmLimitInput");
-    m_panel->type(typed);
-    m_panel->press(Qt::Key_Return);
-    QTEST(m_panel->text("editError"), "error");
-    QCOMPARE(m_panel->clippedTexts().join('\n'), QString());
-    QCOMPARE(m_panel->text("alarmLimitInput"), typed);
-    QCOMPARE(m_panel->process().property("alarmLimit").toDouble(), 1.0421337);
-
-    m_panel->press(Qt::Key_Escape);
-    QVERIFY(!m_panel->isVisible("editError"));
-    QCOMPARE(m_panel->text("alarmLimitInput"), QString(language == "en" ? "1042.1" : "1042,1"));
-}
-
-void PanelTest::keepsUneditedValue()
-{
-    QSignalSpy written(&m_panel->process(), &ProcessValues::alarmLimitChanged);
-    m_panel->click("alarmLimitInput");
-    m_panel->press(Qt::Key_Return);
-    m_panel->click("alarmLimitInput");
-    m_panel->click("title");
-    m_panel->click("language-de");
-    m_panel->click("alarmLimitInput");
-    m_panel->press(Qt::Key_Return);
-    QCOMPARE(written.count(), 0);
-    QCOMPARE(m_panel->text("alarmLimitInput"), QString("1042,1"));
-}
-
-void PanelTest::keepsValueWhenTextIsRestored()
-{
-    QSignalSpy written(&m_panel->process(), &ProcessValues::alarmLimitChanged);
-    m_panel->click("alarmLimitInput");
-    m_panel->press(Qt::Key_End);
-    m_panel->type("7");
-    m_panel->press(Qt::Key_Backspace);
-    m_panel->press(Qt::Key_Return);
-    QCOMPARE(written.count(), 0);
-    // The field follows the unit again.
-    m_panel->click("alarmLimitUnit");
-    m_panel->click("chooseKiloPascal");
-    QCOMPARE(m_panel->text("alarmLimitInput"), QString("104.21"));
-}
-
-void PanelTest::keepsUnitOfEditing()
-{
-    m_panel->click("alarmLimitInput");
-    m_panel->type("1050");
-    QVERIFY(m_service->change("default-units.json", "HectoPascal", "KiloPascal"));
-    QVERIFY(m_panel->waitFor("linePressureUnit", "kPa"));
-    QCOMPARE(m_panel->text("alarmLimitUnit"), QString("hPa"));
-    QCOMPARE(m_panel->text("alarmLimitInput"), QString("1050"));
-    m_panel->press(Qt::Key_Return);
-    QCOMPARE(m_panel->process().property("alarmLimit").toDouble(), 1.05);
-    QCOMPARE(m_panel->text("alarmLimitInput"), QString("105.00"));
-    QCOMPARE(m_panel->text("alarmLimitUnit"), QString("kPa"));
-}
-
-void PanelTest::discardsEditing()
-{
-    QSignalSpy written(&m_panel->process(), &ProcessValues::alarmLimitChanged);
-    m_panel->click("alarmLimitInput");
-    m_panel->type("3");
-    m_panel->press(Qt::Key_Escape);
-    QCOMPARE(m_panel->text("alarmLimitInput"), QString("1042.1"));
-    // The refused text would be another number in the other language.
-    m_panel->click("alarmLimitInput");
-    m_panel->type("1,050");
-    m_panel->click("language-de");
-    QCOMPARE(m_panel->text("alarmLimitInput"), QString("1042,1"));
-    QVERIFY(!m_panel->isVisible("editError"));
-    QCOMPARE(written.count(), 0);
-}
-
 void PanelTest::waitsForService()
 {
-    cleanup();
+    m_panel.reset();
     m_service = std::make_unique<ShippedService>();
     QVERIFY(m_service->startBus());
     m_panel = std::make_unique<DrivenPanel>();
@@ -389,9 +270,7 @@ void PanelTest::savesPictures()
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    Panel::useSoftwareRenderer();
-    QGuiApplication application(argc, argv);
+    const PanelApplication application(argc, argv);
     PanelTest test;
     return QTest::qExec(&test, argc, argv);
 }
