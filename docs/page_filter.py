@@ -13,6 +13,7 @@ ROOT = Path(__file__).resolve().parent.parent
 MAIN_PAGE = ROOT / "README.md"
 FENCE = re.compile(r"^(```.*?^```$)", re.MULTILINE | re.DOTALL)
 HEADING = re.compile(r"^(#+) (.+)$", re.MULTILINE)
+CODE = re.compile(r"(?<!`)`([^`]+)`(?!`)")
 ANY_LINK = re.compile(r"\[([^\]]+)\]\(([^)\s]+)\)")
 LINK = re.compile(r"(?<!!)" + ANY_LINK.pattern)
 
@@ -39,12 +40,13 @@ def heading_identifier(page, fragment):
 
 def with_identifier(page, heading):
     marks, text = heading.groups()
+    text = text.replace("`", "")  # would be shown
     identifier = page_identifier(page) if marks == "#" else heading_identifier(page, anchor(text))
     return f"{marks} {text} {{#{identifier}}}"
 
 
 def converted_link(page, link):
-    text, target = link.groups()
+    text, target = " ".join(link[1].split()), link[2]
     if "://" in target:
         return link[0]
     name, _, fragment = target.partition("#")
@@ -54,12 +56,18 @@ def converted_link(page, link):
     return f"[{text}](@ref {heading_identifier(path, fragment) if fragment else page_identifier(path)})"
 
 
+def converted_code(code):
+    """With single backticks, an apostrophe would end the code."""
+    return f"`{code[0]}`" if "'" in code[1] else code[0]
+
+
 def prepared(page):
     parts = FENCE.split(page.read_text(encoding="utf-8"))
     # Every second part is a block of code.
     for index in range(0, len(parts), 2):
         text = HEADING.sub(lambda heading: with_identifier(page, heading), parts[index])
-        parts[index] = LINK.sub(lambda link: converted_link(page, link), text)
+        text = LINK.sub(lambda link: converted_link(page, link), text)
+        parts[index] = CODE.sub(converted_code, text)
     return "".join(parts)
 
 

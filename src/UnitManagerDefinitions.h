@@ -28,7 +28,7 @@ public:
     /// Key of a unit's label.
     static const QString& getUnitLabelUrl();
 
-    /// @name Identifiers of unit types (`getUnitTypeUrl...`) and of units of them (`getUnitUrl...`)
+    /// @name Identifiers of unit types, getUnitTypeUrl..., and of units of them, getUnitUrl...
     /// @{
 
     /// "UnitManager/UnitType/Resistance"
