@@ -23,11 +23,11 @@ void UnitSource::poll()
 {
     const bool isIdle = m_units.checkInitialized();
     const bool hasChanged = isIdle && m_units.hasUnitManagerConfigurationChanged();
-    if (hasChanged)
-        Q_EMIT revisionChanged();
     const QString before = std::exchange(m_state, !m_units ? "waiting" : isIdle ? "ready" : "reading");
     if (m_state != before)
         Q_EMIT stateChanged();
+    if (hasChanged)
+        Q_EMIT revisionChanged();
     if (hasChanged && m_units)
         Q_EMIT configurationAdopted();
 }
