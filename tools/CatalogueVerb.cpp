@@ -54,9 +54,11 @@ Result<UnitCatalogue> loadFromService(const QCommandLineParser& options)
 
 void CatalogueVerb::addOptions(QCommandLineParser& parser) const
 {
-    parser.addOption({unitsOption, "Unit document; the shipped one when not given.", "FILE"});
+    parser.addOption(
+        {unitsOption, "Unit document; the product's own or the shipped one when not given.", "FILE"});
     parser.addOption({defaultUnitsOption,
-                      "Default-unit document; the shipped one when not given. An empty file means none.",
+                      "Default-unit document; the product's own or the shipped one when not given. An empty "
+                      "file means none.",
                       "FILE"});
     CommonOptions::addOptionalBus(
         parser, "Use the active documents of the configuration service on this bus in place of files");

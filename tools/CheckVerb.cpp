@@ -97,10 +97,10 @@ CheckVerb::CheckVerb()
     : Verb({"check",
             "Finds mistakes in documents.",
             {},
-            "Checks the given documents, alone and together; without any, the shipped ones. A\n"
-            "finding has a place, a path in the document, a severity and a rule. The\n"
-            "configuration service refuses a document with an error, logs warnings and ignores\n"
-            "notes.\n\n"
+            "Checks the given documents, alone and together; without any, the product's own or\n"
+            "the shipped ones. A finding has a place, a path in the document, a severity and a\n"
+            "rule. The configuration service refuses a document with an error, logs warnings and\n"
+            "ignores notes.\n\n"
             "Exit codes: 0 no finding; 1 findings; 2 a document cannot be read, or the command\n"
             "line was wrong.\n\n"
             "Examples:\n"
