@@ -19,7 +19,9 @@ Panel::Panel(const QString& language, const QSize& size)
     qmlRegisterType<TrendLine>("Panel", 1, 0, "TrendLine");
     QCoreApplication::installTranslator(&m_texts);
     setLanguage(language);
+#ifdef UNITMANAGER_QML_DIR
     m_window.engine()->addImportPath(UNITMANAGER_QML_DIR);
+#endif
     m_window.rootContext()->setContextProperty("panel", this);
     m_window.setResizeMode(QQuickView::SizeRootObjectToView);
     m_window.resize(size);

@@ -3,6 +3,7 @@
 import re
 import shlex
 import subprocess
+from pathlib import Path
 
 SYSTEMCTL_VERBS = {"daemon-reload", "edit", "enable", "reload", "restart", "start", "stop"}
 
@@ -18,6 +19,8 @@ class NotRun:
             (r"sudo\b", "changes the machine", self.check_administration),
             (r"journalctl\b", "reads the machine's log", self.check_units),
             (r"(cmake|ctest)\b.*\bbuild/(release|library|platform|contract)\b", "builds the project", self.check_cmake),
+            (r"cmake\b.* (/usr/share/doc/unitmanager/|measuring-device$)", "needs a package, whose test runs it",
+             self.check_example),
             (r"cmake --preset\b", "builds the project", self.check_preset),
             (r"cmake --build --preset\b", "builds the project", self.check_preset),
             (r"(build/(release|library|contract)|benchmarks|tests/armhf)/", "needs a complete build", self.check_program),
@@ -69,6 +72,10 @@ class NotRun:
             name = unit if "." in unit else unit + ".service"
             self.require((self.installed / "lib/systemd/system" / name).exists(), f"there is no unit {name}")
         self.require(units or words[-1] in ("daemon-reload", "dbus"), f"no known unit in {words}")
+
+    def check_example(self, words):
+        folders = [word for word in words if word.endswith("measuring-device")]
+        self.require(folders and (self.root / "examples" / Path(folders[0]).name).is_dir(), f"no example in {words}")
 
     def check_preset(self, words):
         preset = words[words.index("--preset") + 1]

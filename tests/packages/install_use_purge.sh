@@ -92,6 +92,17 @@ use_as_developer() {
     python3 -B "$(dirname "$0")/../structure/readme_commands.py" "$readme"
 }
 
+build_examples() {
+    local example
+    step "the example applications"
+    for example in measuring-device panel; do
+        cmake -S "/usr/share/doc/unitmanager/examples/$example" -B "/tmp/$example" >/tmp/build.log 2>&1 &&
+            cmake --build "/tmp/$example" >>/tmp/build.log 2>&1 || { cat /tmp/build.log; exit 1; }
+        QT_QPA_PLATFORM=offscreen "/tmp/$example/$example" --help >/tmp/help || fail "$example does not start"
+        echo "$example builds and starts"
+    done
+}
+
 use_tool() {
     step "tool"
     [ "$(unitmanager convert 14.5 psi bar)" = "1.000 bar" ]
@@ -163,6 +174,7 @@ purge_packages() {
 
 install_packages
 use_as_developer
+build_examples
 use_tool
 find_pages_and_completion
 find_system_files

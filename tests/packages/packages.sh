@@ -49,7 +49,7 @@ build_packages() { # architecture
 install_use_purge() { # architecture
     local packages=$folder/$1 test_root=$folder/test-root
     create_root "$install_root" apt "$1" \
-        "cmake,g++,make,pkg-config,python3,qml,qml-module-qtquick-window2,systemd,$(dependency_names "$packages")"
+        "cmake,g++,make,pkg-config,python3,qml,qml-module-qtquick-window2,qtdeclarative5-dev,systemd,$(dependency_names "$packages")"
     rm -rf "$test_root"
     cp -a "$install_root" "$test_root"
     mkdir "$test_root/srv/unitmanager"
