@@ -27,7 +27,7 @@ class UnitManagerDevice;
 /// // on every poll of the application:
 /// if (units.checkInitialized() && units.hasUnitManagerConfigurationChanged())
 ///     redraw();
-/// const QVariant shown = units.getValue("Pressure", processData, QString()); // in the default unit
+/// const QVariant shown = units.getValue(nameOfChild, processData, QString()); // in the default unit
 /// @endcode
 ///
 /// Must be used from the thread that created it. Without signal polling that thread must run a Qt event loop,

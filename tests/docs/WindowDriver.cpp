@@ -3,11 +3,13 @@
 //
 //     text TEXT     wait until an item of a window shows the text
 //     choose INDEX  select an entry of the first list to choose from
+//     run COMMAND   run a command of the shell
 //     type TEXT     replace the text of the first edit field, and leave it
 //
 // The program's exit code is 1 if a text does not appear.
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QProcess>
 #include <QtCore/QTimer>
 #include <QtCore/QVariant>
 #include <QtGui/QGuiApplication>
@@ -81,8 +83,11 @@ private:
             return isShown(argument);
         if (verb == "choose") {
             QObject* const list = firstWith("currentText");
-            return list && list->setProperty("currentIndex", argument.toInt());
+            return list && list->setProperty("currentIndex", argument.toInt()) &&
+                   QMetaObject::invokeMethod(list, "activated", Q_ARG(int, argument.toInt()));
         }
+        if (verb == "run")
+            return QProcess::execute("sh", {"-c", argument}) == 0;
         QObject* const field = verb == "type" ? firstWith("selectedText") : nullptr;
         return field && field->setProperty("text", argument) &&
                QMetaObject::invokeMethod(field, "editingFinished");

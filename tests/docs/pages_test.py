@@ -25,11 +25,13 @@ from session import Session
 ROOT = Path(__file__).resolve().parents[2]
 FENCES = re.compile(r"^\s*(?:>\s*)?(?:```|~~~)", re.MULTILINE)
 FILE_LANGUAGES = {"cmake", "cpp", "ini", "json", "qml", "xml"}
+# Selects another default unit of pressure while a program runs.
+PREFER = r"""run sed -i 's/\("Pressure".*"@value": "\)[^"]*/\1%s/' documents/default-units.json"""
 # How a person uses the programs with a window; see WindowDriver.cpp.
 WINDOWS = {
-    "build/widgets": ["text 1013.3 hPa", "choose 0", "text 1.013 bar"],
-    "build/quick": ["text 1013,3 hPa", "choose 0", "text 1,013 bar", "type 0,9505", "text 0,951 bar", "type 0.95",
-                    'text The decimal separator is ",": write 0,95.'],
+    "build/widgets": ["text 1013.3 hPa", "choose 0", "text 1.013 bar", PREFER % "MilliBar", "text 1013.3 mbar"],
+    "build/quick": ["text 1013,3 mbar", "choose 0", "text 1,013 bar", "type 0,9505", "text 0,951 bar", "type 0.95",
+                    'text The decimal separator is ",": write 0,95.', PREFER % "KiloPascal", "text 95,05 kPa"],
 }
 UPDATE = os.environ.get("UPDATE_RECORDS") == "1"
 
