@@ -16,8 +16,9 @@ QSize sizeFrom(const QString& text)
 void saveScreenshot(const Panel& panel, const QString& file)
 {
     const auto picture = panel.picture();
-    QObject::connect(picture.data(), &QQuickItemGrabResult::ready, &panel,
-                     [picture, file] { QCoreApplication::exit(picture->saveToFile(file) ? 0 : 1); });
+    QObject::connect(picture.data(), &QQuickItemGrabResult::ready, &panel, [picture, file] {
+        QCoreApplication::exit(qAsConst(*picture).saveToFile(file) ? 0 : 1);
+    });
 }
 
 } // namespace
