@@ -147,7 +147,7 @@ private:
         if (!catalogue)
             return catalogue.error();
         QStringList languages = catalogue->languages();
-        // Stands for a label without language.
+        // The key of a label without language.
         languages.removeAll("*");
         return Completion{nextLanguages(languages, list)};
     }

@@ -4,7 +4,7 @@
 
 BUILD is the build folder, INSTALLED the prefix of an installation of it. The blocks of a page are used in order, in one folder, see blocks_of().
 Blocks of files are written there: a file that is shown once exists from the start, one that is shown several times
-changes on the way. "…" in an output stands for what is left out. Commands that cannot be run are listed.
+changes on the way. "…" in an output matches any text. Commands that cannot be run are listed.
 With UPDATE_RECORDS=1 in the environment, the pages receive the outputs of their commands.
 """
 
@@ -57,7 +57,7 @@ def environment_of(installed):
 
 
 def matches(expected, actual):
-    """Whether the output is the expected one, where "…" stands for any lines, or for a part of a line."""
+    """Whether the output is the expected one, where "…" matches any lines, or for a part of a line."""
     lines = expected.splitlines(keepends=True)
     pattern = "".join("(.*\n)*?" if line == "…\n" else re.escape(line).replace("…", ".*") for line in lines)
     return re.fullmatch(pattern, actual) is not None
@@ -153,7 +153,7 @@ class PageTest:
         text = command.text.replace("\\\n", " ")
         try:
             reason = self.not_run.reason(text)
-        except Exception as problem:  # a wrong command, whatever is wrong with it
+        except Exception as problem:  # any fault of a command fails the test
             self.fail(place, f"$ {command.text}: {problem}")
             return
         if reason and text not in self.substitutes:
