@@ -45,25 +45,6 @@ service_works() {
     documents_are_served
 }
 
-qml_shows_units() {
-    local text
-    cat >/tmp/units.qml <<'QML'
-import QtQuick.Window 2.15
-import UnitManager 1.0
-
-Window {
-    property Units units: Units {
-        onConfigurationAdopted: {
-            console.log(text(1.01325, "UnitManager/UnitType/Pressure", "HectoPascal"))
-            Qt.quit()
-        }
-    }
-}
-QML
-    DEVICE_BUS=system QT_QPA_PLATFORM=offscreen QML_DISABLE_DISK_CACHE=1 timeout 60 /usr/lib/qt5/bin/qml /tmp/units.qml >/tmp/qml.log 2>&1 || true
-    grep -x 'qml: 1013.3 hPa' /tmp/qml.log || fail "the QML module shows: $(cat /tmp/qml.log)"
-}
-
 stop_service() {
     kill "$(service_process)"
     wait_until has_no_owner
@@ -139,7 +120,7 @@ use_service() {
     # shellcheck disable=SC2086
     runuser -u measuringdevice -- $command &
     service_works
-    qml_shows_units
+    qml_shows_units system
     stop_service
 
     step "service, started by the bus"

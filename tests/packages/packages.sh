@@ -61,7 +61,7 @@ install_use_purge() { # architecture
 # Packages of another architecture are unpacked, and run under QEMU, which would take too long for their scripts.
 use_unpacked() { # architecture
     local packages=$folder/$1 root=$folder/$1-root package
-    create_root "$root" extract "$1" "bash,coreutils,diffutils,dbus-daemon,libc-bin,$(dependency_names "$packages")"
+    create_root "$root" extract "$1" "bash,coreutils,diffutils,dbus-daemon,grep,libc-bin,qml,qml-module-qtquick-window2,$(dependency_names "$packages")"
     # The bus asks for the name of its user.
     echo root:x:0:0:root:/root:/bin/bash >"$root/etc/passwd"
     for package in "$packages"/*.deb; do

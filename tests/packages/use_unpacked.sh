@@ -33,3 +33,4 @@ for document in units default-units dependencies; do
     wait_until is_served "$document"
     echo "$document is served"
 done
+qml_shows_units session
