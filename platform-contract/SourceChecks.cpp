@@ -167,6 +167,12 @@ QList<Check> sourceChecks()
 {
     const QString create =
         "ConfigurationFileHandlerDBusConnector::createAndConnect(QString const&, QString const&)";
+    const QString askForText =
+        "ConfigurationFileHandlerDBusConnector::getConfigurationAsynchron(QString const&, "
+        "QString const&, QString const&) const";
+    const QString askForDependencies =
+        "ConfigurationFileHandlerDBusConnector::getConfigurationDependencyAsynchron(QString const&, QString "
+        "const&) const";
     const QString isOccured = "DBusConnectionSignalPollingHandler::isSignalOccured()";
     const QString resetSignal = "DBusConnectionSignalPollingHandler::resetLastSignal()";
     return {
@@ -186,13 +192,8 @@ QList<Check> sourceChecks()
          {"DBusReply::DBusReply()", "DBusReply::isError() const"},
          emptyReplyIsAnError},
         {"source: texts are read without blocking",
-         // NOLINTNEXTLINE(bugprone-suspicious-missing-comma): one long name
-         {"ConfigurationFileHandlerDBusConnector::getConfigurationAsynchron(QString const&, QString const&, "
-          "QString const&) const",
-          "ConfigurationFileHandlerDBusConnector::getConfigurationDependencyAsynchron(QString const&, "
-          "QString const&) const",
-          "DBusPendingReply::getReply() const", "DBusPendingReply::isFinished(ErrorContainer&) const",
-          "ErrorContainer::ErrorContainer()"},
+         {askForText, askForDependencies, "DBusPendingReply::getReply() const",
+          "DBusPendingReply::isFinished(ErrorContainer&) const", "ErrorContainer::ErrorContainer()"},
          textsAreReadWithoutBlocking},
         {"source: signals are queued without an event loop",
          {"DBusConnectionSignalPollingHandler::DBusConnectionSignalPollingHandler(QString const&, QString "

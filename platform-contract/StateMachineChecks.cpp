@@ -162,6 +162,9 @@ void classesAreKnownToQt(Faults& faults)
 
 QList<Check> stateMachineChecks()
 {
+    const QString logEntry =
+        "StateMachineBase::doLogEntryStateChanged(QSharedPointer<StateMachineStateBase>, "
+        "QSharedPointer<StateMachineStateBase>)";
     return {
         {"states: events carry data",
          {"StateMachineEvent::StateMachineEvent()",
@@ -169,10 +172,7 @@ QList<Check> stateMachineChecks()
           "StateMachineEvent::getData() const", "StateMachineEvent::setData(QVariant const&)"},
          eventsCarryData},
         {"states: selected states are entered",
-         {"StateMachineBase::StateMachineBase(QObject*, bool)",
-          // NOLINTNEXTLINE(bugprone-suspicious-missing-comma): one long name
-          "StateMachineBase::doLogEntryStateChanged(QSharedPointer<StateMachineStateBase>, "
-          "QSharedPointer<StateMachineStateBase>)",
+         {"StateMachineBase::StateMachineBase(QObject*, bool)", logEntry,
           "StateMachineBase::doLogEntryStateInitialized(QSharedPointer<StateMachineStateBase>)",
           "StateMachineBase::getCurrentStateIdentifier() const",
           "StateMachineBase::postEvent(StateMachineEvent const&)",
