@@ -30,8 +30,9 @@ def main():
     project = Project(sys.argv[1])
     limits = LIMITS[project.facts["pointerSize"]]
     figures = dict(measured(project))
-    problems = [f"{name}: {value:,} instead of at most {limits[name]:,}"
-                for name, value in figures.items() if not 0 < value <= limits[name]]
+    problems = [f"{name} was not measured" for name in limits if name not in figures]
+    problems += [f"{name}: {value:,} instead of at most {limits[name]:,}"
+                 for name, value in figures.items() if name in limits and not 0 < value <= limits[name]]
     finish(problems, ", ".join(f"{name} {value:,}" for name, value in figures.items()))
 
 
