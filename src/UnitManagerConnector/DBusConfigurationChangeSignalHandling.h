@@ -69,9 +69,9 @@ public Q_SLOTS:
     /// Called when the units report a change of the configuration @p instanceName. If it is the configured
     /// name, the change is recorded and a debug message logged; other names are ignored.
     void unitSwitchConfigurationFileChange(const QString& instanceName);
-    /// The same for the default units; see unitSwitchConfigurationFileChange().
+    /// Called when the default units report a change; see unitSwitchConfigurationFileChange().
     void defaultUnitFileChange(const QString& instanceName);
-    /// The same for the dependencies; see unitSwitchConfigurationFileChange().
+    /// Called when the dependencies report a change; see unitSwitchConfigurationFileChange().
     void dependencyFileChanged(const QString& instanceName);
 
 private:

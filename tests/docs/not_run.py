@@ -70,8 +70,8 @@ class NotRun:
         units = [word for word in words if word.startswith("configuration-file-service")]
         for unit in units:
             name = unit if "." in unit else unit + ".service"
-            self.require((self.installed / "lib/systemd/system" / name).exists(), f"there is no unit {name}")
-        self.require(units or words[-1] in ("daemon-reload", "dbus"), f"no known unit in {words}")
+            self.require((self.installed / "lib/systemd/system" / name).exists(), f"unknown systemd unit {name}")
+        self.require(units or words[-1] in ("daemon-reload", "dbus"), f"unknown systemd unit in {words}")
 
     def check_example(self, words):
         folders = [word for word in words if word.endswith("measuring-device")]
