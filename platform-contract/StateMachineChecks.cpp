@@ -138,7 +138,7 @@ void statesAreOwnedByTheMachine(Faults& faults)
     faults.expect(trace.living == 0, "states are destroyed with the machine");
 }
 
-void unknownStatesAreIgnored(Faults& faults)
+void stepsWithoutAStateAreIgnored(Faults& faults)
 {
     prepare();
     ContractMachine machine(nullptr);
@@ -187,7 +187,7 @@ QList<Check> stateMachineChecks()
          statesAreOwnedByTheMachine},
         {"states: a machine without a state ignores steps",
          {"StateMachineBase::postEvent(StateMachineEvent const&)"},
-         unknownStatesAreIgnored},
+         stepsWithoutAStateAreIgnored},
         {"states: Qt knows the classes",
          {"StateMachineBase::qt_metacall(QMetaObject::Call, int, void**)",
           "StateMachineBase::qt_metacast(char const*)", "StateMachineBase::staticMetaObject",

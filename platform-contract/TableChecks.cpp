@@ -9,7 +9,9 @@ const QVariantList unitTypes = {"A", "B"};
 void sizesAreRowsAndColumns(Faults& faults)
 {
     const Array2dDataTypeWrapper table(rows, unitTypes);
-    faults.expect(table.getArrayType() == QVector<unsigned int>({2, 4}), "two rows and four columns");
+    faults.expect(table.getArrayType() == QVector<unsigned int>({2, 4}) &&
+                      table.getDimensions() == table.getArrayType(),
+                  "two rows and four columns");
     faults.expect(table.getColumnUnitTypes() == QStringList({"A", "B", "", ""}),
                   "each column has a unit type, which may be empty");
     faults.expect(Array2dDataTypeWrapper({1, 2, 3}, {}).getArrayType() == QVector<unsigned int>({3, 1}),

@@ -79,6 +79,8 @@ void propertiesHaveTheirKeys(Faults& faults)
     faults.expect(selection->getProperty(Definitions::getKeyDataPropertyType()) ==
                       QVariant(Definitions::getKeyDataTypeSelection()),
                   "the type is the one that the document names");
+    faults.expect(value->isNumberType() && !selection->isNumberType() && !bar->isNumberType(),
+                  "only a node with a number is a number");
 }
 
 void writesReportTheirStatus(Faults& faults)
@@ -91,6 +93,11 @@ void writesReportTheirStatus(Faults& faults)
     faults.expect(Tools::setConfigValueWithStatus("Value", root, 2.5) == 0, "a changed value has status 0");
     faults.expect(Tools::extractConfigValue("Value", root) == QVariant(2.5), "a written value is read");
     faults.expect(Tools::setConfigValueWithStatus("Value", root, 2.5) == 1, "an equal value has status 1");
+    const BaseClassSharedPointer value = root->getChild("Value");
+    const QString key = Definitions::getKeyDataPropertyMeasurementRangeAttributes();
+    const QVariantList ranges = {QVariantMap{{"max", 99}}};
+    faults.expect(value && value->changeProperty(key, ranges) == 0, "a changed property has status 0");
+    faults.expect(value && value->changeProperty(key, ranges) == 1, "an equal property has status 1");
 }
 
 void writesWithoutANodeFail(Faults& faults)

@@ -36,7 +36,7 @@ int runChecks(QTextStream& out)
         check.run(faults);
         out << (faults.list().isEmpty() ? "ok     " : "FAULT  ") << check.name << '\n';
         for (const QString& fault : faults.list())
-            out << "         not so: " << fault << '\n';
+            out << "         expected: " << fault << '\n';
         failed += faults.list().isEmpty() ? 0 : 1;
         out.flush();
     }
