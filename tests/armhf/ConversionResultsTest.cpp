@@ -8,6 +8,7 @@
 #include "ConversionResults.h"
 #include "DoubleBits.h"
 #include "ShippedCatalogue.h"
+#include "TestFiles.h"
 #include "TestProgram.h"
 
 using namespace ConversionResults;
@@ -58,12 +59,6 @@ QList<QByteArray> recordLines(const UnitManager& units)
     return lines;
 }
 
-bool write(const QString& path, const QList<QByteArray>& lines)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(lines.join('\n') + '\n') > 0;
-}
-
 } // namespace
 
 void ConversionResultsTest::sameResultsOnEveryProcessor()
@@ -73,7 +68,7 @@ void ConversionResultsTest::sameResultsOnEveryProcessor()
     const QList<QByteArray> actual = recordLines(catalogue.manager());
     const QString path = QStringLiteral(UNITMANAGER_TEST_DATA "/conversion-results.txt");
     if (qEnvironmentVariableIsSet("UPDATE_RECORDS"))
-        QVERIFY(write(path, actual));
+        QVERIFY(TestFiles::write(path, actual.join('\n') + '\n'));
 
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));

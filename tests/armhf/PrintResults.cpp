@@ -1,6 +1,5 @@
-// Prints the numbers and the results of every conversion in hexadecimal, one per line, with a headline that
-// begins with
-// "#" before each list.
+// Prints the numbers and the results of every conversion in hexadecimal, one per line. A headline that begins
+// with "#" precedes each list.
 
 #include <cstdio>
 

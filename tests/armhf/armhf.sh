@@ -35,7 +35,8 @@ done
 
 echo "== armhf: size in bytes, relocations, memory in bytes"
 for preset in release armhf; do
-    echo "$preset: $($scripts/emulate.sh "$root" python3 -B tests/structure/check_footprint.py build/$preset/tests/structure/project.json)"
+    printf '%s: ' $preset
+    $scripts/emulate.sh "$root" python3 -B tests/structure/check_footprint.py build/$preset/tests/structure/project.json
 done
 echo "Private dirty memory is measured for release only: under QEMU it contains the emulator's own."
 

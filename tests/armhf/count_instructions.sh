@@ -15,12 +15,16 @@ count() { # preset, form, number of calls
 }
 
 per_thousand() { # preset, form
-    echo $(($(count "$1" "$2" 2000) - $(count "$1" "$2" 1000)))
+    local more fewer
+    more=$(count "$1" "$2" 2000) || return
+    fewer=$(count "$1" "$2" 1000) || return
+    echo $((more - fewer))
 }
 
 printf '%-12s %22s %22s\n' build 'one raw conversion' 'a number of an array'
 for preset in release armhf cortex-a7; do
+    single=$(per_thousand "$preset" single)
+    run=$(per_thousand "$preset" run)
     # An array has a thousand numbers.
-    printf '%-12s %22d %22.1f\n' "$preset" $(($(per_thousand "$preset" single) / 1000)) \
-        "$(per_thousand "$preset" run)e-6"
+    printf '%-12s %22d %22.1f\n' "$preset" $((single / 1000)) "${run}e-6"
 done
