@@ -12,6 +12,7 @@ import configparser
 import os
 import re
 import shlex
+import subprocess
 import sys
 import tempfile
 from collections import Counter
@@ -33,6 +34,8 @@ WINDOWS = {
     "build/quick": ["text 1013,3 mbar", "choose 0", "text 1,013 bar", "type 0,9505", "text 0,951 bar", "type 0.95",
                     'text The decimal separator is ",": write 0,95.', PREFER % "KiloPascal", "text 95,05 kPa"],
 }
+# Ends with 1 if there are findings or differences.
+MAY_FAIL = ("unitmanager check ", "unitmanager diff ")
 UPDATE = os.environ.get("UPDATE_RECORDS") == "1"
 
 
@@ -142,8 +145,10 @@ class PageTest:
         settings.read_string(block.content)
         command = settings.get("Service", "ExecStart", fallback="")
         service = (ROOT / "service/system/configuration-file-service.service.in").read_text(encoding="utf-8")
+        usage = subprocess.run(["configuration-file-service", "--help"], env={**os.environ, **self.environment},
+                               stdout=subprocess.PIPE, check=True, text=True).stdout
         for option in re.findall(r"--[\w-]+", command):
-            if option not in ("--directory", "--bus", "--max-size"):
+            if option not in re.findall(r"--[\w-]+", usage):
                 self.fail(block.place, f"the service has no option {option}")
         if f"[{settings.sections()[0]}]" not in service:
             self.fail(block.place, f"unknown section {settings.sections()[0]}")
@@ -166,7 +171,7 @@ class PageTest:
             command.output = output
         if command.output and not matches(command.output, output):
             self.fail(place, f"$ {command.text}\nprinted\n{output}instead of\n{command.output}")
-        elif exit_code != 0 and not (command.output and text.startswith("unitmanager ")):
+        elif exit_code != 0 and not (exit_code == 1 and command.output and text.startswith(MAY_FAIL)):
             self.fail(place, f"$ {command.text}\nended with exit code {exit_code}\n{output}")
         else:
             self.report(place, "ran", f"$ {command.text}")
