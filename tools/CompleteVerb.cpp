@@ -59,13 +59,6 @@ QVector<Candidate> nextLanguages(const QStringList& languages, const QString& li
     return withPrefix(complete, plain(unused, "language"));
 }
 
-QVector<Candidate> severities()
-{
-    return plain({Rules::severityName(Severity::Error), Rules::severityName(Severity::Warning),
-                  Rules::severityName(Severity::Note)},
-                 "least severity");
-}
-
 /// The command line of a verb up to the word that is being typed.
 class UnfinishedLine
 {
@@ -133,7 +126,7 @@ private:
         if (name == "DOCUMENT")
             return Completion{plain(RunningService::documentNames(), "active document")};
         if (name == "SEVERITY")
-            return Completion{severities()};
+            return Completion{plain(Rules::severityNames(), "least severity")};
         if (name == "WHEN")
             return Completion{plain(OutputOptions::colorNames(), "when to print colors")};
         if (name == "LANGUAGE" || name == "LIST")

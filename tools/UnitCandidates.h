@@ -20,8 +20,7 @@ namespace UnitCandidates {
 ///
 /// @param words the complete words, from TYPE on
 /// @param current the beginning of the next word. If it is empty, a type is expected in the first place; if
-/// it
-///                names a type followed by "/", its fixed units are offered
+/// it names a type followed by "/", its fixed units are offered
 /// @param unitCount how many units may follow the type
 QVector<Candidate> after(const UnitCatalogue& catalogue, const QStringList& words, const QString& current,
                          int unitCount);

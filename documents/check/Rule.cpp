@@ -1,18 +1,5 @@
 #include "Rule.h"
 
-#include <QtCore/QStringList>
-
-namespace {
-
-const QStringList& severityNames()
-{
-    static const QStringList names{QStringLiteral("error"), QStringLiteral("warning"),
-                                   QStringLiteral("note")};
-    return names;
-}
-
-} // namespace
-
 const std::vector<RuleDescription>& Rules::all()
 {
     // The order is that of the enumeration, which describe() relies on.
@@ -29,8 +16,7 @@ const std::vector<RuleDescription>& Rules::all()
          "the library does not load the document"},
         {Rule::NameInvalid, Severity::Error, "name-invalid",
          "a name is empty, reserved or longer than 255 characters, or has a slash, which separates the "
-         "sections "
-         "of identifiers"},
+         "sections of identifiers"},
         {Rule::NameUnusual, Severity::Warning, "name-unusual",
          "a name is not made of letters and digits, or does not begin with a letter"},
         {Rule::NullNode, Severity::Error, "null-node", "null in place of an object, list or value"},
@@ -106,6 +92,13 @@ const std::vector<RuleDescription>& Rules::all()
 const RuleDescription& Rules::describe(Rule rule)
 {
     return all()[static_cast<std::size_t>(rule)];
+}
+
+const QStringList& Rules::severityNames()
+{
+    static const QStringList names{QStringLiteral("error"), QStringLiteral("warning"),
+                                   QStringLiteral("note")};
+    return names;
 }
 
 QString Rules::severityName(Severity severity)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <optional>
 #include <vector>
@@ -103,7 +103,8 @@ namespace Rules {
 const std::vector<RuleDescription>& all();
 const RuleDescription& describe(Rule rule);
 
-/// "error", "warning" or "note".
+/// "error", "warning" and "note", in the order of the enumeration.
+const QStringList& severityNames();
 QString severityName(Severity severity);
 /// @return no value for another text
 std::optional<Severity> severityFromName(const QString& name);
