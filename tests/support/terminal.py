@@ -41,21 +41,21 @@ class Terminal:
             self.collect(0.01)
 
     def collect(self, seconds):
+        """Collects output, for which it waits some seconds. Returns whether there was any."""
         if not select.select([self.descriptor], [], [], seconds)[0]:
-            return
+            return False
         try:
             self.output += os.read(self.descriptor, 65536)
         except OSError:  # the last program on the terminal has ended
             time.sleep(seconds)
+            return False
+        return True
 
     def wait_for_end(self):
         """The exit code of the program, after all its output has been collected."""
         self.wait_until(lambda: self.process.poll() is not None)
-        while select.select([self.descriptor], [], [], 0)[0]:
-            try:
-                self.output += os.read(self.descriptor, 65536)
-            except OSError:
-                break
+        while self.collect(0):
+            pass
         return self.process.returncode
 
     def close(self):
